@@ -1,0 +1,40 @@
+#ifndef ZQ7STANDARD_RUNTIMEERROR_H_
+#define ZQ7STANDARD_RUNTIMEERROR_H_
+
+#include <ZQ7Standard/Export.h>
+
+#include <stdexcept>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// An error that reaches the host: a run-time error number and a text in
+/// UTF-8 that names the operation and the input it could not take, such as
+/// `CTDATE: type mismatch (error 13): "1/15/2567"`.
+///
+/// Most operations answer bad input with a fallback value instead; those that
+/// raise say so beside their declaration.
+class ZQ7STANDARD_EXPORT RunTimeError : public std::runtime_error {
+ public:
+  /// 5, invalid procedure call or argument: a value outside an operation's range.
+  static RunTimeError InvalidArgument(std::string_view operation, std::string_view input);
+  /// 6, overflow: a number that its type cannot hold.
+  static RunTimeError Overflow(std::string_view operation, std::string_view input);
+  /// 9, subscript out of range: a part of the input that is not there.
+  static RunTimeError SubscriptOutOfRange(std::string_view operation, std::string_view input);
+  /// 13, type mismatch: a text that does not read as the type wanted.
+  static RunTimeError TypeMismatch(std::string_view operation, std::string_view input);
+
+  /// The run-time error number.
+  int Number() const noexcept { return number_; }
+
+ private:
+  RunTimeError(int number, std::string_view meaning, std::string_view operation,
+               std::string_view input);
+
+  int number_;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_RUNTIMEERROR_H_

@@ -1,0 +1,401 @@
+#ifndef ZQ7STANDARD_STANDARDOBJECT_H_
+#define ZQ7STANDARD_STANDARDOBJECT_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/clock.h>
+#include <ZQ7Standard/platform/date_convention.h>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace ZQ7Standard {
+
+/// Layouts of a date. D is the day, M the month, YYYY a Gregorian year, BBBB a
+/// Buddhist Era year. The values 1 to 4 are also the codes of `GetDateFormat`.
+enum CTDateType : std::int32_t {
+  ZQ7Detect = 0,            ///< the system's own of the layouts 1 to 4
+  ZQ7MDYYYY = 1,            ///< 1/15/2024
+  ZQ7DMYYYY = 2,            ///< 15/1/2024
+  ZQ7MDBBBB = 3,            ///< 1/15/2567
+  ZQ7DMBBBB = 4,            ///< 15/1/2567
+  ZQ7YYYYMD = 5,            ///< 2024/1/15
+  ZQ7BBBBMD = 6,            ///< 2567/1/15
+  ZQ7DMMBBBB = 7,           ///< 15 ม.ค. 2567
+  ZQ7DMMMBBBB = 8,          ///< 15 มกราคม 2567
+  ZQ7DMMYYYY = 9,           ///< 15 Jan 2024
+  ZQ7DMMMYYYY = 10,         ///< 15 January 2024
+  ZQ7YYYY_MM_DD = 11,       ///< 2024-01-15
+  ZQ7MMMD_YYYY = 12,        ///< January 15, 2024
+  ZQ7MMMYYYY = 13,          ///< January 2024
+  ZQ7D_D_M_M_Y_Y_Y_Y = 14,  ///< 1 5 0 1 2 0 2 4, for the boxes of a cheque
+  ZQ7D_D_M_M_B_B_B_B = 15,  ///< 1 5 0 1 2 5 6 7
+};
+
+/// The event that the days of a payment term count from.
+enum ZQ7ConditionType : std::int32_t {
+  ZQ7AfterInvoiceDate = 0,
+  ZQ7AfterDeliveryDate = 1,
+  ZQ7AfterBLDate = 2,
+  ZQ7AfterReceiveOSDOC = 3,
+  ZQ7AfterEndOfInvoiceMonth = 4,
+  ZQ7AfterEndOfDeliveryMonth = 5,
+  ZQ7AfterEndOfBLMonth = 6,
+  ZQ7AfterEndOfReceiveOSDOCMonth = 7,
+  ZQ7AfterEndOfSPTMonth = 8,
+};
+
+/// How the event of a payment term is written.
+enum ZQ7ConditionOutputType : std::int32_t {
+  ZQ7ConditionOutputTypeShort = 0,  ///< "N/30 AID"
+  ZQ7ConditionOutputTypeFull = 1,   ///< "N/30 AFTER INVOICE DATE"
+};
+
+/// How `FixNumberWithCutMode` brings a number to a whole unit.
+enum ZQ7FixUnit : std::int32_t {
+  ZQ7FixUnitNone = 0,     ///< not at all
+  ZQ7FixUnitFiveUp = 1,   ///< up from a fraction of .5, else down
+  ZQ7FixUnitAllUp = 2,    ///< up
+  ZQ7FixUnitAllDown = 3,  ///< toward zero
+};
+
+/// What a `StandardObject` needs of the machine. A service left empty is the
+/// machine's own.
+struct StandardServices {
+  std::shared_ptr<Clock> clock;
+  std::shared_ptr<DateConventionSource> date_convention;
+};
+
+/// Dates in both calendars, payment terms, rounding and number text.
+///
+/// Every operation runs to its end on the caller's thread and keeps nothing for
+/// the next one. The system's date convention is asked anew on each call. An
+/// instance belongs to one thread at a time; distinct instances are
+/// independent.
+///
+/// "The system's era" is Buddhist where the system reads a typed year as a
+/// Buddhist Era year, Gregorian elsewhere. The library never shifts a year
+/// twice: a date whose own year is 2400 or more is taken to carry a Buddhist
+/// year already.
+class ZQ7STANDARD_EXPORT StandardObject {
+ public:
+  /// With the services of the machine.
+  StandardObject();
+  /// With services of the host's own.
+  explicit StandardObject(StandardServices services);
+
+  // --- The system's era and date layout, sentinel dates: src/dates/era.cc ---
+
+  /// The system's year less the Gregorian year: 543 where years are read in the
+  /// Buddhist Era, else 0.
+  std::int16_t GetEraDif() const;
+
+  /// The current year in the system's era: 2567 or 2024.
+  std::int16_t CTYEAR() const;
+
+  /// The year of `InDate` in the system's era. A year of 2400 or more is
+  /// Buddhist already and stays. The years of blank dates are themselves:
+  /// 8888 gives 8888, and 3333, also when it was shifted down an era once or
+  /// twice (2247, 1704), gives 3333.
+  std::int16_t Year2000(OleDate InDate) const;
+
+  /// The layout of the system's short date: 1 m/d/yyyy, 2 d/m/yyyy, 3 and 4 the
+  /// same with Buddhist years.
+  std::int16_t GetDateFormat() const;
+
+  /// "m/d/yyyy" for the codes 1 and 3, "d/m/yyyy" for 2 and 4, else empty.
+  Text GetDateFormatString(std::int16_t DateFormat) const;
+
+  /// The date that stands for no date, 3333-03-03.
+  OleDate GETBlankDate() const;
+
+  /// The largest date, 3333-03-03: deliberately the blank date's value.
+  OleDate GETMAXDate() const;
+
+  /// Whether `iDate` stands for no date: midnight of 3333-03-03, 8888-08-08,
+  /// one of those that went through an era conversion too many (3876-03-03,
+  /// 2790-03-03, 8345-08-08), or the zero date. With any other time of day it
+  /// is a date like others.
+  bool isBlankDate(OleDate iDate) const;
+
+  /// The same day at 00:00.
+  OleDate TrimDate(OleDate iDate) const;
+
+  // --- Spans of days, hours and minutes: src/dates/day_time.cc ---
+
+  /// Reads "D:H:M", "H:M" or a bare number of days. Fields are whole numbers,
+  /// halves to even; minutes above 60 count as 60, hours above 24 as 24, so
+  /// "0:23:60" is one day. What is no number reads as 0; fields further left
+  /// are ignored.
+  double DAYTIME2DAY(TextView iDDHHMMText) const;
+
+  /// Writes a number of days as "D:HH:MM", the sign dropped: 1.5 and -1.5 are
+  /// "1:12:00", 0 is "0:00:00". Rounded to the millisecond, then cut to the
+  /// minute. Raises 6 when `iDay` is infinite or no number.
+  Text DAY2DAYTIME(double iDay) const;
+
+  /// Whether a "D:H:M" text, or four characters "HHMM", amounts to anything but
+  /// zero; with `AcceptZeroValue` always true. The ranges of hours and minutes
+  /// are not looked at, and a bare number is no such text.
+  bool isDayTime(TextView IDayTimeText, bool AcceptZeroValue = false) const;
+
+  // --- Dates typed by users: src/dates/parsing.cc ---
+
+  /// Reads "15/1/2567" in the system's field order and era; a year of one or
+  /// two digits is completed (Gregorian 00-29 to 2000-2029, 30-99 to 1930-1999;
+  /// Buddhist 00-72 to 2500-2572, 73-99 to 2473-2499). The order is never
+  /// guessed: "1/15/2567" fails on a day-first system.
+  ///
+  /// The empty text is the zero date, and a missing year is year 0. Raises 13
+  /// for a month outside 1 to 12 or a day that the month does not have, 9 for a
+  /// single field, 6 for a field beyond 16 bits. The flag is ignored: it stays
+  /// for callers of the older two-argument form.
+  OleDate CTDATE(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
+
+  /// Whether `iText` is a date of exactly three fields with "/" between, the
+  /// year of four characters from 643 to 9999, in the system's field order and
+  /// era. Signs are dropped ("-15/1/2567" is one). The flag is ignored.
+  bool IsTDate(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
+
+  /// Reads any date that `IsTDateTime` recognises and adds the era difference
+  /// to its year: on a Buddhist system the result carries the Buddhist year as
+  /// its own (29 February moves to the 28th where that year has none). Other
+  /// text gives the blank date. Raises 5 when the year would pass 9999.
+  OleDate CDATE2000(TextView iText) const;
+
+  /// `CTDATE` of a text that `IsTDateTime` recognises; today's date for any
+  /// other, and where `CTDATE` would fail.
+  OleDate GETValidDate(TextView DateString) const;
+
+  /// Whether `iText` is a date, a time or both: "15/1/2567 9:30",
+  /// "January 15, 2013", "15 ม.ค. 2567", "9:30 PM". docs/dates.md lists the
+  /// forms that are read.
+  bool IsTDateTime(TextView iText) const;
+
+  /// Whether `inMMYYYY` is two digits of a month, any one character and a year
+  /// from 643 in the last four: "01/2567". No upper bound on the year.
+  bool isMounthYear(TextView inMMYYYY) const;
+
+  /// Reads a year-first date of a sortable key: "2024-01-15", "25670115"; a
+  /// Buddhist year becomes Gregorian. Text that cannot be read gives 3 March of
+  /// the year 2000, or of 543 on a Buddhist system, which callers test for.
+  ///
+  /// A text that the system recognises as it stands is read in the system's
+  /// era, so on a Buddhist system "2024-01-15" is the Buddhist year 2024; and an
+  /// eight-digit key must be a date in that reading too, so "20240229" is none
+  /// there (the Buddhist year 2024 has no 29 February).
+  OleDate GETDateFromTextYYYYMMDD(TextView iDateYYYY_MM_DD) const;
+
+  /// The first day of a month typed year first in the system's era: "2567/03".
+  /// The first day of the current month when the month is not 1 to 12 or the
+  /// Gregorian year not 1 to 3332. Years 0 to 99 are completed to 1930-2029.
+  OleDate CTPeriod(TextView iText) const;
+
+  /// Whether `CTPeriod` reads `iText` as it stands.
+  bool IsTPeriod(TextView iText) const;
+
+  // --- Times typed by users: src/dates/time_parsing.cc ---
+
+  /// The time of day of four digits "HHMM", on day 0; any other text, "9:30"
+  /// and "2400" included, gives 00:00.
+  OleDate CTTime(TextView ITimeText) const;
+
+  /// Whether `ITimeText` is four digits from "0000" to "2359".
+  bool isTTime(TextView ITimeText) const;
+
+  /// The day that a typed clock time carries over to: 1 when the four digits
+  /// left without ":" and "." are 2400 or more, else `StartValue`.
+  OleDate Str2AddDay(TextView InTime, std::int16_t StartValue = 0) const;
+
+  /// Reads a clock time such as "9:30", "0930", "9:30:15" (seconds dropped) or
+  /// "9:30 PM" to a time of day; other text gives 00:00. "PM" adds 12 hours to
+  /// any hour and the day wraps at 24, so "12:30 PM" is 00:30.
+  OleDate Str2TIME(TextView InTime) const;
+
+  /// Reads "H:M" as hours, minutes above 60 counting as 60; a text without ":"
+  /// is a bare number of hours.
+  double CTHour(TextView ITimeText) const;
+
+  /// Whether an "H:M" text, or four characters "HHMM", amounts to anything but
+  /// zero; with `AcceptZeroValue` always true.
+  bool isHour(TextView IHourText, bool AcceptZeroValue = false) const;
+
+  // --- Month and day names: src/dates/names.cc ---
+
+  /// The 12 month names, full or short, Thai or English; element 0 is empty, so
+  /// that the month's number is the index. The spellings are fixed ("Febuary").
+  std::vector<Text> GETMonthTextArray(bool FullText, bool UseThai) const;
+
+  /// The 7 day names from Sunday; element 0 is empty, so that the weekday's
+  /// number (1 = Sunday) is the index. The spellings are fixed ("Thusday").
+  std::vector<Text> GETDayTextArray(bool FullText, bool UseThai) const;
+
+  /// The name of a month. 0 gives the empty text, but a negative number gives
+  /// January and one above 12 December.
+  Text MonthText(std::int16_t MonthNumber, bool FullText, bool UseThai) const;
+
+  /// The name of the weekday of `iDate`.
+  Text DayText(OleDate iDate, bool FullText, bool UseThai) const;
+
+  /// `FormatTDate2` with the layout `ZQ7MMMYYYY`: "January 2024".
+  Text MonthYearTextFull(OleDate InDate) const;
+
+  // --- Dates and times as text: src/dates/formatting.cc ---
+
+  /// Writes `InDate` in the layout `DateType`; a value that names no layout
+  /// counts as `ZQ7Detect`. `ZeroLeader` writes day and month with two digits.
+  ///
+  /// A blank date gives the empty text. The year of another date is Buddhist
+  /// already when it is 2400 or more: BBBB shows it as it stands, YYYY shows it
+  /// less 543. The sentinel years show as `Year2000` gives them. Years have at
+  /// least four digits.
+  Text FormatTDate2(OleDate InDate, CTDateType DateType, bool ZeroLeader = false) const;
+
+  /// The time of day of `InDate` as "HH:MM".
+  Text FormatTime(OleDate InDate) const;
+
+  // --- Month arithmetic: src/dates/months.cc ---
+
+  /// `InDate` moved by single months, at 00:00; 0 counts as 1. A day that a
+  /// month does not have is cut back to its last and stays cut back: 31 January
+  /// plus 2 months is 28 March (29 in a leap year).
+  ///
+  /// Raises 5 beyond December 9999, and before January 100 on a Buddhist
+  /// system; on a Gregorian one the month before January 100 is read as
+  /// December of "99", which is 1999.
+  OleDate AddMonth(OleDate InDate, std::int16_t NumberOfMonth = 0) const;
+
+  /// `AddMonth` by 12 months a year; 0 counts as 1 year. Raises 6 when the
+  /// months pass 16 bits.
+  OleDate AddYear(OleDate InDate, std::int16_t NumberOfYear = 0) const;
+
+  /// The first day of a month of a Gregorian year. A month below 0 counts as
+  /// 1, one above 12 as 12. Raises 13 for month 0 and for a year that the
+  /// system does not read; a year of one or two digits is read as `CTDATE`
+  /// reads it. Raises 6 when the system's year passes 16 bits.
+  OleDate GETFirstDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
+
+  /// The last day of a month of a Gregorian year. A month outside 1 to 12
+  /// carries into other years (13 is January of the next one); years 0 to 29
+  /// are 2000 to 2029, 30 to 99 are 1930 to 1999. Raises 5 outside 100 to 9999.
+  OleDate GETLastDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
+
+  // --- Payment terms: src/dates/payment_terms.cc ---
+
+  /// The due date of an invoice.
+  ///
+  /// Type 0 adds `NetDay` days to `InvoiceDate`, types 1 and 2 `DeliveryDay` and
+  /// `NetDay`; its time of day is carried along. Type 4 adds `NetDay` to the
+  /// end-of-month date, types 3 and 5 to 8 `DeliveryDay` and `NetDay`. Any other
+  /// type gives the zero date.
+  ///
+  /// The end-of-month date is `GETLastDayOfMonthYear` with the year given as the
+  /// month and the month as the year, at 00:00: for March 2024 it is 2171-08-31.
+  /// Stored documents hold due dates made so. Raises 5 beyond the range of dates.
+  OleDate GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionType ConditionType,
+                              std::int16_t NetDay, std::int16_t DeliveryDay) const;
+
+  /// Writes a payment term in trade notation: "2.0/10, N/30 AID" is a discount
+  /// of 2.0 % within 10 days, net 30 days after the invoice date.
+  ///
+  /// "CASH" alone when `ConditionDay` (days) is 0 or less. The discount
+  /// `Condition1` (percent, one decimal) stands in front when it and
+  /// `ConditionDay1` (days) are above 0. Only the value 1 of `OutputType` writes
+  /// the event in full; an unknown event is the invoice date.
+  Text FormatCondition2(float Condition1, std::int16_t ConditionDay1,
+                        ZQ7ConditionType ConditionType, ZQ7ConditionOutputType OutputType,
+                        float ConditionDay) const;
+
+  /// `FormatCondition2` with the event and the output rounded to whole numbers,
+  /// halves to even.
+  Text FormatCondition(float Condition1, std::int16_t ConditionDay1, float ConditionType,
+                       float OutputType, float ConditionDay) const;
+
+  // --- Rounding: src/numbers/rounding.cc ---
+
+  /// Rounds the number as it prints: to 15 significant digits, then half away
+  /// from zero at `DecimalDigit` decimals, so 2.345 at 2 gives 2.35 although the
+  /// double lies below it. With `IgnoreNextDigit` it is rounded at two more
+  /// decimals and those are then cut off: 1.2349 at 2 gives 1.23, but 1.23996
+  /// gives 1.24. Raises 5 for a negative `DecimalDigit` and 6 for infinities and
+  /// NaN, as do the operations below that use it.
+  double FixNumber2(double iValue, std::int16_t DecimalDigit, bool IgnoreNextDigit) const;
+
+  /// `FixNumber2` without `IgnoreNextDigit`.
+  double FixNumber(double iValue, std::int16_t DecimalDigit) const;
+  /// The same as `FixNumber`.
+  double Round(double iValue, std::int16_t DecimalDigit) const;
+
+  /// `FixNumber2` at 0 decimals with `IgnoreNextDigit`: a cut toward zero after
+  /// rounding to two decimals, so -2.5 gives -2 and 2.999 gives 3.
+  double Floor(double iValue) const;
+
+  /// `Floor`, plus 1 when the number is above it: 2.001 gives 3, -2.5 gives -2.
+  double Ceiling(double iValue) const;
+
+  /// Rounds to `DecimalDigit` decimals and then brings the result to a whole
+  /// unit as `CutMode` says, whatever `DecimalDigit` is: 12.345 at 2 gives 12.35
+  /// (none), 12 (five up), 13 (all up), 12 (all down). Any other mode counts as
+  /// none. All up leaves a negative number with a fraction as it is.
+  double FixNumberWithCutMode(double iValue, std::int16_t DecimalDigit, ZQ7FixUnit CutMode) const;
+
+  /// Brings a positive amount with a fraction to a whole unit, up with
+  /// `IncreaseToCeiling`, else down; other amounts come back unchanged. Raises 6
+  /// when the unit above is out of range.
+  ///
+  /// `CelingList`, a list of satang steps such as "25;50;75", has no effect: each
+  /// step is rounded to 0 or 1 unit before it is compared, and both ends of the
+  /// scale are always in the list. Printed totals depend on the whole units.
+  Currency FixMoneyDecimal(Currency iValue, bool IncreaseToCeiling, TextView CelingList = {}) const;
+
+  // --- Numbers from text: src/numbers/reading.cc ---
+
+  /// Reads the number at the front of a typed text; blanks, "," and "%" are
+  /// skipped wherever they stand. "1,234.50" is 1234.5, "12.5%" is 0.125, "abc"
+  /// is 0. An exponent (E or D) needs a digit. Never fails: a number too large
+  /// for a double gives 0.
+  double StrVal(TextView istr) const;
+
+  /// `StrVal`, rounded as `FixNumber` does to `DecimalDigit` decimals; -1 does
+  /// not round. A `DecimalDigit` that `FixNumber` does not take gives 0.
+  double StrVal2(TextView istr, std::int32_t DecimalDigit) const;
+
+  /// `StrVal2` as a 16-bit integer, a half going to even. Raises 6 beyond it.
+  std::int16_t StrInt(TextView istr, std::int32_t DecimalDigit = -1) const;
+  /// `StrVal2` as a 32-bit integer, a half going to even. Raises 6 beyond it.
+  std::int32_t StrLng(TextView istr, std::int32_t DecimalDigit = -1) const;
+  /// `StrVal2` as a 32-bit float. Raises 6 beyond its range.
+  float StrSng(TextView istr, std::int32_t DecimalDigit = -1) const;
+
+  /// `InputValue`, or 0 for a missing one.
+  double Null2Zero(std::optional<double> InputValue = std::nullopt) const;
+
+  /// The characters "0" to "9" of `iText`, with `IncludeDot` also ".", with
+  /// `IncludeSign` also "+" and "-".
+  Text Numb(TextView iText, bool IncludeDot = false, bool IncludeSign = false) const;
+  /// The same as `Numb`.
+  Text Trim2Number(TextView iText, bool IncludeDot = false, bool IncludeSign = false) const;
+
+  double d2h(double iDay) const;     ///< Days to hours.
+  double d2m(double iDay) const;     ///< Days to minutes.
+  double h2d(double iHour) const;    ///< Hours to days.
+  double m2d(double iMinute) const;  ///< Minutes to days.
+
+  /// The shortest decimal text of a number taken to 15 significant digits, with
+  /// an exponent from 1E+15 up and below 1E-04: "1234.5", "1E+15". Raises 6 for
+  /// infinities and NaN.
+  Text d2Str(double iValue) const;
+
+ private:
+  DateConvention Convention() const;
+  OleDate Today() const;
+  std::optional<OleDate> ReadDate(TextView text) const;
+
+  StandardServices services_;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_STANDARDOBJECT_H_

@@ -1,0 +1,116 @@
+#ifndef ZQ7STANDARD_TYPES_H_
+#define ZQ7STANDARD_TYPES_H_
+
+#include <ZQ7Standard/Export.h>
+
+#include <chrono>
+#include <compare>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// Text as it crosses the interface: UTF-16 code units. Positions that an
+/// operation takes or returns count code units from 1.
+using Text = std::u16string;
+using TextView = std::u16string_view;
+
+/// Returns `text` in UTF-8. A surrogate without its partner becomes U+FFFD.
+ZQ7STANDARD_EXPORT std::string Utf8(TextView text);
+
+/// Returns the UTF-8 text `bytes` in UTF-16. Each byte that begins no
+/// well-formed sequence becomes U+FFFD.
+ZQ7STANDARD_EXPORT Text FromUtf8(std::string_view bytes);
+
+/// A date and time of day in the Gregorian calendar, held as a count of days
+/// since 1899-12-30 00:00; the fraction is the time of day.
+///
+/// Before that day the count follows the automation rule: the whole part, cut
+/// toward zero, is the day, and the absolute value of the fraction is the time
+/// of day. So -1.25 is 1899-12-29 06:00, and -0.5 and 0.5 are the same moment.
+///
+/// Every date from 0100-01-01 to 9999-12-31 is held; the default is day 0, the
+/// "zero date". Years are Gregorian: a Buddhist Era year less 543.
+class ZQ7STANDARD_EXPORT OleDate {
+ public:
+  constexpr OleDate() = default;
+
+  /// The moment `days` days from 1899-12-30 00:00. Raises 5 when that is not a
+  /// moment from 0100-01-01 to 9999-12-31, or `days` is no number.
+  explicit OleDate(double days);
+
+  /// The moment of the Gregorian year (100 to 9999), month (1 to 12), day (from
+  /// 1), hour (0 to 23), minute and second (0 to 59). Raises 5 for any other.
+  static OleDate FromParts(int year, int month, int day, int hour = 0, int minute = 0,
+                           int second = 0);
+
+  /// Midnight at the start of `day`. Raises 5 outside 0100-01-01 to 9999-12-31.
+  static OleDate FromCivil(std::chrono::local_days day);
+
+  /// Days since 1899-12-30 00:00.
+  constexpr double Days() const { return days_; }
+  /// The time of day as a fraction of a day, from 0 up to but not including 1.
+  double TimeOfDay() const;
+  /// The calendar day, without the time.
+  std::chrono::local_days Civil() const;
+
+  int Year() const;
+  int Month() const;    ///< 1 to 12
+  int Day() const;      ///< 1 to 31
+  int Weekday() const;  ///< 1 = Sunday to 7 = Saturday
+  int Hour() const;     ///< 0 to 23
+  int Minute() const;   ///< 0 to 59
+  int Second() const;   ///< 0 to 59; the time is first rounded to the millisecond
+
+  /// The same time of day, `days` days later (earlier when negative). Raises 5
+  /// when that day is outside 0100-01-01 to 9999-12-31.
+  OleDate AddDays(std::int64_t days) const;
+
+  /// Dates compare as moments, not as day counts: -1.25 (06:00) is before -1.75
+  /// (18:00 on the same day).
+  friend ZQ7STANDARD_EXPORT bool operator==(OleDate a, OleDate b);
+  friend ZQ7STANDARD_EXPORT std::weak_ordering operator<=>(OleDate a, OleDate b);
+
+ private:
+  double days_ = 0;
+};
+
+/// An amount of money with four decimals, held as a 64-bit integer count of
+/// 1/10000 units. From -922337203685477.5808 to 922337203685477.5807.
+class ZQ7STANDARD_EXPORT Currency {
+ public:
+  constexpr Currency() = default;
+
+  /// The amount nearest to `amount`, a tie going to the even fourth decimal.
+  /// Raises 6 when it is out of range or no number.
+  explicit Currency(double amount);
+
+  /// The amount of `scaled` / 10000 units.
+  static constexpr Currency FromScaled(std::int64_t scaled) {
+    Currency result;
+    result.scaled_ = scaled;
+    return result;
+  }
+
+  /// Reads a whole text such as "-1234.5": an optional sign, digits, one ".",
+  /// digits. Decimals beyond the fourth are rounded, a tie to even. Raises 13
+  /// for any other text and 6 for an amount out of range.
+  static Currency FromText(TextView text);
+
+  /// The amount in 1/10000 units.
+  constexpr std::int64_t Scaled() const { return scaled_; }
+  /// The double nearest to the amount.
+  double ToDouble() const;
+  /// The amount with exactly four decimals and no group marks: "-1234.5000".
+  Text ToText() const;
+
+  friend constexpr auto operator<=>(Currency, Currency) = default;
+
+ private:
+  std::int64_t scaled_ = 0;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_TYPES_H_

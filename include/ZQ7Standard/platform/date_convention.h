@@ -1,0 +1,51 @@
+#ifndef ZQ7STANDARD_PLATFORM_DATE_CONVENTION_H_
+#define ZQ7STANDARD_PLATFORM_DATE_CONVENTION_H_
+
+#include <ZQ7Standard/Export.h>
+
+#include <memory>
+
+namespace ZQ7Standard {
+
+/// Which of the first two fields of a short date, such as 1/2/2567, is the month.
+enum class FieldOrder { kMonthFirst, kDayFirst };
+
+/// How a typed year counts: as a Gregorian year, or as a Buddhist Era year,
+/// which is the Gregorian year plus 543.
+enum class Era { kGregorian, kBuddhist };
+
+/// How dates are typed and shown on a machine.
+struct DateConvention {
+  FieldOrder order = FieldOrder::kMonthFirst;
+  Era era = Era::kGregorian;
+
+  friend bool operator==(DateConvention, DateConvention) = default;
+};
+
+/// Tells the date convention in force. It is asked anew by every date
+/// operation, so that a change takes effect at once; an answer must be cheap.
+class ZQ7STANDARD_EXPORT DateConventionSource {
+ public:
+  virtual ~DateConventionSource();
+
+  virtual DateConvention Current() = 0;
+};
+
+/// The convention of the locale that the environment names: LC_ALL, else
+/// LC_TIME, else LANG, the first that is not empty.
+///
+/// An installed locale decides by its own short date; one that is named but not
+/// installed is judged by its language and territory (th is day first and
+/// Buddhist, US month first, most others day first). No locale, "C" and "POSIX"
+/// are month first and Gregorian. The last answer is kept in the object and
+/// used while the names stay the same: an object belongs to one thread.
+ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> SystemDateConvention();
+
+/// Always `convention`: for hosts with a setting of their own, and the only way
+/// to the month-first Buddhist convention, which no locale has.
+ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> FixedDateConvention(
+    DateConvention convention);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PLATFORM_DATE_CONVENTION_H_

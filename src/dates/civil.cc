@@ -1,0 +1,107 @@
+#include "dates/civil.h"
+
+#include <cmath>
+
+namespace ZQ7Standard {
+namespace {
+
+using std::chrono::days;
+using std::chrono::local_days;
+using std::chrono::year_month_day;
+
+constexpr int kFirstYear = 100;
+constexpr int kLastYear = 9999;
+constexpr double kFirstDay = -657434;  // 0100-01-01
+constexpr double kLastDay = 2958465;   // 9999-12-31
+
+bool HasYear(int year) {
+  return year >= kFirstYear && year <= kLastYear;
+}
+
+year_month_day Civil(int year, int month, int day) {
+  return {std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+          std::chrono::day(static_cast<unsigned>(day))};
+}
+
+int DateSerialYear(int year) {
+  if (year < 0 || year > 99) return year;
+  return year < 30 ? 2000 + year : 1900 + year;
+}
+
+constexpr int kFirstBuddhistYear = 2400;
+
+/// The year that a sentinel date shows; 2247 and 1704 are 3333 after one and
+/// two conversions down by an era.
+std::optional<int> SentinelYear(int year) {
+  if (year == 3333 || year == 2247 || year == 1704) return 3333;
+  if (year == 8888) return 8888;
+  return std::nullopt;
+}
+
+}  // namespace
+
+int YearInSystemEra(int year, Era system_era) {
+  if (const auto sentinel = SentinelYear(year)) return *sentinel;
+  return year < kFirstBuddhistYear ? year + EraDifference(system_era) : year;
+}
+
+int YearInGregorianEra(int year) {
+  if (const auto sentinel = SentinelYear(year)) return *sentinel;
+  return year < kFirstBuddhistYear ? year : year - kBuddhistOffset;
+}
+
+year_month_day YearMonthDay(OleDate date) {
+  return year_month_day(date.Civil());
+}
+
+std::optional<OleDate> DateFromParts(int year, int month, int day) {
+  if (!HasYear(year) || month < 1 || month > 12 || day < 1 || day > DaysInMonth(year, month)) {
+    return std::nullopt;
+  }
+  return OleDate::FromCivil(local_days(Civil(year, month, day)));
+}
+
+std::optional<OleDate> DateSerial(int year, int month, int day) {
+  const int months = DateSerialYear(year) * 12 + month - 1;
+  const int civil_year = months >= 0 ? months / 12 : (months - 11) / 12;
+  if (civil_year < -32767 || civil_year > 32767) return std::nullopt;
+  const local_days first(Civil(civil_year, months - civil_year * 12 + 1, 1));
+  const local_days result = first + days(day - 1);
+  if (!HasYear(static_cast<int>(year_month_day(result).year()))) return std::nullopt;
+  return OleDate::FromCivil(result);
+}
+
+std::optional<OleDate> AddYears(OleDate date, int years) {
+  const year_month_day civil = YearMonthDay(date);
+  const int year = static_cast<int>(civil.year()) + years;
+  const int month = static_cast<int>(static_cast<unsigned>(civil.month()));
+  const int day = static_cast<int>(static_cast<unsigned>(civil.day()));
+  const bool cut = month == 2 && day == 29 && !std::chrono::year(year).is_leap();
+  const auto result = DateFromParts(year, month, cut ? 28 : day);
+  if (!result) return std::nullopt;
+  return AtTime(*result, date.TimeOfDay());
+}
+
+int DaysInMonth(int year, int month) {
+  constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  const bool leap_day = month == 2 && std::chrono::year(year).is_leap();
+  return kDays[month - 1] + (leap_day ? 1 : 0);
+}
+
+std::optional<OleDate> DaysLater(OleDate date, std::int64_t days) {
+  const double day = std::trunc(date.Days()) + static_cast<double>(days);
+  if (!IsInRange(day)) return std::nullopt;
+  return AtTime(OleDate(day), date.TimeOfDay());
+}
+
+bool IsInRange(double days) {
+  const double day = std::trunc(days);
+  return day >= kFirstDay && day <= kLastDay;
+}
+
+OleDate AtTime(OleDate day, double time_of_day) {
+  const double midnight = day.Days();
+  return OleDate(midnight < 0 ? midnight - time_of_day : midnight + time_of_day);
+}
+
+}  // namespace ZQ7Standard

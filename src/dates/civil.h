@@ -1,0 +1,59 @@
+#ifndef ZQ7STANDARD_SRC_DATES_CIVIL_H_
+#define ZQ7STANDARD_SRC_DATES_CIVIL_H_
+
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/date_convention.h>
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+
+namespace ZQ7Standard {
+
+/// A Buddhist Era year less the Gregorian year.
+inline constexpr int kBuddhistOffset = 543;
+
+/// The system's year less the Gregorian year.
+constexpr int EraDifference(Era era) {
+  return era == Era::kBuddhist ? kBuddhistOffset : 0;
+}
+
+/// The year that a date whose own year is `year` shows on a system of that era.
+/// A year of 2400 or more is taken to be Buddhist already and stays; the years
+/// of blank dates show as 3333 and 8888.
+int YearInSystemEra(int year, Era system_era);
+
+/// The Gregorian year that such a date shows: one of 2400 or more less 543.
+int YearInGregorianEra(int year);
+
+/// The calendar day of `date`.
+std::chrono::year_month_day YearMonthDay(OleDate date);
+
+/// Midnight of a Gregorian day; nothing when the calendar has no such day or it
+/// is outside 0100-01-01 to 9999-12-31.
+std::optional<OleDate> DateFromParts(int year, int month, int day);
+
+/// The day that the automation date-serial makes of any three numbers: years 0
+/// to 29 are 2000 to 2029 and 30 to 99 are 1930 to 1999; a month outside 1 to
+/// 12 and a day outside the month carry on. Nothing outside the range of dates.
+std::optional<OleDate> DateSerial(int year, int month, int day);
+
+/// The same day and time of day `years` years later, 29 February moving to the
+/// 28th where the year has none. Nothing outside the range of dates.
+std::optional<OleDate> AddYears(OleDate date, int years);
+
+/// The number of days in a month (1 to 12) of a Gregorian year.
+int DaysInMonth(int year, int month);
+
+/// The same time of day `days` days later. Nothing outside the range of dates.
+std::optional<OleDate> DaysLater(OleDate date, std::int64_t days);
+
+/// Whether the day count `days` is a moment in the range of dates.
+bool IsInRange(double days);
+
+/// `day` at the time of day `time_of_day`, a fraction of a day.
+OleDate AtTime(OleDate day, double time_of_day);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_DATES_CIVIL_H_

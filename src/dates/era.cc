@@ -1,0 +1,73 @@
+#include <ZQ7Standard/StandardObject.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "dates/civil.h"
+
+namespace ZQ7Standard {
+namespace {
+
+using std::chrono::local_days;
+using std::chrono::year;
+
+// 3876 and 2790 are 3333 shifted up and down by an era, 8345 is 8888 shifted
+// down: blank dates that went through an era conversion too many. The last one
+// is the zero date.
+constexpr std::array<local_days, 6> kBlankDays = {
+    local_days(year(3876) / 3 / 3), local_days(year(3333) / 3 / 3),
+    local_days(year(8888) / 8 / 8), local_days(year(2790) / 3 / 3),
+    local_days(year(8345) / 8 / 8), local_days(year(1899) / 12 / 30)};
+
+}  // namespace
+
+std::int16_t StandardObject::GetEraDif() const {
+  return static_cast<std::int16_t>(EraDifference(Convention().era));
+}
+
+std::int16_t StandardObject::CTYEAR() const {
+  return static_cast<std::int16_t>(Today().Year() + GetEraDif());
+}
+
+std::int16_t StandardObject::Year2000(OleDate InDate) const {
+  return static_cast<std::int16_t>(YearInSystemEra(InDate.Year(), Convention().era));
+}
+
+std::int16_t StandardObject::GetDateFormat() const {
+  const DateConvention convention = Convention();
+  const bool month_first = convention.order == FieldOrder::kMonthFirst;
+  if (convention.era == Era::kBuddhist) return month_first ? ZQ7MDBBBB : ZQ7DMBBBB;
+  return month_first ? ZQ7MDYYYY : ZQ7DMYYYY;
+}
+
+Text StandardObject::GetDateFormatString(std::int16_t DateFormat) const {
+  switch (DateFormat) {
+    case ZQ7MDYYYY:
+    case ZQ7MDBBBB:
+      return u"m/d/yyyy";
+    case ZQ7DMYYYY:
+    case ZQ7DMBBBB:
+      return u"d/m/yyyy";
+    default:
+      return {};
+  }
+}
+
+OleDate StandardObject::GETBlankDate() const {
+  return OleDate::FromParts(3333, 3, 3);
+}
+
+OleDate StandardObject::GETMAXDate() const {
+  return GETBlankDate();
+}
+
+bool StandardObject::isBlankDate(OleDate iDate) const {
+  return iDate.TimeOfDay() == 0 && std::ranges::count(kBlankDays, iDate.Civil()) > 0;
+}
+
+OleDate StandardObject::TrimDate(OleDate iDate) const {
+  return OleDate::FromCivil(iDate.Civil());
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,107 @@
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/Types.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <string>
+
+#include "dates/civil.h"
+
+namespace ZQ7Standard {
+namespace {
+
+using std::chrono::local_days;
+using std::chrono::year_month_day;
+
+constexpr local_days kDayZero{std::chrono::year(1899) / 12 / 30};
+constexpr std::int64_t kMillisecondsPerDay = 24 * 60 * 60 * 1000;
+
+/// Milliseconds since midnight, never as many as a day has: a moment belongs to
+/// the day of its whole part, however close to the next midnight.
+std::int64_t Milliseconds(OleDate date) {
+  const double milliseconds = std::round(date.TimeOfDay() * kMillisecondsPerDay);
+  return std::min(static_cast<std::int64_t>(milliseconds), kMillisecondsPerDay - 1);
+}
+
+}  // namespace
+
+OleDate::OleDate(double days) : days_(days) {
+  if (!IsInRange(days)) {
+    throw RunTimeError::InvalidArgument("OleDate", std::to_string(days) + " days");
+  }
+}
+
+OleDate OleDate::FromParts(int year, int month, int day, int hour, int minute, int second) {
+  const auto date = DateFromParts(year, month, day);
+  const bool is_time =
+      hour >= 0 && hour <= 23 && minute >= 0 && minute <= 59 && second >= 0 && second <= 59;
+  if (!date || !is_time) {
+    std::string parts;
+    for (const int part : {year, month, day, hour, minute, second}) {
+      parts.append(parts.empty() ? "" : ", ").append(std::to_string(part));
+    }
+    throw RunTimeError::InvalidArgument("OleDate::FromParts", parts);
+  }
+  return AtTime(*date, (hour * 3600 + minute * 60 + second) / 86400.0);
+}
+
+OleDate OleDate::FromCivil(local_days day) {
+  return OleDate(static_cast<double>((day - kDayZero).count()));
+}
+
+double OleDate::TimeOfDay() const {
+  return std::abs(days_ - std::trunc(days_));
+}
+
+local_days OleDate::Civil() const {
+  return kDayZero + std::chrono::days(static_cast<int>(days_));
+}
+
+int OleDate::Year() const {
+  return static_cast<int>(year_month_day(Civil()).year());
+}
+
+int OleDate::Month() const {
+  return static_cast<int>(static_cast<unsigned>(year_month_day(Civil()).month()));
+}
+
+int OleDate::Day() const {
+  return static_cast<int>(static_cast<unsigned>(year_month_day(Civil()).day()));
+}
+
+int OleDate::Weekday() const {
+  return static_cast<int>(std::chrono::weekday(Civil()).c_encoding()) + 1;
+}
+
+int OleDate::Hour() const {
+  return static_cast<int>(Milliseconds(*this) / 3600000);
+}
+
+int OleDate::Minute() const {
+  return static_cast<int>(Milliseconds(*this) / 60000 % 60);
+}
+
+int OleDate::Second() const {
+  return static_cast<int>(Milliseconds(*this) / 1000 % 60);
+}
+
+OleDate OleDate::AddDays(std::int64_t days) const {
+  const auto later = DaysLater(*this, days);
+  if (!later) throw RunTimeError::InvalidArgument("OleDate::AddDays", std::to_string(days));
+  return *later;
+}
+
+bool operator==(OleDate a, OleDate b) {
+  return (a <=> b) == std::weak_ordering::equivalent;
+}
+
+std::weak_ordering operator<=>(OleDate a, OleDate b) {
+  if (a.Civil() != b.Civil()) return a.Civil() <=> b.Civil();
+  // Neither is NaN, which a date never holds.
+  if (a.TimeOfDay() < b.TimeOfDay()) return std::weak_ordering::less;
+  if (a.TimeOfDay() > b.TimeOfDay()) return std::weak_ordering::greater;
+  return std::weak_ordering::equivalent;
+}
+
+}  // namespace ZQ7Standard

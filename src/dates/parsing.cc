@@ -1,0 +1,174 @@
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/StandardObject.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <string>
+
+#include "dates/civil.h"
+#include "dates/date_text.h"
+#include "numbers/number_text.h"
+#include "text/ascii.h"
+#include "text/unicode.h"
+
+namespace ZQ7Standard {
+namespace {
+
+// Gregorian 100, the first year of a date, is the Buddhist year 643.
+constexpr int kFirstTypedYear = 643;
+constexpr int kLastTypedYear = 9999;
+constexpr int kLastGregorianKeyYear = 2400;  // a later year in a key is Buddhist
+constexpr int kLastPeriodYear = 3332;        // the year before the blank date's
+
+/// Takes the text up to the next "/" off the front of `rest`, and the "/". A
+/// text that ends in "/" has no empty field behind it.
+TextView TakeField(TextView& rest) {
+  const std::size_t end = std::min(rest.find(u'/'), rest.size());
+  const TextView field = rest.substr(0, end);
+  rest.remove_prefix(std::min(end + 1, rest.size()));
+  return field;
+}
+
+/// The first fields of a text as the order of a system has them.
+struct DayMonthYear {
+  int day;
+  int month;
+  int year;
+};
+
+DayMonthYear InOrder(const std::array<int, 3>& fields, FieldOrder order) {
+  const bool day_first = order == FieldOrder::kDayFirst;
+  return {fields[day_first ? 0 : 1], fields[day_first ? 1 : 0], fields[2]};
+}
+
+/// A month of a year typed year first, "2567/03".
+struct Period {
+  double year;
+  double month;
+
+  bool IsValid() const { return month >= 1 && month <= 12 && year >= 1 && year <= kLastPeriodYear; }
+};
+
+/// Reads the first four characters before the first "/" as the year, in the
+/// system's era, and the last two behind it as the month.
+Period ReadPeriod(TextView text, Era era) {
+  const auto whole_number = [](TextView digits) {
+    return std::nearbyint(ReadTypedNumber(digits).value_or(0));
+  };
+  if (text.find(u'/') == TextView::npos) return {0, 0};
+  const TextView year = TakeField(text).substr(0, 4);
+  TextView month = TakeField(text);
+  month.remove_prefix(month.size() - std::min<std::size_t>(month.size(), 2));
+  return {whole_number(year) - EraDifference(era), whole_number(month)};
+}
+
+}  // namespace
+
+OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*/) const {
+  if (iText.empty()) return OleDate();
+  std::array<int, 3> fields = {0, 0, 0};
+  std::size_t count = 0;
+  for (TextView rest = iText; !rest.empty(); ++count) {
+    const auto number = ReadLeadingNumber(TakeField(rest));
+    const auto field = number ? RoundToInteger<std::int16_t>(*number) : std::nullopt;
+    if (!field) throw RunTimeError::Overflow("CTDATE", Quoted(iText));
+    if (count < fields.size()) fields[count] = *field;
+  }
+  if (count < 2) throw RunTimeError::SubscriptOutOfRange("CTDATE", Quoted(iText));
+  const DateConvention convention = Convention();
+  const auto [day, month, year] = InOrder(fields, convention.order);
+  const auto date = ReadNamedMonthDate(month, day, year, convention.era);
+  if (!date) throw RunTimeError::TypeMismatch("CTDATE", Quoted(iText));
+  return *date;
+}
+
+bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/) const {
+  if (iText.find(u'/') == TextView::npos) return false;
+  std::array<int, 3> fields = {0, 0, 0};
+  std::size_t count = 0;
+  for (TextView rest = iText; !rest.empty(); ++count) {
+    if (count == fields.size()) return false;
+    const TextView text = TakeField(rest);
+    if (count == 2 && text.size() != 4) return false;
+    const auto field = RoundToInteger<std::int32_t>(std::abs(StrVal(text)));
+    if (!field) return false;
+    fields[count] = *field;
+  }
+  if (count != fields.size()) return false;
+  const DateConvention convention = Convention();
+  const auto [day, month, year] = InOrder(fields, convention.order);
+  return year >= kFirstTypedYear && year <= kLastTypedYear &&
+         ReadNamedMonthDate(month, day, year, convention.era).has_value();
+}
+
+OleDate StandardObject::CDATE2000(TextView iText) const {
+  const auto date = ReadDate(iText);
+  if (!date) return GETBlankDate();
+  const auto shifted = AddYears(*date, GetEraDif());
+  if (!shifted) throw RunTimeError::InvalidArgument("CDATE2000", Quoted(iText));
+  return *shifted;
+}
+
+OleDate StandardObject::GETValidDate(TextView DateString) const {
+  if (!IsTDateTime(DateString)) return Today();
+  try {
+    return CTDATE(DateString);
+  } catch (const RunTimeError&) {
+    return Today();
+  }
+}
+
+bool StandardObject::IsTDateTime(TextView iText) const {
+  return ReadDate(iText).has_value();
+}
+
+bool StandardObject::isMounthYear(TextView inMMYYYY) const {
+  if (inMMYYYY.size() != 7) return false;
+  const double month = StrVal(inMMYYYY.substr(0, 2));
+  const double year = StrVal(inMMYYYY.substr(3));
+  return month >= 1 && month <= 12 && year >= kFirstTypedYear;
+}
+
+OleDate StandardObject::GETDateFromTextYYYYMMDD(TextView iDateYYYY_MM_DD) const {
+  const OleDate unreadable = *DateSerial(GetEraDif(), 3, 3);
+  if (const auto date = ReadDate(iDateYYYY_MM_DD)) {
+    const int year = Year2000(*date);
+    if (year <= kLastGregorianKeyYear) return *date;
+    return *DateSerial(year - kBuddhistOffset, date->Month(), date->Day());
+  }
+  Text digits;
+  for (const char16_t c : iDateYYYY_MM_DD) {
+    if (TextView(u"_ -/").find(c) == TextView::npos) digits.push_back(c);
+  }
+  if (digits.size() != 8 || !std::ranges::all_of(digits, IsAsciiDigit)) return unreadable;
+  const auto number = [&digits](std::size_t start, std::size_t length) {
+    return static_cast<int>(*ReadLeadingNumber(TextView(digits).substr(start, length)));
+  };
+  const int typed_year = number(0, 4);
+  const int year = typed_year > kLastGregorianKeyYear ? typed_year - kBuddhistOffset : typed_year;
+  Text dashed;
+  AppendNumber(dashed, year, 4);
+  dashed.append(u"-").append(digits, 4, 2).append(u"-").append(digits, 6, 2);
+  return ReadDate(dashed) ? *DateSerial(year, number(4, 2), number(6, 2)) : unreadable;
+}
+
+OleDate StandardObject::CTPeriod(TextView iText) const {
+  const Period period = ReadPeriod(iText, Convention().era);
+  if (!period.IsValid()) {
+    const OleDate today = Today();
+    return today.AddDays(1 - today.Day());
+  }
+  return *DateSerial(static_cast<int>(period.year), static_cast<int>(period.month), 1);
+}
+
+bool StandardObject::IsTPeriod(TextView iText) const {
+  return ReadPeriod(iText, Convention().era).IsValid();
+}
+
+std::optional<OleDate> StandardObject::ReadDate(TextView text) const {
+  return ReadDateText(text, Convention(), Today().Year());
+}
+
+}  // namespace ZQ7Standard

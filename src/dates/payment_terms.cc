@@ -1,0 +1,114 @@
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/StandardObject.h>
+
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "dates/civil.h"
+#include "numbers/number_text.h"
+
+namespace ZQ7Standard {
+namespace {
+
+/// What the days of a term count from, and how it is written behind them.
+struct Condition {
+  bool end_of_month;
+  bool delivery_days;
+  TextView short_suffix;
+  TextView full_suffix;
+};
+
+// By `ZQ7ConditionType`. "BILL" and the last "DATE" stand on printed documents
+// although the members are named otherwise.
+constexpr std::array<Condition, 9> kConditions = {{
+    {false, false, u" AID", u" AFTER INVOICE DATE"},
+    {false, true, u" ADD", u" AFTER DELIVERY DATE"},
+    {false, true, u" ABD", u" AFTER BILL DATE"},
+    {true, true, u" ARD", u" AFTER RECEIVE OS/DOC"},
+    {true, false, u" AEIM", u" AFTER END OF INVOICE MONTH"},
+    {true, true, u" AEDM", u" AFTER END OF DELIVERY MONTH"},
+    {true, true, u" AEBM", u" AFTER END OF BILL MONTH"},
+    {true, true, u" AERM", u" AFTER END OF RECEIVE OS/DOC MONTH"},
+    {true, true, u" AESD", u" AFTER END OF SPT DATE"},
+}};
+
+const Condition* FindCondition(ZQ7ConditionType type) {
+  if (type < ZQ7AfterInvoiceDate || type > ZQ7AfterEndOfSPTMonth) return nullptr;
+  return &kConditions[static_cast<std::size_t>(type)];
+}
+
+/// The shortest decimal digits that read back as the float, without exponent.
+std::string ShortestDigits(float value) {
+  std::array<char, 64> digits;
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
+  return {digits.data(), end.ptr};
+}
+
+/// The float rounded as it prints: 2.35 is 2.35, not the 2.3499999 it holds.
+Text FormatFloat(float value, int decimals) {
+  const std::string digits = ShortestDigits(value);
+  double printed = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), printed);
+  return FormatDecimal(*ToDecimal(printed), decimals, Grouping::kThousands);
+}
+
+bool IsPositive(float value) {
+  return value > 0 && value <= std::numeric_limits<float>::max();
+}
+
+template <typename Enumeration>
+Enumeration ToEnumeration(float value) {
+  return static_cast<Enumeration>(RoundToInteger<std::int32_t>(value).value_or(-1));
+}
+
+}  // namespace
+
+OleDate StandardObject::GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionType ConditionType,
+                                            std::int16_t NetDay, std::int16_t DeliveryDay) const {
+  const Condition* const condition = FindCondition(ConditionType);
+  if (!condition) return OleDate();
+  OleDate start = InvoiceDate;
+  if (condition->end_of_month) {
+    // The year goes in as the month and the month as the year: stored documents
+    // were made so, and their due dates must come out again.
+    const auto month = static_cast<std::int16_t>(InvoiceDate.Month());
+    const auto year = static_cast<std::int16_t>(InvoiceDate.Year());
+    start = GETLastDayOfMonthYear(year, month);
+  }
+  const int days = NetDay + (condition->delivery_days ? DeliveryDay : 0);
+  const auto due = DaysLater(start, days);
+  if (!due)
+    throw RunTimeError::InvalidArgument("GetConditionDueDate", std::to_string(days) + " days");
+  return *due;
+}
+
+Text StandardObject::FormatCondition2(float Condition1, std::int16_t ConditionDay1,
+                                      ZQ7ConditionType ConditionType,
+                                      ZQ7ConditionOutputType OutputType, float ConditionDay) const {
+  if (!IsPositive(ConditionDay)) return u"CASH";
+  Text text;
+  if (IsPositive(Condition1) && ConditionDay1 > 0) {
+    text.append(FormatFloat(Condition1, 1)).append(u"/");
+    text.append(FormatDecimal(*ToDecimal(ConditionDay1), 0, Grouping::kThousands)).append(u", ");
+  }
+  const std::string days = ShortestDigits(ConditionDay);
+  text.append(u"N/").append(days.begin(), days.end());
+  const Condition* const known = FindCondition(ConditionType);
+  const Condition& condition = known ? *known : kConditions.front();
+  const bool full = OutputType == ZQ7ConditionOutputTypeFull;
+  return text.append(full ? condition.full_suffix : condition.short_suffix);
+}
+
+Text StandardObject::FormatCondition(float Condition1, std::int16_t ConditionDay1,
+                                     float ConditionType, float OutputType,
+                                     float ConditionDay) const {
+  return FormatCondition2(Condition1, ConditionDay1, ToEnumeration<ZQ7ConditionType>(ConditionType),
+                          ToEnumeration<ZQ7ConditionOutputType>(OutputType), ConditionDay);
+}
+
+}  // namespace ZQ7Standard

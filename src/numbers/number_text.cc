@@ -1,0 +1,314 @@
+#include "numbers/number_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "text/ascii.h"
+
+namespace ZQ7Standard {
+namespace {
+
+__extension__ using Wide = unsigned __int128;
+
+constexpr int kSignificantDigits = 15;
+constexpr std::uint64_t kDigitsLimit = 1'000'000'000'000'000;  // 10^15
+
+constexpr auto kPowersOfTen = [] {
+  std::array<std::uint64_t, 20> powers{};
+  std::uint64_t power = 1;
+  for (std::uint64_t& entry : powers) {
+    entry = power;
+    power *= 10;
+  }
+  return powers;
+}();
+
+constexpr std::uint64_t PowerOfTen(int exponent) {
+  return kPowersOfTen[static_cast<std::size_t>(exponent)];
+}
+
+// 10^0 to 10^22, the powers of ten that are doubles without rounding.
+constexpr std::array<double, 23> kExactPowers = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr int kMaxExactPower = 22;
+constexpr std::uint64_t kMaxExactDigits = std::uint64_t{1} << 53;
+
+/// Two whole numbers that a double holds exactly give their product or quotient
+/// rounded once, so it is the nearest double.
+bool IsExact(std::uint64_t digits, int exponent) {
+  return digits <= kMaxExactDigits && exponent >= -kMaxExactPower && exponent <= kMaxExactPower;
+}
+
+double ScaleExact(std::uint64_t digits, int exponent) {
+  const auto value = static_cast<double>(digits);
+  return exponent < 0 ? value / kExactPowers[static_cast<std::size_t>(-exponent)]
+                      : value * kExactPowers[static_cast<std::size_t>(exponent)];
+}
+
+/// Reads what `std::from_chars` reads; an infinity when it is too large, 0 when
+/// too small. `magnitude` is about the power of ten of the number.
+double ReadExactly(std::string_view number, std::int64_t magnitude) {
+  double value = 0;
+  const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (result.ec != std::errc::result_out_of_range) return value;
+  return magnitude > 0 ? std::numeric_limits<double>::infinity() : 0;
+}
+
+/// mantissa / 2^shift × 10^power, half up; both factors are small enough for
+/// 128 bits.
+std::uint64_t Scale(std::uint64_t mantissa, int shift, int power) {
+  const Wide low = PowerOfTen(std::min(power, 19));
+  const Wide high = PowerOfTen(power > 19 ? power - 19 : 0);
+  const Wide product = mantissa * low * high;
+  return static_cast<std::uint64_t>((product + (Wide{1} << (shift - 1))) >> shift);
+}
+
+/// For values from 2^-23 up to below 10^15, whose 53 bits times 10^21 at most
+/// fit in 128 bits.
+Decimal ToDecimalInRange(double magnitude) {
+  int binary_exponent = 0;
+  const double fraction = std::frexp(magnitude, &binary_exponent);
+  const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
+  const int shift = 53 - binary_exponent;
+  // 1233 / 4096 is log10(2); the estimate is right or one too high.
+  int power = kSignificantDigits - 1 - (((binary_exponent - 1) * 1233) >> 12);
+  std::uint64_t digits = Scale(mantissa, shift, power);
+  if (digits >= kDigitsLimit) digits = Scale(mantissa, shift, --power);
+  return {false, digits, -power};
+}
+
+/// Any other value by its exact decimal digits: no double has more than 767.
+Decimal ToDecimalOutOfRange(double magnitude) {
+  std::array<char, 800> text;
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
+                                 std::chars_format::scientific, 766)
+                       .ptr;
+  std::uint64_t digits = static_cast<std::uint64_t>(text[0] - '0');
+  for (std::size_t i = 2; i <= kSignificantDigits; ++i) {
+    digits = digits * 10 + static_cast<std::uint64_t>(text[i] - '0');
+  }
+  if (text[kSignificantDigits + 1] >= '5') ++digits;
+  const char* exponent_text = std::find(text.data(), end, 'e') + 1;
+  if (*exponent_text == '+') ++exponent_text;
+  int exponent = 0;
+  std::from_chars(exponent_text, end, exponent);
+  return {false, digits, exponent - (kSignificantDigits - 1)};
+}
+
+/// The characters of a text, those that `Ignored` names left out.
+template <bool (*Ignored)(char16_t)>
+class Characters {
+ public:
+  explicit Characters(TextView text) : next_(text.begin()), end_(text.end()) { Skip(); }
+
+  /// The character in front; NUL at the end, which no number holds.
+  char16_t Front() const { return next_ == end_ ? u'\0' : *next_; }
+
+  void Advance() {
+    ++next_;
+    Skip();
+  }
+
+ private:
+  void Skip() {
+    while (next_ != end_ && Ignored(*next_)) ++next_;
+  }
+
+  TextView::const_iterator next_;
+  TextView::const_iterator end_;
+};
+
+constexpr bool IsNothing(char16_t /*c*/) {
+  return false;
+}
+constexpr bool IsNumberMark(char16_t c) {
+  return c == u' ' || c == u',' || c == u'%';
+}
+
+constexpr std::int64_t kExponentLimit = 1'000'000;
+
+/// The exponent in front, such as "E-05", or 0 where no digit follows the E.
+template <typename Source>
+std::int64_t ReadExponent(Source& source) {
+  if (AsciiUpper(source.Front()) != u'E' && AsciiUpper(source.Front()) != u'D') return 0;
+  source.Advance();
+  const bool negative = source.Front() == u'-';
+  if (negative || source.Front() == u'+') source.Advance();
+  std::int64_t exponent = 0;
+  for (; IsAsciiDigit(source.Front()); source.Advance()) {
+    exponent = std::min(exponent * 10 + (source.Front() - u'0'), kExponentLimit);
+  }
+  return negative ? -exponent : exponent;
+}
+
+/// Reads the digits in front, with one ".", into a text for `ReadExactly`.
+template <typename Source>
+double ReadLongNumber(Source source) {
+  std::string number;
+  std::int64_t magnitude = 0;
+  bool point = false;
+  for (;; source.Advance()) {
+    const char16_t c = source.Front();
+    const bool is_point = c == u'.' && !point;
+    if (!is_point && !IsAsciiDigit(c)) break;
+    point = point || is_point;
+    if (c == u'0' && number.empty()) continue;
+    number.push_back(static_cast<char>(c));
+    if (!point) ++magnitude;
+  }
+  const std::int64_t exponent = ReadExponent(source);
+  number.append("e").append(std::to_string(exponent));
+  return ReadExactly(number, magnitude + exponent);
+}
+
+template <typename Source>
+std::optional<double> ReadNumber(Source source) {
+  const bool negative = source.Front() == u'-';
+  if (negative || source.Front() == u'+') source.Advance();
+  const Source start = source;
+  std::uint64_t digits = 0;
+  std::int64_t exponent = 0;
+  bool point = false;
+  bool exact = true;
+  for (;; source.Advance()) {
+    const char16_t c = source.Front();
+    if (IsAsciiDigit(c)) {
+      exact = exact && digits < kMaxExactDigits / 10;
+      digits = digits * 10 + static_cast<std::uint64_t>(c - u'0');
+      if (point) --exponent;
+    } else if (c == u'.' && !point) {
+      point = true;
+    } else {
+      break;
+    }
+  }
+  if (exact && digits == 0) return 0.0;
+  exponent += ReadExponent(source);
+  double value = 0;
+  if (exact && exponent >= -kMaxExactPower && exponent <= kMaxExactPower) {
+    value = ScaleExact(digits, static_cast<int>(exponent));
+  } else {
+    value = ReadLongNumber(start);
+  }
+  if (std::isinf(value)) return std::nullopt;
+  return negative ? -value : value;
+}
+
+}  // namespace
+
+std::optional<Decimal> ToDecimal(double value) {
+  if (!std::isfinite(value)) return std::nullopt;
+  const double magnitude = std::abs(value);
+  if (magnitude == 0) return Decimal{};
+  const bool in_range = magnitude >= 0x1p-23 && magnitude < 1e15;
+  Decimal decimal = in_range ? ToDecimalInRange(magnitude) : ToDecimalOutOfRange(magnitude);
+  decimal.negative = value < 0;
+  return decimal;
+}
+
+Decimal RoundDecimals(Decimal number, int decimals) {
+  const int drop = -number.exponent - decimals;
+  if (drop <= 0) return number;
+  if (drop > kSignificantDigits + 1) return {};
+  const std::uint64_t unit = PowerOfTen(drop);
+  return {number.negative, (number.digits + unit / 2) / unit, -decimals};
+}
+
+Decimal CutDecimals(Decimal number, int decimals) {
+  const int drop = -number.exponent - decimals;
+  if (drop <= 0) return number;
+  if (drop > kSignificantDigits + 1) return {};
+  return {number.negative, number.digits / PowerOfTen(drop), -decimals};
+}
+
+double ToDouble(Decimal number) {
+  if (number.digits == 0) return 0;
+  double value = 0;
+  if (IsExact(number.digits, number.exponent)) {
+    value = ScaleExact(number.digits, number.exponent);
+  } else {
+    const std::string text =
+        std::to_string(number.digits).append("e").append(std::to_string(number.exponent));
+    value = ReadExactly(text, number.exponent);
+  }
+  return number.negative ? -value : value;
+}
+
+DecimalDigits::DecimalDigits(Decimal number) {
+  const auto end = std::to_chars(digits_.data(), digits_.data() + digits_.size(), number.digits);
+  count_ = static_cast<int>(end.ptr - digits_.data());
+  top_ = count_ - 1 + number.exponent;
+}
+
+int DecimalDigits::WholeCount() const {
+  return std::max(top_, 0) + 1;
+}
+
+Text FormatDecimal(Decimal number, int decimals, Grouping grouping) {
+  const Decimal rounded = RoundDecimals(number, decimals);
+  const DecimalDigits digits(rounded);
+  const int whole = digits.WholeCount();
+  Text text;
+  text.reserve(static_cast<std::size_t>(whole + whole / 3 + decimals + 2));
+  if (rounded.negative && rounded.digits != 0) text.push_back(u'-');
+  for (int power = whole - 1; power >= 0; --power) {
+    text.push_back(static_cast<char16_t>(u'0' + digits.At(power)));
+    const bool group_ends = power > 0 && power % 3 == 0;
+    if (group_ends && grouping == Grouping::kThousands) text.push_back(u',');
+  }
+  if (decimals > 0) text.push_back(u'.');
+  for (int power = -1; power >= -decimals; --power) {
+    text.push_back(static_cast<char16_t>(u'0' + digits.At(power)));
+  }
+  return text;
+}
+
+Text ShortestText(Decimal number) {
+  if (number.digits == 0) return u"0";
+  while (number.digits % 10 == 0) {
+    number.digits /= 10;
+    ++number.exponent;
+  }
+  const DecimalDigits digits(number);
+  const int last_power = number.exponent;
+  int top = last_power;
+  for (std::uint64_t rest = number.digits / 10; rest > 0; rest /= 10) ++top;
+  if (top >= -4 && top < kSignificantDigits) {
+    return FormatDecimal(number, std::max(0, -last_power), Grouping::kNone);
+  }
+  number.exponent -= top;
+  Text text = FormatDecimal(number, top - last_power, Grouping::kNone);
+  text.append(top < 0 ? u"E-" : u"E+");
+  if (std::abs(top) < 10) text.push_back(u'0');
+  for (const char c : std::to_string(std::abs(top))) text.push_back(static_cast<char16_t>(c));
+  return text;
+}
+
+std::optional<double> ReadLeadingNumber(TextView text) {
+  text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
+  return ReadNumber(Characters<IsNothing>(text));
+}
+
+std::optional<double> ReadTypedNumber(TextView text) {
+  return ReadNumber(Characters<IsNumberMark>(text));
+}
+
+template <typename Integer>
+std::optional<Integer> RoundToInteger(double value) {
+  const double whole = std::nearbyint(value);
+  if (!(whole >= std::numeric_limits<Integer>::min() &&
+        whole <= std::numeric_limits<Integer>::max())) {
+    return std::nullopt;
+  }
+  return static_cast<Integer>(whole);
+}
+
+template std::optional<std::int16_t> RoundToInteger(double value);
+template std::optional<std::int32_t> RoundToInteger(double value);
+
+}  // namespace ZQ7Standard

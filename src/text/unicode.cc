@@ -1,0 +1,110 @@
+#include "text/unicode.h"
+
+#include <array>
+#include <cstddef>
+
+namespace ZQ7Standard {
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+constexpr bool IsHighSurrogate(char32_t c) {
+  return c >= 0xD800 && c <= 0xDBFF;
+}
+constexpr bool IsLowSurrogate(char32_t c) {
+  return c >= 0xDC00 && c <= 0xDFFF;
+}
+
+void AppendUtf8(std::string& bytes, char32_t c) {
+  const auto tail = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
+  if (c < 0x80) {
+    bytes.push_back(static_cast<char>(c));
+  } else if (c < 0x800) {
+    bytes.append({static_cast<char>(0xC0 | (c >> 6)), tail(0)});
+  } else if (c < 0x10000) {
+    bytes.append({static_cast<char>(0xE0 | (c >> 12)), tail(6), tail(0)});
+  } else {
+    bytes.append({static_cast<char>(0xF0 | (c >> 18)), tail(12), tail(6), tail(0)});
+  }
+}
+
+void AppendUtf16(Text& text, char32_t c) {
+  if (c < 0x10000) {
+    text.push_back(static_cast<char16_t>(c));
+  } else {
+    text.push_back(static_cast<char16_t>(0xD7C0 + (c >> 10)));
+    text.push_back(static_cast<char16_t>(0xDC00 + (c & 0x3FF)));
+  }
+}
+
+/// How a sequence of UTF-8 begins: the bits of the first byte, its length, and
+/// the smallest character that needs that length.
+struct Lead {
+  unsigned char mask;
+  unsigned char bits;
+  std::size_t length;
+  char32_t smallest;
+};
+
+constexpr std::array<Lead, 4> kLeads = {{
+    {0x80, 0x00, 1, 0},
+    {0xE0, 0xC0, 2, 0x80},
+    {0xF0, 0xE0, 3, 0x800},
+    {0xF8, 0xF0, 4, 0x10000},
+}};
+
+/// The character of the well-formed sequence at the front of `bytes`, whose
+/// length goes to `length`; U+FFFD and length 1 when there is none.
+char32_t DecodeFront(std::string_view bytes, std::size_t& length) {
+  length = 1;
+  const auto first = static_cast<unsigned char>(bytes.front());
+  for (const Lead& lead : kLeads) {
+    if ((first & lead.mask) != lead.bits) continue;
+    if (bytes.size() < lead.length) return kReplacement;
+    char32_t c = first & static_cast<unsigned char>(~lead.mask);
+    for (std::size_t i = 1; i < lead.length; ++i) {
+      const auto tail = static_cast<unsigned char>(bytes[i]);
+      if ((tail & 0xC0) != 0x80) return kReplacement;
+      c = (c << 6) | (tail & 0x3FU);
+    }
+    const bool surrogate = IsHighSurrogate(c) || IsLowSurrogate(c);
+    if (c < lead.smallest || c > 0x10FFFF || surrogate) return kReplacement;
+    length = lead.length;
+    return c;
+  }
+  return kReplacement;
+}
+
+}  // namespace
+
+std::string Utf8(TextView text) {
+  std::string bytes;
+  bytes.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    char32_t c = text[i];
+    if (IsHighSurrogate(c) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+      c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00U);
+    } else if (IsHighSurrogate(c) || IsLowSurrogate(c)) {
+      c = kReplacement;
+    }
+    AppendUtf8(bytes, c);
+  }
+  return bytes;
+}
+
+Text FromUtf8(std::string_view bytes) {
+  Text text;
+  text.reserve(bytes.size());
+  while (!bytes.empty()) {
+    std::size_t length = 0;
+    AppendUtf16(text, DecodeFront(bytes, length));
+    bytes.remove_prefix(length);
+  }
+  return text;
+}
+
+std::string Quoted(TextView text) {
+  return '"' + Utf8(text) + '"';
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,37 @@
+#ifndef ZQ7STANDARD_TESTS_SUPPORT_FAKES_H_
+#define ZQ7STANDARD_TESTS_SUPPORT_FAKES_H_
+
+#include <ZQ7Standard/StandardObject.h>
+
+#include <array>
+#include <functional>
+#include <ostream>
+
+namespace ZQ7Standard {
+
+inline constexpr DateConvention kMonthFirst{FieldOrder::kMonthFirst, Era::kGregorian};
+inline constexpr DateConvention kDayFirst{FieldOrder::kDayFirst, Era::kGregorian};
+inline constexpr DateConvention kMonthFirstBuddhist{FieldOrder::kMonthFirst, Era::kBuddhist};
+inline constexpr DateConvention kDayFirstBuddhist{FieldOrder::kDayFirst, Era::kBuddhist};
+inline constexpr std::array kConventions = {kMonthFirst, kDayFirst, kMonthFirstBuddhist,
+                                            kDayFirstBuddhist};
+
+/// The moment that the tests run at: Monday 2024-01-15 09:30.
+OleDate TestNow();
+
+/// An object on a machine with that convention and clock.
+StandardObject ObjectWith(DateConvention convention, OleDate now = TestNow());
+
+/// The run-time error number that `call` raises; 0 when it raises none.
+int ErrorOf(const std::function<void()>& call);
+
+/// "2024-01-15", or "2024-01-15 09:30:00" for a date with a time of day.
+std::string IsoText(OleDate date);
+
+// How values print in a failure.
+void PrintTo(OleDate date, std::ostream* stream);
+void PrintTo(Currency amount, std::ostream* stream);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_TESTS_SUPPORT_FAKES_H_
