@@ -64,8 +64,8 @@ enum ZQ7FixUnit : std::int32_t {
 /// What a `StandardObject` needs of the machine. A service left empty is the
 /// machine's own.
 struct StandardServices {
-  std::shared_ptr<Clock> clock;
-  std::shared_ptr<DateConventionSource> date_convention;
+  std::shared_ptr<Clock> clock = nullptr;
+  std::shared_ptr<DateConventionSource> date_convention = nullptr;
 };
 
 /// Dates in both calendars, payment terms, rounding and number text.
@@ -249,8 +249,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
   ///
   /// A blank date gives the empty text. The year of another date is Buddhist
   /// already when it is 2400 or more: BBBB shows it as it stands, YYYY shows it
-  /// less 543. The sentinel years show as `Year2000` gives them. Years have at
-  /// least four digits.
+  /// less 543. The sentinel years 3333 and 8888 show as they stand in both. Years
+  /// have at least four digits.
   Text FormatTDate2(OleDate InDate, CTDateType DateType, bool ZeroLeader = false) const;
 
   /// The time of day of `InDate` as "HH:MM".

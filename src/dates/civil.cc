@@ -28,27 +28,7 @@ int DateSerialYear(int year) {
   return year < 30 ? 2000 + year : 1900 + year;
 }
 
-constexpr int kFirstBuddhistYear = 2400;
-
-/// The year that a sentinel date shows; 2247 and 1704 are 3333 after one and
-/// two conversions down by an era.
-std::optional<int> SentinelYear(int year) {
-  if (year == 3333 || year == 2247 || year == 1704) return 3333;
-  if (year == 8888) return 8888;
-  return std::nullopt;
-}
-
 }  // namespace
-
-int YearInSystemEra(int year, Era system_era) {
-  if (const auto sentinel = SentinelYear(year)) return *sentinel;
-  return year < kFirstBuddhistYear ? year + EraDifference(system_era) : year;
-}
-
-int YearInGregorianEra(int year) {
-  if (const auto sentinel = SentinelYear(year)) return *sentinel;
-  return year < kFirstBuddhistYear ? year : year - kBuddhistOffset;
-}
 
 year_month_day YearMonthDay(OleDate date) {
   return year_month_day(date.Civil());

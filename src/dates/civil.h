@@ -13,18 +13,14 @@ namespace ZQ7Standard {
 /// A Buddhist Era year less the Gregorian year.
 inline constexpr int kBuddhistOffset = 543;
 
+/// A date whose own year is this or later is taken to carry a Buddhist year
+/// already, so that no year is shifted twice.
+inline constexpr int kFirstBuddhistYear = 2400;
+
 /// The system's year less the Gregorian year.
 constexpr int EraDifference(Era era) {
   return era == Era::kBuddhist ? kBuddhistOffset : 0;
 }
-
-/// The year that a date whose own year is `year` shows on a system of that era.
-/// A year of 2400 or more is taken to be Buddhist already and stays; the years
-/// of blank dates show as 3333 and 8888.
-int YearInSystemEra(int year, Era system_era);
-
-/// The Gregorian year that such a date shows: one of 2400 or more less 543.
-int YearInGregorianEra(int year);
 
 /// The calendar day of `date`.
 std::chrono::year_month_day YearMonthDay(OleDate date);

@@ -19,12 +19,23 @@ constexpr std::array<TextView, 16> kLayouts = {
     u"",      u"m/d/y", u"d/m/y", u"m/d/b", u"d/m/b",  u"y/m/d", u"b/m/d", u"d t b",
     u"d T b", u"d n y", u"d N y", u"y-M-D", u"N d, y", u"N y",   u"DMy",   u"DMb"};
 
+/// The years that a date shows in the two eras.
+struct Years {
+  int gregorian;
+  int buddhist;
+};
+
+Years YearsOf(int year) {
+  if (year == 3333 || year == 8888) return {year, year};  // of the sentinel dates
+  if (year < kFirstBuddhistYear) return {year, year + kBuddhistOffset};
+  return {year - kBuddhistOffset, year};
+}
+
 /// What a layout shows of a date.
 struct Parts {
   int day;
   int month;
-  int gregorian_year;
-  int buddhist_year;
+  Years years;
   int width;  // of day and month, in digits
 };
 
@@ -53,9 +64,9 @@ void AppendPart(Text& text, char16_t letter, const Parts& parts) {
       text.append(kThaiMonths[month]);
       return;
     case u'y':  // the Gregorian year
-      return AppendNumber(text, parts.gregorian_year, 4);
+      return AppendNumber(text, parts.years.gregorian, 4);
     case u'b':  // the Buddhist year
-      return AppendNumber(text, parts.buddhist_year, 4);
+      return AppendNumber(text, parts.years.buddhist, 4);
     default:
       text.push_back(letter);
   }
@@ -79,11 +90,9 @@ Text StandardObject::FormatTDate2(OleDate InDate, CTDateType DateType, bool Zero
   const bool named = DateType > ZQ7Detect && DateType <= ZQ7D_D_M_M_B_B_B_B;
   const auto layout = static_cast<std::size_t>(named ? std::int32_t{DateType} : GetDateFormat());
   const auto civil = YearMonthDay(InDate);
-  const int year = static_cast<int>(civil.year());
   const Parts parts = {static_cast<int>(static_cast<unsigned>(civil.day())),
                        static_cast<int>(static_cast<unsigned>(civil.month())),
-                       YearInGregorianEra(year), YearInSystemEra(year, Era::kBuddhist),
-                       ZeroLeader ? 2 : 1};
+                       YearsOf(static_cast<int>(civil.year())), ZeroLeader ? 2 : 1};
   Text text;
   text.reserve(20);
   for (const char16_t letter : kLayouts[layout]) AppendPart(text, letter, parts);

@@ -75,10 +75,10 @@ Decimal ToDecimalInRange(double magnitude) {
   const double fraction = std::frexp(magnitude, &binary_exponent);
   const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
   const int shift = 53 - binary_exponent;
-  // 1233 / 4096 is log10(2); the estimate is right or one too high.
+  // 1233 / 4096 is log10(2); the power is right or one too high.
   int power = kSignificantDigits - 1 - (((binary_exponent - 1) * 1233) >> 12);
   std::uint64_t digits = Scale(mantissa, shift, power);
-  if (digits >= kDigitsLimit) digits = Scale(mantissa, shift, --power);
+  if (digits > kDigitsLimit) digits = Scale(mantissa, shift, --power);
   return {false, digits, -power};
 }
 

@@ -6,7 +6,9 @@
 
 namespace ZQ7Standard {
 
-OleDate TestNow() { return OleDate::FromParts(2024, 1, 15, 9, 30); }
+OleDate TestNow() {
+  return OleDate::FromParts(2024, 1, 15, 9, 30);
+}
 
 StandardObject ObjectWith(DateConvention convention, OleDate now) {
   return StandardObject(
@@ -33,8 +35,12 @@ std::string IsoText(OleDate date) {
   return result;
 }
 
-void PrintTo(OleDate date, std::ostream* stream) { *stream << IsoText(date); }
+void PrintTo(OleDate date, std::ostream* stream) {
+  *stream << IsoText(date);
+}
 
-void PrintTo(Currency amount, std::ostream* stream) { *stream << Utf8(amount.ToText()); }
+void PrintTo(Currency amount, std::ostream* stream) {
+  *stream << Utf8(amount.ToText());
+}
 
 }  // namespace ZQ7Standard

@@ -6,6 +6,9 @@
 namespace ZQ7Standard {
 namespace {
 
+// Languages that write Buddhist years, the day first.
+constexpr std::array kBuddhistLanguages = std::to_array<std::string_view>({"lo", "th"});
+
 // Territories that write the month first, in any language.
 constexpr std::array kMonthFirstTerritories = std::to_array<std::string_view>(
     {"AS", "FM", "GU", "MH", "MP", "PH", "PR", "PW", "UM", "US", "VI"});
@@ -32,7 +35,7 @@ DateConvention ConventionByName(std::string_view locale) {
   const std::string_view language = pair.substr(0, underscore);
   const std::string_view territory = pair.substr(std::min(underscore + 1, pair.size()));
   if (language == "C" || language == "POSIX" || language.empty()) return {};
-  if (language == "th") return {FieldOrder::kDayFirst, Era::kBuddhist};
+  if (Holds(kBuddhistLanguages, language)) return {FieldOrder::kDayFirst, Era::kBuddhist};
   const bool month_first = Holds(kMonthFirstTerritories, territory) ||
                            Holds(kMonthFirstLanguages, language) || Holds(kMonthFirstPairs, pair);
   return {month_first ? FieldOrder::kMonthFirst : FieldOrder::kDayFirst, Era::kGregorian};

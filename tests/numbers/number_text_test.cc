@@ -1,0 +1,184 @@
+#include "numbers/number_text.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <string>
+
+namespace ZQ7Standard {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+std::string Format(double value, int decimals, Grouping grouping = Grouping::kThousands) {
+  return Utf8(FormatDecimal(*ToDecimal(value), decimals, grouping));
+}
+
+/// `number`, which has more decimals, rounded half up as at school.
+std::string SchoolRound(std::string number, int decimals) {
+  const std::size_t keep = number.find('.') + 1 + static_cast<std::size_t>(decimals);
+  const bool up = number[keep] >= '5';
+  number.resize(keep);
+  for (std::size_t i = number.size(); up && i-- > 0;) {
+    if (number[i] == '.') continue;
+    number[i] = number[i] == '9' ? '0' : static_cast<char>(number[i] + 1);
+    if (number[i] != '0') return number;
+    if (i == 0) number.insert(0, "1");
+  }
+  return number;
+}
+
+/// What FormatDecimal must write of a value from 2^-23 to 10^15, by arithmetic on
+/// all the decimals that the double has.
+std::string SchoolFormat(double value, int decimals) {
+  char buffer[128];
+  const auto end =
+      std::to_chars(buffer, buffer + sizeof buffer, std::abs(value), std::chars_format::fixed, 80);
+  std::string exact(buffer, end.ptr);
+  const auto point = static_cast<int>(exact.find('.'));
+  const auto first = static_cast<int>(exact.find_first_not_of("0."));
+  exact = SchoolRound(exact, first < point ? 15 - point : 15 + first - point - 1);
+  exact.append(20, '0');
+  exact = SchoolRound(exact, decimals);
+  if (decimals == 0) exact.pop_back();
+  const bool zero = exact.find_first_not_of("0.") == std::string::npos;
+  return value < 0 && !zero ? "-" + exact : exact;
+}
+
+TEST(FormatDecimalBreadth, AgreesWithExactArithmetic) {
+  std::mt19937_64 random(20240115);
+  std::uniform_int_distribution<std::int64_t> digits(-999'999'999'999'999, 999'999'999'999'999);
+  std::uniform_int_distribution<int> scale(0, 15);
+  std::uniform_real_distribution<double> exponent(-22, 49.8);
+  for (int i = 0; i < 1'000'000; ++i) {
+    double value = 0;
+    if (i % 4 == 0) {  // any bits
+      value = std::exp2(exponent(random)) * (i % 8 == 0 ? 1 : -1);
+    } else if (i % 4 == 1) {  // halves, quarters, eighths: exact ties
+      value = static_cast<double>(digits(random) >> 16) / static_cast<double>(1 << i % 8);
+    } else {  // decimal texts, half of them ties at the decimal rounded to
+      const std::int64_t n = digits(random);
+      value = static_cast<double>(i % 4 == 2 ? n : n / 10 * 10 + 5) / std::pow(10, scale(random));
+    }
+    if (std::abs(value) < 0x1p-23) continue;
+    const int decimals = i % 7;
+    ASSERT_EQ(Format(value, decimals, Grouping::kNone), SchoolFormat(value, decimals))
+        << std::hexfloat << value;
+  }
+}
+
+TEST(FormatDecimalBreadth, PowersOfTwoAndTenAndTheirNeighbours) {
+  for (int power = -22; power < 50; ++power) {
+    for (const double base : {std::ldexp(1, power), std::pow(10, power * 15 / 50)}) {
+      for (const double value : {base, std::nextafter(base, 0), std::nextafter(base, kInfinity)}) {
+        ASSERT_EQ(Format(value, 20, Grouping::kNone), SchoolFormat(value, 20)) << power;
+      }
+    }
+  }
+}
+
+TEST(FormatDecimal, WritesWhatTheBreadthLeavesOut) {
+  struct Case {
+    const char* reason;
+    double value;
+    int decimals;
+    const char* expected;
+  };
+  const Case cases[] = {
+      {"zero", 0, 2, "0.00"},
+      {"negative zero", -0.0, 2, "0.00"},
+      {"rounds to zero, no sign", -0.004, 2, "0.00"},
+      {"half away from zero, below", -2.345, 2, "-2.35"},
+      {"double below the tie", 1.005, 2, "1.01"},
+      {"groups", 1234567.891, 2, "1,234,567.89"},
+      {"no group mark in front", -123456, 0, "-123,456"},
+      {"carry into a new group", 999999.999, 2, "1,000,000.00"},
+      {"tie at the 16th digit", 1000000000000005, 0, "1,000,000,000,000,010"},
+      {"beyond 15 digits", 12345678901234567890.0, 1, "12,345,678,901,234,600,000.0"},
+      {"smallest of all", 5e-324, 2, "0.00"},
+      {"small", 1.5e-9, 10, "0.0000000015"},
+      {"tie at the 16th digit, small", 0x1p-22, 21, "0.000000238418579101563"},
+      {"16 places dropped", 9.9e-3, 0, "0"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Format(c.value, c.decimals), c.expected) << c.reason;
+  EXPECT_EQ(Format(1e300, 0, Grouping::kNone), "1" + std::string(300, '0'));
+  for (const double value : {kInfinity, -kInfinity, std::nan("")}) EXPECT_FALSE(ToDecimal(value));
+}
+
+TEST(ShortestText, ChoosesBetweenDigitsAndExponent) {
+  const std::pair<double, const char*> cases[] = {
+      {0, "0"},
+      {100, "100"},
+      {-1234.5, "-1234.5"},
+      {0.1 + 0.2, "0.3"},
+      {0.0001, "0.0001"},
+      {0.00001, "1E-05"},
+      {1e14, "100000000000000"},
+      {1e15, "1E+15"},
+      {-1.5e20, "-1.5E+20"},
+      {1.23456789012345678e300, "1.23456789012346E+300"},
+      {999999999999999.9, "1E+15"},
+  };
+  for (const auto& [value, expected] : cases) {
+    EXPECT_EQ(Utf8(ShortestText(*ToDecimal(value))), expected);
+  }
+}
+
+TEST(ReadLeadingNumber, TakesTheLongestNumberInFront) {
+  const std::pair<const char16_t*, double> cases[] = {
+      {u"", 0},
+      {u"  12", 12},
+      {u"12 34", 12},
+      {u"1,234", 1},
+      {u"-5", -5},
+      {u"+5", 5},
+      {u"--5", 0},
+      {u"1.5.5", 1.5},
+      {u".5", 0.5},
+      {u".", 0},
+      {u"5.", 5},
+      {u"1E3", 1000},
+      {u"1d-2x", 0.01},
+      {u"1E", 1},
+      {u"1E+", 1},
+      {u"E5", 0},
+      {u"0x10", 0},
+      {u"inf", 0},
+      {u"nan", 0},
+      {u"1e-400", 0},
+      {u"1e-99999999999", 0},
+      {u"0e99999999999", 0},
+      {u"1e22", 1e22},
+      {u"1e23", 1e23},
+      {u"9007199254740993", 9007199254740992.0},
+      {u"12345678901234567890", 12345678901234567890.0},
+      {u"0.000000000000000000000000000001", 1e-30},
+      {u"2.2250738585072011e-308", 2.2250738585072011e-308},
+  };
+  for (const auto& [text, expected] : cases)
+    EXPECT_EQ(ReadLeadingNumber(text), expected) << Utf8(text);
+  EXPECT_FALSE(ReadLeadingNumber(u"1e309"));
+  EXPECT_FALSE(ReadLeadingNumber(Text(400, u'9')));
+  EXPECT_EQ(ReadLeadingNumber(Text(400, u'0') + u"1e-400"), 0);
+  EXPECT_FALSE(std::signbit(*ReadLeadingNumber(u"-0")));
+}
+
+TEST(ReadNumberBreadth, ReadsBackWhatIsWritten) {
+  std::mt19937_64 random(7);
+  for (int i = 0; i < 100'000; ++i) {
+    const double value = std::bit_cast<double>(random());
+    if (!std::isfinite(value)) continue;
+    char text[32];
+    const auto end = std::to_chars(text, text + sizeof text, value);
+    ASSERT_EQ(ReadLeadingNumber(FromUtf8({text, end.ptr})), value);
+    const Decimal decimal = *ToDecimal(value);
+    ASSERT_EQ(ToDouble(decimal), *ReadLeadingNumber(ShortestText(decimal))) << value;
+  }
+}
+
+}  // namespace
+}  // namespace ZQ7Standard
