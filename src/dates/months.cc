@@ -14,7 +14,6 @@ namespace ZQ7Standard {
 namespace {
 
 constexpr int kMonthsPerYear = 12;
-constexpr int kLongestMonth = 31;
 
 /// The month after `date`, or before it when `step` is -1, as the system reads
 /// "Mon/day/year": on the same day, or on the last one that the month has.

@@ -1,0 +1,24 @@
+#ifndef ZQ7STANDARD_TESTS_FUZZ_CHECK_H_
+#define ZQ7STANDARD_TESTS_FUZZ_CHECK_H_
+
+#include <ZQ7Standard/Types.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+namespace ZQ7Standard {
+
+/// Ends the run, which makes libFuzzer keep the input.
+inline void Check(bool holds) {
+  if (!holds) std::abort();
+}
+
+/// The fuzzer's bytes as UTF-8, so that names and Thai letters are in reach.
+inline Text FuzzText(const std::uint8_t* data, std::size_t size) {
+  return FromUtf8(std::string(data, data + size));
+}
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_TESTS_FUZZ_CHECK_H_
