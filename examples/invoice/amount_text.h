@@ -1,0 +1,18 @@
+#ifndef EXAMPLES_INVOICE_AMOUNT_TEXT_H_
+#define EXAMPLES_INVOICE_AMOUNT_TEXT_H_
+
+#include <ZQ7Standard/StandardObject.h>
+#include <ZQ7Standard/Types.h>
+
+namespace InvoiceDemo {
+
+/// Puts "," between the thousands of a decimal number: "-1234.5" gives
+/// "-1,234.5".
+ZQ7Standard::Text GroupThousands(ZQ7Standard::Text number);
+
+/// Writes an amount that is rounded to satang already: "1,234.50".
+ZQ7Standard::Text FormatAmount(const ZQ7Standard::StandardObject& standard, double amount);
+
+}  // namespace InvoiceDemo
+
+#endif  // EXAMPLES_INVOICE_AMOUNT_TEXT_H_

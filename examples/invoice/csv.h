@@ -1,0 +1,29 @@
+#ifndef EXAMPLES_INVOICE_CSV_H_
+#define EXAMPLES_INVOICE_CSV_H_
+
+#include <ZQ7Standard/Types.h>
+
+#include <string>
+#include <vector>
+
+namespace InvoiceDemo {
+
+/// One row of a table of comma-separated fields.
+struct CsvRow {
+  int line = 0;                           ///< the line of the file it begins on, from 1
+  std::vector<ZQ7Standard::Text> fields;  ///< empty when the row has a mistake
+  std::string mistake;                    ///< why the row could not be read, else empty
+};
+
+/// Reads rows as spreadsheets write them (RFC 4180), ended by LF or CR LF. A
+/// field in quotes may hold commas, line breaks and doubled quotes. Blanks
+/// around a field do not count, rows without any text are left out, and so is
+/// a byte-order mark at the front.
+///
+/// A row whose quotes do not pair up has a mistake; the next one begins on the
+/// next line, so that a forgotten quote costs no more than its own line.
+std::vector<CsvRow> ReadCsv(ZQ7Standard::TextView text);
+
+}  // namespace InvoiceDemo
+
+#endif  // EXAMPLES_INVOICE_CSV_H_

@@ -1,0 +1,160 @@
+#include "invoice.h"
+
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <limits>
+
+#include "amount_text.h"
+#include "terminal_text.h"
+
+namespace InvoiceDemo {
+namespace {
+
+using ZQ7Standard::Currency;
+using ZQ7Standard::OleDate;
+using ZQ7Standard::RunTimeError;
+using ZQ7Standard::StandardObject;
+using ZQ7Standard::Text;
+using ZQ7Standard::TextView;
+using ZQ7Standard::Utf8;
+using ZQ7Standard::ZQ7ConditionType;
+
+enum Column : std::size_t {
+  kNumber,
+  kCustomer,
+  kDate,
+  kConditionType,
+  kDeliveryDays,
+  kNetDays,
+  kDiscountPercent,
+  kDiscountDays,
+  kAmount,
+  kColumnCount,
+};
+
+constexpr std::array<const char*, kColumnCount> kColumnNames = {
+    "number",   "customer",         "date",          "condition type", "delivery days",
+    "net days", "discount percent", "discount days", "amount"};
+
+constexpr double kLastConditionType = ZQ7Standard::ZQ7AfterEndOfSPTMonth;
+constexpr double kMostDays = std::numeric_limits<std::int16_t>::max();
+constexpr double kFullPercent = 100;
+constexpr double kLargestAmount = 9999999999999.99;  // the largest that has words
+
+constexpr int kOverflow = 6;  // the run-time error of a number too large for its type
+
+enum class Digits { kWhole, kDecimal };
+
+/// The fields of one row and the checks that they must pass.
+class RowReader {
+ public:
+  RowReader(const StandardObject& standard, const std::vector<Text>& fields)
+      : standard_(standard), fields_(fields) {}
+
+  Text ReadText(Column column) const;
+  OleDate ReadDate(Column column) const;
+  double ReadNumber(Column column, Digits digits, double largest) const;
+  std::int16_t ReadDays(Column column) const;
+
+ private:
+  [[noreturn]] void Fail(Column column, const std::string& reason) const;
+  bool HasDateDigits(TextView text) const;
+
+  const StandardObject& standard_;
+  const std::vector<Text>& fields_;
+};
+
+void RowReader::Fail(Column column, const std::string& reason) const {
+  throw FieldError(kColumnNames[column], '"' + Utf8(OneLine(fields_[column])) + "\" " + reason);
+}
+
+Text RowReader::ReadText(Column column) const {
+  const Text& text = fields_[column];
+  if (text.empty()) Fail(column, "is empty");
+  if (text.find(u'\uFFFD') != Text::npos) Fail(column, "is not in UTF-8");
+  return text;
+}
+
+/// Whether each field between "/" is digits alone, with blanks around them at
+/// most: the date reader itself passes over what follows a number.
+bool RowReader::HasDateDigits(TextView text) const {
+  while (!text.empty()) {
+    const TextView field = text.substr(0, text.find(u'/'));
+    text.remove_prefix(std::min(field.size() + 1, text.size()));
+    if (field.find(standard_.Numb(field)) == TextView::npos) return false;
+    if (field.find_first_not_of(u" 0123456789") != TextView::npos) return false;
+  }
+  return true;
+}
+
+OleDate RowReader::ReadDate(Column column) const {
+  const Text& text = fields_[column];
+  if (!HasDateDigits(text) || !standard_.IsTDate(text)) {
+    const Text layout = standard_.GetDateFormatString(standard_.GetDateFormat());
+    const std::string era = standard_.GetEraDif() == 0 ? "Gregorian" : "Buddhist";
+    Fail(column, "is no date (" + Utf8(layout) + ", " + era + " year of four digits)");
+  }
+  const OleDate date = standard_.CTDATE(text);
+  // The dates that stand for no date, and those too far ahead, print otherwise.
+  const int typed_year = date.Year() + standard_.GetEraDif();
+  if (standard_.isBlankDate(date) || standard_.Year2000(date) != typed_year) {
+    Fail(column, "is not the date of an invoice");
+  }
+  return date;
+}
+
+double RowReader::ReadNumber(Column column, Digits digits, double largest) const {
+  const std::string out_of_range = "is not from 0 to " + Utf8(standard_.d2Str(largest));
+  const Text& text = fields_[column];
+  Text plain = text;
+  std::erase(plain, u',');
+  try {
+    Currency::FromText(plain);
+  } catch (const RunTimeError& error) {
+    Fail(column, error.Number() == kOverflow ? out_of_range : "is no number");
+  }
+  if (plain != text && GroupThousands(plain) != text) Fail(column, "has a comma out of place");
+  if (digits == Digits::kWhole && plain.find(u'.') != Text::npos) {
+    Fail(column, "is no whole number");
+  }
+  const double value = standard_.StrVal(plain);
+  if (value < 0 || value > largest) Fail(column, out_of_range);
+  return value;
+}
+
+std::int16_t RowReader::ReadDays(Column column) const {
+  return static_cast<std::int16_t>(ReadNumber(column, Digits::kWhole, kMostDays));
+}
+
+}  // namespace
+
+bool IsHeader(const StandardObject& standard, const std::vector<Text>& fields) {
+  return fields.size() > kDate && standard.Numb(fields[kDate]).empty();
+}
+
+Invoice ReadInvoice(const StandardObject& standard, const std::vector<Text>& fields) {
+  if (fields.size() != kColumnCount) {
+    throw FieldError("row", "has " + std::to_string(fields.size()) + " fields instead of " +
+                                std::to_string(kColumnCount));
+  }
+  const RowReader row(standard, fields);
+  return {
+      .number = row.ReadText(kNumber),
+      .customer = row.ReadText(kCustomer),
+      .date = row.ReadDate(kDate),
+      .condition_type = static_cast<ZQ7ConditionType>(
+          row.ReadNumber(kConditionType, Digits::kWhole, kLastConditionType)),
+      .delivery_days = row.ReadDays(kDeliveryDays),
+      .net_days = row.ReadDays(kNetDays),
+      .discount_percent =
+          static_cast<float>(row.ReadNumber(kDiscountPercent, Digits::kDecimal, kFullPercent)),
+      .discount_days = row.ReadDays(kDiscountDays),
+      // The words and the figures are both made from this one rounded amount.
+      .amount = standard.FixNumber(row.ReadNumber(kAmount, Digits::kDecimal, kLargestAmount), 2),
+  };
+}
+
+}  // namespace InvoiceDemo

@@ -1,0 +1,64 @@
+#include "terminal_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace InvoiceDemo {
+namespace {
+
+using ZQ7Standard::Text;
+using ZQ7Standard::TextView;
+
+struct CharacterRange {
+  char16_t first;
+  char16_t last;
+};
+
+// Thai vowels, tone marks and signs that stand above or below a letter.
+constexpr std::array<CharacterRange, 3> kThaiMarks = {{
+    {0x0E31, 0x0E31},
+    {0x0E34, 0x0E3A},
+    {0x0E47, 0x0E4E},
+}};
+
+bool IsThaiMark(char16_t c) {
+  return std::ranges::any_of(
+      kThaiMarks, [c](const CharacterRange& range) { return c >= range.first && c <= range.last; });
+}
+
+std::size_t BlanksTo(int width, TextView text) {
+  return static_cast<std::size_t>(std::max(width - TerminalWidth(text), 0));
+}
+
+bool IsControl(char16_t c) {
+  return c < 0x20 || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029;
+}
+
+}  // namespace
+
+int TerminalWidth(TextView text) {
+  return static_cast<int>(text.size()) - static_cast<int>(std::ranges::count_if(text, IsThaiMark));
+}
+
+Text AlignLeft(TextView text, int width) {
+  return Text(text).append(BlanksTo(width, text), u' ');
+}
+
+Text AlignRight(TextView text, int width) {
+  return Text().append(BlanksTo(width, text), u' ').append(text);
+}
+
+Text OneLine(TextView text) {
+  Text line;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (!IsControl(text[i])) {
+      line += text[i];
+    } else if (i == 0 || !IsControl(text[i - 1])) {
+      line += u' ';
+    }
+  }
+  return line;
+}
+
+}  // namespace InvoiceDemo

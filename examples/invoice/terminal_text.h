@@ -1,0 +1,22 @@
+#ifndef EXAMPLES_INVOICE_TERMINAL_TEXT_H_
+#define EXAMPLES_INVOICE_TERMINAL_TEXT_H_
+
+#include <ZQ7Standard/Types.h>
+
+namespace InvoiceDemo {
+
+/// The columns that Thai or English text takes in a terminal: the vowels and tone
+/// marks above and below a Thai letter take none.
+int TerminalWidth(ZQ7Standard::TextView text);
+
+/// Fills `text` up with blanks to `width` columns, behind it or in front of it.
+ZQ7Standard::Text AlignLeft(ZQ7Standard::TextView text, int width);
+ZQ7Standard::Text AlignRight(ZQ7Standard::TextView text, int width);
+
+/// Puts one blank for each run of line breaks and other control characters, so
+/// that a typed text stays on its line and cannot steer the terminal.
+ZQ7Standard::Text OneLine(ZQ7Standard::TextView text);
+
+}  // namespace InvoiceDemo
+
+#endif  // EXAMPLES_INVOICE_TERMINAL_TEXT_H_
