@@ -1,6 +1,8 @@
 #include "dates/civil.h"
 
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace ZQ7Standard {
 namespace {
@@ -63,9 +65,9 @@ std::optional<OleDate> AddYears(OleDate date, int years) {
 }
 
 int DaysInMonth(int year, int month) {
-  constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  constexpr std::array kDays = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
   const bool leap_day = month == 2 && std::chrono::year(year).is_leap();
-  return kDays[month - 1] + (leap_day ? 1 : 0);
+  return kDays[static_cast<std::size_t>(month - 1)] + (leap_day ? 1 : 0);
 }
 
 std::optional<OleDate> DaysLater(OleDate date, std::int64_t days) {

@@ -15,7 +15,7 @@ using std::chrono::local_days;
 using std::chrono::year_month_day;
 
 constexpr local_days kDayZero{std::chrono::year(1899) / 12 / 30};
-constexpr std::int64_t kMillisecondsPerDay = 24 * 60 * 60 * 1000;
+constexpr std::int64_t kMillisecondsPerDay = 86'400'000;
 
 /// Milliseconds since midnight, never as many as a day has: a moment belongs to
 /// the day of its whole part, however close to the next midnight.

@@ -67,7 +67,7 @@ Period ReadPeriod(TextView text, Era era) {
 }  // namespace
 
 OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*/) const {
-  if (iText.empty()) return OleDate();
+  if (iText.empty()) return {};
   std::array<int, 3> fields = {0, 0, 0};
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {

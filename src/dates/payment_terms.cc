@@ -71,13 +71,14 @@ Enumeration ToEnumeration(float value) {
 OleDate StandardObject::GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionType ConditionType,
                                             std::int16_t NetDay, std::int16_t DeliveryDay) const {
   const Condition* const condition = FindCondition(ConditionType);
-  if (!condition) return OleDate();
+  if (!condition) return {};
   OleDate start = InvoiceDate;
   if (condition->end_of_month) {
     // The year goes in as the month and the month as the year: stored documents
     // were made so, and their due dates must come out again.
     const auto month = static_cast<std::int16_t>(InvoiceDate.Month());
     const auto year = static_cast<std::int16_t>(InvoiceDate.Year());
+    // NOLINTNEXTLINE(readability-suspicious-call-argument)
     start = GETLastDayOfMonthYear(year, month);
   }
   const int days = NetDay + (condition->delivery_days ? DeliveryDay : 0);

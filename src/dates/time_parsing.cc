@@ -80,7 +80,7 @@ OleDate StandardObject::Str2TIME(TextView InTime) const {
   // With seconds the hour and minute are the first four of six digits.
   const Text hour_minute = LastPadded(digits, colons > 1 ? 6 : 4).substr(0, 4);
   const auto number = FourDigits(hour_minute);
-  if (!number) return OleDate();
+  if (!number) return {};
   return OleDate(TimeOfDay((*number + (afternoon ? 1200 : 0)) % 2400).value_or(0));
 }
 

@@ -62,9 +62,9 @@ Text ThaiMoneyWords(double amount, TextView unit, TextView sub_unit) {
   if (!number) return {};
   const DecimalDigits digits(RoundDecimals(*number, 2));
   constexpr std::size_t kLongestDigit = 10;
-  const auto count = static_cast<std::size_t>(digits.WholeCount() + 2);
+  const int count = digits.WholeCount() + 2;
   Text words;
-  words.reserve(count * kLongestDigit + unit.size() + sub_unit.size());
+  words.reserve(static_cast<std::size_t>(count) * kLongestDigit + unit.size() + sub_unit.size());
   DigitSpeaker speaker(words);
   for (int place = digits.WholeCount(); place >= 1; --place) {
     speaker.Speak(digits.At(place - 1), place);
