@@ -14,20 +14,18 @@ struct DateSerialCase {
 };
 
 TEST(DateSerial, CompletesYearsAndCarriesMonthsAndDays) {
+  // clang-format off
   const DateSerialCase cases[] = {
-      {"plain", 2024, 1, 15, "2024-01-15"},
-      {"first year of the window", 0, 3, 3, "2000-03-03"},
+      {"plain", 2024, 1, 15, "2024-01-15"}, {"first year of the window", 0, 3, 3, "2000-03-03"},
       {"last year of 2000-2029", 29, 1, 1, "2029-01-01"},
       {"first year of 1930-1999", 30, 1, 1, "1930-01-01"},
-      {"99 is in the window", 99, 1, 1, "1999-01-01"},
-      {"100 stands", 100, 1, 1, "0100-01-01"},
-      {"month 13", 2012, 13, 1, "2013-01-01"},
-      {"month 0", 2012, 0, 1, "2011-12-01"},
+      {"99 is in the window", 99, 1, 1, "1999-01-01"}, {"100 stands", 100, 1, 1, "0100-01-01"},
+      {"month 13", 2012, 13, 1, "2013-01-01"}, {"month 0", 2012, 0, 1, "2011-12-01"},
       {"month below 0", 2012, -12, 1, "2010-12-01"},
-      {"thousands of months", 3, 2024, 1, "2171-08-01"},
-      {"day 0", 2024, 3, 0, "2024-02-29"},
+      {"thousands of months", 3, 2024, 1, "2171-08-01"}, {"day 0", 2024, 3, 0, "2024-02-29"},
       {"day beyond the month", 2023, 2, 29, "2023-03-01"},
   };
+  // clang-format on
   for (const auto& c : cases) {
     const auto date = DateSerial(c.year, c.month, c.day);
     ASSERT_TRUE(date) << c.reason;

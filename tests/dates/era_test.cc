@@ -12,10 +12,10 @@ TEST(Era, EachConventionHasItsCodeAndEra) {
     DateConvention convention;
     std::int16_t code, difference, this_year;
     const char* layout;
-  } cases[] = {{kMonthFirst, 1, 0, 2024, "m/d/yyyy"},
-               {kDayFirst, 2, 0, 2024, "d/m/yyyy"},
-               {kMonthFirstBuddhist, 3, 543, 2567, "m/d/yyyy"},
-               {kDayFirstBuddhist, 4, 543, 2567, "d/m/yyyy"}};
+  } cases[] = {{kMdy, 1, 0, 2024, "m/d/yyyy"},
+               {kDmy, 2, 0, 2024, "d/m/yyyy"},
+               {kMdyBe, 3, 543, 2567, "m/d/yyyy"},
+               {kDmyBe, 4, 543, 2567, "d/m/yyyy"}};
   for (const auto& c : cases) {
     const StandardObject object = ObjectWith(c.convention);
     EXPECT_EQ(object.GetDateFormat(), c.code);
@@ -29,19 +29,19 @@ TEST(Era, EachConventionHasItsCodeAndEra) {
     EXPECT_EQ(order_probe->Month() == 1, c.code % 2 == 1);
   }
   for (const std::int16_t code : std::initializer_list<std::int16_t>{0, 5, -1}) {
-    EXPECT_EQ(ObjectWith(kDayFirst).GetDateFormatString(code), u"");
+    EXPECT_EQ(ObjectWith(kDmy).GetDateFormatString(code), u"");
   }
 }
 
 TEST(Era, AChangeOfConventionTakesEffectAtOnce) {
   struct Switch final : DateConventionSource {
     DateConvention Current() override { return convention; }
-    DateConvention convention = kDayFirst;
+    DateConvention convention = kDmy;
   };
   const auto source = std::make_shared<Switch>();
   const StandardObject object({.clock = FixedClock(TestNow()), .date_convention = source});
   EXPECT_EQ(IsoText(object.CTDATE(u"1/2/2500")), "2500-02-01");
-  source->convention = kMonthFirstBuddhist;
+  source->convention = kMdyBe;
   EXPECT_EQ(IsoText(object.CTDATE(u"1/2/2500")), "1957-01-02");
 }
 
@@ -53,13 +53,13 @@ TEST(Era, Year2000ShiftsOnce) {
                {3333, 3333, 3333}, {2247, 3333, 3333}, {1704, 3333, 3333}, {8888, 8888, 8888}};
   for (const auto& c : cases) {
     const OleDate date = OleDate::FromParts(c.year, 6, 1);
-    EXPECT_EQ(ObjectWith(kDayFirst).Year2000(date), c.gregorian) << c.year;
-    EXPECT_EQ(ObjectWith(kDayFirstBuddhist).Year2000(date), c.buddhist) << c.year;
+    EXPECT_EQ(ObjectWith(kDmy).Year2000(date), c.gregorian) << c.year;
+    EXPECT_EQ(ObjectWith(kDmyBe).Year2000(date), c.buddhist) << c.year;
   }
 }
 
 TEST(Era, BlankDates) {
-  const StandardObject object = ObjectWith(kDayFirst);
+  const StandardObject object = ObjectWith(kDmy);
   EXPECT_EQ(IsoText(object.GETBlankDate()), "3333-03-03");
   EXPECT_EQ(object.GETMAXDate(), object.GETBlankDate());
   EXPECT_TRUE(object.isBlankDate(OleDate(0)));

@@ -11,27 +11,19 @@ TEST(FormatTDate2, WritesEveryLayout) {
     int layout;
     const char* plain;
     const char* zeros;
+    // clang-format off
   } cases[] = {
-      {0, "5/2/2567", "05/02/2567"},
-      {1, "2/5/2024", "02/05/2024"},
-      {2, "5/2/2024", "05/02/2024"},
-      {3, "2/5/2567", "02/05/2567"},
-      {4, "5/2/2567", "05/02/2567"},
-      {5, "2024/2/5", "2024/02/05"},
-      {6, "2567/2/5", "2567/02/05"},
-      {7, "5 ก.พ. 2567", "05 ก.พ. 2567"},
-      {8, "5 กุมภาพันธ์ 2567", "05 กุมภาพันธ์ 2567"},
-      {9, "5 Feb 2024", "05 Feb 2024"},
-      {10, "5 Febuary 2024", "05 Febuary 2024"},
-      {11, "2024-02-05", "2024-02-05"},
-      {12, "Febuary 5, 2024", "Febuary 05, 2024"},
-      {13, "Febuary 2024", "Febuary 2024"},
-      {14, "0 5 0 2 2 0 2 4", "0 5 0 2 2 0 2 4"},
-      {15, "0 5 0 2 2 5 6 7", "0 5 0 2 2 5 6 7"},
-      {16, "5/2/2567", "05/02/2567"},
-      {-1, "5/2/2567", "05/02/2567"},
+      {0, "5/2/2567", "05/02/2567"}, {1, "2/5/2024", "02/05/2024"}, {2, "5/2/2024", "05/02/2024"},
+      {3, "2/5/2567", "02/05/2567"}, {4, "5/2/2567", "05/02/2567"}, {5, "2024/2/5", "2024/02/05"},
+      {6, "2567/2/5", "2567/02/05"}, {7, "5 ก.พ. 2567", "05 ก.พ. 2567"},
+      {8, "5 กุมภาพันธ์ 2567", "05 กุมภาพันธ์ 2567"}, {9, "5 Feb 2024", "05 Feb 2024"},
+      {10, "5 Febuary 2024", "05 Febuary 2024"}, {11, "2024-02-05", "2024-02-05"},
+      {12, "Febuary 5, 2024", "Febuary 05, 2024"}, {13, "Febuary 2024", "Febuary 2024"},
+      {14, "0 5 0 2 2 0 2 4", "0 5 0 2 2 0 2 4"}, {15, "0 5 0 2 2 5 6 7", "0 5 0 2 2 5 6 7"},
+      {16, "5/2/2567", "05/02/2567"}, {-1, "5/2/2567", "05/02/2567"},
   };
-  const StandardObject object = ObjectWith(kDayFirstBuddhist);
+  // clang-format on
+  const StandardObject object = ObjectWith(kDmyBe);
   const OleDate date = OleDate::FromParts(2024, 2, 5, 12);
   for (const auto& c : cases) {
     const auto layout = static_cast<CTDateType>(c.layout);
@@ -39,7 +31,7 @@ TEST(FormatTDate2, WritesEveryLayout) {
     EXPECT_EQ(Utf8(object.FormatTDate2(date, layout, true)), c.zeros);
   }
   EXPECT_EQ(Utf8(object.MonthYearTextFull(date)), "Febuary 2024");
-  EXPECT_EQ(Utf8(ObjectWith(kMonthFirst).FormatTDate2(date, ZQ7Detect)), "2/5/2024");
+  EXPECT_EQ(Utf8(ObjectWith(kMdy).FormatTDate2(date, ZQ7Detect)), "2/5/2024");
 }
 
 TEST(FormatTDate2, NumbersTheYear) {
@@ -58,7 +50,7 @@ TEST(FormatTDate2, NumbersTheYear) {
       {"sentinel year", 8888, "8888/6/1", "8888/6/1"},
       {"four digits", 100, "0100/6/1", "0643/6/1"},
   };
-  const StandardObject object = ObjectWith(kDayFirst);
+  const StandardObject object = ObjectWith(kDmy);
   for (const auto& c : cases) {
     const OleDate date = OleDate::FromParts(c.year, 6, 1);
     EXPECT_EQ(Utf8(object.FormatTDate2(date, ZQ7YYYYMD)), c.gregorian) << c.reason;
@@ -82,14 +74,14 @@ TEST(FormatTDate2Breadth, WhatIsWrittenReadsBack) {
 }
 
 TEST(FormatTime, WritesHoursAndMinutes) {
-  const StandardObject object = ObjectWith(kDayFirst);
+  const StandardObject object = ObjectWith(kDmy);
   EXPECT_EQ(Utf8(object.FormatTime(OleDate::FromParts(2024, 1, 15, 9, 5, 59))), "09:05");
   EXPECT_EQ(Utf8(object.FormatTime(OleDate(-1.25))), "06:00");
   EXPECT_EQ(Utf8(object.FormatTime(OleDate(9.0 / 24))), "09:00");
 }
 
 TEST(Names, FollowTheirTables) {
-  const StandardObject object = ObjectWith(kDayFirst);
+  const StandardObject object = ObjectWith(kDmy);
   EXPECT_EQ(object.GETMonthTextArray(false, false).size(), 13U);
   EXPECT_EQ(object.GETMonthTextArray(true, true)[0], u"");
   EXPECT_EQ(object.GETDayTextArray(false, true).size(), 8U);

@@ -28,7 +28,7 @@ TEST(Months, AddMonthGoesBySingleSteps) {
   for (const DateConvention convention : kConventions) {
     const StandardObject object = ObjectWith(convention);
     for (const auto& c : cases) {
-      const OleDate start = ObjectWith(kDayFirst).CTDATE(FromUtf8(c.start));
+      const OleDate start = ObjectWith(kDmy).CTDATE(FromUtf8(c.start));
       const OleDate noon(start.Days() < 0 ? start.Days() - 0.5 : start.Days() + 0.5);
       EXPECT_EQ(IsoText(object.AddMonth(noon, c.months)), c.expected) << c.reason;
     }
@@ -42,13 +42,13 @@ TEST(Months, AddMonthGoesBySingleSteps) {
   // The month before January 100 is December of "99", which a Gregorian system
   // completes to 1999 and a Buddhist one, as 642, does not take.
   const OleDate first = OleDate::FromParts(100, 1, 15);
-  EXPECT_EQ(IsoText(ObjectWith(kDayFirst).AddMonth(first, -1)), "1999-12-15");
-  EXPECT_EQ(ErrorOf([&] { ObjectWith(kDayFirstBuddhist).AddMonth(first, -1); }), 5);
+  EXPECT_EQ(IsoText(ObjectWith(kDmy).AddMonth(first, -1)), "1999-12-15");
+  EXPECT_EQ(ErrorOf([&] { ObjectWith(kDmyBe).AddMonth(first, -1); }), 5);
 }
 
 // Every month step of 400 years against the civil calendar.
 TEST(MonthsBreadth, StepsAgreeWithTheCalendar) {
-  for (const DateConvention convention : {kMonthFirst, kDayFirstBuddhist}) {
+  for (const DateConvention convention : {kMdy, kDmyBe}) {
     const StandardObject object = ObjectWith(convention);
     for (OleDate date = OleDate::FromParts(1801, 1, 1); date.Year() < 2201;
          date = date.AddDays(1)) {
@@ -86,9 +86,9 @@ TEST(Months, FirstAndLastDay) {
     EXPECT_EQ(ErrorOf([&] { object.GETFirstDayOfMonthYear(1, 10000); }), 13);
     EXPECT_EQ(ErrorOf([&] { object.GETFirstDayOfMonthYear(1, -600); }), 13);
   }
-  EXPECT_EQ(IsoText(ObjectWith(kDayFirst).GETFirstDayOfMonthYear(1, 24)), "2024-01-01");
-  EXPECT_EQ(ErrorOf([] { ObjectWith(kDayFirst).GETFirstDayOfMonthYear(1, 32767); }), 13);
-  EXPECT_EQ(ErrorOf([] { ObjectWith(kDayFirstBuddhist).GETFirstDayOfMonthYear(1, 32767); }), 6);
+  EXPECT_EQ(IsoText(ObjectWith(kDmy).GETFirstDayOfMonthYear(1, 24)), "2024-01-01");
+  EXPECT_EQ(ErrorOf([] { ObjectWith(kDmy).GETFirstDayOfMonthYear(1, 32767); }), 13);
+  EXPECT_EQ(ErrorOf([] { ObjectWith(kDmyBe).GETFirstDayOfMonthYear(1, 32767); }), 6);
 }
 
 }  // namespace

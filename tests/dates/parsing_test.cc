@@ -23,36 +23,36 @@ struct TypedDate {
 
 TEST(TypedDates, CTDATEReadsAndIsTDateChecks) {
   const TypedDate cases[] = {
-      {"day first, Buddhist", kDayFirstBuddhist, u"15/1/2567", "2024-01-15", true},
-      {"order is never guessed", kDayFirstBuddhist, u"1/15/2567", "error 13", false},
-      {"month first, Gregorian", kMonthFirst, u"1/15/2024", "2024-01-15", true},
-      {"order is never guessed", kMonthFirst, u"15/1/2024", "error 13", false},
-      {"month first, Buddhist", kMonthFirstBuddhist, u"1/15/2567", "2024-01-15", true},
-      {"day first, Gregorian", kDayFirst, u"15/1/2024", "2024-01-15", true},
-      {"leap day of the Gregorian year", kDayFirstBuddhist, u"29/2/2567", "2024-02-29", true},
-      {"impossible day", kDayFirst, u"31/4/2024", "error 13", false},
-      {"month 13", kDayFirst, u"1/13/2024", "error 13", false},
-      {"month 0", kDayFirst, u"1/0/2024", "error 13", false},
-      {"negative month", kDayFirst, u"1/-1/2024", "error 13", true},
-      {"negative day", kDayFirst, u"-15/1/2024", "error 13", true},
-      {"empty", kDayFirst, u"", "1899-12-30", false},
-      {"one field", kDayFirst, u"15", "error 9", false},
-      {"no slash", kDayFirst, u"15-01-2567", "error 9", false},
-      {"two fields", kDayFirst, u"15/1", "2000-01-15", false},
-      {"two fields, Buddhist", kDayFirstBuddhist, u"15/1", "1957-01-15", false},
-      {"two-digit year", kDayFirstBuddhist, u"15/1/67", "2024-01-15", false},
-      {"four fields", kDayFirst, u"15/1/2024/1", "2024-01-15", false},
-      {"slash behind", kDayFirst, u"15/1/2024/", "2024-01-15", true},
-      {"blanks", kDayFirst, u" 15/ 1/2024", "2024-01-15", true},
-      {"blank behind the year", kDayFirst, u"15/1/2024 ", "2024-01-15", false},
-      {"half to even", kDayFirst, u"14.5/1.5/2024", "2024-02-14", true},
-      {"grouping is no number to CTDATE", kDayFirst, u"1,5/1/2024", "2024-01-01", true},
-      {"16 bits", kDayFirst, u"15/1/40000", "error 6", false},
-      {"32 bits", kDayFirst, u"9999999999/1/2024", "error 6", false},
-      {"letters", kDayFirst, u"a/b/c", "error 13", false},
-      {"year before the first typed", kDayFirst, u"15/1/0642", "0642-01-15", false},
-      {"first typed year", kDayFirst, u"15/1/0643", "0643-01-15", true},
-      {"first typed year, Buddhist", kDayFirstBuddhist, u"15/1/0643", "0100-01-15", true},
+      {"day first, Buddhist", kDmyBe, u"15/1/2567", "2024-01-15", true},
+      {"order is never guessed", kDmyBe, u"1/15/2567", "error 13", false},
+      {"month first, Gregorian", kMdy, u"1/15/2024", "2024-01-15", true},
+      {"order is never guessed", kMdy, u"15/1/2024", "error 13", false},
+      {"month first, Buddhist", kMdyBe, u"1/15/2567", "2024-01-15", true},
+      {"day first, Gregorian", kDmy, u"15/1/2024", "2024-01-15", true},
+      {"leap day of the Gregorian year", kDmyBe, u"29/2/2567", "2024-02-29", true},
+      {"impossible day", kDmy, u"31/4/2024", "error 13", false},
+      {"month 13", kDmy, u"1/13/2024", "error 13", false},
+      {"month 0", kDmy, u"1/0/2024", "error 13", false},
+      {"negative month", kDmy, u"1/-1/2024", "error 13", true},
+      {"negative day", kDmy, u"-15/1/2024", "error 13", true},
+      {"empty", kDmy, u"", "1899-12-30", false},
+      {"one field", kDmy, u"15", "error 9", false},
+      {"no slash", kDmy, u"15-01-2567", "error 9", false},
+      {"two fields", kDmy, u"15/1", "2000-01-15", false},
+      {"two fields, Buddhist", kDmyBe, u"15/1", "1957-01-15", false},
+      {"two-digit year", kDmyBe, u"15/1/67", "2024-01-15", false},
+      {"four fields", kDmy, u"15/1/2024/1", "2024-01-15", false},
+      {"slash behind", kDmy, u"15/1/2024/", "2024-01-15", true},
+      {"blanks", kDmy, u" 15/ 1/2024", "2024-01-15", true},
+      {"blank behind the year", kDmy, u"15/1/2024 ", "2024-01-15", false},
+      {"half to even", kDmy, u"14.5/1.5/2024", "2024-02-14", true},
+      {"grouping is no number to CTDATE", kDmy, u"1,5/1/2024", "2024-01-01", true},
+      {"16 bits", kDmy, u"15/1/40000", "error 6", false},
+      {"32 bits", kDmy, u"9999999999/1/2024", "error 6", false},
+      {"letters", kDmy, u"a/b/c", "error 13", false},
+      {"year before the first typed", kDmy, u"15/1/0642", "0642-01-15", false},
+      {"first typed year", kDmy, u"15/1/0643", "0643-01-15", true},
+      {"first typed year, Buddhist", kDmyBe, u"15/1/0643", "0100-01-15", true},
   };
   for (const auto& c : cases) {
     const StandardObject object = ObjectWith(c.convention);
@@ -62,8 +62,8 @@ TEST(TypedDates, CTDATEReadsAndIsTDateChecks) {
 }
 
 TEST(TypedDates, CDATE2000CarriesTheSystemsYear) {
-  EXPECT_EQ(IsoText(ObjectWith(kDayFirst).CDATE2000(u"15/1/2024 9:30")), "2024-01-15 09:30:00");
-  const StandardObject thai = ObjectWith(kDayFirstBuddhist);
+  EXPECT_EQ(IsoText(ObjectWith(kDmy).CDATE2000(u"15/1/2024 9:30")), "2024-01-15 09:30:00");
+  const StandardObject thai = ObjectWith(kDmyBe);
   EXPECT_EQ(IsoText(thai.CDATE2000(u"15/1/2567 9:30")), "2567-01-15 09:30:00");
   EXPECT_EQ(IsoText(thai.CDATE2000(u"29/2/2567")), "2567-02-28");
   EXPECT_EQ(IsoText(thai.CDATE2000(u"6:00")), "2442-12-30 06:00:00");
@@ -72,7 +72,7 @@ TEST(TypedDates, CDATE2000CarriesTheSystemsYear) {
 }
 
 TEST(TypedDates, GETValidDateFallsBackToToday) {
-  const StandardObject thai = ObjectWith(kDayFirstBuddhist);
+  const StandardObject thai = ObjectWith(kDmyBe);
   EXPECT_EQ(IsoText(thai.GETValidDate(u"31/12/2566")), "2023-12-31");
   EXPECT_EQ(IsoText(thai.GETValidDate(u"abc")), "2024-01-15");
   EXPECT_EQ(IsoText(thai.GETValidDate(u"")), "2024-01-15");
@@ -81,18 +81,18 @@ TEST(TypedDates, GETValidDateFallsBackToToday) {
 }
 
 TEST(TypedDates, IsTDateTimeTakesDatesAndTimes) {
-  const StandardObject thai = ObjectWith(kDayFirstBuddhist);
+  const StandardObject thai = ObjectWith(kDmyBe);
   for (const char16_t* text : {u"15/1/67", u"9:30", u"15 ม.ค. 2567 9:30"}) {
     EXPECT_TRUE(thai.IsTDateTime(text)) << Utf8(text);
   }
   // 29 February is a day of this year only when this year has one.
   EXPECT_TRUE(thai.IsTDateTime(u"29 Feb"));
-  const StandardObject next_year = ObjectWith(kDayFirstBuddhist, OleDate::FromParts(2025, 1, 1));
+  const StandardObject next_year = ObjectWith(kDmyBe, OleDate::FromParts(2025, 1, 1));
   EXPECT_FALSE(next_year.IsTDateTime(u"29 Feb"));
 }
 
 TEST(TypedDates, IsMounthYear) {
-  const StandardObject object = ObjectWith(kDayFirstBuddhist);
+  const StandardObject object = ObjectWith(kDmyBe);
   for (const char16_t* text : {u"01/2567", u"12-0643", u"01 2567", u"1 x2567", u"1199999"}) {
     EXPECT_TRUE(object.isMounthYear(text)) << Utf8(text);
   }
@@ -126,16 +126,16 @@ TEST(TypedDates, SortableKeys) {
       {"letters", u"2024O115", "2000-03-03", "0543-03-03"},
   };
   for (const auto& c : cases) {
-    const StandardObject gregorian = ObjectWith(kDayFirst);
-    const StandardObject buddhist = ObjectWith(kMonthFirstBuddhist);
+    const StandardObject gregorian = ObjectWith(kDmy);
+    const StandardObject buddhist = ObjectWith(kMdyBe);
     EXPECT_EQ(IsoText(gregorian.GETDateFromTextYYYYMMDD(c.text)), c.gregorian) << c.reason;
     EXPECT_EQ(IsoText(buddhist.GETDateFromTextYYYYMMDD(c.text)), c.buddhist) << c.reason;
   }
 }
 
 TEST(TypedDates, Periods) {
-  const StandardObject thai = ObjectWith(kDayFirstBuddhist);
-  const StandardObject gregorian = ObjectWith(kDayFirst);
+  const StandardObject thai = ObjectWith(kDmyBe);
+  const StandardObject gregorian = ObjectWith(kDmy);
   const struct {
     const StandardObject& object;
     const char16_t* text;

@@ -9,27 +9,21 @@
 namespace ZQ7Standard {
 namespace {
 
-const StandardObject kObject = ObjectWith(kDayFirstBuddhist);
+const StandardObject kObject = ObjectWith(kDmyBe);
 
 TEST(PaymentTerms, DueDates) {
   const OleDate invoice = OleDate::FromParts(2024, 3, 15, 12);
   const struct {
     int type;
     const char* expected;  // with 30 net days and 7 days of delivery
+    // clang-format off
   } cases[] = {
-      {0, "2024-04-14 12:00:00"},
-      {1, "2024-04-21 12:00:00"},
-      {2, "2024-04-21 12:00:00"},
+      {0, "2024-04-14 12:00:00"}, {1, "2024-04-21 12:00:00"}, {2, "2024-04-21 12:00:00"},
       // 2171-08-31 is the end of month 2024 of the year 3.
-      {3, "2171-10-07"},
-      {4, "2171-09-30"},
-      {5, "2171-10-07"},
-      {6, "2171-10-07"},
-      {7, "2171-10-07"},
-      {8, "2171-10-07"},
-      {9, "1899-12-30"},
-      {-1, "1899-12-30"},
+      {3, "2171-10-07"}, {4, "2171-09-30"}, {5, "2171-10-07"}, {6, "2171-10-07"}, {7, "2171-10-07"},
+      {8, "2171-10-07"}, {9, "1899-12-30"}, {-1, "1899-12-30"},
   };
+  // clang-format on
   for (const auto& c : cases) {
     const auto type = static_cast<ZQ7ConditionType>(c.type);
     EXPECT_EQ(IsoText(kObject.GetConditionDueDate(invoice, type, 30, 7)), c.expected) << c.type;

@@ -9,7 +9,7 @@
 namespace ZQ7Standard {
 namespace {
 
-const StandardObject kObject = ObjectWith(kDayFirstBuddhist);
+const StandardObject kObject = ObjectWith(kDmyBe);
 
 TEST(TypedTimes, FourDigits) {
   const struct {
@@ -85,18 +85,13 @@ TEST(Spans, DaysAndHours) {
 }
 
 TEST(Spans, DAY2DAYTIME) {
+  // clang-format off
   const std::pair<double, const char*> cases[] = {
-      {0, "0:00:00"},
-      {1.5, "1:12:00"},
-      {-1.5, "1:12:00"},
-      {0.25, "0:06:00"},
-      {1 + 1 / 24.0, "1:01:00"},
-      {1 / 1440.0, "0:00:01"},
-      {0.99999, "0:23:59"},
-      {2 - 1e-12, "2:00:00"},
-      {1e-12, "0:00:00"},
-      {12345678.5, "12345678:12:00"},
+      {0, "0:00:00"}, {1.5, "1:12:00"}, {-1.5, "1:12:00"}, {0.25, "0:06:00"},
+      {1 + 1 / 24.0, "1:01:00"}, {1 / 1440.0, "0:00:01"}, {0.99999, "0:23:59"},
+      {2 - 1e-12, "2:00:00"}, {1e-12, "0:00:00"}, {12345678.5, "12345678:12:00"},
   };
+  // clang-format on
   for (const auto& [days, text] : cases) EXPECT_EQ(Utf8(kObject.DAY2DAYTIME(days)), text);
   EXPECT_EQ(ErrorOf([] { kObject.DAY2DAYTIME(std::nan("")); }), 6);
   EXPECT_EQ(ErrorOf([] { kObject.DAY2DAYTIME(std::numeric_limits<double>::infinity()); }), 6);

@@ -10,7 +10,7 @@
 using namespace ZQ7Standard;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const StandardObject object = ObjectWith(kMonthFirst);
+  static const StandardObject object = ObjectWith(kMdy);
   const Text text = FuzzText(data, size);
   const double value = object.StrVal(text);
   Check(std::isfinite(value));

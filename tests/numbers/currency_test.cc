@@ -13,15 +13,12 @@ constexpr std::int64_t kMax = std::numeric_limits<std::int64_t>::max();
 constexpr std::int64_t kMin = std::numeric_limits<std::int64_t>::min();
 
 TEST(Currency, TextHoldsEveryDigit) {
+  // clang-format off
   const std::pair<std::int64_t, const char*> cases[] = {
-      {0, "0.0000"},
-      {1, "0.0001"},
-      {-1, "-0.0001"},
-      {103000, "10.3000"},
-      {-12345, "-1.2345"},
-      {kMax, "922337203685477.5807"},
-      {kMin, "-922337203685477.5808"},
+      {0, "0.0000"}, {1, "0.0001"}, {-1, "-0.0001"}, {103000, "10.3000"}, {-12345, "-1.2345"},
+      {kMax, "922337203685477.5807"}, {kMin, "-922337203685477.5808"},
   };
+  // clang-format on
   for (const auto& [scaled, text] : cases) {
     EXPECT_EQ(Utf8(Currency::FromScaled(scaled).ToText()), text);
     EXPECT_EQ(Currency::FromText(FromUtf8(text)).Scaled(), scaled);
@@ -48,16 +45,13 @@ TEST(Currency, ReadsTextRoundingTheFifthDecimal) {
 }
 
 TEST(Currency, ConvertsFromAndToDouble) {
+  // clang-format off
   const std::pair<double, std::int64_t> cases[] = {
-      {10.3, 103000},
-      {-0.00005, 0},
-      {0.00015, 1},
-      {0.03125, 312},
-      {0.09375, 938},
-      {123456789012.3456, 1234567890123456},
-      {922337203685477.5, 9223372036854775000},
+      {10.3, 103000}, {-0.00005, 0}, {0.00015, 1}, {0.03125, 312}, {0.09375, 938},
+      {123456789012.3456, 1234567890123456}, {922337203685477.5, 9223372036854775000},
       {-922337203685477.5, -9223372036854775000},
   };
+  // clang-format on
   for (const auto& [amount, scaled] : cases) EXPECT_EQ(Currency(amount).Scaled(), scaled) << amount;
   for (const double amount :
        {922337203685478.0, -1e300, std::nan(""), std::numeric_limits<double>::infinity()}) {

@@ -18,10 +18,9 @@ TEST(MoneyWords, Thai) {
     const char* reason;
     double amount;
     const char* expected;
+    // clang-format off
   } cases[] = {
-      {"zero", 0, "ศูนย์บาทถ้วน"},
-      {"one alone", 1, "หนึ่งบาทถ้วน"},
-      {"ten has no one", 10, "สิบบาทถ้วน"},
+      {"zero", 0, "ศูนย์บาทถ้วน"}, {"one alone", 1, "หนึ่งบาทถ้วน"}, {"ten has no one", 10, "สิบบาทถ้วน"},
       {"final one after tens", 21, "ยี่สิบเอ็ดบาทถ้วน"},
       {"final one after hundreds", 101, "หนึ่งร้อยเอ็ดบาทถ้วน"},
       {"both parts", 121.50, "หนึ่งร้อยยี่สิบเอ็ดบาทห้าสิบสตางค์"},
@@ -31,22 +30,18 @@ TEST(MoneyWords, Thai) {
       {"final one used up by the millions", 11000001, "สิบเอ็ดล้านหนึ่งบาทถ้วน"},
       {"zero at the first million", 10000000, "สิบล้านบาทถ้วน"},
       {"million million", 1000000000000, "หนึ่งล้านล้านบาทถ้วน"},
-      {"no unit below one", 0.50, "ห้าสิบสตางค์"},
-      {"eleven satang", 0.11, "สิบเอ็ดสตางค์"},
+      {"no unit below one", 0.50, "ห้าสิบสตางค์"}, {"eleven satang", 0.11, "สิบเอ็ดสตางค์"},
       {"lone satang after baht", 20.01, "ยี่สิบบาทหนึ่งสตางค์"},
       {"carried one satang", 20.21, "ยี่สิบบาทยี่สิบเอ็ดสตางค์"},
       {"fraction that rounds away", 5.001, "ห้าบาทสตางค์"},
       {"fraction that rounds up", 5.999, "หกบาทสตางค์"},
-      {"rounds up to one, but is below it", 0.999, "หนึ่งสตางค์"},
-      {"almost nothing", 0.001, "สตางค์"},
-      {"negative with a fraction", -5.25, "ห้าถ้วน"},
-      {"negative", -5, "ห้าถ้วน"},
+      {"rounds up to one, but is below it", 0.999, "หนึ่งสตางค์"}, {"almost nothing", 0.001, "สตางค์"},
+      {"negative with a fraction", -5.25, "ห้าถ้วน"}, {"negative", -5, "ห้าถ้วน"},
       {"negative below one", -0.5, "ถ้วน"},
-      {"tie of the printed value", 2.345, "สองบาทสามสิบห้าสตางค์"},
-      {"too large", 10000000000000, ""},
-      {"infinite", -kInfinity, ""},
-      {"no number", std::nan(""), ""},
+      {"tie of the printed value", 2.345, "สองบาทสามสิบห้าสตางค์"}, {"too large", 10000000000000, ""},
+      {"infinite", -kInfinity, ""}, {"no number", std::nan(""), ""},
   };
+  // clang-format on
   for (const auto& c : cases) {
     EXPECT_EQ(Utf8(BahtStringObject().BahtString(c.amount)), c.expected) << c.reason;
   }
@@ -58,12 +53,11 @@ TEST(MoneyWords, English) {
     const char* reason;
     double amount;
     const char* expected;
+    // clang-format off
   } cases[] = {
-      {"zero", 0, "Zero baht"},
-      {"one", 1, "One baht"},
+      {"zero", 0, "Zero baht"}, {"one", 1, "One baht"},
       {"both parts", 1234.56, "One thousand two hundred thirty four baht and fifty six satang"},
-      {"forty", 44, "Forty four baht"},
-      {"teens", 13.19, "Thirteen baht and nineteen satang"},
+      {"forty", 44, "Forty four baht"}, {"teens", 13.19, "Thirteen baht and nineteen satang"},
       {"satang alone, leading blank", 0.56, " baht and fifty six satang"},
       {"satang below ten", 2.05, "Two baht and five satang"},
       {"empty groups", 1000000, "One million baht"},
@@ -71,12 +65,11 @@ TEST(MoneyWords, English) {
       {"hundreds of thousands", 900100, "Nine hundred thousand one hundred baht"},
       {"negative", -7, "Negative seven baht"},
       {"negative below one", -0.5, "Negative baht and fifty satang"},
-      {"rounds to zero", 0.001, "Zero baht"},
-      {"rounds up", 1.999, "Two baht"},
-      {"largest scale", 1e12, "One trillion baht"},
-      {"no scale", 1e15, "One ? baht"},
+      {"rounds to zero", 0.001, "Zero baht"}, {"rounds up", 1.999, "Two baht"},
+      {"largest scale", 1e12, "One trillion baht"}, {"no scale", 1e15, "One ? baht"},
       {"no number", std::nan(""), ""},
   };
+  // clang-format on
   for (const auto& c : cases) {
     EXPECT_EQ(Utf8(BahtStringObject().BahtStringE(c.amount)), c.expected) << c.reason;
   }

@@ -8,7 +8,7 @@
 namespace ZQ7Standard {
 namespace {
 
-const StandardObject kObject = ObjectWith(kMonthFirst);
+const StandardObject kObject = ObjectWith(kMdy);
 
 TEST(Reading, StrValForgivesWhatUsersType) {
   const std::pair<const char16_t*, double> cases[] = {

@@ -9,7 +9,7 @@
 namespace ZQ7Standard {
 namespace {
 
-const StandardObject kObject = ObjectWith(kMonthFirst);
+const StandardObject kObject = ObjectWith(kMdy);
 
 struct FixCase {
   const char* reason;

@@ -49,22 +49,14 @@ struct LocaleCase {
   DateConvention expected;
 };
 
+// clang-format off
 constexpr LocaleCase kLocales[] = {
-    {"th_TH.UTF-8", kDayFirstBuddhist},
-    {"en_US.UTF-8", kMonthFirst},
-    {"en_GB.UTF-8", kDayFirst},
-    {"de_DE.UTF-8", kDayFirst},
-    {"sv_SE.UTF-8", kMonthFirst},
-    {"ja_JP.UTF-8", kMonthFirst},
-    {"C", kMonthFirst},
-    {"POSIX", kMonthFirst},
-    {"C.UTF-8", kMonthFirst},
-    {"th_TH.NOSUCH", kDayFirstBuddhist},
-    {"th", kDayFirstBuddhist},
-    {"en_PH.NOSUCH", kMonthFirst},
-    {"xx_YY.UTF-8", kDayFirst},
-    {"xx", kDayFirst},
+    {"th_TH.UTF-8", kDmyBe}, {"en_US.UTF-8", kMdy}, {"en_GB.UTF-8", kDmy}, {"de_DE.UTF-8", kDmy},
+    {"sv_SE.UTF-8", kMdy}, {"ja_JP.UTF-8", kMdy}, {"C", kMdy}, {"POSIX", kMdy}, {"C.UTF-8", kMdy},
+    {"th_TH.NOSUCH", kDmyBe}, {"th", kDmyBe}, {"en_PH.NOSUCH", kMdy}, {"xx_YY.UTF-8", kDmy},
+    {"xx", kDmy},
 };
+// clang-format on
 
 TEST(SystemDateConvention, JudgesInstalledAndOtherLocalesAlike) {
   Environment environment;
@@ -85,15 +77,15 @@ TEST(SystemDateConvention, TakesTheFirstNameThatIsNotEmpty) {
   Environment environment;
   const auto source = SystemDateConvention();
   environment.SetLocale("en_GB.UTF-8", "th_TH.UTF-8", "en_US.UTF-8");
-  EXPECT_EQ(source->Current(), kDayFirst);
+  EXPECT_EQ(source->Current(), kDmy);
   environment.SetLocale("", "th_TH.UTF-8", "en_US.UTF-8");
-  EXPECT_EQ(source->Current(), kDayFirstBuddhist);
+  EXPECT_EQ(source->Current(), kDmyBe);
   environment.SetLocale("", "", "en_GB.UTF-8");
-  EXPECT_EQ(source->Current(), kDayFirst);
+  EXPECT_EQ(source->Current(), kDmy);
   environment.SetLocale("", "", "");
-  EXPECT_EQ(source->Current(), kMonthFirst);
+  EXPECT_EQ(source->Current(), kMdy);
   for (const char* name : {"LC_ALL", "LC_TIME", "LANG"}) environment.Set(name, std::nullopt);
-  EXPECT_EQ(source->Current(), kMonthFirst);
+  EXPECT_EQ(source->Current(), kMdy);
 }
 
 /// The names of all locales that are installed here.

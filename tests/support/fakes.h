@@ -9,12 +9,11 @@
 
 namespace ZQ7Standard {
 
-inline constexpr DateConvention kMonthFirst{FieldOrder::kMonthFirst, Era::kGregorian};
-inline constexpr DateConvention kDayFirst{FieldOrder::kDayFirst, Era::kGregorian};
-inline constexpr DateConvention kMonthFirstBuddhist{FieldOrder::kMonthFirst, Era::kBuddhist};
-inline constexpr DateConvention kDayFirstBuddhist{FieldOrder::kDayFirst, Era::kBuddhist};
-inline constexpr std::array kConventions = {kMonthFirst, kDayFirst, kMonthFirstBuddhist,
-                                            kDayFirstBuddhist};
+inline constexpr DateConvention kMdy{FieldOrder::kMonthFirst, Era::kGregorian};
+inline constexpr DateConvention kDmy{FieldOrder::kDayFirst, Era::kGregorian};
+inline constexpr DateConvention kMdyBe{FieldOrder::kMonthFirst, Era::kBuddhist};
+inline constexpr DateConvention kDmyBe{FieldOrder::kDayFirst, Era::kBuddhist};
+inline constexpr std::array kConventions = {kMdy, kDmy, kMdyBe, kDmyBe};
 
 /// The moment that the tests run at: Monday 2024-01-15 09:30.
 OleDate TestNow();

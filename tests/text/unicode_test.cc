@@ -24,17 +24,12 @@ TEST(Utf8, ReplacesWhatIsNotWellFormed) {
   EXPECT_EQ(Utf8(Text{0xDC00, 0xD800, u'a', 0xD83D}),
             "\xEF\xBF\xBD\xEF\xBF\xBD"
             "a\xEF\xBF\xBD");
+  // clang-format off
   const std::pair<const char*, std::size_t> malformed[] = {
-      {"\x80", 1},
-      {"\xC0\xAF", 2},
-      {"\xC3", 1},
-      {"\xE0\x80\x80", 3},
-      {"\xE0\xB8", 2},
-      {"\xED\xA0\x80", 3},
-      {"\xF4\x90\x80\x80", 4},
-      {"\xF8\x88\x80\x80\x80", 5},
-      {"\xFF", 1},
+      {"\x80", 1}, {"\xC0\xAF", 2}, {"\xC3", 1}, {"\xE0\x80\x80", 3}, {"\xE0\xB8", 2},
+      {"\xED\xA0\x80", 3}, {"\xF4\x90\x80\x80", 4}, {"\xF8\x88\x80\x80\x80", 5}, {"\xFF", 1},
   };
+  // clang-format on
   for (const auto& [bytes, length] : malformed) {
     EXPECT_EQ(FromUtf8(std::string("a") + bytes + "b"), u"a" + Text(length, u'\xFFFD') + u"b");
   }
