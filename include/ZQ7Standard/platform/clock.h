@@ -19,8 +19,8 @@ class ZQ7STANDARD_EXPORT Clock {
   virtual OleDate Now() = 0;
 };
 
-/// The machine's clock in the machine's time zone, which is asked anew on
-/// every call.
+/// The machine's clock in the time zone of the process. A host that changes TZ
+/// while it runs calls tzset() itself.
 ZQ7STANDARD_EXPORT std::shared_ptr<Clock> SystemClock();
 
 /// A clock that always shows `now`.

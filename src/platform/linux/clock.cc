@@ -12,7 +12,6 @@ class LinuxClock final : public Clock {
   OleDate Now() override {
     const time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
     tm local{};
-    tzset();  // localtime_r alone may keep an earlier time zone
     localtime_r(&now, &local);
     // A leap second counts as the one before it.
     return OleDate::FromParts(local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
