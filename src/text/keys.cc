@@ -69,6 +69,7 @@ Text StandardObject::FormatIP(TextView StringIP, bool ForceIPV4) const {
   const auto parts = std::ranges::count(StringIP, u'.') + 1;
   if (parts != 4 && (parts != 6 || ForceIPV4)) return {};
   Text address;
+  address.reserve(StringIP.size());
   bool in_range = true;
   TextView rest = StringIP;
   for (int part = 0; part < parts; ++part) {

@@ -27,7 +27,8 @@ Text Marked(TextView list, std::size_t extra) {
   marked.append(kMarker);
   if (list.empty()) return marked;
   AppendReplaced(marked, list, kDefaultSeparator, kMarker);
-  return marked.append(kMarker);
+  marked.append(kMarker);
+  return marked;
 }
 
 std::vector<Text> Split(TextView text, TextView separator) {
@@ -57,8 +58,8 @@ void SkipSign(TextView& text) {
 }
 
 bool SkipDigits(TextView& text) {
-  const auto end = std::ranges::find_if_not(text, IsAsciiDigit);
-  const auto count = static_cast<std::size_t>(end - text.begin());
+  const auto count =
+      static_cast<std::size_t>(std::ranges::find_if_not(text, IsAsciiDigit) - text.begin());
   text.remove_prefix(count);
   return count > 0;
 }

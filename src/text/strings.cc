@@ -52,7 +52,8 @@ TextView NumericSuffix(TextView text) {
 Text Joined(TextView prefix, std::size_t zeros, TextView ending) {
   Text key;
   key.reserve(prefix.size() + zeros + ending.size());
-  return key.append(prefix).append(zeros, u'0').append(ending);
+  key.append(prefix).append(zeros, u'0').append(ending);
+  return key;
 }
 
 bool EqualInUpperCase(char16_t a, char16_t b) {
@@ -67,7 +68,7 @@ std::int32_t Position(std::size_t at) {
 }  // namespace
 
 Text StandardObject::ReverseString(TextView iString) const {
-  return Text(iString.rbegin(), iString.rend());
+  return {iString.rbegin(), iString.rend()};
 }
 
 Text StandardObject::TrimSpaceToOne(TextView inString, bool TrimFront, bool TrimBack) const {
@@ -95,7 +96,7 @@ Text StandardObject::IncreaseString(TextView InputString, TextView AddStringNumb
 
 Text StandardObject::FormatTextSort(TextView InputString, std::int16_t Length) const {
   const TextView suffix = NumericSuffix(InputString);
-  if (!suffix.empty() && !Fits<std::int16_t>(2 * Length)) {
+  if (!suffix.empty() && !Fits<std::int16_t>(std::int64_t{2} * Length)) {
     throw RunTimeError::Overflow("FormatTextSort", std::to_string(Length));
   }
   const TextView prefix = InputString.substr(0, InputString.size() - suffix.size());
@@ -118,10 +119,10 @@ std::int32_t StandardObject::Instr2(std::int32_t start, TextView MainString, Tex
   const auto first = static_cast<std::size_t>(start) - 1;
   if (first >= MainString.size()) return 0;
   if (Compare != ZQ7CompareText) return Position(MainString.find(SearchString, first));
-  const TextView searched = MainString.substr(first);
-  const auto found = std::ranges::search(searched, SearchString, EqualInUpperCase);
-  if (found.begin() == searched.end()) return 0;
-  return Position(first + static_cast<std::size_t>(found.begin() - searched.begin()));
+  const auto at = std::search(MainString.begin() + start - 1, MainString.end(),
+                              SearchString.begin(), SearchString.end(), EqualInUpperCase) -
+                  MainString.begin();
+  return at == std::ssize(MainString) ? 0 : Position(static_cast<std::size_t>(at));
 }
 
 std::int32_t StandardObject::Random(std::int32_t Low, std::int32_t High) const {

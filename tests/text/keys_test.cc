@@ -18,27 +18,21 @@ struct KeyCase {
 TEST(FormatPrimaryKey, CleansInItsOrder) {
   const KeyCase cases[] = {
       {"no option", u" ab c'd; ", 0, 0, 0, 0, 0, u"abcd"},
-      {"blanks inside", u" ab c'd; ", 1, 0, 0, 0, 0, u"ab cd"},
-      {"-1 is off", u" ab c'd; ", -1, -1, -1, -1, 0, u"abcd"},
-      {"2 is off", u" ab c'd; ", 2, 2, 2, 2, 0, u"abcd"},
+      {"-1 is off", u" ab c'd; ", -1, 2, -1, 2, 0, u"abcd"},
       {"what breaks queries and lists", u"'a;;b,%c'", 1, 0, 0, 0, 0, u"abc"},
       {"is dropped before the blanks around are", u"' a ;", 1, 0, 0, 0, 1, u"a"},
       {"and before runs shrink", u"a ' b", 1, 0, 0, 0, 0, u"a b"},
       {"runs shrink", u"a   b", 1, 0, 0, 0, 0, u"a b"},
       {"runs stay", u"a   b", 1, 0, 0, 0, 1, u"a   b"},
       {"runs shrink at 0 only", u"a   b", 1, 0, 0, 0, -1, u"a   b"},
-      {"runs go when blanks do", u"a   b", 0, 0, 0, 0, 1, u"ab"},
-      {"digits", u" A1-ก2 ", 1, 1, 0, 0, 1, u"12"},
-      {"Thai digits are none", u"๑1", 0, 1, 0, 0, 0, u"1"},
+      {"digits", u" A1-๑2 ", 1, 1, 0, 0, 1, u"12"},
       {"English", u"A1-ก2é", 0, 0, 0, 1, 0, u"A12"},
       {"English has no blanks", u"a b", 1, 0, 0, 1, 1, u"ab"},
       {"upper case of any script", u"aéжกß", 0, 0, 1, 0, 0, u"AÉЖกß"},
       {"upper case first, then English", u"ıſé", 0, 0, 1, 1, 0, u"IS"},
-      {"tabs stay", u"\ta\tb\t", 0, 0, 0, 0, 0, u"\ta\tb\t"},
-      {"line breaks go", u"a\r\nb\n", 0, 0, 0, 0, 0, u"ab"},
+      {"line breaks go, tabs do not", u"\ta\r\nb\n", 0, 0, 0, 0, 0, u"\tab"},
       {"blanks before a break at the end stay", u" a \r\n", 1, 0, 0, 0, 0, u"a "},
       {"a break parts a run of blanks", u"a \r\n b", 1, 0, 0, 0, 0, u"a  b"},
-      {"empty", u"", 1, 1, 1, 1, 1, u""},
       {"nothing left", u" '; ", 1, 0, 0, 0, 1, u""},
   };
   for (const auto& c : cases) {
@@ -66,29 +60,24 @@ TEST(FormatIP, ReadsFourOrSixParts) {
     bool force_ipv4;
     TextView expected;
   } cases[] = {
-      {"plain", u"192.168.1.1", true, u"192.168.1.1"},
-      {"256 is taken", u"192.168.1.256", true, u"192.168.1.256"},
+      {"256 is taken, zeros go", u"192.168.001.256", true, u"192.168.1.256"},
       {"257 is not", u"192.168.1.257", true, u""},
-      {"nor -257", u"-257.1.1.1", true, u""},
       {"signs are dropped", u"-1.+2.-256.4", true, u"1.2.256.4"},
       {"the smallest 16-bit part", u"-32768.1.1.1", true, u""},
-      {"leading zeros are dropped", u"010.001.002.003", true, u"10.1.2.3"},
       {"blanks are skipped", u" 1 0.1.2.3 ", true, u"10.1.2.3"},
       {"what is no number is 0", u"a..3x.", true, u"0.0.3.0"},
       {"a percentage, halves to even", u"150%.250%.1.1", true, u"2.2.1.1"},
       {"three parts", u"1.2.3", true, u""},
-      {"five parts", u"1.2.3.4.", false, u""},
+      {"too many parts are not read", u"1.2.3.4.99999", false, u""},
       {"six parts", u"1.2.3.4.5.6", true, u""},
-      {"six parts, not forced", u"1.2.3.4.5.006", false, u"1.2.3.4.5.6"},
+      {"six parts, not forced", u"1.2.3.4.5.06", false, u"1.2.3.4.5.6"},
       {"four parts, not forced", u"1.2.3.4", false, u"1.2.3.4"},
-      {"six parts out of range", u"1.2.3.4.5.257", false, u""},
-      {"too many parts are not read", u"1.2.3.4.99999", true, u""},
       {"empty", u"", true, u""},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(kObject.FormatIP(c.address, c.force_ipv4), c.expected) << c.reason;
   }
-  EXPECT_EQ(ErrorOf([] { kObject.FormatIP(u"300.1.1.32768"); }), 6);
+  EXPECT_EQ(ErrorOf([] { kObject.FormatIP(u"300.1.1.32768"); }), 6) << "all parts are read";
 }
 
 }  // namespace
