@@ -9,6 +9,7 @@ StandardObject::StandardObject() : StandardObject(StandardServices{}) {}
 StandardObject::StandardObject(StandardServices services) : services_(std::move(services)) {
   if (!services_.clock) services_.clock = SystemClock();
   if (!services_.date_convention) services_.date_convention = SystemDateConvention();
+  if (!services_.random_source) services_.random_source = SystemRandomSource();
 }
 
 DateConvention StandardObject::Convention() const {

@@ -5,6 +5,7 @@
 #include <ZQ7Standard/Types.h>
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/random_source.h>
 
 #include <cstdint>
 #include <memory>
@@ -61,14 +62,22 @@ enum ZQ7FixUnit : std::int32_t {
   ZQ7FixUnitAllDown = 3,  ///< toward zero
 };
 
+/// How `Instr2` compares. Any other value counts as binary.
+enum ZQ7CompareMethod : std::int32_t {
+  ZQ7CompareBinary = 0,  ///< code unit by code unit
+  ZQ7CompareText = 1,    ///< without regard to case, in every script and locale
+};
+
 /// What a `StandardObject` needs of the machine. A service left empty is the
 /// machine's own.
 struct StandardServices {
   std::shared_ptr<Clock> clock = nullptr;
   std::shared_ptr<DateConventionSource> date_convention = nullptr;
+  std::shared_ptr<RandomSource> random_source = nullptr;
 };
 
-/// Dates in both calendars, payment terms, rounding and number text.
+/// Dates in both calendars, payment terms, rounding and number text, lists, keys
+/// and barcodes.
 ///
 /// Every operation runs to its end on the caller's thread and keeps nothing for
 /// the next one. The system's date convention is asked anew on each call. An
@@ -387,6 +396,138 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// an exponent from 1E+15 up and below 1E-04: "1234.5", "1E+15". Raises 6 for
   /// infinities and NaN.
   Text d2Str(double iValue) const;
+
+  // --- Lists in one text, arrays from arguments: src/text/lists.cc ---
+
+  /// Adds `iAdd` to a list unless it holds exactly that item: "a;b" and "c" give
+  /// "a;b;c". An empty `iAdd` is an item like others.
+  ///
+  /// The list given is split at ";", the result joined by `SeparateChar` (";"
+  /// when empty): with "," the list "a;b" comes back as "a,b,c", but "a,b" is one
+  /// item. The text "$#$" inside an item also parts it.
+  Text AddList(TextView iList, TextView iAdd, TextView SeparateChar = u";") const;
+
+  /// `ArrayString2` of up to 20 texts.
+  std::vector<Text> ArrayString(TextView i1, TextView i2 = {}, TextView i3 = {}, TextView i4 = {},
+                                TextView i5 = {}, TextView i6 = {}, TextView i7 = {},
+                                TextView i8 = {}, TextView i9 = {}, TextView i10 = {},
+                                TextView i11 = {}, TextView i12 = {}, TextView i13 = {},
+                                TextView i14 = {}, TextView i15 = {}, TextView i16 = {},
+                                TextView i17 = {}, TextView i18 = {}, TextView i19 = {},
+                                TextView i20 = {}) const;
+
+  /// The texts in their order, those of `i2` to `i30` that are empty left out.
+  /// `i1` is the first element also when it is empty, but with nothing else it
+  /// then gives no element at all. A text is parted wherever it holds ";;".
+  std::vector<Text> ArrayString2(TextView i1, TextView i2 = {}, TextView i3 = {}, TextView i4 = {},
+                                 TextView i5 = {}, TextView i6 = {}, TextView i7 = {},
+                                 TextView i8 = {}, TextView i9 = {}, TextView i10 = {},
+                                 TextView i11 = {}, TextView i12 = {}, TextView i13 = {},
+                                 TextView i14 = {}, TextView i15 = {}, TextView i16 = {},
+                                 TextView i17 = {}, TextView i18 = {}, TextView i19 = {},
+                                 TextView i20 = {}, TextView i21 = {}, TextView i22 = {},
+                                 TextView i23 = {}, TextView i24 = {}, TextView i25 = {},
+                                 TextView i26 = {}, TextView i27 = {}, TextView i28 = {},
+                                 TextView i29 = {}, TextView i30 = {}) const;
+
+  /// The items of a comma-separated list from last to first, each followed by
+  /// ",": "a,b,c" and "a,b,c," give "c,b,a,".
+  Text ReverseList(TextView iList) const;
+
+  /// The whole number in the field `iNum`, counted from 1, of a comma-separated
+  /// list, as decimal text; halves go to even. The empty text when there is no
+  /// such field, and for a last field of a single character: "1,2,3" has no
+  /// third, "1,2,34" has.
+  ///
+  /// Raises 13 when the field is no number and 6 when it passes 32 bits.
+  Text TrimN(TextView istr, std::int16_t iNum) const;
+
+  // --- Blanks, numbered keys, searching, random numbers: src/text/strings.cc ---
+
+  /// The UTF-16 code units of `iString` from last to first. Surrogates and Thai
+  /// marks come out in front of what they belong to.
+  Text ReverseString(TextView iString) const;
+
+  /// Shrinks every run of blanks (U+0020) to one. Blanks at the front and at the
+  /// back go, or shrink to one where the flag is off.
+  Text TrimSpaceToOne(TextView inString, bool TrimFront = true, bool TrimBack = true) const;
+
+  /// Counts up the number at the end of a key, by 1 or by `AddStringNumber`, and
+  /// keeps its width: "INV0099" gives "INV0100", "A999" gives "A1000", "A009" and
+  /// "5" give "A014". An `AddStringNumber` that is not above 0 adds nothing.
+  ///
+  /// Zeros alone are no number: "A000" comes back unchanged, as does any key
+  /// without a number, with `AddStringNumber` behind it. A number of more than
+  /// 15 digits comes out in the form of `d2Str`. Raises 6 beyond the doubles.
+  Text IncreaseString(TextView InputString, TextView AddStringNumber = {}) const;
+
+  /// Fills the number at the end of a text with zeros, so that texts sort by it:
+  /// "inv12" at 8 gives "INV00012". The number is what `StrVal` reads above 0
+  /// from each place on; its front is cut off where it is too long.
+  ///
+  /// A text without one, or with a "0" at its end, is filled with zeros and a
+  /// "1" instead, and only then keeps its case: "abc" at 5 gives "abc01". Raises
+  /// 5 when the part before the number is longer than `Length` characters, and 6
+  /// when twice `Length` passes 16 bits and there is a number.
+  Text FormatTextSort(TextView InputString, std::int16_t Length) const;
+
+  /// The position of `SearchString` in `MainString`, from 1 in UTF-16 code units,
+  /// the first at or after `start`; 0 for none and for a `start` beyond the end.
+  /// An empty `SearchString` is found at `start`. Raises 5 for a `start` below 1.
+  ///
+  /// With `SearchFromBack` the position of the last one in the whole text;
+  /// `start` and `Compare` have no effect, and an empty `SearchString` gives 0.
+  std::int32_t Instr2(std::int32_t start, TextView MainString, TextView SearchString,
+                      ZQ7CompareMethod Compare = ZQ7CompareBinary,
+                      bool SearchFromBack = false) const;
+
+  /// A random whole number from `Low` to `High` + 1; these two come half as often
+  /// as those between. `High` below `Low` is allowed. Raises 6 when the span
+  /// `High` - `Low` + 1, or the result, passes 32 bits.
+  std::int32_t Random(std::int32_t Low, std::int32_t High) const;
+
+  // --- Record keys, serial numbers, bar codes, addresses: src/text/keys.cc ---
+
+  /// Cleans a record key as typed: drops "'", ";", ",", "%" and line breaks, the
+  /// blanks around it and, unless `AcceptInsideSpace`, those inside. An option is
+  /// on only at the value 1; -1, which other operations take for true, is off.
+  ///
+  /// `NumberOnly` keeps "0" to "9", `AutoUpperCase` turns to upper case (any
+  /// script), `AcceptOnlyEnglishCharAndNumber` keeps A to Z, a to z and "0" to
+  /// "9". Runs of blanks inside shrink to one while `AcceptInsideMultiSpace` is
+  /// 0. Blanks beside a line break stay, as they are cleaned before it is
+  /// dropped. The other parameters have no effect; no length is cut.
+  Text FormatPrimaryKey(TextView InputKeyValue, std::int16_t PrimaryKeyMode = 0,
+                        std::int16_t MaxLen = 0, std::int16_t AcceptInsideSpace = 0,
+                        std::int16_t NumberOnly = 0, std::int16_t AutoUpperCase = 0,
+                        std::int16_t AcceptOnlyEnglishCharAndNumber = 0,
+                        std::int16_t AcceptInsideMultiSpace = 0, std::int16_t Reserve2 = 0,
+                        std::int16_t Reserve3 = 0, std::int16_t Reserve4 = 0) const;
+
+  /// `FormatPrimaryKey` with those options. `MaxLen` has no effect.
+  Text FormatSerialNo(TextView InputKeyValue, std::int16_t MaxLen = 30,
+                      std::int16_t AcceptInsideSpace = 0, std::int16_t NumberOnly = 0,
+                      std::int16_t AutoUpperCase = 0,
+                      std::int16_t AcceptOnlyEnglishCharAndNumber = 0) const;
+
+  /// The letters A to Z, in upper case, and digits of a bar code as typed:
+  /// " 885-1234 abc " gives "8851234ABC". `BarcodeType` has no effect.
+  Text FormatBarCode(TextView InputBarCodeValue, std::int16_t BarcodeType = 0) const;
+
+  /// A network address of four parts, or six when `ForceIPV4` is off, without
+  /// leading zeros and signs: "010.001.002.003" gives "10.1.2.3". The empty text
+  /// for any other number of parts, or a part above 256 (256 itself is taken).
+  /// Parts are read by `StrInt`, which raises 6 for one beyond 16 bits.
+  Text FormatIP(TextView StringIP, bool ForceIPV4 = true) const;
+
+  // --- Check digits of bar codes (GS1 General Specifications): src/text/barcodes.cc ---
+
+  /// The EAN-13 check digit, 0 to 9, of the first 12 characters; -1 when there
+  /// are fewer. What is no digit "0" to "9" counts as 0.
+  std::int16_t GetEAN13ChekDigit(TextView sCodice) const;
+
+  /// The same for ITF-14 (GTIN-14), of the first 13 characters.
+  std::int16_t GetITF14ChekDigit(TextView sCodice) const;
 
  private:
   DateConvention Convention() const;

@@ -11,6 +11,7 @@
 #include "dates/date_text.h"
 #include "numbers/number_text.h"
 #include "text/ascii.h"
+#include "text/pieces.h"
 #include "text/unicode.h"
 
 namespace ZQ7Standard {
@@ -21,15 +22,6 @@ constexpr int kFirstTypedYear = 643;
 constexpr int kLastTypedYear = 9999;
 constexpr int kLastGregorianKeyYear = 2400;  // a later year in a key is Buddhist
 constexpr int kLastPeriodYear = 3332;        // the year before the blank date's
-
-/// Takes the text up to the next "/" off the front of `rest`, and the "/". A
-/// text that ends in "/" has no empty field behind it.
-TextView TakeField(TextView& rest) {
-  const std::size_t end = std::min(rest.find(u'/'), rest.size());
-  const TextView field = rest.substr(0, end);
-  rest.remove_prefix(std::min(end + 1, rest.size()));
-  return field;
-}
 
 /// The first fields of a text as the order of a system has them.
 struct DayMonthYear {
@@ -58,8 +50,8 @@ Period ReadPeriod(TextView text, Era era) {
     return std::nearbyint(ReadTypedNumber(digits).value_or(0));
   };
   if (text.find(u'/') == TextView::npos) return {0, 0};
-  const TextView year = TakeField(text).substr(0, 4);
-  TextView month = TakeField(text);
+  const TextView year = TakeField(text, u'/').substr(0, 4);
+  TextView month = TakeField(text, u'/');
   month.remove_prefix(month.size() - std::min<std::size_t>(month.size(), 2));
   return {whole_number(year) - EraDifference(era), whole_number(month)};
 }
@@ -71,7 +63,7 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
   std::array<int, 3> fields = {0, 0, 0};
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {
-    const auto number = ReadLeadingNumber(TakeField(rest));
+    const auto number = ReadLeadingNumber(TakeField(rest, u'/'));
     const auto field = number ? RoundToInteger<std::int16_t>(*number) : std::nullopt;
     if (!field) throw RunTimeError::Overflow("CTDATE", Quoted(iText));
     if (count < fields.size()) fields[count] = *field;
@@ -90,7 +82,7 @@ bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/)
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {
     if (count == fields.size()) return false;
-    const TextView text = TakeField(rest);
+    const TextView text = TakeField(rest, u'/');
     if (count == 2 && text.size() != 4) return false;
     const auto field = RoundToInteger<std::int32_t>(std::abs(StrVal(text)));
     if (!field) return false;

@@ -1,6 +1,7 @@
 #include "text/case_mapping.h"
 
 #include <algorithm>
+#include <span>
 
 #include "text/ascii.h"
 #include "text/case_tables.h"
@@ -8,12 +9,15 @@
 namespace ZQ7Standard {
 namespace {
 
-char16_t ToLower(char16_t c) {
-  if (c < 0x80) return AsciiLower(c);
-  const auto range = std::ranges::lower_bound(kToLower, c, {}, &CaseRange::last);
+char16_t Mapped(char16_t c, std::span<const CaseRange> ranges) {
+  const auto range = std::ranges::lower_bound(ranges, c, {}, &CaseRange::last);
   const bool mapped =
-      range != kToLower.end() && c >= range->first && (c - range->first) % range->step == 0;
+      range != ranges.end() && c >= range->first && (c - range->first) % range->step == 0;
   return mapped ? static_cast<char16_t>(c + range->delta) : c;
+}
+
+char16_t ToLower(char16_t c) {
+  return c < 0x80 ? AsciiLower(c) : Mapped(c, kToLower);
 }
 
 }  // namespace
@@ -22,6 +26,10 @@ Text ToLower(TextView text) {
   Text lower(text);
   for (char16_t& c : lower) c = ToLower(c);
   return lower;
+}
+
+char16_t ToUpper(char16_t c) {
+  return c < 0x80 ? AsciiUpper(c) : Mapped(c, kToUpper);
 }
 
 }  // namespace ZQ7Standard

@@ -5,9 +5,14 @@
 
 namespace ZQ7Standard {
 
-/// `text` in lower case by Unicode's simple one-to-one mapping, whatever the
-/// locale. Characters beyond U+FFFF stay as they are.
+// Unicode's simple one-to-one mapping, whatever the locale. Characters beyond
+// U+FFFF stay as they are, and so does Thai, which has no case.
+
+/// `text` in lower case.
 Text ToLower(TextView text);
+
+/// `c` in upper case.
+char16_t ToUpper(char16_t c);
 
 }  // namespace ZQ7Standard
 

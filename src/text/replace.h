@@ -9,6 +9,10 @@ namespace ZQ7Standard {
 /// put in is not looked at again.
 void ReplaceAll(Text& text, TextView from, TextView to);
 
+/// Appends `text` to `result` with each `from` (not empty) replaced by `to`,
+/// from the left. In proportion to the lengths, however many there are.
+void AppendReplaced(Text& result, TextView text, TextView from, TextView to);
+
 }  // namespace ZQ7Standard
 
 #endif  // ZQ7STANDARD_SRC_TEXT_REPLACE_H_

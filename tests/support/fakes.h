@@ -6,6 +6,7 @@
 #include <array>
 #include <functional>
 #include <ostream>
+#include <utility>
 
 namespace ZQ7Standard {
 
@@ -20,6 +21,19 @@ OleDate TestNow();
 
 /// An object on a machine with that convention and clock.
 StandardObject ObjectWith(DateConvention convention, OleDate now = TestNow());
+
+/// Gives `draw` whenever it was reseeded since the last draw, and otherwise a
+/// number that no generator gives.
+class FakeRandomSource final : public RandomSource {
+ public:
+  explicit FakeRandomSource(float draw) : draw_(draw) {}
+  void Reseed() override { reseeded_ = true; }
+  float Next() override { return std::exchange(reseeded_, false) ? draw_ : -1; }
+
+ private:
+  float draw_;
+  bool reseeded_ = false;
+};
 
 /// The run-time error number that `call` raises; 0 when it raises none.
 int ErrorOf(const std::function<void()>& call);

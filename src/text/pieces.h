@@ -1,0 +1,20 @@
+#ifndef ZQ7STANDARD_SRC_TEXT_PIECES_H_
+#define ZQ7STANDARD_SRC_TEXT_PIECES_H_
+
+#include <ZQ7Standard/Types.h>
+
+namespace ZQ7Standard {
+
+/// Takes the text up to the next `separator` off the front of `rest`, and the
+/// separator. A text that ends in one has no empty field behind it.
+TextView TakeField(TextView& rest, char16_t separator);
+
+/// `text` from its first character that is not in `set`.
+TextView TrimFront(TextView text, TextView set = u" ");
+
+/// `text` up to its last character that is not in `set`.
+TextView TrimBack(TextView text, TextView set = u" ");
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_TEXT_PIECES_H_
