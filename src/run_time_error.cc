@@ -23,6 +23,10 @@ RunTimeError RunTimeError::Overflow(std::string_view operation, std::string_view
   return {6, "overflow", operation, input};
 }
 
+RunTimeError RunTimeError::OutOfMemory(std::string_view operation, std::string_view input) {
+  return {7, "out of memory", operation, input};
+}
+
 RunTimeError RunTimeError::SubscriptOutOfRange(std::string_view operation, std::string_view input) {
   return {9, "subscript out of range", operation, input};
 }

@@ -20,6 +20,8 @@ class ZQ7STANDARD_EXPORT RunTimeError : public std::runtime_error {
   static RunTimeError InvalidArgument(std::string_view operation, std::string_view input);
   /// 6, overflow: a number that its type cannot hold.
   static RunTimeError Overflow(std::string_view operation, std::string_view input);
+  /// 7, out of memory: a size that the machine cannot hold.
+  static RunTimeError OutOfMemory(std::string_view operation, std::string_view input);
   /// 9, subscript out of range: a part of the input that is not there.
   static RunTimeError SubscriptOutOfRange(std::string_view operation, std::string_view input);
   /// 13, type mismatch: a text that does not read as the type wanted.

@@ -1,0 +1,29 @@
+#ifndef ZQ7STANDARD_GRIDVALUELISTENER_H_
+#define ZQ7STANDARD_GRIDVALUELISTENER_H_
+
+#include <ZQ7Standard/Export.h>
+
+#include <cstdint>
+
+namespace ZQ7Standard {
+
+/// What a host implements to hear of the changes of a `GridValueObject`. It is
+/// called on the thread of the operation, inside it.
+class ZQ7STANDARD_EXPORT GridValueListener {
+ public:
+  virtual ~GridValueListener();
+
+  /// Never called: it keeps its place in the interface for hosts that implement
+  /// it, and a change of any cell comes as `CellDataChange`.
+  virtual void DataChange();
+
+  /// The cell at (`Row`, `Col`), both from 0, was given a value and holds it.
+  ///
+  /// May call any operation of the grid, add and remove listeners, itself among
+  /// them, and throw; it must not destroy the grid.
+  virtual void CellDataChange(std::int32_t Row, std::int32_t Col) = 0;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_GRIDVALUELISTENER_H_

@@ -1,0 +1,51 @@
+#include "numbers/cell_table.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <utility>
+
+namespace ZQ7Standard {
+
+static_assert(std::numeric_limits<double>::is_iec559, "bytes of 0 are the number 0");
+
+CellTable::CellTable(std::size_t rows, std::size_t width) : width_(width) {
+  Resize(rows);
+}
+
+void CellTable::Resize(std::size_t rows) {
+  if (width_ == 0) return;
+  const std::size_t next_capacity = capacity_ + capacity_ / 2;
+  if (rows > next_capacity) return MoveToNewCells(rows);
+  if (rows > capacity_ && !Reallocate(next_capacity)) throw std::bad_alloc();
+  if (rows > rows_) std::fill_n(cells_.get() + rows_ * width_, (rows - rows_) * width_, 0.0);
+  rows_ = rows;
+  // Refused, the larger block serves on.
+  if (2 * rows_ < capacity_) Reallocate(rows_);
+}
+
+CellTable::Cells CellTable::Zeros(std::size_t count) {
+  Cells cells(static_cast<double*>(std::calloc(count, sizeof(double))));
+  if (!cells) throw std::bad_alloc();
+  return cells;
+}
+
+void CellTable::MoveToNewCells(std::size_t rows) {
+  Cells cells = Zeros(rows * width_);
+  std::copy_n(cells_.get(), rows_ * width_, cells.get());
+  cells_ = std::move(cells);
+  rows_ = rows;
+  capacity_ = rows;
+}
+
+/// False, and nothing changes, when the machine refuses.
+bool CellTable::Reallocate(std::size_t capacity) {
+  void* const cells = std::realloc(cells_.get(), capacity * width_ * sizeof(double));
+  if (cells == nullptr) return false;
+  static_cast<void>(cells_.release());
+  cells_.reset(static_cast<double*>(cells));
+  capacity_ = capacity;
+  return true;
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,48 @@
+#ifndef ZQ7STANDARD_SRC_NUMBERS_CELL_TABLE_H_
+#define ZQ7STANDARD_SRC_NUMBERS_CELL_TABLE_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+namespace ZQ7Standard {
+
+/// The cells of a grid: rows of one width, which come and go at the end.
+///
+/// Memory comes from `std::calloc`, because large blocks of it take no room on
+/// the machine until they are written to, and grows by `std::realloc`, because
+/// that need not hold a large block twice to make it larger.
+class CellTable {
+ public:
+  CellTable() = default;
+
+  /// A table of zeros. Throws std::bad_alloc when it cannot be held.
+  CellTable(std::size_t rows, std::size_t width);
+
+  /// Drops the rows from `rows` on, or adds rows of zeros up to `rows`. Throws
+  /// std::bad_alloc when they cannot be held, and changes nothing then.
+  void Resize(std::size_t rows);
+
+  /// The first cell of a row.
+  double* Row(std::int32_t row) { return cells_.get() + static_cast<std::size_t>(row) * width_; }
+
+ private:
+  struct Free {
+    void operator()(double* cells) const { std::free(cells); }
+  };
+  using Cells = std::unique_ptr<double, Free>;
+
+  static Cells Zeros(std::size_t count);
+  void MoveToNewCells(std::size_t rows);
+  bool Reallocate(std::size_t capacity);
+
+  Cells cells_;
+  std::size_t width_ = 0;  // cells
+  std::size_t rows_ = 0;
+  std::size_t capacity_ = 0;  // rows
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_NUMBERS_CELL_TABLE_H_
