@@ -1,0 +1,20 @@
+#include <fast_float/fast_float.h>
+
+#include "bench/inputs.h"
+#include "bench/measure.h"
+
+namespace ZQ7Standard::Bench {
+namespace {
+
+void ReadNumberFastFloat(benchmark::State& state) {
+  Measure(state, Amounts(), [](const Amount& amount) {
+    double value = 0;
+    fast_float::from_chars(amount.digits.data(), amount.digits.data() + amount.digits.size(),
+                           value);
+    return value;
+  });
+}
+BENCHMARK(ReadNumberFastFloat)->Name("read_number/fast_float");
+
+}  // namespace
+}  // namespace ZQ7Standard::Bench
