@@ -9,9 +9,9 @@ void MeasureWords(benchmark::State& state, IcuMoneyWords (*make)(UErrorCode&)) {
   UErrorCode status = U_ZERO_ERROR;
   const IcuMoneyWords words = make(status);
   icu::UnicodeString text;
-  Measure(state, Amounts(), [&](const Amount& amount) {
+  Measure(state, Column(Amounts(), &Amount::value), [&](double amount) {
     text.remove();
-    words.Append(amount.value, text, status);
+    words.Append(amount, text, status);
     return text.length();
   });
   Check(state, status);

@@ -14,9 +14,8 @@ void FormatNumberIcu(benchmark::State& state) {
   UErrorCode status = U_ZERO_ERROR;
   const auto formatter = icu::number::NumberFormatter::withLocale("th").precision(
       icu::number::Precision::fixedFraction(2));
-  Measure(state, Amounts(), [&](const Amount& amount) {
-    return formatter.formatDouble(amount.value, status).toString(status);
-  });
+  Measure(state, Column(Amounts(), &Amount::value),
+          [&](double amount) { return formatter.formatDouble(amount, status).toString(status); });
   Check(state, status);
 }
 BENCHMARK(FormatNumberIcu)->Name("format_number/icu");
@@ -28,9 +27,9 @@ void FormatNumberIcuFormat(benchmark::State& state) {
   format->setMinimumFractionDigits(2);
   format->setMaximumFractionDigits(2);
   icu::UnicodeString text;
-  Measure(state, Amounts(), [&](const Amount& amount) {
+  Measure(state, Column(Amounts(), &Amount::value), [&](double amount) {
     text.remove();
-    return format->format(amount.value, text).length();
+    return format->format(amount, text).length();
   });
 }
 BENCHMARK(FormatNumberIcuFormat)->Name("format_number/icu_format");

@@ -7,10 +7,9 @@ namespace ZQ7Standard::Bench {
 namespace {
 
 void ReadNumberFastFloat(benchmark::State& state) {
-  Measure(state, Amounts(), [](const Amount& amount) {
+  Measure(state, Column(Amounts(), &Amount::digits), [](const std::string& amount) {
     double value = 0;
-    fast_float::from_chars(amount.digits.data(), amount.digits.data() + amount.digits.size(),
-                           value);
+    fast_float::from_chars(amount.data(), amount.data() + amount.size(), value);
     return value;
   });
 }

@@ -7,8 +7,8 @@ namespace ZQ7Standard::Bench {
 namespace {
 
 void FormatNumberFmt(benchmark::State& state) {
-  Measure(state, Amounts(),
-          [](const Amount& amount) { return fmt::format("{:.2f}", amount.value); });
+  Measure(state, Column(Amounts(), &Amount::value),
+          [](double amount) { return fmt::format("{:.2f}", amount); });
 }
 BENCHMARK(FormatNumberFmt)->Name("format_number/fmt");
 

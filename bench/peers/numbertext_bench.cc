@@ -11,11 +11,12 @@ void MeasureWords(benchmark::State& state, const std::string& language) {
   Numbertext words;
   words.set_prefix(ZQ7_NUMBERTEXT_DATA);
   if (!words.load(language)) return state.SkipWithError("no language data");
-  Measure(state, Amounts(), [&words, &language](const Amount& amount) {
-    std::string text = "THB " + amount.digits;
-    words.numbertext(text, language);
-    return text;
-  });
+  Measure(state, Column(Amounts(), &Amount::digits),
+          [&words, &language](const std::string& amount) {
+            std::string text = "THB " + amount;
+            words.numbertext(text, language);
+            return text;
+          });
 }
 
 void ThaiWordsNumbertext(benchmark::State& state) {
