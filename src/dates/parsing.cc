@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "dates/civil.h"
@@ -31,6 +32,26 @@ TextView TakeField(TextView& rest) {
   return field;
 }
 
+/// The number of a field of one to four digits, as nearly all are; nothing for
+/// any other, which takes a number reader.
+std::optional<int> ReadDigits(TextView field) {
+  if (field.empty() || field.size() > 4) return std::nullopt;
+  int number = 0;
+  for (const char16_t c : field) {
+    if (!IsAsciiDigit(c)) return std::nullopt;
+    number = number * 10 + (c - u'0');
+  }
+  return number;
+}
+
+/// The number that a field begins with, rounded to a whole one; nothing beyond
+/// 16 bits.
+std::optional<int> ReadField(TextView field) {
+  if (const auto digits = ReadDigits(field)) return *digits;
+  const auto number = ReadLeadingNumber(field);
+  return number ? RoundToInteger<std::int16_t>(*number) : std::nullopt;
+}
+
 /// The first fields of a text as the order of a system has them.
 struct DayMonthYear {
   int day;
@@ -54,9 +75,7 @@ struct Period {
 /// Reads the first four characters before the first "/" as the year, in the
 /// system's era, and the last two behind it as the month.
 Period ReadPeriod(TextView text, Era era) {
-  const auto whole_number = [](TextView digits) {
-    return std::nearbyint(ReadTypedNumber(digits).value_or(0));
-  };
+  const auto whole_number = [](TextView digits) { return std::nearbyint(ReadTypedNumber(digits)); };
   if (text.find(u'/') == TextView::npos) return {0, 0};
   const TextView year = TakeField(text).substr(0, 4);
   TextView month = TakeField(text);
@@ -71,8 +90,7 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
   std::array<int, 3> fields = {0, 0, 0};
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {
-    const auto number = ReadLeadingNumber(TakeField(rest));
-    const auto field = number ? RoundToInteger<std::int16_t>(*number) : std::nullopt;
+    const auto field = ReadField(TakeField(rest));
     if (!field) throw RunTimeError::Overflow("CTDATE", Quoted(iText));
     if (count < fields.size()) fields[count] = *field;
   }
@@ -85,16 +103,16 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
 }
 
 bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/) const {
-  if (iText.find(u'/') == TextView::npos) return false;
   std::array<int, 3> fields = {0, 0, 0};
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {
     if (count == fields.size()) return false;
     const TextView text = TakeField(rest);
     if (count == 2 && text.size() != 4) return false;
-    const auto field = RoundToInteger<std::int32_t>(std::abs(StrVal(text)));
-    if (!field) return false;
-    fields[count] = *field;
+    const auto digits = ReadDigits(text);
+    const auto number = digits ? *digits : RoundToInteger<std::int32_t>(std::abs(StrVal(text)));
+    if (!number) return false;
+    fields[count] = *number;
   }
   if (count != fields.size()) return false;
   const DateConvention convention = Convention();

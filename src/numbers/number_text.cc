@@ -170,36 +170,41 @@ double ReadLongNumber(Source source) {
   return ReadExactly(number, magnitude + exponent);
 }
 
+/// The digits of a number without its point; `exact` while a double holds them.
+struct Significand {
+  std::uint64_t digits = 0;
+  bool exact = true;
+};
+
+/// Adds the digits in front to `number` and returns how many there are.
 template <typename Source>
-std::optional<double> ReadNumber(Source source) {
+std::int64_t TakeDigits(Source& source, Significand& number) {
+  std::int64_t count = 0;
+  for (; IsAsciiDigit(source.Front()); source.Advance(), ++count) {
+    number.exact = number.exact && number.digits < kMaxExactDigits / 10;
+    number.digits = number.digits * 10 + static_cast<std::uint64_t>(source.Front() - u'0');
+  }
+  return count;
+}
+
+/// Reads the number in front; an infinity when it is too large.
+template <typename Source>
+double ReadNumber(Source source) {
   const bool negative = source.Front() == u'-';
   if (negative || source.Front() == u'+') source.Advance();
   const Source start = source;
-  std::uint64_t digits = 0;
+  Significand number;
   std::int64_t exponent = 0;
-  bool point = false;
-  bool exact = true;
-  for (;; source.Advance()) {
-    const char16_t c = source.Front();
-    if (IsAsciiDigit(c)) {
-      exact = exact && digits < kMaxExactDigits / 10;
-      digits = digits * 10 + static_cast<std::uint64_t>(c - u'0');
-      if (point) --exponent;
-    } else if (c == u'.' && !point) {
-      point = true;
-    } else {
-      break;
-    }
+  TakeDigits(source, number);
+  if (source.Front() == u'.') {
+    source.Advance();
+    exponent = -TakeDigits(source, number);
   }
-  if (exact && digits == 0) return 0.0;
+  if (number.exact && number.digits == 0) return 0;
   exponent += ReadExponent(source);
-  double value = 0;
-  if (exact && exponent >= -kMaxExactPower && exponent <= kMaxExactPower) {
-    value = ScaleExact(digits, static_cast<int>(exponent));
-  } else {
-    value = ReadLongNumber(start);
-  }
-  if (std::isinf(value)) return std::nullopt;
+  const bool exact = number.exact && exponent >= -kMaxExactPower && exponent <= kMaxExactPower;
+  const double value =
+      exact ? ScaleExact(number.digits, static_cast<int>(exponent)) : ReadLongNumber(start);
   return negative ? -value : value;
 }
 
@@ -298,11 +303,14 @@ Text ShortestText(Decimal number) {
 
 std::optional<double> ReadLeadingNumber(TextView text) {
   text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
-  return ReadNumber(Characters<IsNothing>(text));
+  const double value = ReadNumber(Characters<IsNothing>(text));
+  if (std::isinf(value)) return std::nullopt;
+  return value;
 }
 
-std::optional<double> ReadTypedNumber(TextView text) {
-  return ReadNumber(Characters<IsNumberMark>(text));
+double ReadTypedNumber(TextView text) {
+  const double value = ReadNumber(Characters<IsNumberMark>(text));
+  return std::isinf(value) ? 0 : value;
 }
 
 template <typename Integer>

@@ -69,8 +69,9 @@ Text ShortestText(Decimal number);
 /// too large for a double.
 std::optional<double> ReadLeadingNumber(TextView text);
 
-/// The same with every blank, "," and "%" left out first.
-std::optional<double> ReadTypedNumber(TextView text);
+/// The same with every blank, "," and "%" left out first; 0 when the number is
+/// too large for a double.
+double ReadTypedNumber(TextView text);
 
 /// The whole number nearest to `value`, a half going to even; nothing outside
 /// the range of `Integer`.
