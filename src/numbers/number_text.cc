@@ -79,10 +79,10 @@ Decimal ToDecimalInRange(double magnitude) {
   const std::uint64_t mantissa = (bits & (kHiddenBit - 1)) | kHiddenBit;
   const int binary_exponent = static_cast<int>(bits >> 52) - 1023;
   const int shift = 52 - binary_exponent;
-  // 1233 / 4096 is log10(2); the estimate is right or one too high.
+  // 1233 / 4096 is log10(2); the power is right or one too high.
   int power = kSignificantDigits - 1 - ((binary_exponent * 1233) >> 12);
   std::uint64_t digits = Scale(mantissa, shift, power);
-  if (digits >= kDigitsLimit) digits = Scale(mantissa, shift, --power);
+  if (digits > kDigitsLimit) digits = Scale(mantissa, shift, --power);
   return {digits, -power};
 }
 
