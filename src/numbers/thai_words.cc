@@ -102,7 +102,7 @@ Text ThaiMoneyWords(double amount, TextView unit, TextView sub_unit) {
   }
   const TextView end = has_fraction ? sub_unit : u"ถ้วน";
   Text words;
-  words.reserve(spoken.View().size() + unit.size() + end.size());
+  words.reserve(spoken.View().size() + unit.size() + end.size() + 1);  // a lone satang grows
   words.append(spoken.View(), 0, whole_size);
   if (amount >= 1) words.append(unit);
   words.append(spoken.View(), whole_size).append(end);
