@@ -77,8 +77,8 @@ std::optional<OleDate> DaysLater(OleDate date, std::int64_t days) {
 }
 
 bool IsInRange(double days) {
-  const double day = std::trunc(days);
-  return day >= kFirstDay && day <= kLastDay;
+  // The times of the first day count away from zero, as those of the last do.
+  return days > kFirstDay - 1 && days < kLastDay + 1;
 }
 
 OleDate AtTime(OleDate day, double time_of_day) {

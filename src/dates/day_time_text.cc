@@ -10,7 +10,7 @@ namespace ZQ7Standard {
 namespace {
 
 double WholeNumber(TextView text) {
-  return std::nearbyint(ReadTypedNumber(text).value_or(0));
+  return std::nearbyint(ReadTypedNumber(text));
 }
 
 }  // namespace

@@ -15,23 +15,6 @@ namespace {
 
 constexpr int kMonthsPerYear = 12;
 
-/// The month after `date`, or before it when `step` is -1, as the system reads
-/// "Mon/day/year": on the same day, or on the last one that the month has.
-/// Nothing when no day of that month is a date.
-std::optional<OleDate> OneMonth(OleDate date, int step, Era era) {
-  const auto civil = YearMonthDay(date);
-  int year = static_cast<int>(civil.year()) + EraDifference(era);
-  int month = static_cast<int>(static_cast<unsigned>(civil.month())) + step;
-  if (month > kMonthsPerYear || month < 1) {
-    year += step;
-    month -= step * kMonthsPerYear;
-  }
-  for (int day = static_cast<int>(static_cast<unsigned>(civil.day())); day > 0; --day) {
-    if (const auto result = ReadNamedMonthDate(month, day, year, era)) return result;
-  }
-  return std::nullopt;
-}
-
 /// Three numbers of a call, for the message of an error.
 std::string Describe(OleDate date, int months) {
   return std::to_string(date.Days()) + " days, " + std::to_string(months) + " months";
@@ -40,11 +23,23 @@ std::string Describe(OleDate date, int months) {
 }  // namespace
 
 OleDate StandardObject::AddMonth(OleDate InDate, std::int16_t NumberOfMonth) const {
-  const Era era = Convention().era;
   const int months = NumberOfMonth == 0 ? 1 : NumberOfMonth;
-  std::optional<OleDate> date = InDate;
-  for (int i = 0; i < std::abs(months) && date; ++i)
-    date = OneMonth(*date, months > 0 ? 1 : -1, era);
+  const int step = months > 0 ? 1 : -1;
+  const auto civil = YearMonthDay(InDate);
+  int year = static_cast<int>(civil.year());
+  int month = static_cast<int>(static_cast<unsigned>(civil.month()));
+  int day = static_cast<int>(static_cast<unsigned>(civil.day()));
+  for (int i = 0; i < std::abs(months); ++i) {
+    month += step;
+    if (month < 1 || month > kMonthsPerYear) {
+      year += step;
+      month -= step * kMonthsPerYear;
+      // A Gregorian system completes a year of two digits, as when it is typed.
+      if (year == 99 && Convention().era == Era::kGregorian) year = 1999;
+    }
+    day = std::min(day, DaysInMonth(year, month));
+  }
+  const auto date = DateFromParts(year, month, day);
   if (!date) throw RunTimeError::InvalidArgument("AddMonth", Describe(InDate, months));
   return *date;
 }

@@ -51,7 +51,7 @@ OleDate OleDate::FromCivil(local_days day) {
 }
 
 double OleDate::TimeOfDay() const {
-  return std::abs(days_ - std::trunc(days_));
+  return std::abs(days_ - static_cast<int>(days_));
 }
 
 local_days OleDate::Civil() const {

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "dates/civil.h"
@@ -22,6 +23,14 @@ constexpr int kFirstTypedYear = 643;
 constexpr int kLastTypedYear = 9999;
 constexpr int kLastGregorianKeyYear = 2400;  // a later year in a key is Buddhist
 constexpr int kLastPeriodYear = 3332;        // the year before the blank date's
+
+/// The number that a field begins with, rounded to a whole one; nothing beyond
+/// 16 bits.
+std::optional<int> ReadField(TextView field) {
+  if (const auto digits = ReadShortNumber(field)) return *digits;
+  const auto number = ReadLeadingNumber(field);
+  return number ? RoundToInteger<std::int16_t>(*number) : std::nullopt;
+}
 
 /// The first fields of a text as the order of a system has them.
 struct DayMonthYear {
@@ -46,9 +55,7 @@ struct Period {
 /// Reads the first four characters before the first "/" as the year, in the
 /// system's era, and the last two behind it as the month.
 Period ReadPeriod(TextView text, Era era) {
-  const auto whole_number = [](TextView digits) {
-    return std::nearbyint(ReadTypedNumber(digits).value_or(0));
-  };
+  const auto whole_number = [](TextView digits) { return std::nearbyint(ReadTypedNumber(digits)); };
   if (text.find(u'/') == TextView::npos) return {0, 0};
   const TextView year = TakeField(text, u'/').substr(0, 4);
   TextView month = TakeField(text, u'/');
@@ -63,8 +70,7 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
   std::array<int, 3> fields = {0, 0, 0};
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {
-    const auto number = ReadLeadingNumber(TakeField(rest, u'/'));
-    const auto field = number ? RoundToInteger<std::int16_t>(*number) : std::nullopt;
+    const auto field = ReadField(TakeField(rest, u'/'));
     if (!field) throw RunTimeError::Overflow("CTDATE", Quoted(iText));
     if (count < fields.size()) fields[count] = *field;
   }
@@ -77,16 +83,16 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
 }
 
 bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/) const {
-  if (iText.find(u'/') == TextView::npos) return false;
   std::array<int, 3> fields = {0, 0, 0};
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {
     if (count == fields.size()) return false;
     const TextView text = TakeField(rest, u'/');
     if (count == 2 && text.size() != 4) return false;
-    const auto field = RoundToInteger<std::int32_t>(std::abs(StrVal(text)));
-    if (!field) return false;
-    fields[count] = *field;
+    const auto digits = ReadShortNumber(text);
+    const auto number = digits ? *digits : RoundToInteger<std::int32_t>(std::abs(StrVal(text)));
+    if (!number) return false;
+    fields[count] = *number;
   }
   if (count != fields.size()) return false;
   const DateConvention convention = Convention();

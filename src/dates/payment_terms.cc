@@ -93,6 +93,7 @@ Text StandardObject::FormatCondition2(float Condition1, std::int16_t ConditionDa
                                       ZQ7ConditionOutputType OutputType, float ConditionDay) const {
   if (!IsPositive(ConditionDay)) return u"CASH";
   Text text;
+  text.reserve(48);
   if (IsPositive(Condition1) && ConditionDay1 > 0) {
     text.append(FormatFloat(Condition1, 1)).append(u"/");
     text.append(FormatDecimal(*ToDecimal(ConditionDay1), 0, Grouping::kThousands)).append(u", ");

@@ -15,10 +15,7 @@ constexpr int kMinutesPerHour = 60;
 
 /// The four digits "HHMM" as a number, 930 for "0930"; nothing for other text.
 std::optional<int> FourDigits(TextView text) {
-  if (text.size() != 4 || !std::ranges::all_of(text, IsAsciiDigit)) return std::nullopt;
-  int number = 0;
-  for (const char16_t digit : text) number = number * 10 + (digit - u'0');
-  return number;
+  return text.size() == 4 ? ReadShortNumber(text) : std::nullopt;
 }
 
 /// The time of day of 930 (9:30) as a fraction of a day; nothing when it is no

@@ -5,54 +5,57 @@
 #include <cstddef>
 
 #include "numbers/number_text.h"
+#include "numbers/word_buffer.h"
 #include "text/ascii.h"
-#include "text/replace.h"
 
 namespace ZQ7Standard {
 namespace {
 
+// Each word brings the blank in front of it.
 constexpr std::array<TextView, 20> kBelowTwenty = {
-    u"",         u"One",     u"Two",     u"Three",     u"Four",     u"Five",    u"Six",
-    u"Seven",    u"Eight",   u"Nine",    u"Ten",       u"Eleven",   u"Twelve",  u"Thirteen",
-    u"Fourteen", u"Fifteen", u"Sixteen", u"Seventeen", u"Eighteen", u"Nineteen"};
-// "Fourty" stands in the table and is put right in the finished text.
-constexpr std::array<TextView, 10> kTens = {u"",      u"Ten",   u"Twenty",  u"Thirty", u"Fourty",
-                                            u"Fifty", u"Sixty", u"Seventy", u"Eighty", u"Ninety"};
+    u"",          u" one",     u" two",     u" three",     u" four",     u" five",    u" six",
+    u" seven",    u" eight",   u" nine",    u" ten",       u" eleven",   u" twelve",  u" thirteen",
+    u" fourteen", u" fifteen", u" sixteen", u" seventeen", u" eighteen", u" nineteen"};
+constexpr std::array<TextView, 10> kTens = {u"",        u" ten",   u" twenty", u" thirty",
+                                            u" forty",  u" fifty", u" sixty",  u" seventy",
+                                            u" eighty", u" ninety"};
 // By the number of three-digit groups that follow; "?" beyond the table.
-constexpr std::array<TextView, 6> kScales = {u"",         u" Thousand", u" Million",
-                                             u" Billion", u" Trillion", u" ?"};
+constexpr std::array kScales = {Word(u""),         Word(u" thousand"), Word(u" million"),
+                                Word(u" billion"), Word(u" trillion"), Word(u" ?")};
 
-void AppendWord(Text& text, TextView word) {
-  if (word.empty()) return;
-  if (!text.empty()) text.push_back(u' ');
-  text.append(word);
-}
+constexpr auto kHundreds = [] {
+  std::array<Word, 10> words;
+  for (std::size_t i = 1; i < words.size(); ++i) words[i] = Word(kBelowTwenty[i], u" hundred");
+  return words;
+}();
+
+constexpr auto kBelowHundred = [] {
+  std::array<Word, 100> words;
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    words[i] = i < 20 ? Word(kBelowTwenty[i]) : Word(kTens[i / 10], kBelowTwenty[i % 10]);
+  }
+  return words;
+}();
+
+constexpr Word kNegative(u" negative");
+constexpr Word kZero(u" zero");
+constexpr Word kBaht(u" baht");
+constexpr Word kAnd(u" and");
+constexpr Word kSatang(u" satang");
 
 /// Appends a number from 0 to 999; 0 has no words.
-void AppendGroup(Text& text, int group) {
-  const auto word = [](const auto& table, int index) {
-    return table[static_cast<std::size_t>(index)];
-  };
-  if (group >= 100) {
-    AppendWord(text, word(kBelowTwenty, group / 100));
-    text.append(u" Hundred");
-  }
-  const int rest = group % 100;
-  if (rest < 20) {
-    AppendWord(text, word(kBelowTwenty, rest));
-  } else {
-    AppendWord(text, word(kTens, rest / 10));
-    AppendWord(text, word(kBelowTwenty, rest % 10));
-  }
+void AppendGroup(WordBuffer& words, int group) {
+  words.Append(kHundreds[static_cast<std::size_t>(group / 100)]);
+  words.Append(kBelowHundred[static_cast<std::size_t>(group % 100)]);
 }
 
-void AppendWhole(Text& text, const DecimalDigits& digits) {
+void AppendWhole(WordBuffer& words, const DecimalDigits& digits) {
   for (int group = (digits.WholeCount() - 1) / 3; group >= 0; --group) {
     const int value =
         digits.At(group * 3 + 2) * 100 + digits.At(group * 3 + 1) * 10 + digits.At(group * 3);
     if (value == 0) continue;
-    AppendGroup(text, value);
-    text.append(kScales[std::min(static_cast<std::size_t>(group), kScales.size() - 1)]);
+    AppendGroup(words, value);
+    words.Append(kScales[std::min(static_cast<std::size_t>(group), kScales.size() - 1)]);
   }
 }
 
@@ -63,19 +66,19 @@ Text EnglishMoneyWords(double amount) {
   if (!number) return {};
   const DecimalDigits digits(RoundDecimals(*number, 2));
   const int satang = digits.At(-1) * 10 + digits.At(-2);
-  Text text;
-  text.reserve(160);
-  if (amount < 0) text.append(u"Negative");
-  AppendWhole(text, digits);
-  if (text.empty() && satang == 0) text.append(u"Zero");
-  text.append(u" baht");
+  WordBuffer words;
+  if (amount < 0) words.Append(kNegative);
+  AppendWhole(words, digits);
+  if (words.View().empty() && satang == 0) words.Append(kZero);
+  // An amount below 1 keeps the blank in front of its unit.
+  const std::size_t start = words.View().empty() ? 0 : 1;
+  words.Append(kBaht);
   if (satang != 0) {
-    text.append(u" and");
-    AppendGroup(text, satang);
-    text.append(u" satang");
+    words.Append(kAnd);
+    AppendGroup(words, satang);
+    words.Append(kSatang);
   }
-  ReplaceAll(text, u"Fourty", u"Forty");
-  std::ranges::transform(text, text.begin(), AsciiLower);
+  Text text(words.View().substr(start));
   text.front() = AsciiUpper(text.front());
   return text;
 }

@@ -36,11 +36,12 @@ Text BahtStringObject::MoneyText(double inDouble, bool useBreak, bool useEnglish
   if (std::abs(inDouble) > kLargestAmount) return {};
   Text words = useEnglish ? MoneyTextE(inDouble) : MoneyTextT(inDouble);
   if (words.empty()) return words;
-  if (useEnglish) {
+  if (useEnglish && !NewUnit.empty()) {
     ReplaceAll(words, kEnglishUnit, ToLower(unit_text_));
     ReplaceAll(words, kEnglishSubUnit, ToLower(sub_unit_text_));
   }
-  return useBreak ? u"=" + words + u"=" : words;
+  if (useBreak) return u"=" + words + u"=";
+  return words;
 }
 
 Text BahtStringObject::BahtString(double inDouble, bool useBreak, bool useEnglish, TextView NewUnit,

@@ -1,6 +1,7 @@
 #include "numbers/number_text.h"
 
 #include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -59,6 +60,9 @@ double ReadExactly(std::string_view number, std::int64_t magnitude) {
   return magnitude > 0 ? std::numeric_limits<double>::infinity() : 0;
 }
 
+/// The leading 1 of a double's mantissa, which its bits leave out.
+constexpr std::uint64_t kHiddenBit = std::uint64_t{1} << 52;
+
 /// mantissa / 2^shift × 10^power, half up; both factors are small enough for
 /// 128 bits.
 std::uint64_t Scale(std::uint64_t mantissa, int shift, int power) {
@@ -71,15 +75,15 @@ std::uint64_t Scale(std::uint64_t mantissa, int shift, int power) {
 /// For values from 2^-23 up to below 10^15, whose 53 bits times 10^21 at most
 /// fit in 128 bits.
 Decimal ToDecimalInRange(double magnitude) {
-  int binary_exponent = 0;
-  const double fraction = std::frexp(magnitude, &binary_exponent);
-  const auto mantissa = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
-  const int shift = 53 - binary_exponent;
+  const auto bits = std::bit_cast<std::uint64_t>(magnitude);
+  const std::uint64_t mantissa = (bits & (kHiddenBit - 1)) | kHiddenBit;
+  const int binary_exponent = static_cast<int>(bits >> 52) - 1023;
+  const int shift = 52 - binary_exponent;
   // 1233 / 4096 is log10(2); the power is right or one too high.
-  int power = kSignificantDigits - 1 - (((binary_exponent - 1) * 1233) >> 12);
+  int power = kSignificantDigits - 1 - ((binary_exponent * 1233) >> 12);
   std::uint64_t digits = Scale(mantissa, shift, power);
   if (digits > kDigitsLimit) digits = Scale(mantissa, shift, --power);
-  return {false, digits, -power};
+  return {digits, -power};
 }
 
 /// Any other value by its exact decimal digits: no double has more than 767.
@@ -97,7 +101,7 @@ Decimal ToDecimalOutOfRange(double magnitude) {
   if (*exponent_text == '+') ++exponent_text;
   int exponent = 0;
   std::from_chars(exponent_text, end, exponent);
-  return {false, digits, exponent - (kSignificantDigits - 1)};
+  return {digits, exponent - (kSignificantDigits - 1)};
 }
 
 /// The characters of a text, those that `Ignored` names left out.
@@ -166,36 +170,41 @@ double ReadLongNumber(Source source) {
   return ReadExactly(number, magnitude + exponent);
 }
 
+/// The digits of a number without its point; `exact` while a double holds them.
+struct Significand {
+  std::uint64_t digits = 0;
+  bool exact = true;
+};
+
+/// Adds the digits in front to `number` and returns how many there are.
 template <typename Source>
-std::optional<double> ReadNumber(Source source) {
+std::int64_t TakeDigits(Source& source, Significand& number) {
+  std::int64_t count = 0;
+  for (; IsAsciiDigit(source.Front()); source.Advance(), ++count) {
+    number.exact = number.exact && number.digits < kMaxExactDigits / 10;
+    number.digits = number.digits * 10 + static_cast<std::uint64_t>(source.Front() - u'0');
+  }
+  return count;
+}
+
+/// Reads the number in front; an infinity when it is too large.
+template <typename Source>
+double ReadNumber(Source source) {
   const bool negative = source.Front() == u'-';
   if (negative || source.Front() == u'+') source.Advance();
   const Source start = source;
-  std::uint64_t digits = 0;
+  Significand number;
   std::int64_t exponent = 0;
-  bool point = false;
-  bool exact = true;
-  for (;; source.Advance()) {
-    const char16_t c = source.Front();
-    if (IsAsciiDigit(c)) {
-      exact = exact && digits < kMaxExactDigits / 10;
-      digits = digits * 10 + static_cast<std::uint64_t>(c - u'0');
-      if (point) --exponent;
-    } else if (c == u'.' && !point) {
-      point = true;
-    } else {
-      break;
-    }
+  TakeDigits(source, number);
+  if (source.Front() == u'.') {
+    source.Advance();
+    exponent = -TakeDigits(source, number);
   }
-  if (exact && digits == 0) return 0.0;
+  if (number.exact && number.digits == 0) return 0;
   exponent += ReadExponent(source);
-  double value = 0;
-  if (exact && exponent >= -kMaxExactPower && exponent <= kMaxExactPower) {
-    value = ScaleExact(digits, static_cast<int>(exponent));
-  } else {
-    value = ReadLongNumber(start);
-  }
-  if (std::isinf(value)) return std::nullopt;
+  const bool exact = number.exact && exponent >= -kMaxExactPower && exponent <= kMaxExactPower;
+  const double value =
+      exact ? ScaleExact(number.digits, static_cast<int>(exponent)) : ReadLongNumber(start);
   return negative ? -value : value;
 }
 
@@ -216,14 +225,14 @@ Decimal RoundDecimals(Decimal number, int decimals) {
   if (drop <= 0) return number;
   if (drop > kSignificantDigits + 1) return {};
   const std::uint64_t unit = PowerOfTen(drop);
-  return {number.negative, (number.digits + unit / 2) / unit, -decimals};
+  return {(number.digits + unit / 2) / unit, -decimals, number.negative};
 }
 
 Decimal CutDecimals(Decimal number, int decimals) {
   const int drop = -number.exponent - decimals;
   if (drop <= 0) return number;
   if (drop > kSignificantDigits + 1) return {};
-  return {number.negative, number.digits / PowerOfTen(drop), -decimals};
+  return {number.digits / PowerOfTen(drop), -decimals, number.negative};
 }
 
 double ToDouble(Decimal number) {
@@ -252,18 +261,21 @@ int DecimalDigits::WholeCount() const {
 Text FormatDecimal(Decimal number, int decimals, Grouping grouping) {
   const Decimal rounded = RoundDecimals(number, decimals);
   const DecimalDigits digits(rounded);
+  const bool negative = rounded.negative && rounded.digits != 0;
+  const bool grouped = grouping == Grouping::kThousands;
   const int whole = digits.WholeCount();
-  Text text;
-  text.reserve(static_cast<std::size_t>(whole + whole / 3 + decimals + 2));
-  if (rounded.negative && rounded.digits != 0) text.push_back(u'-');
+  const int size = (negative ? 1 : 0) + whole + (grouped ? (whole - 1) / 3 : 0) +
+                   (decimals > 0 ? decimals + 1 : 0);
+  Text text(static_cast<std::size_t>(size), u'0');
+  auto out = text.begin();
+  if (negative) *out++ = u'-';
   for (int power = whole - 1; power >= 0; --power) {
-    text.push_back(static_cast<char16_t>(u'0' + digits.At(power)));
-    const bool group_ends = power > 0 && power % 3 == 0;
-    if (group_ends && grouping == Grouping::kThousands) text.push_back(u',');
+    *out++ = static_cast<char16_t>(u'0' + digits.At(power));
+    if (grouped && power > 0 && power % 3 == 0) *out++ = u',';
   }
-  if (decimals > 0) text.push_back(u'.');
+  if (decimals > 0) *out++ = u'.';
   for (int power = -1; power >= -decimals; --power) {
-    text.push_back(static_cast<char16_t>(u'0' + digits.At(power)));
+    *out++ = static_cast<char16_t>(u'0' + digits.At(power));
   }
   return text;
 }
@@ -291,11 +303,14 @@ Text ShortestText(Decimal number) {
 
 std::optional<double> ReadLeadingNumber(TextView text) {
   text.remove_prefix(std::min(text.find_first_not_of(u' '), text.size()));
-  return ReadNumber(Characters<IsNothing>(text));
+  const double value = ReadNumber(Characters<IsNothing>(text));
+  if (std::isinf(value)) return std::nullopt;
+  return value;
 }
 
-std::optional<double> ReadTypedNumber(TextView text) {
-  return ReadNumber(Characters<IsNumberMark>(text));
+double ReadTypedNumber(TextView text) {
+  const double value = ReadNumber(Characters<IsNumberMark>(text));
+  return std::isinf(value) ? 0 : value;
 }
 
 template <typename Integer>

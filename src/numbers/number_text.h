@@ -10,11 +10,12 @@
 
 namespace ZQ7Standard {
 
-/// The decimal number ±digits × 10^exponent. `digits` is below 10^16.
+/// The decimal number ±digits × 10^exponent. `digits` is below 10^16. The order
+/// of the members keeps it to 16 bytes, which pass in registers.
 struct Decimal {
-  bool negative = false;
   std::uint64_t digits = 0;
   int exponent = 0;
+  bool negative = false;
 };
 
 /// `value` taken to 15 significant digits, a tie away from zero; nothing for
@@ -68,8 +69,9 @@ Text ShortestText(Decimal number);
 /// too large for a double.
 std::optional<double> ReadLeadingNumber(TextView text);
 
-/// The same with every blank, "," and "%" left out first.
-std::optional<double> ReadTypedNumber(TextView text);
+/// The same with every blank, "," and "%" left out first; 0 when the number is
+/// too large for a double.
+double ReadTypedNumber(TextView text);
 
 /// The whole number nearest to `value`, a half going to even; nothing outside
 /// the range of `Integer`.

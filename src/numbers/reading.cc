@@ -26,9 +26,8 @@ double StandardObject::StrVal(TextView istr) const {
 }
 
 double StandardObject::StrVal2(TextView istr, std::int32_t DecimalDigit) const {
-  const auto number = ReadTypedNumber(istr);
-  if (!number) return 0;
-  const double value = istr.ends_with(u'%') ? *number / 100 : *number;
+  const double number = ReadTypedNumber(istr);
+  const double value = istr.ends_with(u'%') ? number / 100 : number;
   if (DecimalDigit == -1) return value;
   if (DecimalDigit < 0 || DecimalDigit > std::numeric_limits<std::int16_t>::max()) return 0;
   return FixNumber(value, static_cast<std::int16_t>(DecimalDigit));

@@ -5,6 +5,16 @@
 
 namespace ZQ7Standard {
 
+std::optional<int> ReadShortNumber(TextView digits) {
+  if (digits.empty() || digits.size() > 4) return std::nullopt;
+  int number = 0;
+  for (const char16_t c : digits) {
+    if (!IsAsciiDigit(c)) return std::nullopt;
+    number = number * 10 + (c - u'0');
+  }
+  return number;
+}
+
 void AppendNumber(Text& text, int number, int width) {
   std::array<char, 12> digits;
   const char* const begin = digits.data();

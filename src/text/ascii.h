@@ -4,6 +4,7 @@
 #include <ZQ7Standard/Types.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace ZQ7Standard {
 
@@ -27,6 +28,10 @@ constexpr bool IsAsciiLetter(char16_t c) {
 constexpr bool EqualsIgnoringAsciiCase(TextView a, TextView b) {
   return std::ranges::equal(a, b, {}, AsciiUpper, AsciiUpper);
 }
+
+/// The number that one to four digits write, as the fields of nearly all dates
+/// and times do; nothing for any other text.
+std::optional<int> ReadShortNumber(TextView digits);
 
 /// Appends `number` (from 0) in decimal, with leading zeros up to `width` digits.
 void AppendNumber(Text& text, int number, int width);

@@ -29,7 +29,7 @@ constexpr bool Fits(std::int64_t value) {
 }
 
 bool IsPositiveNumber(TextView text) {
-  return ReadTypedNumber(text).value_or(0) > 0;
+  return ReadTypedNumber(text) > 0;
 }
 
 /// The longest run of digits at the end of `key` that is a number above 0.

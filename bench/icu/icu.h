@@ -1,0 +1,50 @@
+#ifndef ZQ7STANDARD_BENCH_ICU_ICU_H_
+#define ZQ7STANDARD_BENCH_ICU_ICU_H_
+
+#include <ZQ7Standard/Types.h>
+#include <benchmark/benchmark.h>
+#include <unicode/rbnf.h>
+#include <unicode/smpdtfmt.h>
+#include <unicode/unistr.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace ZQ7Standard::Bench {
+
+icu::UnicodeString ToIcu(TextView text);
+
+/// Midnight of a day in Greenwich.
+UDate ToIcu(OleDate date);
+
+/// Fails the benchmark when a call of ICU has failed.
+void Check(benchmark::State& state, UErrorCode status);
+
+/// A reader and writer of Thai dates in the Buddhist era.
+std::unique_ptr<icu::SimpleDateFormat> ThaiDateFormat(const char16_t* pattern, UErrorCode& status);
+
+/// Money amounts in words, put together from two spelled numbers.
+class IcuMoneyWords {
+ public:
+  static IcuMoneyWords Thai(UErrorCode& status);
+  static IcuMoneyWords English(UErrorCode& status);
+
+  void Append(double amount, icu::UnicodeString& text, UErrorCode& status) const;
+
+ private:
+  struct Units {
+    const char16_t* unit;
+    const char16_t* joint;  // between unit and sub-unit
+    const char16_t* sub_unit;
+    const char16_t* even;  // behind an amount without sub-units
+  };
+
+  IcuMoneyWords(const char* locale, Units units, UErrorCode& status);
+
+  icu::RuleBasedNumberFormat speller_;
+  Units units_;
+};
+
+}  // namespace ZQ7Standard::Bench
+
+#endif  // ZQ7STANDARD_BENCH_ICU_ICU_H_

@@ -1,0 +1,53 @@
+#ifndef ZQ7STANDARD_BENCH_INPUTS_H_
+#define ZQ7STANDARD_BENCH_INPUTS_H_
+
+#include <ZQ7Standard/StandardObject.h>
+
+#include <string>
+#include <vector>
+
+namespace ZQ7Standard::Bench {
+
+// What every row is measured on: 1,024 inputs, the same on each run, so that no
+// branch can learn them by heart.
+
+/// An amount of money in the forms that the libraries take.
+struct Amount {
+  double value;        // 0.01 to 9999999999.99; short and long ones equally often
+  std::string digits;  // "1234.50"
+  Text typed;          // "1,234.50"
+};
+const std::vector<Amount>& Amounts();
+
+/// A day as it is typed on a Thai machine, 2540 to 2580.
+struct Day {
+  OleDate date;
+  std::string typed;  // "15/1/2567", some with leading zeros
+  Text typed_text;    // the same
+};
+const std::vector<Day>& Days();
+
+/// A line of an invoice list.
+struct Invoice {
+  Text date;
+  int condition;  // a ZQ7ConditionType
+  std::int16_t delivery_days;
+  std::int16_t net_days;
+  float discount;  // percent; 0 for none
+  std::int16_t discount_days;
+  double amount;
+};
+const std::vector<Invoice>& Invoices();
+
+/// One member of every item: what a row is measured on, so that nothing else
+/// takes room in the caches.
+template <typename Item, typename Member>
+std::vector<Member> Column(const std::vector<Item>& list, Member Item::*member) {
+  std::vector<Member> column;
+  for (const Item& item : list) column.push_back(item.*member);
+  return column;
+}
+
+}  // namespace ZQ7Standard::Bench
+
+#endif  // ZQ7STANDARD_BENCH_INPUTS_H_
