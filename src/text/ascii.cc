@@ -1,7 +1,6 @@
 #include "text/ascii.h"
 
 #include <array>
-#include <charconv>
 
 namespace ZQ7Standard {
 
@@ -16,11 +15,12 @@ std::optional<int> ReadShortNumber(TextView digits) {
 }
 
 void AppendNumber(Text& text, int number, int width) {
-  std::array<char, 12> digits;
-  const char* const begin = digits.data();
-  const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-  for (auto count = end - begin; count < width; ++count) text.push_back(u'0');
-  text.append(begin, end);
+  std::array<char16_t, 10> digits;
+  auto first = digits.end();
+  for (; number > 0 || digits.end() - first < width; number /= 10) {
+    *--first = static_cast<char16_t>(u'0' + number % 10);
+  }
+  text.append(first, digits.end());
 }
 
 }  // namespace ZQ7Standard

@@ -33,7 +33,8 @@ constexpr bool EqualsIgnoringAsciiCase(TextView a, TextView b) {
 /// and times do; nothing for any other text.
 std::optional<int> ReadShortNumber(TextView digits);
 
-/// Appends `number` (from 0) in decimal, with leading zeros up to `width` digits.
+/// Appends `number` (from 0) in decimal, with leading zeros up to `width` (1 to 10)
+/// digits.
 void AppendNumber(Text& text, int number, int width);
 
 }  // namespace ZQ7Standard
