@@ -31,8 +31,16 @@ RunTimeError RunTimeError::SubscriptOutOfRange(std::string_view operation, std::
   return {9, "subscript out of range", operation, input};
 }
 
+RunTimeError RunTimeError::DivisionByZero(std::string_view operation, std::string_view input) {
+  return {11, "division by zero", operation, input};
+}
+
 RunTimeError RunTimeError::TypeMismatch(std::string_view operation, std::string_view input) {
   return {13, "type mismatch", operation, input};
+}
+
+RunTimeError RunTimeError::CannotCreateObject(std::string_view operation, std::string_view input) {
+  return {429, "cannot create object", operation, input};
 }
 
 }  // namespace ZQ7Standard

@@ -24,8 +24,12 @@ class ZQ7STANDARD_EXPORT RunTimeError : public std::runtime_error {
   static RunTimeError OutOfMemory(std::string_view operation, std::string_view input);
   /// 9, subscript out of range: a part of the input that is not there.
   static RunTimeError SubscriptOutOfRange(std::string_view operation, std::string_view input);
+  /// 11, division by zero: a part of the input that is empty and may not be.
+  static RunTimeError DivisionByZero(std::string_view operation, std::string_view input);
   /// 13, type mismatch: a text that does not read as the type wanted.
   static RunTimeError TypeMismatch(std::string_view operation, std::string_view input);
+  /// 429, cannot create object: a component that the operation needs is not there.
+  static RunTimeError CannotCreateObject(std::string_view operation, std::string_view input);
 
   /// The run-time error number.
   int Number() const noexcept { return number_; }

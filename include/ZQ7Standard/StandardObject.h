@@ -3,6 +3,7 @@
 
 #include <ZQ7Standard/Export.h>
 #include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/block_cipher.h>
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
 #include <ZQ7Standard/platform/random_source.h>
@@ -69,15 +70,16 @@ enum ZQ7CompareMethod : std::int32_t {
 };
 
 /// What a `StandardObject` needs of the machine. A service left empty is the
-/// machine's own.
+/// machine's own; there is no block cipher then.
 struct StandardServices {
   std::shared_ptr<Clock> clock = nullptr;
   std::shared_ptr<DateConventionSource> date_convention = nullptr;
   std::shared_ptr<RandomSource> random_source = nullptr;
+  BlockCipherFactory block_cipher = nullptr;
 };
 
 /// Dates in both calendars, payment terms, rounding and number text, lists, keys
-/// and barcodes.
+/// and bar codes, ciphers and digests.
 ///
 /// Every operation runs to its end on the caller's thread and keeps nothing for
 /// the next one. The system's date convention is asked anew on each call. An
@@ -528,6 +530,41 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// The same for ITF-14 (GTIN-14), of the first 13 characters.
   std::int16_t GetITF14ChekDigit(TextView sCodice) const;
+
+  // --- Texts under a password: src/text/cipher.cc; docs/security.md ---
+
+  /// Combines each character's byte with the password's, the password repeated,
+  /// by exclusive or. It hides a text from a glance and from nothing else; kept
+  /// for the data that exists.
+  ///
+  /// "ABC" with "A" gives the characters 0, 3 and 2. The result may hold any
+  /// character of the code page, also 0. Characters go through Windows-874, and
+  /// one that is not in it counts as "?". The empty text gives the empty text;
+  /// raises 6 for more than 32767 characters, 11 for an empty password.
+  Text EncryptBS(TextView StringInput, TextView PassWord) const;
+  /// The same as `EncryptBS`, which undoes itself.
+  Text DecryptBS(TextView EncryptedTextInput, TextView PassWord) const;
+
+  /// Enciphers a text with the block cipher of `StandardServices`, made anew for
+  /// the call. An empty text comes back as it is, also any text when the password
+  /// is empty. Characters go through Windows-874, and one that is not in it
+  /// becomes "?". Raises 429 when there is no cipher, and what the cipher raises.
+  Text Encrypt(TextView StringInput, TextView PassWord) const;
+
+  /// The text that `Encrypt` enciphered. A text that it did not write, and the
+  /// wrong password where the cipher can tell, give `EncryptedTextInput` itself.
+  ///
+  /// Characters of code 0 are removed from the result in every case: they are the
+  /// padding of block ciphers. Raises as `Encrypt` does.
+  Text Decrypt(TextView EncryptedTextInput, TextView PassWord) const;
+
+  // --- Digests: src/text/digest.cc ---
+
+  /// The MD5 digest (RFC 1321) of the Windows-874 bytes of `strMessage`, as 32
+  /// hexadecimal digits in lower case. A character that is not in the code page
+  /// counts as "?". It tells texts apart by accident only: whoever wants two texts
+  /// with one digest can make them.
+  Text CalculateMD5(TextView strMessage) const;
 
  private:
   DateConvention Convention() const;

@@ -6,7 +6,9 @@
 #include <array>
 #include <functional>
 #include <ostream>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace ZQ7Standard {
 
@@ -34,6 +36,17 @@ class FakeRandomSource final : public RandomSource {
   float draw_;
   bool reseeded_ = false;
 };
+
+/// What the fake block ciphers of a test saw, from the making to the release of
+/// each.
+struct FakeCipherState {
+  std::vector<std::string> calls;
+};
+
+/// Makes block ciphers whose text is "#" and the bytes as they are, padded with a
+/// zero byte. They cannot decode a text without "#", and decrypt nothing under the
+/// password "wrong".
+BlockCipherFactory FakeBlockCipher(FakeCipherState& state);
 
 /// The run-time error number that `call` raises; 0 when it raises none.
 int ErrorOf(const std::function<void()>& call);

@@ -1,0 +1,31 @@
+#ifndef ZQ7STANDARD_SRC_TEXT_CODE_PAGE_H_
+#define ZQ7STANDARD_SRC_TEXT_CODE_PAGE_H_
+
+#include <ZQ7Standard/Types.h>
+
+#include <string>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+// The one single-byte encoding of the library, Windows-874: what a text is
+// enciphered, hashed and stored in. The bytes that Windows-874 leaves open stand
+// for the C1 control of the same number (0x80 to 0x9F) and for U+F8C1 to U+F8C8
+// (0xDB to 0xDE, 0xFC to 0xFF), so that all 256 bytes go through text unchanged.
+
+/// One byte for each code unit of `text`. A character outside the page becomes
+/// "?", a surrogate pair two of them.
+std::string ToCodePage(TextView text);
+
+/// The same, written to `bytes`, which has room for `text.size()` bytes.
+void EncodeCodePage(TextView text, char* bytes);
+
+/// The text of `bytes`, one character for each.
+Text FromCodePage(std::string_view bytes);
+
+/// The same, written to `text`, which has room for `bytes.size()` characters.
+void DecodeCodePage(std::string_view bytes, char16_t* text);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_TEXT_CODE_PAGE_H_
