@@ -92,7 +92,7 @@ Decimal ToDecimalOutOfRange(double magnitude) {
   const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
                                  std::chars_format::scientific, 766)
                        .ptr;
-  std::uint64_t digits = static_cast<std::uint64_t>(text[0] - '0');
+  auto digits = static_cast<std::uint64_t>(text[0] - '0');
   for (std::size_t i = 2; i <= kSignificantDigits; ++i) {
     digits = digits * 10 + static_cast<std::uint64_t>(text[i] - '0');
   }
