@@ -8,8 +8,7 @@
 #include <thread>
 #include <vector>
 
-namespace ZQ7Standard {
-namespace {
+using namespace ZQ7Standard;
 
 TEST(Threads, DistinctInstancesAreIndependent) {
   std::vector<std::thread> threads;
@@ -33,6 +32,3 @@ TEST(Threads, DistinctInstancesAreIndependent) {
   }
   for (std::thread& thread : threads) thread.join();
 }
-
-}  // namespace
-}  // namespace ZQ7Standard

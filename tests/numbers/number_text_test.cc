@@ -1,40 +1,33 @@
 #include "numbers/number_text.h"
 
-#include <gtest/gtest.h>
-
 #include <bit>
-#include <charconv>
 #include <cmath>
-#include <limits>
 #include <random>
-#include <string>
 
-namespace ZQ7Standard {
-namespace {
+#include "tests/support/rows.h"
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+using namespace ZQ7Standard;
 
-std::string Format(double value, int decimals, Grouping grouping = Grouping::kThousands) {
+static std::string Format(double value, int decimals, Grouping grouping = Grouping::kThousands) {
   return Utf8(FormatDecimal(*ToDecimal(value), decimals, grouping));
 }
 
 /// `number`, which has more decimals, rounded half up as at school.
-std::string SchoolRound(std::string number, int decimals) {
+static std::string SchoolRound(std::string number, int decimals) {
   const std::size_t keep = number.find('.') + 1 + static_cast<std::size_t>(decimals);
-  const bool up = number[keep] >= '5';
+  bool up = number[keep] >= '5';
   number.resize(keep);
   for (std::size_t i = number.size(); up && i-- > 0;) {
     if (number[i] == '.') continue;
-    number[i] = number[i] == '9' ? '0' : static_cast<char>(number[i] + 1);
-    if (number[i] != '0') return number;
-    if (i == 0) number.insert(0, "1");
+    up = number[i] == '9';
+    number[i] = up ? '0' : static_cast<char>(number[i] + 1);
   }
-  return number;
+  return up ? "1" + number : number;
 }
 
 /// What FormatDecimal must write of a value from 2^-23 to 10^15, by arithmetic on
 /// all the decimals that the double has.
-std::string SchoolFormat(double value, int decimals) {
+static std::string SchoolFormat(double value, int decimals) {
   char buffer[128];
   const auto end =
       std::to_chars(buffer, buffer + sizeof buffer, std::abs(value), std::chars_format::fixed, 80);
@@ -81,66 +74,42 @@ TEST(FormatDecimalBreadth, PowersOfTwoAndTenAndTheirNeighbours) {
   }
 }
 
+// clang-format off
 TEST(FormatDecimal, WritesWhatTheBreadthLeavesOut) {
-  struct Case {
-    const char* reason;
-    double value;
-    int decimals;
-    const char* expected;
-  };
-  const Case cases[] = {
-      {"zero", 0, 2, "0.00"},
-      {"negative zero", -0.0, 2, "0.00"},
-      {"rounds to zero, no sign", -0.004, 2, "0.00"},
-      {"half away from zero, below", -2.345, 2, "-2.35"},
-      {"double below the tie", 1.005, 2, "1.01"},
-      {"groups", 1234567.891, 2, "1,234,567.89"},
-      {"no group mark in front", -123456, 0, "-123,456"},
-      {"carry into a new group", 999999.999, 2, "1,000,000.00"},
-      {"tie at the 16th digit", 1000000000000005, 0, "1,000,000,000,000,010"},
-      {"beyond 15 digits", 12345678901234567890.0, 1, "12,345,678,901,234,600,000.0"},
-      {"smallest of all", 5e-324, 2, "0.00"},
-      {"small", 1.5e-9, 10, "0.0000000015"},
-      {"tie at the 16th digit, small", 0x1p-22, 21, "0.000000238418579101563"},
-      {"16 places dropped", 9.9e-3, 0, "0"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(Format(c.value, c.decimals), c.expected) << c.reason;
+  ExpectRows<double, int>([](double value, int decimals) { return Format(value, decimals); }, {
+      {{0, 2}, "0.00"}, {{-0.0, 2}, "0.00"}, {{-0.004, 2}, "0.00"}, {{-2.345, 2}, "-2.35"},
+      {{1.005, 2}, "1.01", "double below the tie"}, {{1234567.891, 2}, "1,234,567.89"},
+      {{-123456, 0}, "-123,456"}, {{999999.999, 2}, "1,000,000.00"}, {{5e-324, 2}, "0.00"},
+      {{1000000000000005, 0}, "1,000,000,000,000,010", "tie at the 16th digit"},
+      {{12345678901234567890.0, 1}, "12,345,678,901,234,600,000.0"},
+      {{1.5e-9, 10}, "0.0000000015"}, {{9.9e-3, 0}, "0", "16 places dropped"},
+      {{0x1p-22, 21}, "0.000000238418579101563", "tie at the 16th digit, small"}});
   EXPECT_EQ(Format(1e300, 0, Grouping::kNone), "1" + std::string(300, '0'));
-  for (const double value : {kInfinity, -kInfinity, std::nan("")}) EXPECT_FALSE(ToDecimal(value));
+  for (const double value : {kInfinity, -kInfinity, kNan}) EXPECT_FALSE(ToDecimal(value));
 }
 
 TEST(ShortestText, ChoosesBetweenDigitsAndExponent) {
-  // clang-format off
-  const std::pair<double, const char*> cases[] = {
+  ExpectRows<double>([](double value) { return ShortestText(*ToDecimal(value)); }, {
       {0, "0"}, {100, "100"}, {-1234.5, "-1234.5"}, {0.1 + 0.2, "0.3"}, {0.0001, "0.0001"},
       {0.00001, "1E-05"}, {1e14, "100000000000000"}, {1e15, "1E+15"}, {-1.5e20, "-1.5E+20"},
-      {1.23456789012345678e300, "1.23456789012346E+300"}, {999999999999999.9, "1E+15"},
-  };
-  // clang-format on
-  for (const auto& [value, expected] : cases) {
-    EXPECT_EQ(Utf8(ShortestText(*ToDecimal(value))), expected);
-  }
+      {1.23456789012345678e300, "1.23456789012346E+300"}, {999999999999999.9, "1E+15"}});
 }
 
 TEST(ReadLeadingNumber, TakesTheLongestNumberInFront) {
-  // clang-format off
-  const std::pair<const char16_t*, double> cases[] = {
-      {u"", 0}, {u"  12", 12}, {u"12 34", 12}, {u"1,234", 1}, {u"-5", -5}, {u"+5", 5}, {u"--5", 0},
-      {u"1.5.5", 1.5}, {u".5", 0.5}, {u".", 0}, {u"5.", 5}, {u"1E3", 1000}, {u"1d-2x", 0.01},
-      {u"1E", 1}, {u"1E+", 1}, {u"E5", 0}, {u"0x10", 0}, {u"inf", 0}, {u"nan", 0}, {u"1e-400", 0},
-      {u"1e-99999999999", 0}, {u"0e99999999999", 0}, {u"1e22", 1e22}, {u"1e23", 1e23},
-      {u"9007199254740993", 9007199254740992.0}, {u"12345678901234567890", 12345678901234567890.0},
-      {u"0.000000000000000000000000000001", 1e-30},
-      {u"2.2250738585072011e-308", 2.2250738585072011e-308},
-  };
-  // clang-format on
-  for (const auto& [text, expected] : cases)
-    EXPECT_EQ(ReadLeadingNumber(text), expected) << Utf8(text);
-  EXPECT_FALSE(ReadLeadingNumber(u"1e309"));
+  ExpectTexts(ReadLeadingNumber, {
+      {"0", {u"", u"--5", u".", u"-0", u"E5", u"0x10", u"inf", u"nan", u"1e-400",
+          u"1e-99999999999", u"0e99999999999"}}, {"12", {u"  12", u"12 34"}},
+      {"1", {u"1,234", u"1E", u"1E+"}}, {"-5", {u"-5"}}, {"5", {u"+5", u"5."}},
+      {"1.5", {u"1.5.5"}}, {"0.5", {u".5"}}, {"1000", {u"1E3"}}, {"0.01", {u"1d-2x"}},
+      {"none", {u"1e309"}}, {"1e+22", {u"1e22"}}, {"1e+23", {u"1e23"}},
+      {"9007199254740992", {u"9007199254740993"}},
+      {"12345678901234567168", {u"12345678901234567890"}},
+      {"1e-30", {u"0.000000000000000000000000000001"}},
+      {"2.225073858507201e-308", {u"2.2250738585072011e-308"}}});
   EXPECT_FALSE(ReadLeadingNumber(Text(400, u'9')));
   EXPECT_EQ(ReadLeadingNumber(Text(400, u'0') + u"1e-400"), 0);
-  EXPECT_FALSE(std::signbit(*ReadLeadingNumber(u"-0")));
 }
+// clang-format on
 
 TEST(ReadNumberBreadth, ReadsBackWhatIsWritten) {
   std::mt19937_64 random(7);
@@ -154,6 +123,3 @@ TEST(ReadNumberBreadth, ReadsBackWhatIsWritten) {
     ASSERT_EQ(ToDouble(decimal), *ReadLeadingNumber(ShortestText(decimal))) << value;
   }
 }
-
-}  // namespace
-}  // namespace ZQ7Standard

@@ -87,14 +87,10 @@ int ErrorOf(const std::function<void()>& call) {
 }
 
 std::string IsoText(OleDate date) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.Year(), date.Month(), date.Day());
-  std::string result = text;
-  if (date.TimeOfDay() != 0) {
-    std::snprintf(text, sizeof text, " %02d:%02d:%02d", date.Hour(), date.Minute(), date.Second());
-    result += text;
-  }
-  return result;
+  char text[80];
+  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", date.Year(), date.Month(),
+                date.Day(), date.Hour(), date.Minute(), date.Second());
+  return {text, date.TimeOfDay() == 0 ? 10U : 19U};
 }
 
 void PrintTo(OleDate date, std::ostream* stream) {
