@@ -1,11 +1,13 @@
 #include "amount_text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <string>
 
 namespace InvoiceDemo {
 
-using ZQ7Standard::StandardObject;
+using ZQ7Standard::FromUtf8;
 using ZQ7Standard::Text;
 
 Text GroupThousands(Text number) {
@@ -15,11 +17,11 @@ Text GroupThousands(Text number) {
   return number;
 }
 
-Text FormatAmount(const StandardObject& standard, double amount) {
-  Text digits = standard.d2Str(amount);
-  if (digits.find(u'.') == Text::npos) digits += u'.';
-  const std::size_t decimals = digits.size() - digits.find(u'.') - 1;
-  return GroupThousands(digits.append(2 - decimals, u'0'));
+// Counted in satang: `d2Str` writes 15 digits, and a total may have more.
+Text FormatAmount(double amount) {
+  Text digits = FromUtf8(std::to_string(std::llround(amount * 100)));
+  if (digits.size() < 3) digits.insert(0, 3 - digits.size(), u'0');
+  return GroupThousands(digits.insert(digits.size() - 2, 1, u'.'));
 }
 
 }  // namespace InvoiceDemo

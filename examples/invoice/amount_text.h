@@ -1,7 +1,6 @@
 #ifndef EXAMPLES_INVOICE_AMOUNT_TEXT_H_
 #define EXAMPLES_INVOICE_AMOUNT_TEXT_H_
 
-#include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/Types.h>
 
 namespace InvoiceDemo {
@@ -10,8 +9,8 @@ namespace InvoiceDemo {
 /// "-1,234.5".
 ZQ7Standard::Text GroupThousands(ZQ7Standard::Text number);
 
-/// Writes an amount that is rounded to satang already: "1,234.50".
-ZQ7Standard::Text FormatAmount(const ZQ7Standard::StandardObject& standard, double amount);
+/// Writes an amount, 0 or more, to the satang: "1,234.50".
+ZQ7Standard::Text FormatAmount(double amount);
 
 }  // namespace InvoiceDemo
 

@@ -24,6 +24,7 @@ using ZQ7Standard::ZQ7ConditionType;
 
 enum Column : std::size_t {
   kNumber,
+  kCustomerCode,
   kCustomer,
   kDate,
   kConditionType,
@@ -31,18 +32,22 @@ enum Column : std::size_t {
   kNetDays,
   kDiscountPercent,
   kDiscountDays,
+  kBarcode,
   kAmount,
   kColumnCount,
 };
 
 constexpr std::array<const char*, kColumnCount> kColumnNames = {
-    "number",   "customer",         "date",          "condition type", "delivery days",
-    "net days", "discount percent", "discount days", "amount"};
+    "number",   "customer code",    "customer",      "date",    "condition type", "delivery days",
+    "net days", "discount percent", "discount days", "barcode", "amount"};
 
 constexpr double kLastConditionType = ZQ7Standard::ZQ7AfterEndOfSPTMonth;
 constexpr double kMostDays = std::numeric_limits<std::int16_t>::max();
 constexpr double kFullPercent = 100;
 constexpr double kLargestAmount = 9999999999999.99;  // the largest that has words
+
+constexpr std::size_t kBarcodeDigits = 13;
+constexpr std::int16_t kOn = 1;  // what switches an option of FormatPrimaryKey on
 
 constexpr int kOverflow = 6;  // the run-time error of a number too large for its type
 
@@ -55,6 +60,8 @@ class RowReader {
       : standard_(standard), fields_(fields) {}
 
   Text ReadText(Column column) const;
+  Text ReadCode(Column column) const;
+  Text ReadBarcode(Column column) const;
   OleDate ReadDate(Column column) const;
   double ReadNumber(Column column, Digits digits, double largest) const;
   std::int16_t ReadDays(Column column) const;
@@ -76,6 +83,25 @@ Text RowReader::ReadText(Column column) const {
   if (text.empty()) Fail(column, "is empty");
   if (text.find(u'\uFFFD') != Text::npos) Fail(column, "is not in UTF-8");
   return text;
+}
+
+Text RowReader::ReadCode(Column column) const {
+  Text code = standard_.FormatPrimaryKey(ReadText(column), 0, 0, 0, 0, kOn);
+  if (code.empty()) Fail(column, "holds no code");
+  return code;
+}
+
+/// The digits come first: the check digit takes a letter, which cleaning keeps,
+/// for a 0.
+Text RowReader::ReadBarcode(Column column) const {
+  Text code = standard_.FormatBarCode(ReadText(column));
+  if (code.size() != kBarcodeDigits || standard_.Numb(code) != code) {
+    Fail(column, "is no EAN-13 (13 digits)");
+  }
+  if (code.back() - u'0' != standard_.GetEAN13ChekDigit(code)) {
+    Fail(column, "has a wrong check digit");
+  }
+  return code;
 }
 
 /// Whether each field between "/" is digits alone, with blanks around them at
@@ -143,15 +169,16 @@ Invoice ReadInvoice(const StandardObject& standard, const std::vector<Text>& fie
   const RowReader row(standard, fields);
   return {
       .number = row.ReadText(kNumber),
+      .customer_code = row.ReadCode(kCustomerCode),
       .customer = row.ReadText(kCustomer),
       .date = row.ReadDate(kDate),
       .condition_type = static_cast<ZQ7ConditionType>(
           row.ReadNumber(kConditionType, Digits::kWhole, kLastConditionType)),
       .delivery_days = row.ReadDays(kDeliveryDays),
       .net_days = row.ReadDays(kNetDays),
-      .discount_percent =
-          static_cast<float>(row.ReadNumber(kDiscountPercent, Digits::kDecimal, kFullPercent)),
+      .discount_percent = row.ReadNumber(kDiscountPercent, Digits::kDecimal, kFullPercent),
       .discount_days = row.ReadDays(kDiscountDays),
+      .barcode = row.ReadBarcode(kBarcode),
       // The words and the figures are both made from this one rounded amount.
       .amount = standard.FixNumber(row.ReadNumber(kAmount, Digits::kDecimal, kLargestAmount), 2),
   };

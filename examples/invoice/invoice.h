@@ -13,14 +13,16 @@ namespace InvoiceDemo {
 
 struct Invoice {
   ZQ7Standard::Text number;
+  ZQ7Standard::Text customer_code;  ///< in upper case
   ZQ7Standard::Text customer;
   ZQ7Standard::OleDate date;
   ZQ7Standard::ZQ7ConditionType condition_type;
   std::int16_t delivery_days;
   std::int16_t net_days;
-  float discount_percent;
+  double discount_percent;
   std::int16_t discount_days;
-  double amount;  ///< baht, rounded to satang
+  ZQ7Standard::Text barcode;  ///< the item's EAN-13
+  double amount;              ///< baht, rounded to satang
 };
 
 /// What is wrong with a row: the field, and the reason in UTF-8.
@@ -40,9 +42,10 @@ class FieldError : public std::runtime_error {
 bool IsHeader(const ZQ7Standard::StandardObject& standard,
               const std::vector<ZQ7Standard::Text>& fields);
 
-/// Reads an invoice from a row of nine typed fields: number, customer, date,
-/// condition type, delivery days, net days, discount percent, discount days,
-/// amount. Throws a `FieldError` for the first field that cannot be taken.
+/// Reads an invoice from a row of eleven typed fields: number, customer code,
+/// customer, date, condition type, delivery days, net days, discount percent,
+/// discount days, barcode, amount. Throws a `FieldError` for the first field that
+/// cannot be taken.
 ///
 /// The library's readers take what they can from a text, as screens want it
 /// while a user types: "12x" is 12, "abc" is 0. An invoice must not be guessed,

@@ -1,5 +1,5 @@
 // Reads invoices as a Thai office types them and prints what goes on paper: the
-// dates, the payment term and the amount in words.
+// dates, the payment term, the amount in words, and what all of them come to.
 
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/Types.h>
@@ -18,6 +18,7 @@
 #include "csv.h"
 #include "invoice.h"
 #include "report.h"
+#include "totals.h"
 
 namespace InvoiceDemo {
 namespace {
@@ -70,7 +71,7 @@ int Complain(const std::string& what) {
   return kNotRun;
 }
 
-int Run(const std::string& name) {
+int Run(const std::string& name, bool verbose) {
   const std::string shown_name = name == "-" ? "standard input" : name;
   errno = 0;
   const auto bytes = ReadFile(name);
@@ -80,7 +81,11 @@ int Run(const std::string& name) {
   const StandardObject standard;
   const InvoiceList list = ReadInvoices(standard, ReadCsv(ZQ7Standard::FromUtf8(*bytes)));
 
-  std::cout << Utf8(Report(standard, list.invoices)) << std::flush;
+  Totals totals;
+  if (verbose) totals.Follow(std::cerr);
+  for (const Invoice& invoice : list.invoices) totals.Add(standard, invoice);
+
+  std::cout << Utf8(Report(standard, list.invoices, totals)) << std::flush;
   const bool printed = std::cout.good();
   for (const std::string& mistake : list.mistakes) {
     std::cerr << shown_name << ", " << mistake << '\n';
@@ -95,11 +100,12 @@ int Run(const std::string& name) {
 int main(int argc, char** argv) {
   // Without buffers shared with C, a failed read of standard input is told from its end.
   std::ios::sync_with_stdio(false);
-  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  std::vector<std::string> arguments(argv + 1, argv + argc);
+  const bool verbose = std::erase(arguments, "--verbose") > 0;
   const std::string name = arguments.empty() ? INVOICES_FILE : arguments.front();
   if (arguments.size() > 1 || (name.starts_with('-') && name != "-")) {
-    std::cerr << "usage: invoice [FILE | -]\n";
+    std::cerr << "usage: invoice [--verbose] [FILE | -]\n";
     return InvoiceDemo::kNotRun;
   }
-  return InvoiceDemo::Run(name);
+  return InvoiceDemo::Run(name, verbose);
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
 
 #include "amount_text.h"
 #include "terminal_text.h"
@@ -18,7 +19,8 @@ using ZQ7Standard::StandardObject;
 using ZQ7Standard::Text;
 using ZQ7Standard::TextView;
 
-constexpr TextView kIndent = u"  ";
+constexpr auto kIndent = u"  ";
+constexpr std::size_t kMostCountedDigits = 14;  // `IncreaseString` writes 15 of them
 
 using Columns = std::array<Text, 5>;
 using Widths = std::array<int, 5>;
@@ -32,10 +34,10 @@ Columns MakeColumns(const StandardObject& standard, const Invoice& invoice) {
       standard.FormatTDate2(invoice.date, ZQ7Standard::ZQ7DMBBBB),
       standard.FormatTDate2(invoice.date, ZQ7Standard::ZQ7DMMMBBBB),
       standard.FormatTDate2(due, ZQ7Standard::ZQ7DMBBBB),
-      standard.FormatCondition2(invoice.discount_percent, invoice.discount_days,
+      standard.FormatCondition2(static_cast<float>(invoice.discount_percent), invoice.discount_days,
                                 invoice.condition_type, ZQ7Standard::ZQ7ConditionOutputTypeShort,
                                 invoice.net_days),
-      FormatAmount(standard, invoice.amount),
+      FormatAmount(invoice.amount),
   };
 }
 
@@ -58,24 +60,44 @@ Text AlignColumns(const Columns& row, const Widths& widths) {
   return line.append(kIndent).append(AlignRight(row.back(), widths.back()));
 }
 
+/// The lines of an invoice on paper, the last with the digest of those above it.
+Text Document(const StandardObject& standard, const Invoice& invoice, const Text& columns) {
+  BahtStringObject baht;
+  const Text heading = invoice.number + u"  " + invoice.customer_code + u"  " + invoice.barcode +
+                       u"  " + invoice.customer;
+  Text lines = OneLine(heading) + u"\n" + columns + u"\n";
+  lines += kIndent + baht.BahtString(invoice.amount) + u"\n";
+  lines += kIndent + baht.BahtString(invoice.amount, false, true) + u"\n";
+  return lines + kIndent + u"MD5 " + standard.CalculateMD5(lines) + u"\n";
+}
+
+/// Empty when the number at the end cannot be counted up digit by digit.
+Text NextNumber(const StandardObject& standard, TextView number) {
+  const TextView digits = number.substr(number.find_last_not_of(u"0123456789") + 1);
+  if (digits.size() > kMostCountedDigits || standard.StrVal(digits) == 0) return {};
+  return standard.IncreaseString(number);
+}
+
 }  // namespace
 
-Text Report(const StandardObject& standard, const std::vector<Invoice>& invoices) {
+Text Report(const StandardObject& standard, const std::vector<Invoice>& invoices,
+            const Totals& totals) {
   if (invoices.empty()) return {};
   std::vector<Columns> rows = {{u"Date", u"In full", u"Due", u"Term", u"Baht"}};
   for (const Invoice& invoice : invoices) rows.push_back(MakeColumns(standard, invoice));
+  rows.push_back({u"Total", {}, {}, {}, FormatAmount(totals.Amount())});
+  rows.push_back({u"Discount", u"if paid early", {}, {}, FormatAmount(totals.Discount())});
   const Widths widths = WidestOf(rows);
 
-  BahtStringObject baht;
-  Text report = AlignColumns(rows.front(), widths) + u"\n";
+  Text report = AlignColumns(rows.front(), widths) + u"\n\n";
   for (std::size_t i = 0; i < invoices.size(); ++i) {
-    const Invoice& invoice = invoices[i];
-    report.append(u"\n").append(OneLine(invoice.number + u"  " + invoice.customer));
-    report.append(u"\n").append(AlignColumns(rows[i + 1], widths));
-    report.append(u"\n").append(kIndent).append(baht.BahtString(invoice.amount));
-    report.append(u"\n").append(kIndent).append(baht.BahtString(invoice.amount, false, true));
-    report.append(u"\n");
+    report += Document(standard, invoices[i], AlignColumns(rows[i + 1], widths)) + u"\n";
   }
+  for (const Columns& total : std::span(rows).last(2)) {
+    report += AlignColumns(total, widths) + u"\n";
+  }
+  const Text next = NextNumber(standard, invoices.back().number);
+  if (!next.empty()) report += kIndent + (u"Next number " + OneLine(next)) + u"\n";
   return report;
 }
 
