@@ -51,7 +51,7 @@ TEST(GridValueObject, TakesItsShape) {
   const std::tuple<const char*, std::function<void(Grid&)>, Shape> cases[] = {
       {"new", [](Grid& g) { g.SetRows(0); g.SetCols(0); g.Clear(); }, kNew},
       {"columns once", [](Grid& g) { g.SetCols(5); g.SetCols(6); }, {1, 5}},
-      {"not first either", [](Grid& g) { g.SetCols(5); EXPECT_FALSE(g.SetFirst(9, 6, 1, 0)); }, {1, 5}},
+      {"nor first", [](Grid& g) { g.SetCols(5); EXPECT_FALSE(g.SetFirst(9, 6, 1, 0)); }, {1, 5}},
       {"heading rows below the rows", MakeHeadings, {6, 4, 2, 1}},
       {"rows first: no columns", [](Grid& g) { g.SetRows(4); g.SetCols(3); }, {4, 0}},
       {"only heading rows", [](Grid& g) { MakeHeadings(g); g.SetRows(2); }, {6, 4, 2, 1}},
