@@ -17,17 +17,6 @@ namespace {
 
 const StandardObject kObject;
 
-/// A byte below 0x80 is a character; any other is one together with the next.
-Text ToText(const std::uint8_t* bytes, std::size_t size) {
-  Text text;
-  for (std::size_t i = 0; i < size; ++i) {
-    char16_t c = bytes[i];
-    if (c >= 0x80 && i + 1 < size) c = static_cast<char16_t>((c << 8) | bytes[++i]);
-    text.push_back(c);
-  }
-  return text;
-}
-
 Text Without(Text text, TextView characters) {
   std::erase_if(text, [&](char16_t c) { return characters.find(c) != TextView::npos; });
   return text;
@@ -113,8 +102,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   using namespace ZQ7Standard;
   if (size < 2) return 0;
   const std::size_t split = std::min<std::size_t>(data[1], size - 2);
-  const Text second = ToText(data + 2, split);
-  const Text first = ToText(data + 2 + split, size - 2 - split);
+  const Text second = FuzzText(data + 2, split);
+  const Text first = FuzzText(data + 2 + split, size - 2 - split);
   CheckKeys(first, data[0]);
   CheckTexts(first);
   const TextView separator = TextView(second).substr(0, data[0] % 4);

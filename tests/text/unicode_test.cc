@@ -22,7 +22,7 @@ TEST(Utf8, ReplacesWhatIsNotWellFormed) {
   // clang-format off
   const std::pair<const char*, std::size_t> malformed[] = {
       {"\x80", 1}, {"\xC0\xAF", 2}, {"\xC3", 1}, {"\xE0\x80\x80", 3}, {"\xE0\xB8", 2},
-      {"\xED\xA0\x80", 3}, {"\xF4\x90\x80\x80", 4}, {"\xF8\x88\x80\x80\x80", 5}, {"\xFF", 1},
+      {"\xED\xA0\x80", 3}, {"\xF4\x90\x80\x80", 4}, {"\xF8\x88\x80\x80\x80", 5}, {"\xFF", 1}, {"\xC3\xC3", 2},
   };
   // clang-format on
   for (const auto& [bytes, length] : malformed) {
