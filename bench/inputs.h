@@ -47,7 +47,7 @@ const std::vector<Text>& DocumentNumbers();
 const std::vector<Text>& Barcodes();
 
 /// Texts of `length` characters from invoices, Thai with a quarter of ASCII:
-/// together 16,384 characters, or one text when that is longer.
+/// together about 16,384 characters, or one text when that is longer.
 std::vector<Text> InvoiceTexts(std::size_t length);
 
 /// The same texts in the code page.
