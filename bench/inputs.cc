@@ -1,9 +1,12 @@
 #include "bench/inputs.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <random>
+
+#include "text/code_page.h"
 
 namespace ZQ7Standard::Bench {
 namespace {
@@ -89,6 +92,15 @@ Invoice MakeInvoice(Picker& picker) {
           static_cast<double>(picker.From(10'000, 1'000'000'000)) / 100};
 }
 
+Text MakeDocumentNumber(Picker& picker) {
+  constexpr std::array<TextView, 4> kBooks = {u"IV-67/", u" inv 2567-", u"ใบกำกับ 67/", u"rc'67; "};
+  return Text(picker.OneOf(kBooks)) + Widened(Digits(picker.From(1, 99'999), 6));
+}
+
+Text MakeBarcode(Picker& picker) {
+  return Widened(Digits(picker.From(0, 999'999'999'999), 12));
+}
+
 }  // namespace
 
 const std::vector<Amount>& Amounts() {
@@ -103,6 +115,36 @@ const std::vector<Day>& Days() {
 
 const std::vector<Invoice>& Invoices() {
   static const std::vector<Invoice> list = MakeList(MakeInvoice);
+  return list;
+}
+
+const std::vector<Text>& DocumentNumbers() {
+  static const std::vector<Text> list = MakeList(MakeDocumentNumber);
+  return list;
+}
+
+const std::vector<Text>& Barcodes() {
+  static const std::vector<Text> list = MakeList(MakeBarcode);
+  return list;
+}
+
+std::vector<Text> InvoiceTexts(std::size_t length) {
+  constexpr std::size_t kTotal = 16 * kCount;
+  constexpr TextView kLine =
+      u"ใบกำกับภาษีเลขที่ IV-67/00123 วันที่ 15/1/2567 จำนวนเงิน 1,234.50 บาท "
+      u"(หนึ่งพันสองร้อยสามสิบสี่บาทห้าสิบสตางค์) กำหนดชำระภายใน 30 วัน ";
+  Text all;
+  while (all.size() < std::max(kTotal, length)) all += kLine;
+  std::vector<Text> list;
+  for (std::size_t at = 0; at + length <= all.size(); at += length) {
+    list.push_back(all.substr(at, length));
+  }
+  return list;
+}
+
+std::vector<std::string> InvoiceBytes(std::size_t length) {
+  std::vector<std::string> list;
+  for (const Text& text : InvoiceTexts(length)) list.push_back(ToCodePage(text));
   return list;
 }
 

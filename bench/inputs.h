@@ -3,13 +3,14 @@
 
 #include <ZQ7Standard/StandardObject.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace ZQ7Standard::Bench {
 
-// What every row is measured on: 1,024 inputs, the same on each run, so that no
-// branch can learn them by heart.
+// What the rows are measured on: mostly 1,024 inputs, the same on each run, so
+// that no branch can learn them by heart.
 
 /// An amount of money in the forms that the libraries take.
 struct Amount {
@@ -38,6 +39,19 @@ struct Invoice {
   double amount;
 };
 const std::vector<Invoice>& Invoices();
+
+/// Numbers of documents as users type them: " inv 2567-000123".
+const std::vector<Text>& DocumentNumbers();
+
+/// The first twelve digits of EAN-13 codes.
+const std::vector<Text>& Barcodes();
+
+/// Texts of `length` characters from invoices, Thai with a quarter of ASCII:
+/// together about 16,384 characters, or one text when that is longer.
+std::vector<Text> InvoiceTexts(std::size_t length);
+
+/// The same texts in the code page.
+std::vector<std::string> InvoiceBytes(std::size_t length);
 
 /// One member of every item: what a row is measured on, so that nothing else
 /// takes room in the caches.

@@ -1,28 +1,19 @@
-// Lists, keys, numbered texts and check digits.
-
 #include <ZQ7Standard/StandardObject.h>
-#include <benchmark/benchmark.h>
 
-#include <string>
+#include "bench/inputs.h"
+#include "bench/measure.h"
 
+namespace ZQ7Standard::Bench {
 namespace {
 
-using ZQ7Standard::StandardObject;
-using ZQ7Standard::Text;
-using ZQ7Standard::TextView;
-
-const StandardObject kObject;
-
-template <typename Operation>
-void Run(benchmark::State& state, TextView text, Operation operation) {
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(text);
-    benchmark::DoNotOptimize(operation(text));
-  }
+void CheckDigit(benchmark::State& state) {
+  const StandardObject standard;
+  Measure(state, Barcodes(),
+          [&standard](const Text& code) { return standard.GetEAN13ChekDigit(code); });
 }
+BENCHMARK(CheckDigit)->Name("check_digit/ours");
 
-/// The loop that the check digit is measured against: twelve steps, the weights
-/// 1 and 3 in turn.
+/// Twelve steps, the weights 1 and 3 in turn.
 int PlainCheckDigit(TextView code) {
   int sum = 0;
   for (std::size_t i = 0; i < 12; ++i) {
@@ -33,92 +24,46 @@ int PlainCheckDigit(TextView code) {
   return (10 - sum % 10) % 10;
 }
 
-/// 100 items of 8 characters.
-Text HundredItems() {
-  Text list;
-  for (int i = 0; i < 100; ++i) {
-    if (i > 0) list.push_back(u';');
-    list.append(u"ITEM-");
-    for (const char c : std::to_string(100 + i)) list.push_back(static_cast<char16_t>(c));
-  }
-  return list;
+void CheckDigitLoop(benchmark::State& state) {
+  Measure(state, Barcodes(), PlainCheckDigit);
 }
+BENCHMARK(CheckDigitLoop)->Name("check_digit/loop");
 
-void CheckDigitPlainLoop(benchmark::State& state) {
-  Run(state, u"400638133393", PlainCheckDigit);
+template <typename Call>
+void MeasureTexts(benchmark::State& state, const std::vector<Text>& texts, Call call) {
+  Measure(state, texts, call);
+  CountAllocations(state, texts, call);
 }
-BENCHMARK(CheckDigitPlainLoop);
-
-void GetEAN13ChekDigit(benchmark::State& state) {
-  Run(state, u"400638133393", [](TextView code) { return kObject.GetEAN13ChekDigit(code); });
-}
-BENCHMARK(GetEAN13ChekDigit);
-
-void GetITF14ChekDigit(benchmark::State& state) {
-  Run(state, u"1540014128876", [](TextView code) { return kObject.GetITF14ChekDigit(code); });
-}
-BENCHMARK(GetITF14ChekDigit);
 
 void FormatPrimaryKey(benchmark::State& state) {
-  Run(state, u" cust'0042 ; siam  trading ",
-      [](TextView key) { return kObject.FormatPrimaryKey(key, 0, 0, 1, 0, 1); });
+  const StandardObject standard;
+  MeasureTexts(state, DocumentNumbers(),
+               [&standard](TextView key) { return standard.FormatPrimaryKey(key, 0, 0, 1, 0, 1); });
 }
-BENCHMARK(FormatPrimaryKey);
+BENCHMARK(FormatPrimaryKey)->Name("format_primary_key/ours");
 
-void FormatPrimaryKeyThai(benchmark::State& state) {
-  Run(state, u" บริษัท สยาม  การค้า; จำกัด ",
-      [](TextView key) { return kObject.FormatPrimaryKey(key, 0, 0, 1, 0, 1); });
+void AddList(benchmark::State& state) {
+  constexpr std::size_t kItems = 100;
+  const StandardObject standard;
+  Text list = u"CASH";
+  for (std::size_t i = 1; i < kItems; ++i) list += u";" + Barcodes()[i];
+  MeasureTexts(state, Barcodes(), [&](TextView item) { return standard.AddList(list, item); });
 }
-BENCHMARK(FormatPrimaryKeyThai);
-
-void FormatIP(benchmark::State& state) {
-  Run(state, u"192.168.001.010", [](TextView address) { return kObject.FormatIP(address); });
-}
-BENCHMARK(FormatIP);
-
-void AddListNewItem(benchmark::State& state) {
-  const Text list = HundredItems();
-  Run(state, list, [](TextView items) { return kObject.AddList(items, u"ITEM-200"); });
-}
-BENCHMARK(AddListNewItem);
-
-void AddListLastItem(benchmark::State& state) {
-  const Text list = HundredItems();
-  Run(state, list, [](TextView items) { return kObject.AddList(items, u"ITEM-199"); });
-}
-BENCHMARK(AddListLastItem);
-
-void ReverseList(benchmark::State& state) {
-  Run(state, u"one,two,three,four,five,six,seven,eight,nine,ten",
-      [](TextView list) { return kObject.ReverseList(list); });
-}
-BENCHMARK(ReverseList);
+BENCHMARK(AddList)->Name("add_list/ours");
 
 void IncreaseString(benchmark::State& state) {
-  Run(state, u"INV-2024-000099", [](TextView key) { return kObject.IncreaseString(key); });
+  const StandardObject standard;
+  MeasureTexts(state, DocumentNumbers(),
+               [&standard](TextView key) { return standard.IncreaseString(key); });
 }
-BENCHMARK(IncreaseString);
-
-void FormatTextSort(benchmark::State& state) {
-  Run(state, u"inv-2024-99", [](TextView key) { return kObject.FormatTextSort(key, 20); });
-}
-BENCHMARK(FormatTextSort);
+BENCHMARK(IncreaseString)->Name("increase_string/ours");
 
 void ReverseString(benchmark::State& state) {
-  const Text text(static_cast<std::size_t>(state.range(0)), u'ก');
-  Run(state, text, [](TextView characters) { return kObject.ReverseString(characters); });
+  const StandardObject standard;
+  MeasureTexts(state, InvoiceTexts(1024),
+               [&standard](TextView text) { return standard.ReverseString(text); });
 }
-BENCHMARK(ReverseString)->Arg(16)->Arg(1024);
-
-void TrimSpaceToOne(benchmark::State& state) {
-  Run(state, u"  Siam   Trading  Company   Limited ",
-      [](TextView text) { return kObject.TrimSpaceToOne(text); });
-}
-BENCHMARK(TrimSpaceToOne);
-
-void Random(benchmark::State& state) {
-  for (auto _ : state) benchmark::DoNotOptimize(kObject.Random(1, 100));
-}
-BENCHMARK(Random);
+BENCHMARK(ReverseString)->Name("reverse_string/ours");
 
 }  // namespace
+}  // namespace ZQ7Standard::Bench

@@ -115,6 +115,7 @@ class ZQ7STANDARD_EXPORT GridValueObject {
   class Event;
 
   void Resize(std::int64_t rows, std::int32_t cols, std::string_view operation);
+  bool SetvalueOutside(std::int32_t row, std::int32_t col, double value);
   std::span<double> DataOfRow(std::int32_t row) const;
   void RaiseCellDataChange(std::int32_t row, std::int32_t col);
 

@@ -61,8 +61,9 @@ void GridValueObject::SetCols(std::int32_t Cols) {
 
 bool GridValueObject::Setvalue(std::int32_t Row, std::int32_t Col, double Value) {
   if (Col >= cols_) return false;
-  if (Row >= rows_) Resize(std::int64_t{Row} + 1, cols_, "Setvalue");
-  if (Row < 0 || Col < 0) RaiseNoCell("Setvalue", Row, Col);
+  if (Row >= rows_ || Row < 0 || Col < 0) [[unlikely]] {
+    return SetvalueOutside(Row, Col, Value);
+  }
   cells_->Row(Row)[Col] = Value;
   if (!listeners_.empty()) RaiseCellDataChange(Row, Col);
   return true;
@@ -143,6 +144,14 @@ void GridValueObject::Resize(std::int64_t rows, std::int32_t cols, std::string_v
 std::span<double> GridValueObject::DataOfRow(std::int32_t row) const {
   if (cols_ <= fixed_cols_) return {};
   return {cells_->Row(row) + fixed_cols_, cells_->Row(row) + cols_};
+}
+
+/// `Setvalue` of a row past the last or a negative cell, kept apart for the speed
+/// of all others.
+bool GridValueObject::SetvalueOutside(std::int32_t row, std::int32_t col, double value) {
+  if (row >= rows_) Resize(std::int64_t{row} + 1, cols_, "Setvalue");
+  if (row < 0 || col < 0) RaiseNoCell("Setvalue", row, col);
+  return Setvalue(row, col, value);
 }
 
 /// A place that comes during the event is not called, one that empties neither.
