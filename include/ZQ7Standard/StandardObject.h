@@ -562,8 +562,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// The MD5 digest (RFC 1321) of the Windows-874 bytes of `strMessage`, as 32
   /// hexadecimal digits in lower case. A character that is not in the code page
-  /// counts as "?". It tells texts apart by accident only: whoever wants two texts
-  /// with one digest can make them.
+  /// counts as "?". It tells apart texts that differ by accident: whoever wants two
+  /// texts with one digest can make them.
   Text CalculateMD5(TextView strMessage) const;
 
  private:

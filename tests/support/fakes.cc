@@ -6,60 +6,47 @@
 #include <cstdio>
 #include <utility>
 
+#include "text/code_page.h"
+
 namespace ZQ7Standard {
 namespace {
 
-SecretBytes SecretOf(std::string_view text) {
-  SecretBytes secret(text.size());
-  std::ranges::copy(text, secret.Bytes().begin());
-  return secret;
-}
-
-std::string TextOf(const SecretBytes& secret) {
-  return {secret.Bytes().begin(), secret.Bytes().end()};
-}
-
 class RecordingCipher final : public BlockCipher {
  public:
-  explicit RecordingCipher(FakeCipherState& state) : state_(state) { Record("made"); }
-  ~RecordingCipher() override { Record("released"); }
+  explicit RecordingCipher(std::string& calls) : calls_(calls) { calls_ += "made"; }
+  ~RecordingCipher() override { calls_ += ", gone"; }
 
+  void SetUpKey(TextView password, SecretBytes& key, SecretBytes& vector) override {
+    const std::string bytes = Utf8(password);
+    calls_ += ", SetUpKey " + bytes;
+    key = SecretBytes(bytes.size());
+    std::ranges::copy(bytes, key.Bytes().begin());
+    vector = SecretBytes(3);
+  }
   void Initialise(SecretBytes key, SecretBytes vector) override {
-    password_ = TextOf(key);
-    Record("Initialise " + password_ + " " + TextOf(vector));
+    calls_.append(", Initialise ").append(key.Bytes().begin(), key.Bytes().end());
+    calls_ += " " + std::to_string(vector.Bytes().size());
   }
   std::string EncryptBlocks(std::string_view plain) override {
-    Record("EncryptBlocks " + std::string(plain));
+    calls_.append(", EncryptBlocks ").append(plain);
     return std::string(plain) + '\0';
   }
   std::optional<std::string> DecryptBlocks(std::string_view cipher) override {
-    Record("DecryptBlocks");
-    return password_ == "wrong" ? std::nullopt : std::optional<std::string>(cipher);
-  }
-  void SetUpKey(TextView password, SecretBytes& key, SecretBytes& vector) override {
-    Record("SetUpKey " + Utf8(password));
-    key = SecretOf(Utf8(password));
-    vector = SecretOf("vector");
+    calls_ += ", DecryptBlocks";
+    return cipher.ends_with("wrong") ? std::nullopt : std::optional<std::string>(cipher);
   }
   Text Encode(std::string_view cipher) override {
-    Record("Encode");
-    Text text = u"#";
-    for (const char byte : cipher) text.push_back(static_cast<unsigned char>(byte));
-    return text;
+    calls_ += ", Encode";
+    return u"#" + FromCodePage(cipher);
   }
   std::optional<std::string> Decode(TextView text) override {
-    Record("Decode");
+    calls_ += ", Decode";
     if (!text.starts_with(u'#')) return std::nullopt;
-    std::string cipher;
-    for (const char16_t c : text.substr(1)) cipher.push_back(static_cast<char>(c));
-    return cipher;
+    return ToCodePage(text.substr(1));
   }
 
  private:
-  void Record(std::string call) { state_.calls.push_back(std::move(call)); }
-
-  FakeCipherState& state_;
-  std::string password_;
+  std::string& calls_;
 };
 
 }  // namespace
@@ -73,8 +60,8 @@ StandardObject ObjectWith(DateConvention convention, OleDate now) {
       {.clock = FixedClock(now), .date_convention = FixedDateConvention(convention)});
 }
 
-BlockCipherFactory FakeBlockCipher(FakeCipherState& state) {
-  return [&state] { return std::make_unique<RecordingCipher>(state); };
+BlockCipherFactory FakeBlockCipher(std::string& calls) {
+  return [&calls] { return std::make_unique<RecordingCipher>(calls); };
 }
 
 int ErrorOf(const std::function<void()>& call) {

@@ -8,7 +8,6 @@
 #include <ostream>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace ZQ7Standard {
 
@@ -37,16 +36,10 @@ class FakeRandomSource final : public RandomSource {
   bool reseeded_ = false;
 };
 
-/// What the fake block ciphers of a test saw, from the making to the release of
-/// each.
-struct FakeCipherState {
-  std::vector<std::string> calls;
-};
-
-/// Makes block ciphers whose text is "#" and the bytes as they are, padded with a
-/// zero byte. They cannot decode a text without "#", and decrypt nothing under the
-/// password "wrong".
-BlockCipherFactory FakeBlockCipher(FakeCipherState& state);
+/// Makes block ciphers that write what they see to `calls`, from "made" to "gone".
+/// Their text is "#" and the plain text, padded with a zero byte. They cannot decode a
+/// text without "#", and decrypt nothing that ends in "wrong".
+BlockCipherFactory FakeBlockCipher(std::string& calls);
 
 /// The run-time error number that `call` raises; 0 when it raises none.
 int ErrorOf(const std::function<void()>& call);

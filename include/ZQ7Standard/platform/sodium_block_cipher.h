@@ -24,14 +24,14 @@ enum class KeyCost : std::uint8_t {
 ///     StandardObject object({.block_cipher = SodiumBlockCipher()});
 ///
 /// An enciphered text is "ZQ71" and then letters, digits, "-" and "_"; it shows
-/// the length of the plain text and nothing else, and no two are alike. It carries
-/// its cost, so that texts of every cost are read. Blanks and line breaks that a
+/// the length of the plain text and the cost, nothing else, and no two are alike.
+/// Every cipher reads the texts of every cost. Blanks and line breaks that a
 /// mail program put in do not matter; any other change, and the wrong password,
 /// are told for certain.
 ///
-/// The factory may be used from any thread; a cipher belongs to one. Ciphers throw
-/// std::bad_alloc when the memory of the cost is not there. Raises 5 for a value
-/// that is no `KeyCost`.
+/// The factory may be used from any thread; a cipher belongs to one. Ciphers raise 7
+/// when the memory of the cost is not there, `SodiumBlockCipher` 5 for a value that
+/// is no `KeyCost`.
 ///
 /// Only in a library built with ZQ7STANDARD_WITH_SODIUM.
 ZQ7STANDARD_EXPORT BlockCipherFactory SodiumBlockCipher(KeyCost cost = KeyCost::kInteractive);

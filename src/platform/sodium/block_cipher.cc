@@ -4,12 +4,13 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 #include <string>
 #include <utility>
 
 namespace ZQ7Standard {
 namespace {
+
+constexpr std::string_view kName = "SodiumBlockCipher";
 
 // An enciphered text begins with this; the digit is the version of the form.
 constexpr std::string_view kMark = "ZQ71";
@@ -136,7 +137,9 @@ class SodiumCipher final : public BlockCipher {
     const int failure = crypto_pwhash(
         key.Bytes().data(), key.Bytes().size(), reinterpret_cast<const char*>(password.data()),
         password.size(), salt, limits.passes, limits.memory, crypto_pwhash_ALG_ARGON2ID13);
-    if (failure != 0) throw std::bad_alloc();
+    if (failure != 0) {
+      throw RunTimeError::OutOfMemory(kName, std::to_string(limits.memory) + " bytes for a key");
+    }
     return key;
   }
 
@@ -149,8 +152,7 @@ class SodiumCipher final : public BlockCipher {
 
 BlockCipherFactory SodiumBlockCipher(KeyCost cost) {
   if (FindLimits(cost) == nullptr) {
-    throw RunTimeError::InvalidArgument("SodiumBlockCipher",
-                                        "cost " + std::to_string(static_cast<int>(cost)));
+    throw RunTimeError::InvalidArgument(kName, "cost " + std::to_string(static_cast<int>(cost)));
   }
   return [cost]() -> std::unique_ptr<BlockCipher> {
     if (sodium_init() < 0) return nullptr;
