@@ -68,8 +68,8 @@ struct FourthRound {
 
 template <typename Round, std::size_t kStep>
 void Step(std::uint32_t& a, std::uint32_t b, std::uint32_t c, std::uint32_t d, const Words& words) {
-  constexpr std::size_t word = (Round::kFirstWord + kStep * Round::kStride) % 16;
-  a += words[word] + kSines[16 * Round::kIndex + kStep] + Round::Mix(b, c, d);
+  constexpr std::size_t kWord = (Round::kFirstWord + kStep * Round::kStride) % 16;
+  a += words[kWord] + kSines[16 * Round::kIndex + kStep] + Round::Mix(b, c, d);
   a = b + std::rotl(a, Round::kRotations[kStep % 4]);
 }
 
