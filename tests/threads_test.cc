@@ -2,6 +2,7 @@
 // the program when they share anything that one of them changes.
 
 #include <ZQ7Standard/BahtStringObject.h>
+#include <ZQ7Standard/GridValueObject.h>
 #include <ZQ7Standard/StandardObject.h>
 #include <gtest/gtest.h>
 
@@ -16,6 +17,8 @@ TEST(Threads, DistinctInstancesAreIndependent) {
     threads.emplace_back([id] {
       const StandardObject object;
       BahtStringObject words;
+      GridValueObject grid;
+      grid.SetCols(1);
       const Text expected = BahtStringObject().BahtString(id + 20.01);
       for (int i = 0; i < 500; ++i) {
         const OleDate date = OleDate::FromParts(2000 + id, 1 + i % 12, 1 + i % 28);
@@ -27,6 +30,10 @@ TEST(Threads, DistinctInstancesAreIndependent) {
         ASSERT_EQ(object.FixNumber(object.StrVal(u"1,234.565"), 2), 1234.57);
         words.MoneyText(i + 0.5, false, true, u"Dollar");
         ASSERT_EQ(words.BahtString(id + 20.01), expected);
+        ASSERT_EQ(object.DecryptBS(object.EncryptBS(text, u"key"), u"key"), text);
+        ASSERT_EQ(object.CalculateMD5(u"abc"), u"900150983cd24fb0d6963f7d28e17f72");
+        ASSERT_GE(object.Random(1, 6), 1);
+        ASSERT_TRUE(grid.Setvalue(i, 0, 1) && grid.SumCol(0) == i + 1);
       }
     });
   }
