@@ -2,7 +2,6 @@
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <limits>
 #include <string>
@@ -15,7 +14,7 @@ namespace {
 
 constexpr int kMonthsPerYear = 12;
 
-/// Three numbers of a call, for the message of an error.
+/// What `AddMonth` was asked for, for the message of an error.
 std::string Describe(OleDate date, int months) {
   return std::to_string(date.Days()) + " days, " + std::to_string(months) + " months";
 }

@@ -1,6 +1,5 @@
 #include <ZQ7Standard/StandardObject.h>
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 
