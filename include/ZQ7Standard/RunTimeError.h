@@ -4,6 +4,7 @@
 #include <ZQ7Standard/Export.h>
 
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 namespace ZQ7Standard {
@@ -28,8 +29,35 @@ class ZQ7STANDARD_EXPORT RunTimeError : public std::runtime_error {
   static RunTimeError DivisionByZero(std::string_view operation, std::string_view input);
   /// 13, type mismatch: a text that does not read as the type wanted.
   static RunTimeError TypeMismatch(std::string_view operation, std::string_view input);
+  /// 53, file not found.
+  static RunTimeError FileNotFound(std::string_view operation, std::string_view input);
+  /// 57, device I/O error: a read or write that the device failed.
+  static RunTimeError DeviceIoError(std::string_view operation, std::string_view input);
+  /// 61, disk full.
+  static RunTimeError DiskFull(std::string_view operation, std::string_view input);
+  /// 70, permission denied: no right to it, or it is read-only or in use.
+  static RunTimeError PermissionDenied(std::string_view operation, std::string_view input);
+  /// 75, path/file access error: a path that cannot be used this way, such as a folder
+  /// opened as a file.
+  static RunTimeError PathFileAccess(std::string_view operation, std::string_view input);
+  /// 76, path not found: a folder of the path is not there.
+  static RunTimeError PathNotFound(std::string_view operation, std::string_view input);
   /// 429, cannot create object: a component that the operation needs is not there.
   static RunTimeError CannotCreateObject(std::string_view operation, std::string_view input);
+  /// 438, object doesn't support this property or method.
+  static RunTimeError UnsupportedMember(std::string_view operation, std::string_view input);
+  /// 448, named argument not found.
+  static RunTimeError NamedArgumentNotFound(std::string_view operation, std::string_view input);
+  /// 449, argument not optional: one that has no default was left out.
+  static RunTimeError ArgumentNotOptional(std::string_view operation, std::string_view input);
+  /// 450, wrong number of arguments.
+  static RunTimeError WrongNumberOfArguments(std::string_view operation, std::string_view input);
+  /// 482, printer error: `input` is what the print system said.
+  static RunTimeError PrinterError(std::string_view operation, std::string_view input);
+
+  /// A failure that a service of the host's own names by its own number and text, which
+  /// is all of `what()`.
+  RunTimeError(int number, const std::string& description);
 
   /// The run-time error number.
   int Number() const noexcept { return number_; }

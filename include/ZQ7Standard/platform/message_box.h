@@ -1,0 +1,47 @@
+#ifndef ZQ7STANDARD_PLATFORM_MESSAGE_BOX_H_
+#define ZQ7STANDARD_PLATFORM_MESSAGE_BOX_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace ZQ7Standard {
+
+/// The picture beside the text of a message.
+enum class MessageIcon : std::uint8_t {
+  kNone,
+  kCritical,  ///< an error that stopped the operation
+};
+
+/// The buttons under the text of a message.
+enum class MessageButtons : std::uint8_t {
+  kOk,
+};
+
+/// What a message box shows.
+struct Message {
+  Text title;
+  Text text;  ///< lines end with CR LF
+  MessageIcon icon = MessageIcon::kNone;
+  MessageButtons buttons = MessageButtons::kOk;
+};
+
+/// How the user is told of a problem that no caller hears of. A host gives its own
+/// to show a window; it is called from the thread of the operation, which goes on
+/// when `Show` returns.
+class ZQ7STANDARD_EXPORT MessageBox {
+ public:
+  virtual ~MessageBox();
+
+  virtual void Show(const Message& message) = 0;
+};
+
+/// Writes each message to the error stream as `title: text` in UTF-8, or the text
+/// alone where there is no title, and does not wait.
+ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> ErrorStreamMessageBox();
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PLATFORM_MESSAGE_BOX_H_

@@ -1,0 +1,24 @@
+#include <ZQ7Standard/platform/message_box.h>
+
+#include <iostream>
+
+namespace ZQ7Standard {
+namespace {
+
+class StreamMessageBox final : public MessageBox {
+ public:
+  void Show(const Message& message) override {
+    const Text shown = message.title.empty() ? message.text : message.title + u": " + message.text;
+    std::cerr << Utf8(shown) + "\n" << std::flush;
+  }
+};
+
+}  // namespace
+
+MessageBox::~MessageBox() = default;
+
+std::shared_ptr<MessageBox> ErrorStreamMessageBox() {
+  return std::make_shared<StreamMessageBox>();
+}
+
+}  // namespace ZQ7Standard
