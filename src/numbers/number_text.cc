@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "text/ascii.h"
+#include "text/pieces.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -208,6 +209,17 @@ double ReadNumber(Source source) {
   return negative ? -value : value;
 }
 
+void SkipSign(TextView& text) {
+  if (text.starts_with(u'+') || text.starts_with(u'-')) text.remove_prefix(1);
+}
+
+bool SkipDigits(TextView& text) {
+  const auto count =
+      static_cast<std::size_t>(std::ranges::find_if_not(text, IsAsciiDigit) - text.begin());
+  text.remove_prefix(count);
+  return count > 0;
+}
+
 }  // namespace
 
 std::optional<Decimal> ToDecimal(double value) {
@@ -306,6 +318,21 @@ std::optional<double> ReadLeadingNumber(TextView text) {
   const double value = ReadNumber(Characters<IsNothing>(text));
   if (std::isinf(value)) return std::nullopt;
   return value;
+}
+
+bool IsNumberText(TextView text) {
+  text = TrimBack(TrimFront(text));
+  SkipSign(text);
+  bool digits = SkipDigits(text);
+  if (text.starts_with(u'.')) {
+    text.remove_prefix(1);
+    digits = SkipDigits(text) || digits;
+  }
+  if (!digits || text.empty()) return digits;
+  const char16_t exponent = AsciiUpper(text.front());
+  text.remove_prefix(1);
+  SkipSign(text);
+  return (exponent == u'E' || exponent == u'D') && SkipDigits(text) && text.empty();
 }
 
 double ReadTypedNumber(TextView text) {

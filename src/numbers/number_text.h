@@ -69,7 +69,11 @@ Text ShortestText(Decimal number);
 /// too large for a double.
 std::optional<double> ReadLeadingNumber(TextView text);
 
-/// The same with every blank, "," and "%" left out first; 0 when the number is
+/// Whether `text` is a number from end to end, as `ReadLeadingNumber` reads it;
+/// blanks may stand around it.
+bool IsNumberText(TextView text);
+
+/// `ReadLeadingNumber` with every blank, "," and "%" left out first; 0 when the number is
 /// too large for a double.
 double ReadTypedNumber(TextView text);
 

@@ -6,7 +6,6 @@
 #include <initializer_list>
 
 #include "numbers/number_text.h"
-#include "text/ascii.h"
 #include "text/pieces.h"
 #include "text/replace.h"
 #include "text/unicode.h"
@@ -53,37 +52,9 @@ std::vector<Text> Elements(TextView first, std::initializer_list<TextView> other
   return joined.empty() ? std::vector<Text>() : Split(joined, kElementSeparator);
 }
 
-void SkipSign(TextView& text) {
-  if (text.starts_with(u'+') || text.starts_with(u'-')) text.remove_prefix(1);
-}
-
-bool SkipDigits(TextView& text) {
-  const auto count =
-      static_cast<std::size_t>(std::ranges::find_if_not(text, IsAsciiDigit) - text.begin());
-  text.remove_prefix(count);
-  return count > 0;
-}
-
-/// Whether `text` is a number from end to end, as `ReadLeadingNumber` reads it;
-/// blanks may stand around it.
-bool IsNumber(TextView text) {
-  text = TrimBack(TrimFront(text));
-  SkipSign(text);
-  bool digits = SkipDigits(text);
-  if (text.starts_with(u'.')) {
-    text.remove_prefix(1);
-    digits = SkipDigits(text) || digits;
-  }
-  if (!digits || text.empty()) return digits;
-  const char16_t exponent = AsciiUpper(text.front());
-  text.remove_prefix(1);
-  SkipSign(text);
-  return (exponent == u'E' || exponent == u'D') && SkipDigits(text) && text.empty();
-}
-
 /// `field` of the list `list` as a whole number.
 std::int32_t WholeNumber(TextView field, TextView list) {
-  if (!IsNumber(field)) throw RunTimeError::TypeMismatch("TrimN", Quoted(list));
+  if (!IsNumberText(field)) throw RunTimeError::TypeMismatch("TrimN", Quoted(list));
   const auto number = ReadLeadingNumber(field);
   const auto whole = number ? RoundToInteger<std::int32_t>(*number) : std::nullopt;
   if (!whole) throw RunTimeError::Overflow("TrimN", Quoted(list));

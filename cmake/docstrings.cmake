@@ -1,0 +1,37 @@
+# Writes the documentation comments of the public classes as a table for C++, so that
+# what `zq7 help` prints and what the headers say cannot differ:
+#
+#   cmake -DHEADERS=<header,header...> -DOUTPUT=<file> -P docstrings.cmake
+#
+# A comment belongs to the declaration on the line behind it: of a class at the line's
+# start, of a member two blanks in. "///<" belongs to the member on its own line.
+
+set(rows "")
+string(REPLACE "," ";" headers "${HEADERS}")
+foreach(header IN LISTS headers)
+  get_filename_component(class ${header} NAME_WE)
+  file(READ ${header} rest)
+  set(comment "")
+  while(rest MATCHES "^([^\n]*)\n")
+    set(line "${CMAKE_MATCH_1}")
+    string(LENGTH "${line}\n" length)
+    string(SUBSTRING "${rest}" ${length} -1 rest)
+    set(name "")
+    if(line MATCHES "^ *///<? ?(.*)$")
+      string(APPEND comment "${CMAKE_MATCH_1}\n")
+      continue()
+    elseif(line MATCHES "^class .* ${class} ")
+      set(name "${class}")
+    elseif(line MATCHES "^  [A-Za-z0-9_:<> ]+ ([A-Za-z0-9_]+)\\(")
+      set(name "${class}.${CMAKE_MATCH_1}")
+      if(line MATCHES "///< (.*)$")
+        set(comment "${CMAKE_MATCH_1}\n")
+      endif()
+    endif()
+    if(name AND comment)
+      string(APPEND rows "    {\"${name}\", R\"doc(${comment})doc\"},\n")
+    endif()
+    set(comment "")
+  endwhile()
+endforeach()
+file(WRITE ${OUTPUT} "${rows}")

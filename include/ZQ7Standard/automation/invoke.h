@@ -1,0 +1,92 @@
+#ifndef ZQ7STANDARD_AUTOMATION_INVOKE_H_
+#define ZQ7STANDARD_AUTOMATION_INVOKE_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/automation/catalogue.h>
+#include <ZQ7Standard/automation/value.h>
+#include <ZQ7Standard/platform/block_cipher.h>
+#include <ZQ7Standard/platform/clock.h>
+#include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/random_source.h>
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace ZQ7Standard::Automation {
+
+/// What instances made by name take of the host. A service left empty is the
+/// machine's own; there is no block cipher then.
+struct HostServices {
+  std::shared_ptr<Clock> clock = nullptr;
+  std::shared_ptr<DateConventionSource> date_convention = nullptr;
+  std::shared_ptr<RandomSource> random_source = nullptr;
+  BlockCipherFactory block_cipher = nullptr;
+  std::shared_ptr<MessageBox> message_box = nullptr;
+};
+
+/// What the examples of the catalogue run with.
+ZQ7STANDARD_EXPORT HostServices ExampleServices();
+
+struct NamedArgument {
+  std::string_view name;
+  Value value;
+};
+
+/// The arguments of a call: first those given by position, of which an `Omitted`
+/// leaves its place out, then those given by name.
+struct Arguments {
+  std::span<const Value> positional = {};
+  std::span<const NamedArgument> named = {};
+};
+
+/// Hears the events of an instance, on the thread of the operation and inside it. It
+/// may call the instance again, and throw to the caller of the operation.
+class ZQ7STANDARD_EXPORT EventSink {
+ public:
+  virtual ~EventSink();
+
+  virtual void Raise(const EventInfo& event, std::span<const Value> arguments) = 0;
+};
+
+/// A new instance of a public class. Raises 429 for a name that is none.
+ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices& services = {});
+
+/// Calls an operation and returns its result, `Omitted` where it has none. Raises what
+/// the operation raises, and
+/// - 438 for a name that is no operation of the class,
+/// - 448 for an argument name that is no parameter,
+/// - 449 for an argument that is missing and not optional,
+/// - 450 for too many arguments, or two for one parameter,
+/// - 13 for a text that is no number (no date, no Boolean) where one is wanted, and
+///   for a list or an object where it is not,
+/// - 6 for a number that does not fit the type wanted.
+///
+/// Values become what the parameter wants as automation has it. Whole numbers are
+/// rounded, halves to even. True is -1 as a number (255 as a byte) and any number but
+/// 0 is True. A date is its day count. A number as text has at most 15 significant
+/// digits, a single 7. A text is read as a number from end to end, blanks around it
+/// and "," between digits left out; as "True" or "False" in any case, or a number; as
+/// a date by the services' convention (docs/dates.md), or a day count. A date as text
+/// is d/m/yyyy or m/d/yyyy in the convention's order and era, and h:mm:ss where it has
+/// a time of day; the time alone on day 0.
+ZQ7STANDARD_EXPORT Value Invoke(const Object& object, std::string_view operation,
+                                const Arguments& arguments);
+
+/// The value of a property. Raises 438 for a name that is none.
+ZQ7STANDARD_EXPORT Value GetProperty(const Object& object, std::string_view property);
+
+/// Sets a property, the value converted as `Invoke` does. Raises 438 for a name that
+/// is none, and for a property that is only read.
+ZQ7STANDARD_EXPORT void SetProperty(const Object& object, std::string_view property,
+                                    const Value& value);
+
+/// Sends the events of an instance to `sink` for as long as the result is kept. Null
+/// for a class without events.
+[[nodiscard]] ZQ7STANDARD_EXPORT std::shared_ptr<void> Subscribe(const Object& object,
+                                                                 std::shared_ptr<EventSink> sink);
+
+}  // namespace ZQ7Standard::Automation
+
+#endif  // ZQ7STANDARD_AUTOMATION_INVOKE_H_

@@ -1,0 +1,188 @@
+#ifndef ZQ7STANDARD_SRC_AUTOMATION_BINDING_H_
+#define ZQ7STANDARD_SRC_AUTOMATION_BINDING_H_
+
+#include <ZQ7Standard/automation/catalogue.h>
+
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "automation/conversion.h"
+#include "automation/enumerations.h"
+
+/// What a row of the catalogue takes from the C++ types of the member it names: types
+/// for the catalogue, and the call that converts to and from values.
+namespace ZQ7Standard::Automation {
+
+template <typename T>
+concept EnumerationType = std::is_enum_v<T>;
+
+/// The type of the catalogue that a C++ type is.
+template <typename T>
+constexpr Type kTypeOf = Type::kNothing;
+template <>
+constexpr Type kTypeOf<Text> = Type::kText;
+template <>
+constexpr Type kTypeOf<TextView> = Type::kText;
+template <>
+constexpr Type kTypeOf<std::uint8_t> = Type::kByte;
+template <>
+constexpr Type kTypeOf<std::int16_t> = Type::kInteger;
+template <>
+constexpr Type kTypeOf<std::int32_t> = Type::kLong;
+template <EnumerationType T>
+constexpr Type kTypeOf<T> = Type::kLong;
+template <>
+constexpr Type kTypeOf<float> = Type::kSingle;
+template <>
+constexpr Type kTypeOf<double> = Type::kDouble;
+template <>
+constexpr Type kTypeOf<std::optional<double>> = Type::kDouble;
+template <>
+constexpr Type kTypeOf<bool> = Type::kBoolean;
+template <>
+constexpr Type kTypeOf<OleDate> = Type::kDate;
+template <>
+constexpr Type kTypeOf<Currency> = Type::kCurrency;
+template <>
+constexpr Type kTypeOf<TextList> = Type::kTextList;
+
+template <typename T>
+TypeInfo TypeInfoOf() {
+  if constexpr (EnumerationType<T>) {
+    return {.type = Type::kLong, .enumeration = &kEnumerationOf<T>};
+  } else {
+    static_assert(std::is_void_v<T> || kTypeOf<T> != Type::kNothing, "a type no value has");
+    return {.type = kTypeOf<T>};
+  }
+}
+
+/// A value as a parameter of the type `T`.
+template <typename T>
+T ToParameter(const Value& value, const Place& place) {
+  if constexpr (EnumerationType<T>)
+    return static_cast<T>(ToInteger<std::int32_t>(value, place));
+  else if constexpr (std::same_as<T, bool>)
+    return ToBoolean(value, place);
+  else if constexpr (std::integral<T>)
+    return ToInteger<T>(value, place);
+  else if constexpr (std::same_as<T, float>)
+    return ToSingle(value, place);
+  else if constexpr (std::same_as<T, double>)
+    return ToDouble(value, place);
+  else if constexpr (std::same_as<T, OleDate>)
+    return ToDate(value, place);
+  else if constexpr (std::same_as<T, Currency>)
+    return ToCurrency(value, place);
+  else if constexpr (std::same_as<T, Text>)
+    return ToText(value, place);
+  else
+    return ToTextList(value, place);
+}
+
+/// A value and where it is wanted.
+struct Source {
+  const Value& value;
+  Place place;
+};
+
+/// Keeps an argument while the call runs.
+template <typename T>
+class Argument {
+ public:
+  explicit Argument(const Source& source) : value_(ToParameter<T>(source.value, source.place)) {}
+  const T& Get() const { return value_; }
+
+ private:
+  T value_;
+};
+
+/// A text is passed as it stands in the value; only what is none yet is written out.
+template <>
+class Argument<TextView> {
+ public:
+  explicit Argument(const Source& source) : text_(std::get_if<Text>(&source.value)) {
+    if (text_ == nullptr) written_ = ToText(source.value, source.place);
+  }
+  TextView Get() const { return text_ == nullptr ? written_ : *text_; }
+
+ private:
+  const Text* text_;
+  Text written_;
+};
+
+/// A number that the operation itself finds missing.
+template <>
+class Argument<std::optional<double>> {
+ public:
+  explicit Argument(const Source& source) {
+    if (!std::holds_alternative<Omitted>(source.value)) {
+      value_ = ToDouble(source.value, source.place);
+    }
+  }
+  std::optional<double> Get() const { return value_; }
+
+ private:
+  std::optional<double> value_;
+};
+
+/// The result of an operation as a value.
+template <typename T>
+Value ToValue(T&& result) {
+  using Result = std::remove_cvref_t<T>;
+  if constexpr (EnumerationType<Result>)
+    return static_cast<std::int32_t>(result);
+  else if constexpr (std::same_as<Result, std::uint8_t>)
+    return static_cast<std::int16_t>(result);
+  else
+    return Value(std::forward<T>(result));
+}
+
+template <typename Member>
+struct MemberTraits;
+template <typename C, typename R, typename... P>
+struct MemberTraits<R (C::*)(P...)> {
+  using Class = C;
+  using Result = R;
+  using Parameters = std::tuple<std::remove_cvref_t<P>...>;
+};
+template <typename C, typename R, typename... P>
+struct MemberTraits<R (C::*)(P...) const> : MemberTraits<R (C::*)(P...)> {};
+
+template <auto Member>
+using ClassOf = typename MemberTraits<decltype(Member)>::Class;
+template <auto Member>
+using ResultOf = typename MemberTraits<decltype(Member)>::Result;
+template <auto Member>
+using ParametersOf = typename MemberTraits<decltype(Member)>::Parameters;
+template <auto Member>
+constexpr std::size_t kParameterCount = std::tuple_size_v<ParametersOf<Member>>;
+
+/// Calls `Member` on an instance with one value for each of its parameters.
+template <auto Member>
+Value CallMember(void* instance, std::span<const Value* const> arguments,
+                 const CallContext& context) {
+  auto& object = *static_cast<ClassOf<Member>*>(instance);
+  return [&]<std::size_t... I>(std::index_sequence<I...>)->Value {
+    using Parameters = ParametersOf<Member>;
+    const std::tuple<Argument<std::tuple_element_t<I, Parameters>>...> values(
+        Source{*arguments[I], {context, I}}...);
+    if constexpr (std::is_void_v<ResultOf<Member>>) {
+      std::invoke(Member, object, std::get<I>(values).Get()...);
+      return Omitted{};
+    } else {
+      return ToValue(std::invoke(Member, object, std::get<I>(values).Get()...));
+    }
+  }
+  (std::make_index_sequence<kParameterCount<Member>>{});
+}
+
+}  // namespace ZQ7Standard::Automation
+
+#endif  // ZQ7STANDARD_SRC_AUTOMATION_BINDING_H_

@@ -1,0 +1,24 @@
+#ifndef ZQ7STANDARD_SRC_AUTOMATION_CLASSES_H_
+#define ZQ7STANDARD_SRC_AUTOMATION_CLASSES_H_
+
+#include <ZQ7Standard/automation/catalogue.h>
+
+namespace ZQ7Standard::Automation {
+
+// The entry of each public class, without the details of its members.
+
+ClassInfo BahtStringObjectEntry();
+ClassInfo BitByteObjectEntry();
+ClassInfo GridValueObjectEntry();
+ClassInfo RegistryObjectEntry();
+ClassInfo StandardObjectEntry();
+
+// The operations of `StandardObject`, by subsystem.
+
+void AddDateOperations(ClassInfo& owner);
+void AddNumberOperations(ClassInfo& owner);
+void AddTextOperations(ClassInfo& owner);
+
+}  // namespace ZQ7Standard::Automation
+
+#endif  // ZQ7STANDARD_SRC_AUTOMATION_CLASSES_H_

@@ -1,0 +1,242 @@
+#include "automation/conversion.h"
+
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <type_traits>
+
+#include "dates/civil.h"
+#include "dates/date_text.h"
+#include "numbers/number_text.h"
+#include "text/ascii.h"
+#include "text/pieces.h"
+#include "text/unicode.h"
+
+namespace ZQ7Standard::Automation {
+namespace {
+
+constexpr int kSingleDigits = 7;
+
+template <typename T>
+concept Arithmetic = std::is_arithmetic_v<T>;
+
+/// `value` as the message of an error shows it.
+std::string Shown(const Value& value) {
+  if (const auto* text = std::get_if<Text>(&value)) return Quoted(*text);
+  if (const auto* number = std::get_if<double>(&value)) return std::to_string(*number);
+  if (const auto* number = std::get_if<float>(&value)) return std::to_string(*number);
+  if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_string(*number);
+  if (const auto* number = std::get_if<std::int16_t>(&value)) return std::to_string(*number);
+  if (const auto* amount = std::get_if<Currency>(&value)) return Utf8(amount->ToText());
+  if (const auto* date = std::get_if<OleDate>(&value)) return std::to_string(date->Days());
+  if (std::holds_alternative<bool>(value)) return std::get<bool>(value) ? "True" : "False";
+  if (std::holds_alternative<TextList>(value)) return "a list";
+  return "an object";
+}
+
+std::string ParameterName(const Place& place) {
+  return std::string(place.call.parameters[place.parameter].name);
+}
+
+/// "iText: "abc"", or the value alone where there is no parameter to name.
+std::string Described(const Value& value, const Place& place) {
+  return place.call.parameters.empty() ? Shown(value)
+                                       : ParameterName(place).append(": ").append(Shown(value));
+}
+
+[[noreturn]] void RaiseOverflow(const Value& value, const Place& place) {
+  throw RunTimeError::Overflow(place.call.member, Described(value, place));
+}
+
+[[noreturn]] void RaiseMismatch(const Value& value, const Place& place) {
+  throw RunTimeError::TypeMismatch(place.call.member, Described(value, place));
+}
+
+/// The text of a number without blanks around it and "," between its digits.
+Text Ungrouped(TextView text) {
+  Text number(TrimBack(TrimFront(text)));
+  std::erase(number, u',');
+  return number;
+}
+
+/// The number that a whole text is; nothing when it is none.
+std::optional<double> NumberOf(TextView text, const Value& value, const Place& place) {
+  const Text number = Ungrouped(text);
+  if (!IsNumberText(number)) return std::nullopt;
+  const auto read = ReadLeadingNumber(number);
+  if (!read) RaiseOverflow(value, place);
+  return read;
+}
+
+std::optional<OleDate> DateOf(TextView text, const HostServices& services) {
+  const DateConvention convention = services.date_convention->Current();
+  return ReadDateText(text, convention, services.clock->Now().Year());
+}
+
+/// What a value is as a number, apart from a text, which the caller has looked at.
+struct NumberVisitor {
+  const Value& value;
+  const Place& place;
+
+  double operator()(const Text& text) const {
+    if (const auto number = NumberOf(text, value, place)) return *number;
+    RaiseMismatch(value, place);
+  }
+  double operator()(bool flag) const { return flag ? -1 : 0; }
+  double operator()(OleDate date) const { return date.Days(); }
+  double operator()(Currency amount) const { return amount.ToDouble(); }
+  double operator()(const Arithmetic auto& number) const { return number; }
+  double operator()(const auto&) const { RaiseMismatch(value, place); }
+};
+
+/// The digits of a single that are printed.
+Decimal SingleDecimal(float number) {
+  char text[32];
+  const auto end = std::to_chars(text, text + sizeof text, number, std::chars_format::scientific,
+                                 kSingleDigits - 1);
+  double rounded = 0;
+  std::from_chars(text, end.ptr, rounded);
+  return *ToDecimal(rounded);
+}
+
+/// "15/1/2567 9:30:00" in the order and era of the convention.
+Text DateText(OleDate date, DateConvention convention) {
+  Text text;
+  const bool time_alone = static_cast<int>(date.Days()) == 0;
+  if (!time_alone) {
+    const bool day_first = convention.order == FieldOrder::kDayFirst;
+    AppendNumber(text, day_first ? date.Day() : date.Month(), 1);
+    text.push_back(u'/');
+    AppendNumber(text, day_first ? date.Month() : date.Day(), 1);
+    text.push_back(u'/');
+    AppendNumber(text, date.Year() + EraDifference(convention.era), 4);
+    if (date.TimeOfDay() == 0) return text;
+    text.push_back(u' ');
+  }
+  AppendNumber(text, date.Hour(), 1);
+  text.push_back(u':');
+  AppendNumber(text, date.Minute(), 2);
+  text.push_back(u':');
+  AppendNumber(text, date.Second(), 2);
+  return text;
+}
+
+/// The amount without zeros at its end.
+Text AmountText(Currency amount) {
+  Text text = amount.ToText();
+  text.erase(text.find_last_not_of(u'0') + 1);
+  if (text.ends_with(u'.')) text.pop_back();
+  return text;
+}
+
+/// The amount that `make` makes, which fails for one out of range alone.
+Currency Fitting(const auto& make, const Value& value, const Place& place) {
+  try {
+    return make();
+  } catch (const RunTimeError&) {
+    RaiseOverflow(value, place);
+  }
+}
+
+struct TextVisitor {
+  const Value& value;
+  const Place& place;
+
+  Text operator()(const Text& text) const { return text; }
+  Text operator()(bool flag) const { return flag ? u"True" : u"False"; }
+  Text operator()(OleDate date) const {
+    return DateText(date, place.call.services.date_convention->Current());
+  }
+  Text operator()(Currency amount) const { return AmountText(amount); }
+  Text operator()(float number) const {
+    if (!std::isfinite(number)) RaiseOverflow(value, place);
+    return ShortestText(SingleDecimal(number));
+  }
+  Text operator()(const Arithmetic auto& number) const {
+    const auto decimal = ToDecimal(number);
+    if (!decimal) RaiseOverflow(value, place);
+    return ShortestText(*decimal);
+  }
+  Text operator()(const auto&) const { RaiseMismatch(value, place); }
+};
+
+}  // namespace
+
+double ToDouble(const Value& value, const Place& place) {
+  if (const auto* number = std::get_if<double>(&value)) return *number;
+  return std::visit(NumberVisitor{value, place}, value);
+}
+
+float ToSingle(const Value& value, const Place& place) {
+  const double number = ToDouble(value, place);
+  const auto single = static_cast<float>(number);
+  if (std::isinf(single) && !std::isinf(number)) RaiseOverflow(value, place);
+  return single;
+}
+
+template <typename Integer>
+Integer ToInteger(const Value& value, const Place& place) {
+  const auto integer = RoundToInteger<Integer>(ToDouble(value, place));
+  if (!integer) RaiseOverflow(value, place);
+  return *integer;
+}
+
+template std::int16_t ToInteger(const Value& value, const Place& place);
+template std::int32_t ToInteger(const Value& value, const Place& place);
+
+template <>
+std::uint8_t ToInteger(const Value& value, const Place& place) {
+  constexpr std::uint8_t kMax = std::numeric_limits<std::uint8_t>::max();
+  if (const auto* flag = std::get_if<bool>(&value)) return *flag ? kMax : 0;
+  const auto integer = RoundToInteger<std::int32_t>(ToDouble(value, place));
+  if (!integer || *integer < 0 || *integer > kMax) RaiseOverflow(value, place);
+  return static_cast<std::uint8_t>(*integer);
+}
+
+bool ToBoolean(const Value& value, const Place& place) {
+  if (const auto* flag = std::get_if<bool>(&value)) return *flag;
+  if (const auto* text = std::get_if<Text>(&value)) {
+    const TextView word = TrimBack(TrimFront(*text));
+    if (EqualsIgnoringAsciiCase(word, u"True")) return true;
+    if (EqualsIgnoringAsciiCase(word, u"False")) return false;
+  }
+  return ToDouble(value, place) != 0;
+}
+
+OleDate ToDate(const Value& value, const Place& place) {
+  if (const auto* date = std::get_if<OleDate>(&value)) return *date;
+  if (const auto* text = std::get_if<Text>(&value)) {
+    if (const auto date = DateOf(*text, place.call.services)) return *date;
+  }
+  const double days = ToDouble(value, place);
+  if (!IsInRange(days)) RaiseOverflow(value, place);
+  return OleDate(days);
+}
+
+Currency ToCurrency(const Value& value, const Place& place) {
+  if (const auto* amount = std::get_if<Currency>(&value)) return *amount;
+  if (const auto* text = std::get_if<Text>(&value)) {
+    const Text number = Ungrouped(*text);
+    const bool exponent = number.find_first_of(u"eEdD") != Text::npos;
+    if (IsNumberText(number) && !exponent) {
+      return Fitting([&] { return Currency::FromText(number); }, value, place);
+    }
+  }
+  const double number = ToDouble(value, place);
+  return Fitting([&] { return Currency(number); }, value, place);
+}
+
+Text ToText(const Value& value, const Place& place) {
+  return std::visit(TextVisitor{value, place}, value);
+}
+
+TextList ToTextList(const Value& value, const Place& place) {
+  if (const auto* list = std::get_if<TextList>(&value)) return *list;
+  RaiseMismatch(value, place);
+}
+
+}  // namespace ZQ7Standard::Automation

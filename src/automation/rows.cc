@@ -1,0 +1,84 @@
+#include "automation/rows.h"
+
+#include <utility>
+
+namespace ZQ7Standard::Automation {
+namespace {
+
+/// `value`, which a row writes in the nearest C++ type, as the type `wanted`.
+Value Typed(const Value& value, TypeInfo wanted, const CallContext& context) {
+  if (std::holds_alternative<Omitted>(value)) return value;
+  switch (wanted.type) {
+    case Type::kByte:
+      return ToValue(ToInteger<std::uint8_t>(value, {context}));
+    case Type::kInteger:
+      return ToInteger<std::int16_t>(value, {context});
+    case Type::kSingle:
+      return ToSingle(value, {context});
+    case Type::kDouble:
+      return ToDouble(value, {context});
+    case Type::kDate:
+      return ToDate(value, {context});
+    case Type::kCurrency:
+      return ToCurrency(value, {context});
+    default:
+      return value;
+  }
+}
+
+Example Worked(const ExampleRow& row, TypeInfo result, const CallContext& context) {
+  Example example = {.before = row.before, .arguments = row.arguments, .result = Omitted{}};
+  if (const auto* raises = std::get_if<Raises>(&row.outcome)) {
+    example.error = raises->number;
+  } else {
+    example.result = Typed(std::get<Value>(row.outcome), result, context);
+  }
+  return example;
+}
+
+}  // namespace
+
+ParameterRow Optional(const char* name, Value default_value) {
+  ParameterRow row(name);
+  row.optional = true;
+  row.default_value = std::move(default_value);
+  return row;
+}
+
+ParameterRow ByRef(ParameterRow parameter) {
+  parameter.by_reference = true;
+  return parameter;
+}
+
+OperationInfo Described(std::string_view name, std::span<const ParameterRow> parameters,
+                        std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
+                        std::span<const ExampleRow> examples) {
+  const HostServices services = ExampleServices();
+  const CallContext context = {name, {}, services};
+  OperationInfo info = {.name = name, .result = result, .help = help};
+  for (std::size_t i = 0; i < types.size(); ++i) {
+    const ParameterRow& row = parameters[i];
+    info.parameters.push_back({.name = row.name,
+                               .type = types[i],
+                               .optional = row.optional,
+                               .default_value = Typed(row.default_value, types[i], context),
+                               .by_reference = row.by_reference});
+  }
+  for (const ExampleRow& row : examples) {
+    info.examples.push_back(Worked(row, result, context));
+  }
+  return info;
+}
+
+void AddSubject(ClassInfo& owner, std::string_view subject, std::vector<OperationInfo> operations) {
+  for (OperationInfo& operation : operations) {
+    operation.subject = subject;
+    owner.operations.push_back(std::move(operation));
+  }
+}
+
+OleDate Date(int year, int month, int day, int hour, int minute) {
+  return OleDate::FromParts(year, month, day, hour, minute);
+}
+
+}  // namespace ZQ7Standard::Automation

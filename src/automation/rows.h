@@ -1,0 +1,119 @@
+#ifndef ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
+#define ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
+
+#include <ZQ7Standard/automation/catalogue.h>
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <initializer_list>
+#include <span>
+#include <string_view>
+#include <tuple>
+#include <variant>
+#include <vector>
+
+#include "automation/binding.h"
+
+/// How the rows of the catalogue are written: names, help and examples here, every type
+/// from the member itself.
+namespace ZQ7Standard::Automation {
+
+/// A parameter as a row names it.
+struct ParameterRow {
+  // A bare name in a row is a parameter that a call must give.
+  ParameterRow(const char* parameter) : name(parameter) {}  // NOLINT(google-explicit-constructor)
+
+  std::string_view name;
+  bool optional = false;
+  Value default_value = Omitted{};
+  bool by_reference = false;
+};
+
+/// One that may be left out, and what it is then.
+ParameterRow Optional(const char* name, Value default_value = Omitted{});
+
+/// One that is passed by reference where hosts bind to the class itself.
+ParameterRow ByRef(ParameterRow parameter);
+
+/// What an example gives: a value, or `Raises`.
+struct Raises {
+  explicit Raises(int error_number) : number(error_number) {}
+  int number;
+};
+struct ExampleRow {
+  std::vector<Value> arguments;
+  std::variant<Value, Raises> outcome = Value();
+  std::vector<Call> before = {};
+};
+
+/// The row of an operation but for its call. Raises where a default, or the result of an
+/// example, does not fit its type.
+OperationInfo Described(std::string_view name, std::span<const ParameterRow> parameters,
+                        std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
+                        std::span<const ExampleRow> examples);
+
+template <typename... Parameters>
+std::array<TypeInfo, sizeof...(Parameters)> TypesOf(std::tuple<Parameters...>*) {
+  return {TypeInfoOf<Parameters>()...};
+}
+
+/// The row of an operation.
+template <auto Member>
+OperationInfo Operation(std::string_view name, std::span<const ParameterRow> parameters,
+                        std::string_view help, std::initializer_list<ExampleRow> examples) {
+  const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
+  OperationInfo info = Described(name, parameters, types, TypeInfoOf<ResultOf<Member>>(), help,
+                                 {examples.begin(), examples.size()});
+  info.invoke = CallMember<Member>;
+  return info;
+}
+
+/// The same with its parameters in braces, as many as the member has.
+template <auto Member, std::size_t N>
+OperationInfo Operation(std::string_view name, const ParameterRow (&parameters)[N],
+                        std::string_view help, std::initializer_list<ExampleRow> examples) {
+  static_assert(N == kParameterCount<Member>, "a name for each parameter");
+  return Operation<Member>(name, std::span<const ParameterRow>(parameters), help, examples);
+}
+
+/// The row of an operation without parameters.
+template <auto Member>
+OperationInfo Operation(std::string_view name, std::string_view help,
+                        std::initializer_list<ExampleRow> examples) {
+  static_assert(kParameterCount<Member> == 0, "a name for each parameter");
+  return Operation<Member>(name, std::span<const ParameterRow>(), help, examples);
+}
+
+/// The row of a property that is only read.
+template <auto Getter>
+PropertyInfo Property(std::string_view name, std::string_view help) {
+  return {.name = name,
+          .type = TypeInfoOf<ResultOf<Getter>>(),
+          .help = help,
+          .read = [](const void* instance) {
+            return ToValue(std::invoke(Getter, *static_cast<const ClassOf<Getter>*>(instance)));
+          }};
+}
+
+/// The row of a property that is read and set.
+template <auto Getter, auto Setter>
+PropertyInfo Property(std::string_view name, std::string_view help) {
+  PropertyInfo info = Property<Getter>(name, help);
+  info.write = [](void* instance, const Value& value, const CallContext& context) {
+    using Set = std::tuple_element_t<0, ParametersOf<Setter>>;
+    std::invoke(Setter, *static_cast<ClassOf<Setter>*>(instance),
+                ToParameter<Set>(value, {context}));
+  };
+  return info;
+}
+
+/// Adds the operations of one subject to a class.
+void AddSubject(ClassInfo& owner, std::string_view subject, std::vector<OperationInfo> operations);
+
+/// A calendar day, for examples.
+OleDate Date(int year, int month, int day, int hour = 0, int minute = 0);
+
+}  // namespace ZQ7Standard::Automation
+
+#endif  // ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_

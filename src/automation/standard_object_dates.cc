@@ -1,0 +1,199 @@
+#include <ZQ7Standard/StandardObject.h>
+
+#include "automation/classes.h"
+#include "automation/rows.h"
+
+namespace ZQ7Standard::Automation {
+namespace {
+
+void AddEra(ClassInfo& info) {
+  AddSubject(
+      info, "The system's era and date layout, sentinel dates",
+      {Operation<&StandardObject::GetEraDif>(
+           "GetEraDif", "The system's year less the Gregorian year: 543 or 0.", {{{}, 543}}),
+       Operation<&StandardObject::CTYEAR>("CTYEAR", "The current year in the system's era.",
+                                          {{{}, 2567}}),
+       Operation<&StandardObject::Year2000>("Year2000", {"InDate"},
+                                            "The year of a date in the system's era.",
+                                            {{{Date(2024, 1, 15)}, 2567}}),
+       Operation<&StandardObject::GetDateFormat>(
+           "GetDateFormat", "The code of the system's date layout, 1 to 4.", {{{}, 4}}),
+       Operation<&StandardObject::GetDateFormatString>(
+           "GetDateFormatString", {ByRef("DateFormat")},
+           "The date layout of a code, \"m/d/yyyy\" or \"d/m/yyyy\".", {{{4}, u"d/m/yyyy"}}),
+       Operation<&StandardObject::GETBlankDate>("GETBlankDate",
+                                                "The date that stands for no date, 3333-03-03.",
+                                                {{{}, Date(3333, 3, 3)}}),
+       Operation<&StandardObject::GETMAXDate>("GETMAXDate", "The largest date, 3333-03-03.",
+                                              {{{}, Date(3333, 3, 3)}}),
+       Operation<&StandardObject::isBlankDate>(
+           "isBlankDate", {"iDate"}, "Whether a date stands for no date.",
+           {{{Date(3333, 3, 3)}, true}, {{Date(2024, 1, 15)}, false}}),
+       Operation<&StandardObject::TrimDate>("TrimDate", {"iDate"}, "The same day at 00:00.",
+                                            {{{Date(2024, 1, 15, 9, 30)}, Date(2024, 1, 15)}})});
+}
+
+void AddDayTime(ClassInfo& info) {
+  AddSubject(info, "Spans of days, hours and minutes",
+             {Operation<&StandardObject::DAYTIME2DAY>("DAYTIME2DAY", {"iDDHHMMText"},
+                                                      "Reads \"D:H:M\" as a number of days.",
+                                                      {{{u"1:12:00"}, 1.5}}),
+              Operation<&StandardObject::DAY2DAYTIME>("DAY2DAYTIME", {"iDay"},
+                                                      "Writes a number of days as \"D:HH:MM\".",
+                                                      {{{1.5}, u"1:12:00"}}),
+              Operation<&StandardObject::isDayTime>(
+                  "isDayTime", {"IDayTimeText", Optional("AcceptZeroValue", false)},
+                  "Whether a \"D:H:M\" text amounts to anything but zero.",
+                  {{{u"0:8:30"}, true}, {{u"0:0:0"}, false}, {{u"0:0:0", true}, true}})});
+}
+
+void AddParsing(ClassInfo& info) {
+  const auto flag = ByRef(Optional("NoUsedBackwardSupportOnly", false));
+  AddSubject(
+      info, "Dates typed by users",
+      {Operation<&StandardObject::CTDATE>("CTDATE", {"iText", flag},
+                                          "Reads a date as a user types it in a date box.",
+                                          {{{u"15/1/2567"}, Date(2024, 1, 15)},
+                                           {{u"29/2/67"}, Date(2024, 2, 29)},
+                                           {{u"1/15/2567"}, Raises(13)}}),
+       Operation<&StandardObject::IsTDate>("IsTDate", {"iText", flag},
+                                           "Whether a text is a date with a year of four digits.",
+                                           {{{u"15/1/2567"}, true}, {{u"15/1/67"}, false}}),
+       Operation<&StandardObject::CDATE2000>(
+           "CDATE2000", {"iText"}, "Reads any date and adds the era difference to its year.",
+           {{{u"15/1/2567"}, Date(2567, 1, 15)}, {{u"soon"}, Date(3333, 3, 3)}}),
+       Operation<&StandardObject::GETValidDate>(
+           "GETValidDate", {"DateString"}, "Reads a date; today for a text that is none.",
+           {{{u"15/3/2556"}, Date(2013, 3, 15)}, {{u"soon"}, Date(2024, 1, 15)}}),
+       Operation<&StandardObject::IsTDateTime>("IsTDateTime", {"iText"},
+                                               "Whether a text is a date, a time or both.",
+                                               {{{u"15 ม.ค. 2567 9:30"}, true}, {{u"9"}, false}}),
+       Operation<&StandardObject::isMounthYear>(
+           "isMounthYear", {"inMMYYYY"}, "Whether a text is a month and a year, \"MM/YYYY\".",
+           {{{u"01/2567"}, true}, {{u"13/2567"}, false}}),
+       Operation<&StandardObject::GETDateFromTextYYYYMMDD>(
+           "GETDateFromTextYYYYMMDD", {"iDateYYYY_MM_DD"},
+           "Reads a date of a sortable key, the year first.",
+           {{{u"2567-01-15"}, Date(2024, 1, 15)}, {{u"never"}, Date(543, 3, 3)}}),
+       Operation<&StandardObject::CTPeriod>(
+           "CTPeriod", {"iText"}, "The first day of a month typed year first.",
+           {{{u"2567/03"}, Date(2024, 3, 1)}, {{u"2567/13"}, Date(2024, 1, 1)}}),
+       Operation<&StandardObject::IsTPeriod>("IsTPeriod", {"iText"},
+                                             "Whether `CTPeriod` reads a text as it stands.",
+                                             {{{u"2567/03"}, true}, {{u"2567/13"}, false}})});
+}
+
+void AddTimeParsing(ClassInfo& info) {
+  AddSubject(info, "Times typed by users",
+             {Operation<&StandardObject::CTTime>("CTTime", {"ITimeText"},
+                                                 "The time of day of four digits \"HHMM\".",
+                                                 {{{u"0600"}, 0.25}, {{u"6:00"}, 0}}),
+              Operation<&StandardObject::isTTime>("isTTime", {"ITimeText"},
+                                                  "Whether a text is four digits \"HHMM\".",
+                                                  {{{u"2359"}, true}, {{u"2400"}, false}}),
+              Operation<&StandardObject::Str2AddDay>(
+                  "Str2AddDay", {"InTime", ByRef(Optional("StartValue", 0))},
+                  "The day that a clock time past midnight carries over to.",
+                  {{{u"25:30"}, 1}, {{u"09:30"}, 0}}),
+              Operation<&StandardObject::Str2TIME>(
+                  "Str2TIME", {"InTime"}, "Reads a clock time such as \"9:30\" or \"9:30 PM\".",
+                  {{{u"6:00"}, 0.25}, {{u"6:00 PM"}, 0.75}, {{u"soon"}, 0}}),
+              Operation<&StandardObject::CTHour>("CTHour", {"ITimeText"}, "Reads \"H:M\" as hours.",
+                                                 {{{u"7:30"}, 7.5}}),
+              Operation<&StandardObject::isHour>(
+                  "isHour", {"IHourText", Optional("AcceptZeroValue", false)},
+                  "Whether an \"H:M\" text amounts to anything but zero.",
+                  {{{u"7:30"}, true}, {{u"0:00"}, false}})});
+}
+
+void AddNames(ClassInfo& info) {
+  AddSubject(
+      info, "Month and day names",
+      {Operation<&StandardObject::GETMonthTextArray>(
+           "GETMonthTextArray", {"FullText", "UseThai"}, "The 12 month names; element 0 is empty.",
+           {{{false, false},
+             TextList{u"", u"Jan", u"Feb", u"Mar", u"Apr", u"May", u"Jun", u"Jul", u"Aug", u"Sep",
+                      u"Oct", u"Nov", u"Dec"}}}),
+       Operation<&StandardObject::GETDayTextArray>(
+           "GETDayTextArray", {"FullText", "UseThai"},
+           "The 7 day names from Sunday; element 0 is empty.",
+           {{{true, true},
+             TextList{u"", u"อาทิตย์", u"จันทร์", u"อังคาร", u"พุธ", u"พฤหัส", u"ศุกร์", u"เสาร์"}}}),
+       Operation<&StandardObject::MonthText>(
+           "MonthText", {"MonthNumber", "FullText", ByRef("UseThai")}, "The name of a month.",
+           {{{1, true, true}, u"มกราคม"}, {{2, true, false}, u"Febuary"}}),
+       Operation<&StandardObject::DayText>("DayText", {"iDate", "FullText", ByRef("UseThai")},
+                                           "The name of a date's weekday.",
+                                           {{{Date(2024, 1, 15), true, true}, u"จันทร์"}}),
+       Operation<&StandardObject::MonthYearTextFull>("MonthYearTextFull", {ByRef("InDate")},
+                                                     "The month and year of a date in English.",
+                                                     {{{Date(2024, 1, 15)}, u"January 2024"}})});
+}
+
+void AddFormatting(ClassInfo& info) {
+  AddSubject(info, "Dates and times as text",
+             {Operation<&StandardObject::FormatTDate2>(
+                  "FormatTDate2", {"InDate", "DateType", Optional("ZeroLeader", false)},
+                  "Writes a date in one of fifteen layouts.",
+                  {{{Date(2024, 1, 15), ZQ7DMMBBBB}, u"15 ม.ค. 2567"},
+                   {{Date(2024, 1, 5), ZQ7Detect, true}, u"05/01/2567"},
+                   {{Date(2024, 1, 15), ZQ7D_D_M_M_B_B_B_B}, u"1 5 0 1 2 5 6 7"}}),
+              Operation<&StandardObject::FormatTime>("FormatTime", {"InDate"},
+                                                     "Writes the time of day as \"HH:MM\".",
+                                                     {{{Date(2024, 1, 15, 9, 30)}, u"09:30"}})});
+}
+
+void AddMonths(ClassInfo& info) {
+  AddSubject(
+      info, "Month arithmetic",
+      {Operation<&StandardObject::AddMonth>(
+           "AddMonth", {ByRef("InDate"), ByRef(Optional("NumberOfMonth", 0))},
+           "Moves a date by single months, cut back to the last day of each.",
+           {{{Date(2024, 1, 31), 1}, Date(2024, 2, 29)},
+            {{Date(2024, 1, 31), 2}, Date(2024, 3, 29)},
+            {{Date(2024, 1, 15)}, Date(2024, 2, 15)}}),
+       Operation<&StandardObject::AddYear>("AddYear",
+                                           {ByRef("InDate"), ByRef(Optional("NumberOfYear", 0))},
+                                           "Moves a date by years of twelve single months.",
+                                           {{{Date(2024, 2, 29), 1}, Date(2025, 2, 28)}}),
+       Operation<&StandardObject::GETFirstDayOfMonthYear>(
+           "GETFirstDayOfMonthYear", {"iMonth", "iYear2000"},
+           "The first day of a month of a Gregorian year.",
+           {{{2, 2024}, Date(2024, 2, 1)}, {{0, 2024}, Raises(13)}}),
+       Operation<&StandardObject::GETLastDayOfMonthYear>(
+           "GETLastDayOfMonthYear", {"iMonth", "iYear2000"},
+           "The last day of a month of a Gregorian year.", {{{2, 2024}, Date(2024, 2, 29)}})});
+}
+
+void AddPaymentTerms(ClassInfo& info) {
+  AddSubject(
+      info, "Payment terms",
+      {Operation<&StandardObject::GetConditionDueDate>(
+           "GetConditionDueDate", {"InvoiceDate", "ConditionType", "NetDay", ByRef("DeliveryDay")},
+           "The due date of an invoice.",
+           {{{Date(2024, 1, 15), ZQ7AfterInvoiceDate, 30, 0}, Date(2024, 2, 14)},
+            {{Date(2024, 1, 15), ZQ7AfterDeliveryDate, 30, 7}, Date(2024, 2, 21)}}),
+       Operation<&StandardObject::FormatCondition2>(
+           "FormatCondition2",
+           {"Condition1", "ConditionDay1", "ConditionType", "OutputType", "ConditionDay"},
+           "Writes a payment term in trade notation.",
+           {{{2, 10, ZQ7AfterInvoiceDate, ZQ7ConditionOutputTypeShort, 30}, u"2.0/10, N/30 AID"},
+            {{0, 0, ZQ7AfterInvoiceDate, ZQ7ConditionOutputTypeFull, 30},
+             u"N/30 AFTER INVOICE DATE"}}),
+       Operation<&StandardObject::FormatCondition>(
+           "FormatCondition",
+           {"Condition1", "ConditionDay1", "ConditionType", "OutputType", "ConditionDay"},
+           "`FormatCondition2` with the event and the output as numbers.",
+           {{{0, 0, 0, 0, 30}, u"N/30 AID"}, {{0, 0, 0, 0, 0}, u"CASH"}})});
+}
+
+}  // namespace
+
+void AddDateOperations(ClassInfo& owner) {
+  for (const auto add : {AddEra, AddDayTime, AddParsing, AddTimeParsing, AddNames, AddFormatting,
+                         AddMonths, AddPaymentTerms}) {
+    add(owner);
+  }
+}
+
+}  // namespace ZQ7Standard::Automation

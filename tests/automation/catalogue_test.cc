@@ -1,0 +1,148 @@
+#include <ZQ7Standard/automation/catalogue.h>
+#include <ZQ7Standard/automation/invoke.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "tests/support/rows.h"
+
+namespace ZQ7Standard::Automation {
+namespace {
+
+std::string FileText(const std::string& path) {
+  std::ifstream stream(path);
+  return (std::ostringstream() << stream.rdbuf()).str();
+}
+
+/// The members that a class declares, without access to what is private: name, and
+/// "result name(type parameter = default, ...)" with single blanks.
+std::map<std::string, std::string> Declarations(const std::string& class_name) {
+  const std::string header = FileText(ZQ7STANDARD_HEADERS "/" + class_name + ".h");
+  std::string body = header.substr(header.find("ZQ7STANDARD_EXPORT " + class_name));
+  body = body.substr(0, std::min(body.find("\n private:"), body.find("\n};")));
+  body = std::regex_replace(body, std::regex("//[^\n]*"), "");
+  body = std::regex_replace(body, std::regex("\\s+"), " ");
+  body = std::regex_replace(body, std::regex("std::"), "");
+  std::map<std::string, std::string> members;
+  const std::regex declaration("([A-Za-z][\\w<>]*) (\\w+)\\(([^()]*)\\)( const)?(;| \\{)");
+  for (std::sregex_iterator it(body.begin(), body.end(), declaration), end; it != end; ++it) {
+    members[it->str(2)] = it->str(1) + " " + it->str(2) + "(" + it->str(3) + ")";
+  }
+  return members;
+}
+
+/// The C++ type of a parameter or a result.
+std::string CppType(const TypeInfo& type, bool parameter, bool tells_missing) {
+  if (type.enumeration != nullptr) return std::string(type.enumeration->name);
+  if (tells_missing) return "optional<double>";
+  static const std::map<Type, std::string> names = {
+      {Type::kNothing, "void"},         {Type::kText, "Text"},
+      {Type::kByte, "uint8_t"},         {Type::kInteger, "int16_t"},
+      {Type::kLong, "int32_t"},         {Type::kSingle, "float"},
+      {Type::kDouble, "double"},        {Type::kBoolean, "bool"},
+      {Type::kDate, "OleDate"},         {Type::kCurrency, "Currency"},
+      {Type::kTextList, "vector<Text>"}};
+  return names.at(type.type) + (parameter && type.type == Type::kText ? "View" : "");
+}
+
+std::string CppDefault(const ParameterInfo& parameter) {
+  const Value& value = parameter.default_value;
+  if (std::holds_alternative<Omitted>(value)) return "nullopt";
+  if (const auto* text = std::get_if<Text>(&value)) {
+    return text->empty() ? "{}" : "u\"" + Utf8(*text) + "\"";
+  }
+  if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
+  if (const auto* number = std::get_if<std::int16_t>(&value)) return std::to_string(*number);
+  const std::int32_t number = std::get<std::int32_t>(value);
+  if (parameter.type.enumeration == nullptr) return std::to_string(number);
+  return std::string(
+      std::ranges::find(parameter.type.enumeration->members, number, &EnumeratorInfo::value)->name);
+}
+
+std::string Declaration(const OperationInfo& operation) {
+  std::string text = CppType(operation.result, false, false) + " " + std::string(operation.name);
+  std::string separator = "(";
+  for (const ParameterInfo& parameter : operation.parameters) {
+    const bool tells_missing =
+        parameter.optional && std::holds_alternative<Omitted>(parameter.default_value);
+    text += separator + CppType(parameter.type, true, tells_missing) + " " +
+            std::string(parameter.name);
+    if (parameter.optional) text += " = " + CppDefault(parameter);
+    separator = ", ";
+  }
+  return text + (separator == "(" ? "()" : ")");
+}
+
+/// Members of a header that are no operations: the host's C++ way to events.
+const std::set<std::string> kOutside = {"AddListener", "RemoveListener"};
+
+// Every operation and property of a public header is in the catalogue with its very
+// signature, and nothing else is.
+TEST(Catalogue, AgreesWithTheHeaders) {
+  for (const ClassInfo& owner : Classes()) {
+    auto declared = Declarations(std::string(owner.name));
+    for (const std::string& name : kOutside) declared.erase(name);
+    declared.erase(std::string(owner.name));
+    for (const OperationInfo& operation : owner.operations) {
+      const std::string name(operation.name);
+      EXPECT_EQ(Declaration(operation), declared[name]) << owner.name;
+      declared.erase(name);
+    }
+    for (const PropertyInfo& property : owner.properties) {
+      const std::string name(property.name);
+      EXPECT_EQ(CppType(property.type, false, false) + " " + name + "()", declared[name]);
+      declared.erase(name);
+      declared.erase("Set" + name);
+    }
+    for (const auto& [name, declaration] : declared) {
+      ADD_FAILURE() << owner.name << "." << name << " is not in the catalogue";
+    }
+  }
+}
+
+TEST(Catalogue, HoldsEveryPublicClass) {
+  std::set<std::string> headers;
+  for (const auto& entry : std::filesystem::directory_iterator(ZQ7STANDARD_HEADERS)) {
+    const std::string name = entry.path().stem();
+    if (FileText(entry.path()).find("\nclass ZQ7STANDARD_EXPORT " + name + " {") !=
+        std::string::npos) {
+      headers.insert(name);
+    }
+  }
+  headers.erase("GridValueListener");
+  for (const ClassInfo& owner : Classes()) {
+    EXPECT_EQ(headers.erase(std::string(owner.name)), 1U) << owner.name;
+  }
+  EXPECT_TRUE(headers.empty()) << *headers.begin();
+}
+
+TEST(Catalogue, ExamplesHold) {
+  const HostServices services = ExampleServices();
+  for (const ClassInfo& owner : Classes()) {
+    for (const OperationInfo& operation : owner.operations) {
+      EXPECT_FALSE(operation.examples.empty()) << operation.name;
+      EXPECT_FALSE(operation.help.empty() || operation.details.empty()) << operation.name;
+      for (const Example& example : operation.examples) {
+        const Object object = Create(owner.name, services);
+        for (const Call& call : example.before) Invoke(object, call.operation, {call.arguments});
+        Value result;
+        const int error =
+            ErrorOf([&] { result = Invoke(object, operation.name, {example.arguments}); });
+        EXPECT_EQ(error, example.error) << operation.name;
+        EXPECT_TRUE(result == example.result) << owner.name << "." << operation.name << ": example "
+                                              << &example - operation.examples.data() << " index "
+                                              << result.index() << " vs " << example.result.index();
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace ZQ7Standard::Automation
