@@ -180,6 +180,7 @@ float ToSingle(const Value& value, const Place& place) {
 
 template <typename Integer>
 Integer ToInteger(const Value& value, const Place& place) {
+  if (const auto* same = std::get_if<Integer>(&value)) return *same;
   const auto integer = RoundToInteger<Integer>(ToDouble(value, place));
   if (!integer) RaiseOverflow(value, place);
   return *integer;

@@ -1,0 +1,106 @@
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/automation/invoke.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tests/support/rows.h"
+
+namespace ZQ7Standard::Automation {
+namespace {
+
+struct CallRow {
+  const char* operation;
+  std::vector<Value> positional;
+  std::vector<NamedArgument> named;
+  const char* expected;  // the result as text, or "error N: " and a part of the message
+};
+
+std::string Outcome(const Object& object, const CallRow& row) {
+  try {
+    const Value result = Invoke(object, row.operation, {row.positional, row.named});
+    if (const auto* text = std::get_if<Text>(&result)) return Utf8(*text);
+    return std::holds_alternative<bool>(result) ? Shown(std::get<bool>(result)) : "?";
+  } catch (const RunTimeError& error) {
+    return error.what();
+  }
+}
+
+TEST(Invoke, TakesArgumentsByPositionAndByName) {
+  const Object object = Create("standardobject", ExampleServices());
+  const std::vector<CallRow> rows = {
+      {"TrimSpaceToOne", {u" a  b ", false}, {}, " a b"},
+      {"TRIMSPACETOONE", {u" a  b "}, {{"trimback", false}}, "a b "},
+      {"TrimSpaceToOne", {}, {{"TrimFront", false}, {"inString", u" a "}}, " a"},
+      {"TrimSpaceToOne", {u" a ", Omitted{}, 0}, {}, "a "},
+      {"TrimSpaceToOne", {u" a ", Omitted{}}, {{"TrimFront", 0}}, " a"},
+      {"TrimSpaceToOne", {u" a "}, {{"TrimFront", Omitted{}}}, "a"},
+      {"MonthText", {u"1", u"True", 1}, {}, "มกราคม"},
+      {"d2Str", {Currency(10.25)}, {}, "10.25"},
+      {"FormatTime", {u"15/1/2567 9:05"}, {}, "09:05"},
+      {"Foo", {}, {}, "error 438): StandardObject.Foo"},
+      {"StrVal", {u"1", u"2"}, {}, "StrVal: wrong number of arguments (error 450): 2 for 1"},
+      {"StrVal", {}, {}, "(error 449): istr"},
+      {"StrVal", {Omitted{}}, {}, "(error 449): istr"},
+      {"StrVal", {}, {{"text", u"1"}}, "(error 448): text"},
+      {"StrVal", {u"1"}, {{"istr", u"1"}}, "(error 450): istr twice"},
+      {"MonthText",
+       {u"x", true, true},
+       {},
+       "MonthText: type mismatch (error 13): MonthNumber: \"x\""},
+      {"MonthText", {40000, true, true}, {}, "MonthText: overflow (error 6): MonthNumber: 40000"},
+      {"StrInt", {u"99999"}, {}, "StrInt: overflow (error 6): \"99999\""}};
+  for (const CallRow& row : rows) {
+    EXPECT_NE(Outcome(object, row).find(row.expected), std::string::npos)
+        << row.operation << " gave " << Outcome(object, row) << ", not " << row.expected;
+  }
+  EXPECT_EQ(ErrorOf([] { Create("Standard"); }), 429);
+}
+
+TEST(Invoke, ReadsProperties) {
+  const Object grid = Create("GridValueObject");
+  EXPECT_EQ(GetProperty(grid, "cols"), Value(-1));
+  const std::vector<Value> three = {3};
+  EXPECT_EQ(Invoke(grid, "SetCols", {three}), Value(Omitted{}));
+  EXPECT_EQ(GetProperty(grid, "Cols"), Value(3));
+  EXPECT_EQ(ErrorOf([&] { GetProperty(grid, "SetCols"); }), 438);
+  EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Cols", 3); }), 438) << "only read";
+  EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Width", 3); }), 438);
+}
+
+class RecordingSink final : public EventSink {
+ public:
+  void Raise(const EventInfo& event, std::span<const Value> arguments) override {
+    events_ += std::string(event.name);
+    for (const Value& argument : arguments) {
+      events_ += " " + std::to_string(std::get<std::int32_t>(argument));
+    }
+    events_ += ";";
+  }
+  const std::string& Events() const { return events_; }
+
+ private:
+  std::string events_;
+};
+
+TEST(Invoke, SendsEventsWhileTheSubscriptionIsKept) {
+  const auto sink = std::make_shared<RecordingSink>();
+  Object grid = Create("GridValueObject");
+  auto subscription = Subscribe(grid, sink);
+  const std::vector<Value> three = {3};
+  const std::vector<Value> cell = {7, 2, 1.5};
+  Invoke(grid, "SetCols", {three});
+  Invoke(grid, "Setvalue", {cell});
+  subscription.reset();
+  Invoke(grid, "Setvalue", {cell});
+  EXPECT_EQ(sink->Events(), "CellDataChange 7 2;");
+  subscription = Subscribe(grid, sink);
+  grid = Create("BitByteObject");
+  subscription.reset();  // the grid lived on for it
+  EXPECT_EQ(Subscribe(grid, sink), nullptr);
+}
+
+}  // namespace
+}  // namespace ZQ7Standard::Automation
