@@ -18,8 +18,6 @@ struct SerialSettings {
   Parity parity = Parity::kNone;
   int data_bits = 8;  // 4 to 8
   StopBits stop_bits = StopBits::kOne;
-
-  friend bool operator==(const SerialSettings&, const SerialSettings&) = default;
 };
 
 /// Reads baud, parity, data bits and stop bits from a text such as "9600,N,8,1", the

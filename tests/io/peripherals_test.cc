@@ -5,45 +5,36 @@
 
 using namespace ZQ7Standard;
 
-/// What a drawer's kick on port 2 makes of a control that does `on_call`: the calls it
-/// saw, the result of `SendCommMsg`, and what `OpenDraw` returned and showed.
-std::string Kick(const std::function<void(int)>& on_call) {
-  std::string calls;
-  std::string ignored;
-  std::string shown;
-  const PeripheralObject object({.message_box = std::make_shared<RecordingMessageBox>(shown)});
-  const auto control = [&](std::string& log) {
-    return std::make_shared<RecordingSerialPort>(log, on_call);
+/// The steps that a drawer's kick takes on a control that raises `raised` in the step
+/// that begins with `failing`, then the result of `SendCommMsg` and the message shown.
+std::string Kick(const std::string& failing, const auto& raised) {
+  const auto port = std::make_shared<RecordingSerialPort>();
+  port->on_call = [&](const std::string& calls) {
+    if (calls.find(failing) != std::string::npos) throw raised;
   };
-  const auto sent = object.SendCommMsg(control(calls), u"\x1Bp0", 2);
-  EXPECT_EQ(shown, "");
-  const auto result = object.OpenDraw(control(ignored), u"\x1Bp0", 2);
-  EXPECT_EQ(ignored, calls) << "the settings of both are the same";
-  return calls + " -> " + std::to_string(sent) + " -> " + std::to_string(result) + " " + shown;
+  const auto box = std::make_shared<RecordingMessageBox>();
+  const PeripheralObject object({.message_box = box});
+  const auto number = object.SendCommMsg(port, u"kick", 2);
+  const std::string calls = std::exchange(port->calls, "");
+  EXPECT_EQ(object.OpenDraw(port, u"kick", 2), 1);
+  EXPECT_EQ(port->calls, calls) << "the default settings are those of the drawer";
+  if (box->shown.empty()) return calls + " -> " + std::to_string(number);
+  EXPECT_EQ(box->shown.at(0).icon, MessageIcon::kCritical);
+  return calls + " -> " + std::to_string(number) + " " + Utf8(box->shown.at(0).text);
 }
 
-TEST(PeripheralObject, SkipsTheStepsBehindAFailedOne) {
-  const std::array<std::string, 6> calls = {"port 2", "; settings 9600,N,8,1", "; input 0",
-                                            "; open", "; output \x1Bp0",       "; close"};
-  std::string expected;
-  for (int failing = 1; failing <= 6; ++failing) {
-    expected += calls[static_cast<std::size_t>(failing) - 1];
-    EXPECT_EQ(Kick([failing](int call) {
-                if (call == failing) throw RunTimeError(8002, "no port ๒");
-              }),
-              expected + " -> 8002 -> 1 critical, ok: : Error! : 8002\r\nno port ๒");
+TEST(PeripheralObject, StopsAtAFailedStepAndMakesANumberOfWhatItRaised) {
+  std::string done;
+  for (const std::string step :
+       {" port 2", " settings 9600,N,8,1", " input 0", " open", " output kick", " close"}) {
+    done += step;
+    EXPECT_EQ(Kick(step, RunTimeError(8002, "no ๒")), done + " -> 8002 Error! : 8002\r\nno ๒");
   }
-  EXPECT_EQ(Kick([](int) {}), expected + " -> 0 -> 1 ");
-}
-
-TEST(PeripheralObject, MakesANumberOfWhateverIsRaised) {
-  const auto kick = [](const auto& raised) { return Kick([&raised](int) { throw raised; }); };
-  EXPECT_EQ(kick(RunTimeError(static_cast<int>(0x800A1F42), "wide")),
-            "port 2 -> 8002 -> 1 critical, ok: : Error! : 8002\r\nwide");
-  EXPECT_EQ(kick(RunTimeError(0x10000, "no success")),
-            "port 2 -> 440 -> 1 critical, ok: : Error! : 440\r\nno success");
-  EXPECT_EQ(kick(std::runtime_error("plain")),
-            "port 2 -> 440 -> 1 critical, ok: : Error! : 440\r\nplain");
-  EXPECT_TRUE(kick(5).starts_with("port 2 -> 440 -> 1 "));
+  EXPECT_EQ(Kick("none", 0), done + " -> 0");
+  const RunTimeError wide(static_cast<int>(0x800A1F42), "in the low half");
+  EXPECT_EQ(Kick("port", wide), " port 2 -> 8002 Error! : 8002\r\nin the low half");
+  EXPECT_EQ(Kick("port", RunTimeError(0x10000, "x")), " port 2 -> 440 Error! : 440\r\nx");
+  EXPECT_EQ(Kick("port", std::logic_error("x")), " port 2 -> 440 Error! : 440\r\nx");
+  EXPECT_TRUE(Kick("port", 5).starts_with(" port 2 -> 440 Error! : 440\r\n"));
   EXPECT_EQ(PeripheralObject().SendCommMsg(nullptr, u"", 1, u""), 91);
 }

@@ -64,17 +64,6 @@ BlockCipherFactory FakeBlockCipher(std::string& calls) {
   return [&calls] { return std::make_unique<RecordingCipher>(calls); };
 }
 
-void RecordingMessageBox::Show(const Message& message) {
-  shown_ += message.icon == MessageIcon::kCritical ? "critical" : "plain";
-  shown_ += message.buttons == MessageButtons::kOk ? ", ok: " : ", other: ";
-  shown_ += Utf8(message.title + u": " + message.text);
-}
-
-void RecordingSerialPort::Record(const std::string& call) {
-  calls_ += call;
-  on_call_(++count_);
-}
-
 int ErrorOf(const std::function<void()>& call) {
   try {
     call();

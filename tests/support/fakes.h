@@ -10,6 +10,7 @@
 #include <ostream>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace ZQ7Standard {
 
@@ -43,34 +44,22 @@ class FakeRandomSource final : public RandomSource {
 /// text without "#", and decrypt nothing that ends in "wrong".
 BlockCipherFactory FakeBlockCipher(std::string& calls);
 
-/// Writes what it shows to `shown`, as "critical, ok: title: text".
-class RecordingMessageBox final : public MessageBox {
- public:
-  explicit RecordingMessageBox(std::string& shown) : shown_(shown) {}
-  void Show(const Message& message) override;
-
- private:
-  std::string& shown_;
+struct RecordingMessageBox final : MessageBox {
+  void Show(const Message& message) override { shown.push_back(message); }
+  std::vector<Message> shown;
 };
 
-/// Writes what is set to `calls`, and runs `on_call` with the number of the call, from 1.
-class RecordingSerialPort final : public SerialPort {
- public:
-  RecordingSerialPort(std::string& calls, std::function<void(int)> on_call)
-      : calls_(calls), on_call_(std::move(on_call)) {}
-  void SetCommPort(std::int16_t port) override { Record("port " + std::to_string(port)); }
-  void SetSettings(TextView settings) override { Record("; settings " + Utf8(settings)); }
-  void SetInputLen(std::int16_t length) override { Record("; input " + std::to_string(length)); }
-  void SetPortOpen(bool open) override { Record(open ? "; open" : "; close"); }
-  void SetOutput(TextView text) override { Record("; output " + Utf8(text)); }
+/// Writes what is set to `calls`, then gives them to `on_call`.
+struct RecordingSerialPort final : SerialPort {
+  void SetCommPort(std::int16_t port) override { Record(" port " + std::to_string(port)); }
+  void SetSettings(TextView settings) override { Record(" settings " + Utf8(settings)); }
+  void SetInputLen(std::int16_t length) override { Record(" input " + std::to_string(length)); }
+  void SetPortOpen(bool open) override { Record(open ? " open" : " close"); }
+  void SetOutput(TextView text) override { Record(" output " + Utf8(text)); }
   bool PortOpen() const override { return false; }
-
- private:
-  void Record(const std::string& call);
-
-  std::string& calls_;
-  std::function<void(int)> on_call_;
-  int count_ = 0;
+  void Record(const std::string& call) { on_call(calls += call); }
+  std::string calls;
+  std::function<void(const std::string&)> on_call;
 };
 
 /// The run-time error number that `call` raises; 0 when it raises none.
