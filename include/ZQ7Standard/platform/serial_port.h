@@ -49,9 +49,9 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 /// The open port is without handshake, and locked: no other instance or program can open
 /// it. `Output` goes out in the library's code page, other characters as "?", without
 /// framing. It returns when the last byte has left, or raises when that takes
-/// `time_limit` (a day at most) longer than the line itself needs; then bytes still waiting are thrown
-/// away, so that a drawer does not open later. Closing puts the line's former settings
-/// back, and does nothing to a closed port.
+/// `time_limit` (a day at most) longer than the line itself needs; then bytes still
+/// waiting are thrown away, so that a drawer does not open later. Closing puts the
+/// line's former settings back, and does nothing to a closed port.
 ///
 /// Raises, with the device in the text:
 /// - 70 when the user has no right to the device;
