@@ -2,12 +2,15 @@
 #define ZQ7STANDARD_TESTS_SUPPORT_FAKES_H_
 
 #include <ZQ7Standard/StandardObject.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/serial_port.h>
 
 #include <array>
 #include <functional>
 #include <ostream>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace ZQ7Standard {
 
@@ -40,6 +43,24 @@ class FakeRandomSource final : public RandomSource {
 /// Their text is "#" and the plain text, padded with a zero byte. They cannot decode a
 /// text without "#", and decrypt nothing that ends in "wrong".
 BlockCipherFactory FakeBlockCipher(std::string& calls);
+
+struct RecordingMessageBox final : MessageBox {
+  void Show(const Message& message) override { shown.push_back(message); }
+  std::vector<Message> shown;
+};
+
+/// Writes what is set to `calls`, then gives them to `on_call`.
+struct RecordingSerialPort final : SerialPort {
+  void SetCommPort(std::int16_t port) override { Record(" port " + std::to_string(port)); }
+  void SetSettings(TextView settings) override { Record(" settings " + Utf8(settings)); }
+  void SetInputLen(std::int16_t length) override { Record(" input " + std::to_string(length)); }
+  void SetPortOpen(bool open) override { Record(open ? " open" : " close"); }
+  void SetOutput(TextView text) override { Record(" output " + Utf8(text)); }
+  bool PortOpen() const override { return false; }
+  void Record(const std::string& call) { on_call(calls += call); }
+  std::string calls;
+  std::function<void(const std::string&)> on_call;
+};
 
 /// The run-time error number that `call` raises; 0 when it raises none.
 int ErrorOf(const std::function<void()>& call);

@@ -1,0 +1,55 @@
+#ifndef ZQ7STANDARD_PERIPHERALOBJECT_H_
+#define ZQ7STANDARD_PERIPHERALOBJECT_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/serial_port.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace ZQ7Standard {
+
+/// What a `PeripheralObject` needs of the machine. A service left empty is the
+/// machine's own.
+struct PeripheralServices {
+  std::shared_ptr<MessageBox> message_box = nullptr;
+};
+
+/// Commands to devices on a serial line, such as the cash drawer of a point of sale.
+/// The host owns the control of the line and hands it in on each call. An instance
+/// belongs to one thread at a time; distinct instances are independent.
+class ZQ7STANDARD_EXPORT PeripheralObject {
+ public:
+  /// An object that shows its messages on the error stream.
+  PeripheralObject();
+  explicit PeripheralObject(PeripheralServices services);
+
+  // --- Devices on a serial line: src/io/peripherals.cc; docs/devices.md ---
+
+  /// Opens port `iPort` of `iControl` with the line settings `Setting`, writes `iCode`
+  /// as it is and closes the port. Returns 0, or the error number of the first step
+  /// that failed: the low 16 bits of the control's own number, or 440 where those are 0
+  /// or the control raised something without a number; 91 without a control. Never
+  /// raises.
+  ///
+  /// The steps behind the failed one are skipped: a port that could not be written to
+  /// stays open, and is the host's to close.
+  std::int16_t SendCommMsg(const std::shared_ptr<SerialPort>& iControl, TextView iCode,
+                           std::int16_t iPort, TextView Setting = u"9600,N,8,1") const;
+
+  /// Opens a cash drawer: sends its kick code `iCode` with the settings "9600,N,8,1".
+  /// Always returns 1, which callers have come to count on. A failure is told by a
+  /// message box alone: "Error! : ", the number of `SendCommMsg`, and on the next line
+  /// the text of the control.
+  std::int16_t OpenDraw(const std::shared_ptr<SerialPort>& iControl, TextView iCode,
+                        std::int16_t iPort) const;
+
+ private:
+  PeripheralServices services_;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PERIPHERALOBJECT_H_

@@ -1,0 +1,271 @@
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/serial_port.h>
+#include <asm/termbits.h>  // as <termios.h>, with speeds as plain numbers
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "io/serial_settings.h"
+#include "text/code_page.h"
+#include "text/unicode.h"
+
+namespace ZQ7Standard {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+struct FailureKind {
+  int number;
+  std::string_view meaning;
+};
+constexpr FailureKind kInvalidSettings = {380, "invalid property value"};
+constexpr FailureKind kNoSuchPort = {8002, "no such port"};
+constexpr FailureKind kAlreadyOpen = {8005, "port already open"};
+constexpr FailureKind kNotOpen = {8018, "port not open"};
+constexpr FailureKind kWriteFailed = {8020, "write failed"};
+
+RunTimeError Failure(FailureKind kind, std::string_view device, std::string_view detail = "") {
+  std::string text = "SerialPort: ";
+  text.append(kind.meaning).append(" (error ").append(std::to_string(kind.number)).append("): ");
+  text.append(device);
+  if (!detail.empty()) text.append(": ").append(detail);
+  return {kind.number, text};
+}
+
+std::string SystemText(int error) {
+  return std::generic_category().message(error);
+}
+
+RunTimeError OpenFailure(const std::string& device, int error) {
+  const std::string reason = SystemText(error);
+  switch (error) {
+    case EACCES:
+    case EPERM:
+      return RunTimeError::PermissionDenied("SerialPort", device + ": " + reason);
+    case EAGAIN:
+    case EBUSY:
+      return Failure(kAlreadyOpen, device, reason);
+    default:
+      return Failure(kNoSuchPort, device, reason);
+  }
+}
+
+constexpr tcflag_t kFormFlags = CSIZE | CSTOPB | PARENB | PARODD | CMSPAR;
+
+/// The flags of the system for the form of a character; nothing for what serial
+/// hardware cannot send. Its one flag for a long stop bit means 1.5 with 5 data bits
+/// and 2 with more.
+std::optional<tcflag_t> FormFlags(const SerialSettings& settings) {
+  constexpr std::array<tcflag_t, 4> kSizes = {CS5, CS6, CS7, CS8};
+  constexpr std::array<tcflag_t, 5> kParities = {0, PARENB | PARODD, PARENB,
+                                                 PARENB | PARODD | CMSPAR, PARENB | CMSPAR};
+  if (settings.data_bits < 5) return std::nullopt;
+  const tcflag_t form = kSizes[static_cast<std::size_t>(settings.data_bits - 5)] |
+                        kParities[static_cast<std::size_t>(settings.parity)];
+  if (settings.stop_bits == StopBits::kOne) return form;
+  const StopBits longer = settings.data_bits == 5 ? StopBits::kOneAndHalf : StopBits::kTwo;
+  if (settings.stop_bits != longer) return std::nullopt;
+  return form | CSTOPB;
+}
+
+/// How a line is to be set up, and the text that says so.
+struct LineMode {
+  speed_t baud = 9600;
+  tcflag_t form = CS8;
+  std::string text = "\"9600,N,8,1\"";
+};
+
+std::optional<LineMode> ReadLineMode(TextView text) {
+  const auto settings = ReadSerialSettings(text);
+  if (!settings) return std::nullopt;
+  const auto form = FormFlags(*settings);
+  if (!form) return std::nullopt;
+  return LineMode{settings->baud, *form, Quoted(text)};
+}
+
+/// Whether a driver that was asked for `mode` has set it up as `line`. A speed within
+/// 2 % is what other devices put up with, and as near as most hardware comes.
+bool IsSetUp(const termios2& line, const LineMode& mode) {
+  const auto difference = std::max(line.c_ospeed, mode.baud) - std::min(line.c_ospeed, mode.baud);
+  return (line.c_cflag & kFormFlags) == mode.form && difference <= mode.baud / 50;
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+  int Number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+/// A serial line of the machine, open and locked. It gets back the settings that it
+/// was found with.
+class Line {
+ public:
+  explicit Line(std::string device)
+      : device_(std::move(device)),
+        descriptor_(open(device_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
+    if (Number() < 0 || ioctl(Number(), TCGETS2, &former_) < 0) throw OpenFailure(device_, errno);
+    Lock();
+  }
+  Line(const Line&) = delete;
+  Line& operator=(const Line&) = delete;
+  ~Line() {
+    ioctl(Number(), TCSETS2, &former_);
+    ioctl(Number(), TIOCNXCL);  // a pseudo-terminal would stay locked
+  }
+
+  /// Sets the line up for bytes as they are.
+  void SetUp(const LineMode& mode) {
+    termios2 line = former_;
+    line.c_iflag = IGNBRK | IGNPAR;
+    line.c_oflag = 0;
+    line.c_lflag = 0;
+    line.c_cflag &= ~(kFormFlags | CBAUD | CIBAUD | CRTSCTS);
+    line.c_cflag |= mode.form | BOTHER | CLOCAL | CREAD;
+    line.c_ispeed = mode.baud;
+    line.c_ospeed = mode.baud;
+    if (ioctl(Number(), TCSETS2, &line) < 0 || ioctl(Number(), TCGETS2, &line) < 0 ||
+        !IsSetUp(line, mode)) {
+      throw Failure(kInvalidSettings, device_, mode.text);
+    }
+    baud_ = mode.baud;
+  }
+
+  /// Writes `bytes` in the time that they need on the line and `time_limit` more.
+  void Write(std::string_view bytes, milliseconds time_limit) {
+    // A byte is 12 bits at most: the start, 8 of data, parity and 2 of stop.
+    const milliseconds needed(bytes.size() * 12 * 1000 / baud_);
+    const auto deadline = steady_clock::now() + needed + time_limit;
+    int error = Send(bytes, deadline);
+    if (error == 0) error = Drain(deadline);
+    if (error == 0) return;
+    ioctl(Number(), TCFLSH, TCOFLUSH);
+    throw Failure(kWriteFailed, device_, SystemText(error));
+  }
+
+  const std::string& Device() const { return device_; }
+
+ private:
+  int Number() const { return descriptor_.Number(); }
+
+  /// The two locks together keep everyone out: other programs are refused the device,
+  /// and one that the system refuses nothing (root) finds the mark or the file lock.
+  void Lock() {
+    int exclusive = 0;
+    if (flock(Number(), LOCK_EX | LOCK_NB) < 0 ||
+        (ioctl(Number(), TIOCGEXCL, &exclusive) == 0 && exclusive != 0)) {
+      throw Failure(kAlreadyOpen, device_);
+    }
+    ioctl(Number(), TIOCEXCL);
+  }
+
+  /// Hands `bytes` to the driver, all at once where it has room for them. Returns 0 or
+  /// the error of the system, ETIME after the deadline.
+  int Send(std::string_view bytes, steady_clock::time_point deadline) const {
+    while (true) {
+      const ssize_t written = write(Number(), bytes.data(), bytes.size());
+      if (written < 0 && errno != EAGAIN && errno != EINTR) return errno;
+      if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
+      if (bytes.empty()) return 0;
+      const auto left = std::chrono::ceil<milliseconds>(deadline - steady_clock::now());
+      if (left <= milliseconds(0)) return ETIME;
+      pollfd room = {.fd = Number(), .events = POLLOUT, .revents = 0};
+      poll(&room, 1, static_cast<int>(left.count()));
+    }
+  }
+
+  /// Waits until the last byte has left the line, with results as those of `Send`. The
+  /// system's own way knows no deadline, so it gets what the hardware holds alone.
+  int Drain(steady_clock::time_point deadline) const {
+    for (int waiting = 0;; std::this_thread::sleep_for(milliseconds(1))) {
+      if (ioctl(Number(), TIOCOUTQ, &waiting) < 0) return errno;
+      if (waiting == 0) break;
+      if (steady_clock::now() >= deadline) return ETIME;
+    }
+    while (ioctl(Number(), TCSBRK, 1) < 0) {
+      if (errno != EINTR) return errno;
+    }
+    return 0;
+  }
+
+  std::string device_;
+  Descriptor descriptor_;
+  termios2 former_{};
+  speed_t baud_ = 0;
+};
+
+class LinuxSerialPort final : public SerialPort {
+ public:
+  LinuxSerialPort(SerialDevices devices, milliseconds time_limit)
+      : devices_(std::move(devices)),
+        time_limit_(std::min<milliseconds>(time_limit, std::chrono::hours(24))) {}
+
+  void SetCommPort(std::int16_t port) override { port_ = port; }
+
+  void SetSettings(TextView settings) override {
+    auto mode = ReadLineMode(settings);
+    if (!mode) throw Failure(kInvalidSettings, Device(), Quoted(settings));
+    mode_ = std::move(*mode);
+  }
+
+  void SetInputLen(std::int16_t /*length*/) override {}
+
+  void SetPortOpen(bool open) override {
+    if (!open) {
+      line_.reset();
+      return;
+    }
+    if (line_) throw Failure(kAlreadyOpen, line_->Device());
+    auto line = std::make_unique<Line>(Device());
+    line->SetUp(mode_);
+    line_ = std::move(line);
+  }
+
+  void SetOutput(TextView text) override {
+    if (!line_) throw Failure(kNotOpen, Device());
+    line_->Write(ToCodePage(text), time_limit_);
+  }
+
+  bool PortOpen() const override { return line_ != nullptr; }
+
+ private:
+  std::string Device() const {
+    const auto device = devices_.find(port_);
+    return device != devices_.end() ? device->second : "/dev/ttyS" + std::to_string(port_ - 1);
+  }
+
+  SerialDevices devices_;
+  milliseconds time_limit_;
+  std::int16_t port_ = 1;
+  LineMode mode_;
+  std::unique_ptr<Line> line_;
+};
+
+}  // namespace
+
+std::shared_ptr<SerialPort> SystemSerialPort(SerialDevices devices, milliseconds time_limit) {
+  return std::make_shared<LinuxSerialPort>(std::move(devices), time_limit);
+}
+
+}  // namespace ZQ7Standard
