@@ -3,14 +3,14 @@
 #
 #   cmake -DHEADERS=<header,header...> -DOUTPUT=<file> -P docstrings.cmake
 #
-# A comment belongs to the declaration on the line behind it: of a class at the line's
-# start, of a member two blanks in. "///<" belongs to the member on its own line.
+# A comment belongs to the declaration on the line behind it: of an exported class at the
+# line's start, of a member two blanks in. "///<" belongs to the member on its own line.
 
 set(rows "")
 string(REPLACE "," ";" headers "${HEADERS}")
 foreach(header IN LISTS headers)
-  get_filename_component(class ${header} NAME_WE)
   file(READ ${header} rest)
+  set(class "")
   set(comment "")
   while(rest MATCHES "^([^\n]*)\n")
     set(line "${CMAKE_MATCH_1}")
@@ -20,9 +20,10 @@ foreach(header IN LISTS headers)
     if(line MATCHES "^ *///<? ?(.*)$")
       string(APPEND comment "${CMAKE_MATCH_1}\n")
       continue()
-    elseif(line MATCHES "^class .* ${class} ")
+    elseif(line MATCHES "^class ZQ7STANDARD_EXPORT ([A-Za-z0-9]+) .*{")
+      set(class "${CMAKE_MATCH_1}")
       set(name "${class}")
-    elseif(line MATCHES "^  [A-Za-z0-9_:<> ]+ ([A-Za-z0-9_]+)\\(")
+    elseif(class AND line MATCHES "^  [A-Za-z0-9_:<> ]+ ([A-Za-z0-9_]+)\\(")
       set(name "${class}.${CMAKE_MATCH_1}")
       if(line MATCHES "///< (.*)$")
         set(comment "${CMAKE_MATCH_1}\n")

@@ -54,12 +54,24 @@ template <>
 constexpr Type kTypeOf<TextList> = Type::kTextList;
 
 template <typename T>
+constexpr Type kTypeOf<std::shared_ptr<T>> = Type::kObject;
+
+/// The class of the catalogue whose instances are of the type `T`.
+template <typename T>
+constexpr std::string_view kClassNameOf = {};
+
+template <typename T>
+constexpr std::string_view kClassNameOf<std::shared_ptr<T>> = kClassNameOf<T>;
+template <>
+constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
+
+template <typename T>
 TypeInfo TypeInfoOf() {
   if constexpr (EnumerationType<T>) {
     return {.type = Type::kLong, .enumeration = &kEnumerationOf<T>};
   } else {
     static_assert(std::is_void_v<T> || kTypeOf<T> != Type::kNothing, "a type no value has");
-    return {.type = kTypeOf<T>};
+    return {.type = kTypeOf<T>, .object_class = kClassNameOf<T>};
   }
 }
 
@@ -115,6 +127,18 @@ class Argument<TextView> {
  private:
   const Text* text_;
   Text written_;
+};
+
+template <typename T>
+class Argument<std::shared_ptr<T>> {
+ public:
+  explicit Argument(const Source& source)
+      : object_(
+            std::static_pointer_cast<T>(ToInstance(source.value, kClassNameOf<T>, source.place))) {}
+  const std::shared_ptr<T>& Get() const { return object_; }
+
+ private:
+  std::shared_ptr<T> object_;
 };
 
 /// A number that the operation itself finds missing.

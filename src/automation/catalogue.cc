@@ -28,20 +28,26 @@ const Info* Find(const Index<Info>& index, std::string_view name) {
   return found == index.end() ? nullptr : found->second;
 }
 
+/// The comments of the headers: on a property, of what reads it or else sets it.
 ClassInfo Documented(ClassInfo owner) {
-  const auto comment = [&](std::string_view member) {
-    return Docstring(std::string(owner.name).append(".").append(member));
-  };
+  const std::string prefix = std::string(owner.name) + ".";
   owner.details = Docstring(owner.name);
-  for (auto& operation : owner.operations) operation.details = comment(operation.name);
-  for (auto& property : owner.properties) property.details = comment(property.name);
+  for (auto& operation : owner.operations) {
+    operation.details = Docstring(prefix + std::string(operation.name));
+  }
+  for (auto& property : owner.properties) {
+    property.details = Docstring(prefix + std::string(property.name));
+    if (!property.details.empty()) continue;
+    property.details = Docstring(prefix + "Set" + std::string(property.name));
+  }
   return owner;
 }
 
 std::vector<ClassInfo> AllClasses() {
   std::vector<ClassInfo> classes;
-  for (const auto entry : {BahtStringObjectEntry, BitByteObjectEntry, GridValueObjectEntry,
-                           RegistryObjectEntry, StandardObjectEntry}) {
+  for (const auto entry :
+       {BahtStringObjectEntry, BitByteObjectEntry, GridValueObjectEntry, PeripheralObjectEntry,
+        RegistryObjectEntry, StandardObjectEntry, SerialPortEntry}) {
     classes.push_back(Documented(entry()));
   }
   return classes;

@@ -5,13 +5,18 @@
 
 namespace ZQ7Standard::Automation {
 
-// The entry of each public class, without the details of its members.
+// The entry of each public class, without what the headers say.
 
 ClassInfo BahtStringObjectEntry();
 ClassInfo BitByteObjectEntry();
 ClassInfo GridValueObjectEntry();
+ClassInfo PeripheralObjectEntry();
 ClassInfo RegistryObjectEntry();
 ClassInfo StandardObjectEntry();
+
+// The same of what hosts hand in to operations.
+
+ClassInfo SerialPortEntry();
 
 // The operations of `StandardObject`, by subsystem.
 

@@ -9,6 +9,8 @@
 #include <string>
 #include <type_traits>
 
+#include "automation/instance.h"
+#include "automation/names.h"
 #include "dates/civil.h"
 #include "dates/date_text.h"
 #include "numbers/number_text.h"
@@ -237,6 +239,18 @@ Text ToText(const Value& value, const Place& place) {
 
 TextList ToTextList(const Value& value, const Place& place) {
   if (const auto* list = std::get_if<TextList>(&value)) return *list;
+  RaiseMismatch(value, place);
+}
+
+std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name,
+                                 const Place& place) {
+  if (const auto* object = std::get_if<Object>(&value)) {
+    if (object->Class().name == class_name) return object->Get().object;
+  } else if (const auto* name = std::get_if<Text>(&value)) {
+    if (SameName{}(Utf8(*name), class_name)) {
+      return FindClass(class_name)->create(place.call.services);
+    }
+  }
   RaiseMismatch(value, place);
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
 
@@ -35,6 +36,9 @@ OleDate ToDate(const Value& value, const Place& place);
 Currency ToCurrency(const Value& value, const Place& place);
 Text ToText(const Value& value, const Place& place);
 TextList ToTextList(const Value& value, const Place& place);
+/// What the object of a class is, or a new one for the name of the class.
+std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name,
+                                 const Place& place);
 
 }  // namespace ZQ7Standard::Automation
 

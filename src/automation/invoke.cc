@@ -7,15 +7,10 @@
 #include <utility>
 
 #include "automation/conversion.h"
+#include "automation/instance.h"
 #include "automation/names.h"
 
 namespace ZQ7Standard::Automation {
-
-struct Instance {
-  const ClassInfo* owner;
-  std::shared_ptr<void> object;
-  HostServices services;  // with a clock and a convention
-};
 
 namespace {
 
@@ -124,7 +119,7 @@ Value Invoke(const Object& object, std::string_view operation, const Arguments& 
 Value GetProperty(const Object& object, std::string_view property) {
   const Instance& instance = object.Get();
   const PropertyInfo* found = FindProperty(*instance.owner, property);
-  if (found == nullptr) {
+  if (found == nullptr || found->read == nullptr) {
     throw RunTimeError::UnsupportedMember("GetProperty", Qualified(*instance.owner, property));
   }
   return found->read(instance.object.get());

@@ -96,15 +96,27 @@ PropertyInfo Property(std::string_view name, std::string_view help) {
           }};
 }
 
+/// Sets a property.
+template <auto Setter>
+void WriteProperty(void* instance, const Value& value, const CallContext& context) {
+  const Argument<std::tuple_element_t<0, ParametersOf<Setter>>> argument(Source{value, {context}});
+  std::invoke(Setter, *static_cast<ClassOf<Setter>*>(instance), argument.Get());
+}
+
+/// The row of a property that is only set.
+template <auto Setter>
+PropertyInfo SetOnlyProperty(std::string_view name, std::string_view help) {
+  return {.name = name,
+          .type = TypeInfoOf<std::tuple_element_t<0, ParametersOf<Setter>>>(),
+          .help = help,
+          .write = WriteProperty<Setter>};
+}
+
 /// The row of a property that is read and set.
 template <auto Getter, auto Setter>
 PropertyInfo Property(std::string_view name, std::string_view help) {
   PropertyInfo info = Property<Getter>(name, help);
-  info.write = [](void* instance, const Value& value, const CallContext& context) {
-    using Set = std::tuple_element_t<0, ParametersOf<Setter>>;
-    std::invoke(Setter, *static_cast<ClassOf<Setter>*>(instance),
-                ToParameter<Set>(value, {context}));
-  };
+  info.write = WriteProperty<Setter>;
   return info;
 }
 

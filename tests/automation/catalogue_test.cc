@@ -16,22 +16,26 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-std::string FileText(const std::string& path) {
-  std::ifstream stream(path);
-  return (std::ostringstream() << stream.rdbuf()).str();
+/// All public headers, one behind the other.
+std::string Headers() {
+  std::ostringstream text;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(ZQ7STANDARD_HEADERS)) {
+    if (entry.is_regular_file()) text << std::ifstream(entry.path()).rdbuf();
+  }
+  return text.str();
 }
 
 /// The members that a class declares, without access to what is private: name, and
 /// "result name(type parameter = default, ...)" with single blanks.
 std::map<std::string, std::string> Declarations(const std::string& class_name) {
-  const std::string header = FileText(ZQ7STANDARD_HEADERS "/" + class_name + ".h");
-  std::string body = header.substr(header.find("ZQ7STANDARD_EXPORT " + class_name));
+  static const std::string headers = Headers();
+  std::string body = headers.substr(headers.find("class ZQ7STANDARD_EXPORT " + class_name + " "));
   body = body.substr(0, std::min(body.find("\n private:"), body.find("\n};")));
   body = std::regex_replace(body, std::regex("//[^\n]*"), "");
   body = std::regex_replace(body, std::regex("\\s+"), " ");
-  body = std::regex_replace(body, std::regex("std::"), "");
+  body = std::regex_replace(body, std::regex("std::|virtual "), "");
   std::map<std::string, std::string> members;
-  const std::regex declaration("([A-Za-z][\\w<>]*) (\\w+)\\(([^()]*)\\)( const)?(;| \\{)");
+  const std::regex declaration("([A-Za-z][\\w<>]*) (\\w+)\\(([^()]*)\\)( const)?( = 0)?(;| \\{)");
   for (std::sregex_iterator it(body.begin(), body.end(), declaration), end; it != end; ++it) {
     members[it->str(2)] = it->str(1) + " " + it->str(2) + "(" + it->str(3) + ")";
   }
@@ -42,6 +46,9 @@ std::map<std::string, std::string> Declarations(const std::string& class_name) {
 std::string CppType(const TypeInfo& type, bool parameter, bool tells_missing) {
   if (type.enumeration != nullptr) return std::string(type.enumeration->name);
   if (tells_missing) return "optional<double>";
+  if (type.type == Type::kObject) {
+    return "const shared_ptr<" + std::string(type.object_class) + ">&";
+  }
   static const std::map<Type, std::string> names = {
       {Type::kNothing, "void"},         {Type::kText, "Text"},
       {Type::kByte, "uint8_t"},         {Type::kInteger, "int16_t"},
@@ -97,9 +104,11 @@ TEST(Catalogue, AgreesWithTheHeaders) {
     }
     for (const PropertyInfo& property : owner.properties) {
       const std::string name(property.name);
-      EXPECT_EQ(CppType(property.type, false, false) + " " + name + "()", declared[name]);
+      if (property.read != nullptr) {
+        EXPECT_EQ(CppType(property.type, false, false) + " " + name + "()", declared[name]);
+      }
+      EXPECT_EQ(property.write != nullptr, declared.erase("Set" + name) == 1) << name;
       declared.erase(name);
-      declared.erase("Set" + name);
     }
     for (const auto& [name, declaration] : declared) {
       ADD_FAILURE() << owner.name << "." << name << " is not in the catalogue";
@@ -108,23 +117,17 @@ TEST(Catalogue, AgreesWithTheHeaders) {
 }
 
 TEST(Catalogue, HoldsEveryPublicClass) {
-  std::set<std::string> headers;
   for (const auto& entry : std::filesystem::directory_iterator(ZQ7STANDARD_HEADERS)) {
     const std::string name = entry.path().stem();
-    if (FileText(entry.path()).find("\nclass ZQ7STANDARD_EXPORT " + name + " {") !=
-        std::string::npos) {
-      headers.insert(name);
-    }
+    const std::string text = (std::ostringstream() << std::ifstream(entry.path()).rdbuf()).str();
+    const bool is_class = text.find("class ZQ7STANDARD_EXPORT " + name + " {") != std::string::npos;
+    EXPECT_TRUE(!is_class || name == "GridValueListener" || FindClass(name) != nullptr) << name;
   }
-  headers.erase("GridValueListener");
-  for (const ClassInfo& owner : Classes()) {
-    EXPECT_EQ(headers.erase(std::string(owner.name)), 1U) << owner.name;
-  }
-  EXPECT_TRUE(headers.empty()) << *headers.begin();
 }
 
 TEST(Catalogue, ExamplesHold) {
-  const HostServices services = ExampleServices();
+  HostServices services = ExampleServices();
+  services.message_box = std::make_shared<RecordingMessageBox>();
   for (const ClassInfo& owner : Classes()) {
     for (const OperationInfo& operation : owner.operations) {
       EXPECT_FALSE(operation.examples.empty()) << operation.name;

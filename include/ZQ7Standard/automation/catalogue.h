@@ -28,7 +28,7 @@ struct EnumerationInfo {
 struct TypeInfo {
   Type type = Type::kNothing;
   const EnumerationInfo* enumeration = nullptr;  ///< whose members a `kLong` takes; may be null
-  const ClassInfo* object_class = nullptr;       ///< of a `kObject`
+  std::string_view object_class = {};            ///< the name of a `kObject`'s class
 };
 
 struct ParameterInfo {
@@ -72,13 +72,13 @@ struct OperationInfo {
                   const CallContext& context) = nullptr;
 };
 
+/// A property; `read` or `write` is null where it can only be set or read.
 struct PropertyInfo {
   std::string_view name;
   TypeInfo type = {};
   std::string_view help = {};
   std::string_view details = {};
   Value (*read)(const void* instance) = nullptr;
-  /// Null for one that cannot be set.
   void (*write)(void* instance, const Value& value, const CallContext& context) = nullptr;
 };
 

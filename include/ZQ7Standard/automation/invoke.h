@@ -9,6 +9,7 @@
 #include <ZQ7Standard/platform/date_convention.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/random_source.h>
+#include <ZQ7Standard/platform/serial_port.h>
 
 #include <memory>
 #include <span>
@@ -24,6 +25,7 @@ struct HostServices {
   std::shared_ptr<RandomSource> random_source = nullptr;
   BlockCipherFactory block_cipher = nullptr;
   std::shared_ptr<MessageBox> message_box = nullptr;
+  SerialDevices serial_devices = {};
 };
 
 /// What the examples of the catalogue run with.
@@ -60,7 +62,7 @@ ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices
 /// - 449 for an argument that is missing and not optional,
 /// - 450 for too many arguments, or two for one parameter,
 /// - 13 for a text that is no number (no date, no Boolean) where one is wanted, and
-///   for a list or an object where it is not,
+///   for a list or an object where none is wanted,
 /// - 6 for a number that does not fit the type wanted.
 ///
 /// Values become what the parameter wants as automation has it. Whole numbers are
@@ -70,11 +72,13 @@ ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices
 /// and "," between digits left out; as "True" or "False" in any case, or a number; as
 /// a date by the services' convention (docs/dates.md), or a day count. A date as text
 /// is d/m/yyyy or m/d/yyyy in the convention's order and era, and h:mm:ss where it has
-/// a time of day; the time alone on day 0.
+/// a time of day; the time alone on day 0. A text where an object is wanted is the name
+/// of its class, of which a new instance is made with the services of `object`.
 ZQ7STANDARD_EXPORT Value Invoke(const Object& object, std::string_view operation,
                                 const Arguments& arguments);
 
-/// The value of a property. Raises 438 for a name that is none.
+/// The value of a property. Raises 438 for a name that is none, and for a property that
+/// is only set.
 ZQ7STANDARD_EXPORT Value GetProperty(const Object& object, std::string_view property);
 
 /// Sets a property, the value converted as `Invoke` does. Raises 438 for a name that

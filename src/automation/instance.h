@@ -1,0 +1,19 @@
+#ifndef ZQ7STANDARD_SRC_AUTOMATION_INSTANCE_H_
+#define ZQ7STANDARD_SRC_AUTOMATION_INSTANCE_H_
+
+#include <ZQ7Standard/automation/invoke.h>
+
+#include <memory>
+
+namespace ZQ7Standard::Automation {
+
+/// What an `Object` stands for.
+struct Instance {
+  const ClassInfo* owner;
+  std::shared_ptr<void> object;
+  HostServices services;  // with a clock and a convention
+};
+
+}  // namespace ZQ7Standard::Automation
+
+#endif  // ZQ7STANDARD_SRC_AUTOMATION_INSTANCE_H_
