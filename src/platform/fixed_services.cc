@@ -1,5 +1,6 @@
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/time_text.h>
 
 namespace ZQ7Standard {
 namespace {
@@ -27,6 +28,8 @@ class ConstantConvention final : public DateConventionSource {
 Clock::~Clock() = default;
 
 DateConventionSource::~DateConventionSource() = default;
+
+TimeTextSource::~TimeTextSource() = default;
 
 std::shared_ptr<Clock> FixedClock(OleDate now) {
   return std::make_shared<ConstantClock>(now);

@@ -1,0 +1,22 @@
+#ifndef ZQ7STANDARD_SRC_PLATFORM_LINUX_FILE_ERRORS_H_
+#define ZQ7STANDARD_SRC_PLATFORM_LINUX_FILE_ERRORS_H_
+
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/Types.h>
+
+#include <string>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// Whether an `errno` says that a path names nothing.
+bool MeansMissing(int error);
+
+/// The run-time error of an `errno` that `operation` met on the file `path`, whose
+/// native path tells a missing file (53) from a missing folder (76).
+RunTimeError FileError(int error, std::string_view operation, TextView path,
+                       const std::string& native);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_PLATFORM_LINUX_FILE_ERRORS_H_

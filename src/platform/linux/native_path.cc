@@ -1,0 +1,39 @@
+#include "platform/linux/native_path.h"
+
+#include <algorithm>
+
+#include "text/ascii.h"
+
+namespace ZQ7Standard {
+namespace {
+
+bool BeginsWithDrive(TextView path) {
+  return path.size() >= 2 && path[1] == u':' && IsAsciiLetter(path[0]);
+}
+
+std::string Slashed(TextView path) {
+  std::string native = Utf8(path);
+  std::ranges::replace(native, '\\', '/');
+  for (auto at = native.find('\0'); at != std::string::npos; at = native.find('\0', at)) {
+    native.replace(at, 1, "\uFFFD");
+  }
+  return native;
+}
+
+}  // namespace
+
+std::string NativePath(TextView path, const DriveMap& drives) {
+  if (!BeginsWithDrive(path)) return Slashed(path);
+  const std::string native = Slashed(path.substr(2));
+  const auto drive = drives.find(static_cast<char>(AsciiUpper(path[0])));
+  if (drive != drives.end()) return drive->second.native() + '/' + native;
+  return native.empty() ? "/" : native;
+}
+
+Text PathText(const std::filesystem::path& path) {
+  Text text = u"C:" + FromUtf8(path.native());
+  std::ranges::replace(text, u'/', u'\\');
+  return text;
+}
+
+}  // namespace ZQ7Standard
