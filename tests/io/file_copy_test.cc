@@ -1,176 +1,83 @@
 #include <ZQ7Standard/DiskObject.h>
 #include <signal.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
-
-#include <algorithm>
 
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;
-namespace fs = std::filesystem;
 
 namespace {
 
-const auto kTime = fs::file_time_type::clock::now() - std::chrono::hours(5);
-
-/// Writes a file, or makes a folder where `content` ends in "/", last modified
-/// `nanoseconds` after `kTime`.
-void Make(const TempFolder& folder, const std::string& name, const std::string& content,
-          int nanoseconds = 0) {
-  if (content == "/")
-    fs::create_directories(folder.Native(name));
-  else
-    folder.Write(name, content);
-  fs::last_write_time(folder.Native(name), kTime + std::chrono::nanoseconds(nanoseconds));
-}
-
-void MakeReadOnly(const TempFolder& folder, const std::string& name) {
-  fs::permissions(folder.Native(name), fs::perms::owner_read);
-}
-
-/// All that a folder holds, in the order of names: "a=one b/ b/c=two", "!" behind
-/// what is read-only and "*" behind another time than `kTime`.
-std::string Contents(const TempFolder& folder, const std::string& name) {
-  std::vector<std::string> lines;
-  for (const auto& entry : fs::recursive_directory_iterator(folder.Native(name))) {
-    const std::string path = entry.path().lexically_relative(folder.Native("")).native();
-    const bool read_only =
-        (entry.status().permissions() & fs::perms::owner_write) == fs::perms::none;
-    lines.push_back(entry.path().lexically_relative(folder.Native(name)).native() +
-                    (entry.is_directory() ? "/" : "=" + folder.Read(path)) +
-                    (read_only ? "!" : "") +
-                    (entry.is_directory() || entry.last_write_time() == kTime ? "" : "*"));
-  }
-  std::ranges::sort(lines);
-  std::string contents;
-  for (const auto& line : lines) contents += (contents.empty() ? "" : " ") + line;
-  return contents;
-}
+// What is in the current folder, each file with its content, its mode and the year of its time.
+const std::string kContents =
+    "find -mindepth 1 \\( -type d -printf '%P/\\n' -o -printf '%P=' -exec cat {} \\; "
+    "-printf ',%m,%TY\\n' \\) | LC_ALL=C sort | tr '\\n' ' '";
 
 }  // namespace
 
 // clang-format off
-TEST(CreateFullPath, MakesEachFolderThatIsMissing) {
-  const TempFolder folder;
-  const DiskObject disk;
-  folder.Write("file", "");
-  const fs::path old_current = fs::current_path();
-  fs::current_path(folder.Native(""));
-  const Text root = folder.Path("");
-  ExpectRows<Text>([&](const Text& path) { return disk.CreateFullPath(path); }, {
-      {{root + u"x\\y\\z\\\\"}, "-1"}, {{root + u"x\\y"}, "-1", "there already"},
-      {{root + u"x\\\\w"}, "-1", "doubled separator"}, {{u"C:"}, "-1"}, {{u"C:\\"}, "-1"},
-      {{u"\\\\srv\\share"}, "-1", "a network path is relative"}, {{u""}, "0"}, {{u"\\\\"}, "0"},
-      {{root + u"file"}, "error 75"}, {{root + u"file\\x"}, "error 75"}, {{root + Text(300, u'x')}, "error 75"}});
-  fs::current_path(old_current);
-  EXPECT_EQ(Contents(folder, ""), "file=* srv/ srv/share/ x/ x/w/ x/y/ x/y/z/");
-  const DriveMap drives = {{'D', folder.Native("shop")}};
-  const DiskObject mapped({.status = SystemFileStatus(drives), .folders = SystemFolders(drives)});
-  EXPECT_EQ(mapped.CreateFullPath(u"d:\\data"), -1);
-  EXPECT_EQ(Contents(folder, "shop"), "data/");
-}
-
 TEST(CopyFileCheck, CopiesWhatHasAnotherTime) {
-  constexpr int kNone = 0;
-  constexpr int kLater = 1'000'000'000;
-  const struct {
-    const char* reason;
-    const char* from;
-    const char* to;
-    int difference;  // of the times, in nanoseconds
-    bool read_only;
-    bool overwrite;
-    int result;
-    const char* contents;
-  } rows[] = {
-      {"no source", "", "old", kLater, true, true, 0, "to=old!*"},
-      {"a folder as source", "/", "old", kNone, true, true, 0, "from/ to=old!"},
-      {"no target", "new", "", kNone, false, false, 1, "from=new to=new"},
-      {"a folder as target", "new", "/", kLater, false, true, 1, "from=new to/"},
-      {"equal times", "new", "old", kNone, false, true, 0, "from=new to=old"},
-      {"equal times, read-only", "new", "old", kNone, true, false, 0, "from=new to=old"},
-      {"later, not overwritten", "new", "old", kLater, true, false, 1, "from=new to=old*"},
-      {"later", "new", "old", kLater, false, true, 1, "from=new to=new"},
-      {"earlier and longer", "new", "older", -kLater, true, true, 1, "from=new to=new"},
-      {"a moment earlier", "new", "old", -1, false, true, 1, "from=new to=new"}};
-  const DiskObject disk;
-  for (const auto& row : rows) {
+  ExpectRows<std::string, bool>([](const std::string& change, bool overwrite) {
     const TempFolder folder;
-    if (*row.from) Make(folder, "from", row.from);
-    if (*row.to) Make(folder, "to", row.to, row.difference);
-    if (row.read_only) MakeReadOnly(folder, "to");
-    EXPECT_EQ(disk.CopyFileCheck(folder.Path("from"), folder.Path("to"), row.overwrite), row.result) << row.reason;
-    EXPECT_EQ(Contents(folder, ""), row.contents) << row.reason;
-  }
-  EXPECT_EQ(disk.CopyFileCheck(u"C:\\proc\\version", u"C:\\no such folder\\version"), 1);
+    folder.Run("printf new >from; touch -d '2001-01-01 00:00:00.123456789' from;"
+               "printf older >to; touch -r from to; chmod 600 *;" + change);
+    const Text to = folder.Path("to");
+    const int result = DiskObject().CopyFileCheck(folder.Path("from"), to, overwrite);
+    return Shown(result) + ": " + folder.Run(kContents);
+  }, {
+      {{"rm from; chmod a-w to", true}, "0: to=older,400,2001 "},
+      {{"rm from; mkdir from; chmod a-w to", true}, "0: from/ to=older,400,2001 "},
+      {{"rm to", false}, "1: from=new,600,2001 to=new,600,2001 "},
+      {{"rm to; mkdir to", true}, "1: from=new,600,2001 to/ "},
+      {{"chmod a-w to", false}, "0: from=new,600,2001 to=older,600,2001 "},
+      {{"touch -d 2002-01-01 to; chmod 440 to", false}, "1: from=new,600,2001 to=older,640,2002 "},
+      {{"touch -d 2002-01-01 to; chmod 440 to", true}, "1: from=new,600,2001 to=new,640,2001 "},
+      {{"touch -d '2001-01-01 00:00:00.123456788' to", true},
+       "1: from=new,600,2001 to=new,600,2001 "}});
 }
 
 TEST(XCopyFile, CopiesATreeAndCountsIt) {
-  const struct {
-    const char* reason;
-    std::function<void(const TempFolder&)> make;
-    const char* result;
-    const char* contents;  // of the target
-  } rows[] = {
-      {"into a new folder", [](const auto&) {}, "5", ".b=two a=one! c/ c/d=three"},
-      {"into one that is there", [](const auto& f) { Make(f, "to/x", "/"); }, "5", ".b=two a=one! c/ c/d=three x/"},
-      {"files are replaced", [](const auto& f) { Make(f, "to", "/"); f.Write("to/a", "older"); }, "5", ".b=two a=one c/ c/d=three"},
-      {"links are followed", [](const auto& f) { fs::create_directory_symlink("c", f.Native("from/l")); }, "7", ".b=two a=one! c/ c/d=three l/ l/d=three"},
-      {"a plain file", [](const auto& f) { fs::remove_all(f.Native("from")); f.Write("from", ""); }, "0", "none"},
-      {"no source", [](const auto& f) { fs::remove_all(f.Native("from")); }, "0", "none"},
-      {"an empty folder", [](const auto& f) { fs::remove_all(f.Native("from")); Make(f, "from", "/"); }, "1", ""},
-      {"a subfolder that is there", [](const auto& f) { Make(f, "to/c", "/"); }, "error 75", nullptr},
-      {"a read-only target", [](const auto& f) { Make(f, "to", "/"); Make(f, "to/.b", "old"); MakeReadOnly(f, "to/.b"); }, "error 70", nullptr},
-      {"a target that is a file", [](const auto& f) { f.Write("to", ""); }, "error 76", nullptr},
-      {"a folder where a file goes", [](const auto& f) { Make(f, "to/a", "/"); }, "error 75", nullptr},
-      {"a pipe", [](const auto& f) { mkfifo(f.Native("from/p").c_str(), 0600); }, "error 75", nullptr},
-      {"a link to nothing", [](const auto& f) { fs::create_symlink("gone", f.Native("from/l")); }, "error 53", nullptr},
-      {"a name with a separator", [](const auto& f) { f.Write("from/..\\..\\x", ""); }, "error 75", nullptr},
-      {"a name out of UTF-8", [](const auto& f) { f.Write("from/\xFF", ""); }, "error 75", nullptr}};
-  const DiskObject disk;
-  for (const auto& row : rows) {
+  ExpectRows<std::string, std::string>([](const std::string& change, const std::string& to) {
     const TempFolder folder;
-    Make(folder, "from/c", "/");
-    for (const auto& [name, content] : {std::pair("a", "one"), {".b", "two"}, {"c/d", "three"}}) Make(folder, std::string("from/") + name, content);
-    MakeReadOnly(folder, "from/a");
-    row.make(folder);
-    EXPECT_EQ(ResultOf([&] { return disk.XCopyFile(folder.Path("from"), folder.Path("to") + u"\\"); }), row.result) << row.reason;
-    if (row.contents == nullptr) continue;
-    EXPECT_EQ(fs::exists(folder.Native("to")) ? Contents(folder, "to") : "none", row.contents) << row.reason;
-  }
+    folder.Run("mkdir -p from/c; printf one >from/a; printf two >from/.b; printf three >from/c/d;"
+               "touch -d 2001-01-01 from/a from/.b from/c/d; chmod 400 from/a;"
+               "chmod 600 from/.b from/c/d;" + change);
+    const int count = DiskObject().XCopyFile(folder.Path("from"), folder.Path(to));
+    return Shown(count) + ": " + folder.Run("cd to 2>&1 &&" + kContents);
+  }, {
+      {{"", "to\\"}, "5: .b=two,600,2001 a=one,400,2001 c/ c/d=three,600,2001 "},
+      {{"mkdir -p to/x; printf older >to/a; chmod 644 to/a", "to"},
+       "5: .b=two,600,2001 a=one,644,2001 c/ c/d=three,600,2001 x/ "},
+      {{"rm from/a from/.b; ln -s c from/l", "to"}, 
+       "5: c/ c/d=three,600,2001 l/ l/d=three,600,2001 "},
+      {{"rm -rf from; mkdir from", "to"}, "1: "}, {{"rm -rf from; mkdir from", "no/to"}, "0: "},
+      {{"rm -rf from; >from", "to"}, "0: "}, {{"rm -rf from", "to"}, "0: "},
+      {{"mkdir -p to/c", "to"}, "error 75"}, {{"mkdir -p to/a", "to"}, "error 75"},
+      {{"mkdir to; >to/.b; chmod 400 to/.b", "to"}, "error 70"}, {{"", "no/to"}, "error 76"},
+      {{"rm -r from/c", "from"}, "error 70"}, {{"", "from/to"}, "error 75"},
+      {{"ln -s gone from/l", "to"}, "error 53"}, {{"mkfifo from/p", "to"}, "error 75"},
+      {{"touch 'from/..\\x'", "to"}, "error 75"},
+      {{"touch from/$(printf '\\377')", "to"}, "error 75"}});
 }
-
-TEST(XCopyFile, HarmsNoSourceThatIsItsTarget) {
-  const TempFolder folder;
-  const DiskObject disk;
-  Make(folder, "from", "/");
-  Make(folder, "from/a", "one");
-  ExpectRows<Text>([&](const Text& to) { return disk.XCopyFile(folder.Path("from"), to); }, {
-      {{folder.Path("from")}, "error 70"}, {{folder.Path("from/in")}, "error 75"}, {{folder.Path("no/to")}, "error 76"}});
-  EXPECT_EQ(Contents(folder, "from"), "a=one");
-}
+// clang-format on
 
 TEST(FileCopier, CopiesWholeFilesOrNone) {
   const TempFolder folder;
-  const auto copier = SystemFileCopier();
-  std::string bytes(3'000'001, '\0');
-  std::ranges::generate(bytes, [i = 0U]() mutable { return static_cast<char>((i++ * 2654435761U) >> 24U); });
-  folder.Write("large", bytes);
-  copier->Copy(folder.Path("large"), folder.Path("copy"), ExistingTarget::kReplace);
-  EXPECT_TRUE(folder.Read("copy") == bytes);
-  // No file system copies these itself.
-  copier->Copy(u"C:\\proc\\version", folder.Path("copy"), ExistingTarget::kReplace);
-  EXPECT_TRUE(folder.Read("copy").starts_with("Linux"));
-
+  folder.Run("head -c 3000001 /dev/urandom >large");
+  const auto copy = [&](TextView from, const char* to) {
+    return ErrorOf(
+        [&] { SystemFileCopier()->Copy(from, folder.Path(to), ExistingTarget::kReplace); });
+  };
+  EXPECT_EQ(copy(folder.Path("large"), "copy"), 0);
+  EXPECT_EQ(copy(u"C:\\proc\\version", "by_reading"), 0);
+  EXPECT_EQ(folder.Run("cmp large copy && cmp /proc/version by_reading && echo same"), "same\n");
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  const rlimit full_disk{1'000'000, limit.rlim_max};
+  setrlimit(RLIMIT_FSIZE, &full_disk);
   signal(SIGXFSZ, SIG_IGN);
-  rlimit old_limit{};
-  getrlimit(RLIMIT_FSIZE, &old_limit);
-  const rlimit limit{1'000'000, old_limit.rlim_max};
+  EXPECT_EQ(copy(folder.Path("large"), "new"), 61);
   setrlimit(RLIMIT_FSIZE, &limit);
-  EXPECT_EQ(ErrorOf([&] { copier->Copy(folder.Path("large"), folder.Path("new"), ExistingTarget::kRefuse); }), 61);
-  setrlimit(RLIMIT_FSIZE, &old_limit);
-  EXPECT_FALSE(fs::exists(folder.Native("new")));
+  EXPECT_EQ(folder.Run("ls"), "by_reading\ncopy\nlarge\n");
 }
-// clang-format on

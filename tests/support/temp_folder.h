@@ -2,11 +2,9 @@
 #define ZQ7STANDARD_TESTS_SUPPORT_TEMP_FOLDER_H_
 
 #include <ZQ7Standard/platform/path_text.h>
+#include <stdio.h>
 #include <stdlib.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 namespace ZQ7Standard {
@@ -14,24 +12,21 @@ namespace ZQ7Standard {
 /// A folder of a test's own, which is gone at its end.
 class TempFolder {
  public:
-  TempFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "zq7.XXXXXX").native();
-    native_ = mkdtemp(name.data());
-  }
+  TempFolder() : native_(mkdtemp(std::string("/tmp/zq7.XXXXXX").data())) {}
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
   ~TempFolder() { std::filesystem::remove_all(native_); }
 
-  std::filesystem::path Native(const std::string& name) const { return native_ / name; }
-  /// The path text of a file or folder in it.
-  Text Path(const std::string& name) const { return PathText(Native(name)); }
+  const std::filesystem::path& Native() const { return native_; }
+  Text Path(const std::string& name) const { return PathText(native_ / name); }
 
-  void Write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(Native(name), std::ios::binary) << bytes;
-  }
-  std::string Read(const std::string& name) const {
-    std::ifstream file(Native(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+  /// What a shell command prints, run in the folder.
+  std::string Run(const std::string& command) const {
+    std::string output;
+    FILE* pipe = popen(("cd " + native_.native() + "\n" + command).c_str(), "r");
+    for (int c = fgetc(pipe); c != EOF; c = fgetc(pipe)) output.push_back(static_cast<char>(c));
+    pclose(pipe);
+    return output;
   }
 
  private:
