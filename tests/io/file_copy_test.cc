@@ -44,7 +44,7 @@ TEST(XCopyFile, CopiesATreeAndCountsIt) {
                "touch -d 2001-01-01 from/a from/.b from/c/d; chmod 400 from/a;"
                "chmod 600 from/.b from/c/d;" + change);
     const int count = DiskObject().XCopyFile(folder.Path("from"), folder.Path(to));
-    return Shown(count) + ": " + folder.Run("cd to 2>&1 &&" + kContents);
+    return Shown(count) + ": " + folder.Run("test -d to && cd to && " + kContents);
   }, {
       {{"", "to\\"}, "5: .b=two,600,2001 a=one,400,2001 c/ c/d=three,600,2001 "},
       {{"mkdir -p to/x; printf older >to/a; chmod 644 to/a", "to"},
