@@ -12,7 +12,8 @@ namespace ZQ7Standard {
 /// A folder of a test's own, which is gone at its end.
 class TempFolder {
  public:
-  TempFolder() : native_(mkdtemp(std::string("/tmp/zq7.XXXXXX").data())) {}
+  TempFolder()
+      : native_(mkdtemp((std::filesystem::temp_directory_path() / "zq7.XXXXXX").string().data())) {}
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
   ~TempFolder() { std::filesystem::remove_all(native_); }

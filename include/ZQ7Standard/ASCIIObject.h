@@ -1,0 +1,139 @@
+#ifndef ZQ7STANDARD_ASCIIOBJECT_H_
+#define ZQ7STANDARD_ASCIIOBJECT_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/clock.h>
+#include <ZQ7Standard/platform/file_contents.h>
+#include <ZQ7Standard/platform/file_rewrite.h>
+#include <ZQ7Standard/platform/file_status.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/time_text.h>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// What an `ASCIIObject` needs of the machine. A service left empty is the machine's
+/// own.
+struct ASCIIServices {
+  std::shared_ptr<FileStatusSource> file_status = nullptr;
+  std::shared_ptr<FileReader> file_reader = nullptr;
+  std::shared_ptr<FileWriter> file_writer = nullptr;
+  std::shared_ptr<FileRewriter> file_rewriter = nullptr;
+  std::shared_ptr<MessageBox> message_box = nullptr;
+  std::shared_ptr<Clock> clock = nullptr;
+  std::shared_ptr<TimeTextSource> time_text = nullptr;
+};
+
+/// Settings, logs and whole texts in text files of the code page Windows-874.
+///
+/// Every operation names its file by a path text, "C:\srv\app\set.ini"
+/// (docs/files.md), and leaves no file open. A line ends at CR LF, LF or CR when it is
+/// read and is written with CR LF. A character outside the code page is written as "?".
+///
+/// A file that is there is rewritten through a temporary file beside it, whose name
+/// has "$$$$" behind: the disk holds the old file or the new one whole at any moment.
+/// A rewrite keeps the file's owner and rights but clears its read-only state. After a
+/// failure the temporary file may stay; the next rewrite throws it away.
+///
+/// Files are not locked: of two processes that write to one file at a time, one can
+/// undo the other's change. An instance belongs to one thread at a time; distinct
+/// instances are independent.
+class ZQ7STANDARD_EXPORT ASCIIObject {
+ public:
+  /// With the services of the machine.
+  ASCIIObject();
+  /// With services of the host's own.
+  explicit ASCIIObject(ASCIIServices services);
+
+  // --- Messages to the user: src/io/ascii_object.cc ---
+
+  /// Problems are shown in a message box titled "Warning" from level 1 up. At 0, the
+  /// level of a new object, every operation is silent: the name says the opposite.
+  std::int16_t DisableMsgLevel() const;
+  void SetDisableMsgLevel(std::int16_t DisableMsgLevel);
+
+  // --- Settings, lines of the form [KEY]=value: src/io/key_value_file.cc ---
+  //
+  // A line belongs to a key when it begins with the key in brackets, in any case, after
+  // blanks (U+0020). All other lines are kept as they are, without those blanks.
+
+  /// The value of the first line of the key that has a "=", and empty when there is no
+  /// such line or file. Blanks between "]" and "=" do not count, those behind "=" are
+  /// part of the value.
+  ///
+  /// With no "=" in any line of the key, what stands behind "]" in the last of them:
+  /// "[A]x" gives "x", which old settings rely on. A file that cannot be read gives the
+  /// empty text and the message "Not found specified file".
+  Text GetValue(TextView iTextFile, TextView IKey) const;
+
+  /// Sets every line of the key to `[IKEY]=iValue`, with the key in upper case, and
+  /// appends such a line when there is none. A new file gets the key as it is typed.
+  ///
+  /// A failure leaves the file as it was and shows a message: "Not found specified
+  /// folder.", "Specified folder can not write." (a new file in a read-only folder) or
+  /// "Not found specified folder or no permission to write.".
+  void Setvalue(TextView iTextFile, TextView IKey, TextView iValue) const;
+
+  /// Drops every line of the key; a file that is not there is left so. Shows no
+  /// message: raises 57, 61, 70, 75 or 76, and the file stays as it was.
+  void DeleteValue(TextView iTextFile, TextView IKey) const;
+
+  // --- Logs: src/io/log.cc ---
+
+  /// Appends the line "3/7/2024;9:05:07 AM;iOwner;iType;iSuccess;iDescription": month,
+  /// day and Gregorian year of the clock, the locale's time text, and the fields as
+  /// they are, also with a ";" in them. A file that is not there is made.
+  ///
+  /// Messages, with nothing written: "Not found specified folder.", also for a path
+  /// without "\"; "Specified folder or no permission to updated." for a read-only
+  /// folder, also when the file is there; "Not found specified folder or no permission
+  /// to write.".
+  void AddLog(TextView iTextFile, TextView iOwner, TextView iType, TextView iSuccess,
+              TextView iDescription) const;
+
+  // --- Whole texts: src/io/text_file.cc ---
+
+  /// All lines, joined by CR LF, without empty lines at the front. Empty when there is
+  /// no such file. Raises 57, 70 or 75 when it cannot be read.
+  Text GETAllTextFile(TextView iTextFile) const;
+
+  /// The first lines of a file, as many as there are numbers from `FromLine` (at least
+  /// 1) to `ToLine`; all of them when `ToLine` is 0. Joined by CR LF, without empty
+  /// lines at the front.
+  ///
+  /// `FromLine` skips no line: 3 to 4 gives lines 1 and 2. A file with more lines than
+  /// that raises 6, so only a reader that knows the count gives a `ToLine`. Raises 57,
+  /// 70 or 75 when the file cannot be read; empty when there is none.
+  Text GETLineTextFile(TextView iTextFile, std::int32_t FromLine = 0,
+                       std::int32_t ToLine = 0) const;
+
+  /// Makes `iValue` the whole content of the file, with no line end added.
+  /// `SaveStringToTextFile2` tells the messages.
+  void SaveStringToTextFile(TextView iTextFile, TextView iValue) const;
+
+  /// The same, or with `UseAppendMode` adds `iValue` at the end of a file that is
+  /// there.
+  ///
+  /// Messages, with the file as it was: "Not found specified folder."; "Specified
+  /// folder can not write." for a new file in a read-only folder, unless the folder's
+  /// name is Desktop; "Not found specified folder or no permission to write.".
+  void SaveStringToTextFile2(TextView iTextFile, TextView iValue, bool UseAppendMode = false) const;
+
+ private:
+  void Warn(TextView problem) const;
+  void Attempt(const std::function<TextView()>& find_problem) const;
+  TextView FolderProblem(TextView path, TextView read_only_problem) const;
+  TextView Create(TextView path, std::string_view bytes, TextView read_only_problem) const;
+
+  ASCIIServices services_;
+  std::int16_t disable_msg_level_ = 0;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_ASCIIOBJECT_H_

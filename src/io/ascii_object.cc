@@ -1,0 +1,62 @@
+#include <ZQ7Standard/ASCIIObject.h>
+
+#include <exception>
+#include <utility>
+
+#include "io/path_parts.h"
+
+namespace ZQ7Standard {
+
+ASCIIObject::ASCIIObject() : ASCIIObject(ASCIIServices{}) {}
+
+ASCIIObject::ASCIIObject(ASCIIServices services) : services_(std::move(services)) {
+  if (!services_.file_status) services_.file_status = SystemFileStatus();
+  if (!services_.file_reader) services_.file_reader = SystemFileReader();
+  if (!services_.file_writer) services_.file_writer = SystemFileWriter();
+  if (!services_.file_rewriter) services_.file_rewriter = SystemFileRewriter();
+  if (!services_.message_box) services_.message_box = ErrorStreamMessageBox();
+  if (!services_.clock) services_.clock = SystemClock();
+  if (!services_.time_text) services_.time_text = SystemTimeText();
+}
+
+std::int16_t ASCIIObject::DisableMsgLevel() const {
+  return disable_msg_level_;
+}
+
+void ASCIIObject::SetDisableMsgLevel(std::int16_t DisableMsgLevel) {
+  disable_msg_level_ = DisableMsgLevel;
+}
+
+void ASCIIObject::Warn(TextView problem) const {
+  if (disable_msg_level_ < 1) return;
+  services_.message_box->Show({.title = u"Warning", .text = Text(problem)});
+}
+
+/// Does what `find_problem` does, and shows the problem that it gives or, when it
+/// fails, the problem that there is then.
+void ASCIIObject::Attempt(const std::function<TextView()>& find_problem) const {
+  TextView problem;
+  try {
+    problem = find_problem();
+  } catch (const std::exception&) {
+    problem = u"Not found specified folder or no permission to write.";
+  }
+  if (!problem.empty()) Warn(problem);
+}
+
+/// What keeps a file out of the folder of `path`; empty when nothing does.
+TextView ASCIIObject::FolderProblem(TextView path, TextView read_only_problem) const {
+  const auto folder = services_.file_status->StatusOf(FolderPart(path));
+  if (!folder || !folder->is_folder) return u"Not found specified folder.";
+  return folder->read_only ? read_only_problem : TextView();
+}
+
+/// Makes a new file, unless its folder has a problem, which it gives.
+TextView ASCIIObject::Create(TextView path, std::string_view bytes,
+                             TextView read_only_problem) const {
+  const TextView problem = FolderProblem(path, read_only_problem);
+  if (problem.empty()) services_.file_writer->Create(path, bytes);
+  return problem;
+}
+
+}  // namespace ZQ7Standard

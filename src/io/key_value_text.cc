@@ -1,0 +1,113 @@
+#include "io/key_value_text.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "io/lines.h"
+#include "text/ascii.h"
+#include "text/case_mapping.h"
+#include "text/code_page.h"
+
+namespace ZQ7Standard {
+namespace {
+
+Text UpperCase(TextView text) {
+  Text upper(text);
+  std::ranges::transform(upper, upper.begin(), ToUpper);
+  return upper;
+}
+
+/// Whether a line can hold `key`, which `bytes` encode: neither a character outside the code
+/// page, whose "?" is another key, nor a line end.
+bool IsMatchable(TextView key, std::string_view bytes) {
+  return FromCodePage(bytes) == key && bytes.find_first_of(kLineEnd) == bytes.npos;
+}
+
+/// The key in brackets that its lines begin with.
+class KeyMark {
+ public:
+  explicit KeyMark(TextView key) {
+    const Text upper = u'[' + UpperCase(key) + u']';
+    bytes_ = ToCodePage(upper);
+    matchable_ = IsMatchable(upper, bytes_);
+  }
+
+  std::size_t Size() const { return bytes_.size(); }
+
+  /// Whether `line` begins with the mark in any case. The letters A to Z are the only
+  /// ones in the code page that have a case.
+  bool Begins(std::string_view line) const {
+    const auto upper = [](char c) { return AsciiUpper(static_cast<unsigned char>(c)); };
+    const auto plain = [](char c) { return char16_t{static_cast<unsigned char>(c)}; };
+    return matchable_ && line.size() >= bytes_.size() &&
+           std::ranges::equal(bytes_, line.substr(0, bytes_.size()), {}, plain, upper);
+  }
+
+ private:
+  std::string bytes_;
+  bool matchable_;
+};
+
+std::string_view TrimBlanks(std::string_view line) {
+  return line.substr(std::min(line.find_first_not_of(' '), line.size()));
+}
+
+/// Whether there are only blanks in front of `at` in its line.
+bool BeginsLine(std::string_view contents, std::size_t at) {
+  const auto before = contents.substr(0, at).find_last_not_of(' ');
+  return before == std::string_view::npos || contents[before] == '\r' || contents[before] == '\n';
+}
+
+struct Rewritten {
+  std::string contents;
+  bool found = false;
+};
+
+/// `contents` with `setting` in place of every line that begins with `mark`.
+Rewritten ReplaceLines(std::string_view contents, const KeyMark& mark, std::string_view setting) {
+  Rewritten result;
+  result.contents.reserve(contents.size() + setting.size());
+  while (!contents.empty()) {
+    const std::string_view line = TrimBlanks(TakeLine(contents));
+    if (mark.Begins(line)) {
+      result.contents.append(setting);
+      result.found = true;
+    } else {
+      result.contents.append(line).append(kLineEnd);
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+std::string_view FindValue(std::string_view contents, TextView key) {
+  const KeyMark mark(key);
+  std::string_view value;
+  // From bracket to bracket, which is less work than line by line.
+  for (auto at = contents.find('['); at != contents.npos; at = contents.find('[', at + 1)) {
+    std::string_view rest = contents.substr(at);
+    if (!mark.Begins(rest) || !BeginsLine(contents, at)) continue;
+    value = TrimBlanks(TakeLine(rest).substr(mark.Size()));
+    if (value.starts_with('=')) return value.substr(1);
+  }
+  return value;
+}
+
+std::string SettingLine(TextView key, TextView value) {
+  return '[' + ToCodePage(key) + "]=" + ToCodePage(value).append(kLineEnd);
+}
+
+std::string WithValue(std::string_view contents, TextView key, TextView value) {
+  const std::string setting = SettingLine(UpperCase(key), value);
+  Rewritten rewritten = ReplaceLines(contents, KeyMark(key), setting);
+  if (!rewritten.found) rewritten.contents += setting;
+  return std::move(rewritten.contents);
+}
+
+std::string WithoutKey(std::string_view contents, TextView key) {
+  return ReplaceLines(contents, KeyMark(key), {}).contents;
+}
+
+}  // namespace ZQ7Standard

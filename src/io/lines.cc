@@ -1,0 +1,20 @@
+#include "io/lines.h"
+
+#include <algorithm>
+
+namespace ZQ7Standard {
+
+std::string_view TakeLine(std::string_view& rest) {
+  const auto ends_line = [](char c) { return c == '\r' || c == '\n'; };
+  const auto end = std::ranges::find_if(rest, ends_line);
+  const std::string_view line(rest.begin(), end);
+  rest.remove_prefix(line.size());
+  if (rest.starts_with(kLineEnd)) {
+    rest.remove_prefix(kLineEnd.size());
+  } else if (!rest.empty()) {
+    rest.remove_prefix(1);
+  }
+  return line;
+}
+
+}  // namespace ZQ7Standard

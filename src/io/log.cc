@@ -1,0 +1,39 @@
+#include <ZQ7Standard/ASCIIObject.h>
+
+#include "io/lines.h"
+#include "text/ascii.h"
+#include "text/code_page.h"
+
+namespace ZQ7Standard {
+namespace {
+
+/// "3/7/2024", whatever the locale.
+Text LogDate(OleDate moment) {
+  Text date;
+  AppendNumber(date, moment.Month(), 1);
+  date += u'/';
+  AppendNumber(date, moment.Day(), 1);
+  date += u'/';
+  AppendNumber(date, moment.Year(), 4);
+  return date;
+}
+
+}  // namespace
+
+void ASCIIObject::AddLog(TextView iTextFile, TextView iOwner, TextView iType, TextView iSuccess,
+                         TextView iDescription) const {
+  Attempt([&] {
+    const TextView problem =
+        FolderProblem(iTextFile, u"Specified folder or no permission to updated.");
+    if (!problem.empty()) return problem;
+    const OleDate now = services_.clock->Now();
+    Text line = LogDate(now) + u';' + services_.time_text->LongTime(now);
+    for (const TextView field : {iOwner, iType, iSuccess, iDescription}) {
+      line.append(u";").append(field);
+    }
+    services_.file_writer->Append(iTextFile, ToCodePage(line).append(kLineEnd));
+    return problem;
+  });
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,78 @@
+#include <ZQ7Standard/ASCIIObject.h>
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+#include "io/lines.h"
+#include "io/path_parts.h"
+#include "io/rewrite.h"
+#include "text/case_mapping.h"
+#include "text/code_page.h"
+#include "text/unicode.h"
+
+namespace ZQ7Standard {
+namespace {
+
+/// How many lines the passes of a reader take, which counts its passes in 32 bits and
+/// reads a line in those from `from` to `to`.
+std::int64_t LinesTaken(std::int32_t from, std::int32_t to) {
+  const std::int64_t last = to == 0 ? std::numeric_limits<std::int32_t>::max() : to;
+  return last - std::max(from, 1) + 1;
+}
+
+/// The lines of `contents`, joined; nothing when there are more than `most`.
+std::optional<std::string> JoinLines(std::string_view contents, std::int64_t most) {
+  std::string joined;
+  for (std::int64_t count = 0; !contents.empty(); ++count) {
+    if (count >= most) return std::nullopt;
+    // A first line that is empty leaves no trace.
+    if (!joined.empty()) joined += kLineEnd;
+    joined += TakeLine(contents);
+  }
+  return joined;
+}
+
+bool IsDesktop(TextView folder) {
+  return std::ranges::equal(FileNamePart(folder), TextView(u"DESKTOP"), {}, ToUpper);
+}
+
+}  // namespace
+
+Text ASCIIObject::GETAllTextFile(TextView iTextFile) const {
+  return GETLineTextFile(iTextFile, 1, 0);
+}
+
+Text ASCIIObject::GETLineTextFile(TextView iTextFile, std::int32_t FromLine,
+                                  std::int32_t ToLine) const {
+  const auto contents = services_.file_reader->ReadAll(iTextFile);
+  if (!contents) return {};
+  const auto lines = JoinLines(*contents, LinesTaken(FromLine, ToLine));
+  if (!lines) throw RunTimeError::Overflow("GETLineTextFile", Quoted(iTextFile));
+  return FromCodePage(*lines);
+}
+
+void ASCIIObject::SaveStringToTextFile(TextView iTextFile, TextView iValue) const {
+  SaveStringToTextFile2(iTextFile, iValue, false);
+}
+
+void ASCIIObject::SaveStringToTextFile2(TextView iTextFile, TextView iValue,
+                                        bool UseAppendMode) const {
+  Attempt([&]() -> TextView {
+    const std::string bytes = ToCodePage(iValue);
+    const auto file = services_.file_status->StatusOf(iTextFile);
+    if (!file || file->is_folder) {
+      const bool desktop = IsDesktop(FolderPart(iTextFile));
+      return Create(iTextFile, bytes, desktop ? u"" : u"Specified folder can not write.");
+    }
+    if (UseAppendMode) {
+      services_.file_writer->Append(iTextFile, bytes);
+    } else {
+      RewriteFile(*services_.file_rewriter, iTextFile, bytes);
+    }
+    return {};
+  });
+}
+
+}  // namespace ZQ7Standard

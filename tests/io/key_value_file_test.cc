@@ -1,0 +1,90 @@
+#include <ZQ7Standard/ASCIIObject.h>
+
+#include "tests/support/ascii_files.h"
+#include "tests/support/rows.h"
+
+using namespace ZQ7Standard;
+using std::filesystem::perms;
+
+// clang-format off
+TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
+  AsciiFiles files;
+  ExpectRows<std::string, TextView>([&](const std::string& bytes, TextView key) {
+    files.Write(bytes);
+    return Utf8(files.object.GetValue(files.Path(), key)) + files.TakeShown();
+  }, {
+      {{"[A]=1\r\n[B]=2\r\n", u"B"}, "2"}, {{"[port]=5", u"PORT"}, "5", "no end of line"},
+      {{"  [Port]=5\r\n", u"pORT"}, "5", "indented"}, {{"\t[A]=1", u"A"}, "", "a tab is no blank"},
+      {{"[A] = abc  \r\n", u"A"}, " abc  ", "blanks behind the = stay"},
+      {{"[A]=1\r\n[A]=2", u"A"}, "1", "the first wins"},
+      {{"[A]x\r\n[A]=y", u"A"}, "y"}, {{"[A]  x \r\n", u"A"}, "x ", "no = at all"},
+      {{"[A]x\n[A]z\n[B]=1", u"A"}, "z", "the last without ="},
+      {{"[A]x\n[A]\n", u"A"}, "", "the last is empty"},
+      {{"[AB]=1", u"A"}, ""}, {{"[A]=1", u"AB"}, ""}, {{"x[A]=1\n;[A]=2\n[B][A]=3", u"A"}, ""},
+      {{"[A]=1\r[B]=2\n[C]=3", u"B"}, "2", "lone CR and LF"}, {{"[]=e", u""}, "e"},
+      {{"[ a]=1\n[a]=2", u" A"}, "1", "blanks of the key count"}, {{"", u"A"}, ""},
+      {{"[A]==", u"A"}, "="}, {{"[A]=1\x1A" "2", u"A"}, "1\x1A" "2", "no end of file"},
+      {{"[\xA1]=\xE0\xA1\x80", u"ก"}, "เก€"}, {{"[?]=1", u"é"}, "", "not in the code page"},
+      {{"[S]=1", u"ſ"}, "1", "upper case of a letter outside the page"},
+      {{"[A\r\nB]=1", u"A\r\nB"}, "", "no line holds a line end"}});
+  EXPECT_EQ(files.object.GetValue(PathText(files.Folder() / "none" / "x"), u"A"), u"");
+  EXPECT_EQ(files.object.GetValue(PathText(files.Folder()), u"A") + FromUtf8(files.TakeShown()), u"");
+  EXPECT_EQ(files.object.GetValue(u"C:\\proc\\self\\mem", u"A"), u"");
+  EXPECT_EQ(files.TakeShown(), "[Warning: Not found specified file]");
+}
+
+TEST(KeyValueFile, SetvalueReplacesEveryLineOfTheKeyOrAppendsOne) {
+  AsciiFiles files;
+  using Bytes = std::optional<std::string>;
+  ExpectRows<Bytes, TextView, TextView>([&](const Bytes& bytes, TextView key, TextView value) {
+    return files.After(bytes, [&] { files.object.Setvalue(files.Path(), key, value); });
+  }, {
+      {{std::nullopt, u"Port", u"9600"}, "[Port]=9600\r\n", "as typed in a new file"},
+      {{"[Port]=9600\r\n", u"port", u"1"}, "[PORT]=1\r\n", "in upper case afterwards"},
+      {{"[A]=1\r\n  [b]x\r\n", u"a", u""}, "[A]=\r\n[b]x\r\n", "indentation goes"},
+      {{"[A]=1\n\n ;c \r[a]y", u"A", u"2"}, "[A]=2\r\n\r\n;c \r\n[A]=2\r\n", "both, CR LF"},
+      {{"", u"K", u"v"}, "[K]=v\r\n"}, {{"x", u"K", u" v "}, "x\r\n[K]= v \r\n"},
+      {{"[AB]=1\r\n", u"A", u"é"}, "[AB]=1\r\n[A]=?\r\n"}, {{"", u"ก", u"฿"}, "[\xA1]=\xDF\r\n"},
+      {{"[?]=1\r\n", u"é", u"2"}, "[?]=1\r\n[?]=2\r\n", "one more each time"},
+      {{"", u"A", u"1\r\n[B]=2"}, "[A]=1\r\n[B]=2\r\n", "a value of two lines"}});
+}
+
+TEST(KeyValueFile, DeleteValueDropsEveryLineOfTheKey) {
+  AsciiFiles files;
+  ExpectRows<std::optional<std::string>>([&](const auto& bytes) {
+    return files.After(bytes, [&] { files.object.DeleteValue(files.Path(), u"a"); });
+  }, {{{"[A]=1\r\n [B]=2\n[a]x"}, "[B]=2\r\n"}, {{"[A]=1"}, ""}, {{" x"}, "x\r\n"},
+      {{std::nullopt}, "none"}});
+}
+
+// clang-format on
+
+// Every operation that writes, with a new file in folders of all kinds.
+TEST(WriteMessages, TellAMissingFolderFromAReadOnlyOne) {
+  AsciiFiles files;
+  const auto shown = [&](const std::filesystem::path& file, int level) {
+    const Text path = PathText(file);
+    files.object.SetDisableMsgLevel(static_cast<std::int16_t>(level));
+    files.object.Setvalue(path, u"K", u"v");
+    files.object.AddLog(path, u"o", u"t", u"Y", u"d");
+    std::error_code none;
+    std::filesystem::remove(file, none);
+    files.object.SaveStringToTextFile(path, u"x");
+    return files.TakeShown();
+  };
+  const auto folder = files.Folder() / "sub";
+  const std::string missing = "[Warning: Not found specified folder.]";
+  const std::string failed = "[Warning: Not found specified folder or no permission to write.]";
+  EXPECT_EQ(shown(folder / "a", 1), missing + missing + missing);
+  EXPECT_EQ(shown(folder / "a", 0), "");
+  create_directories(folder);
+  EXPECT_EQ(shown(folder / "a", 1), "");
+  EXPECT_EQ(shown(folder / std::string(300, 'a'), 2), failed + failed + failed);
+  EXPECT_EQ(shown(folder / "a" / "b", 1), missing + missing + missing) << "the folder is a file";
+  std::filesystem::remove(folder / "a");
+  permissions(folder, perms::owner_read | perms::owner_exec);
+  const std::string read_only = "[Warning: Specified folder can not write.]";
+  EXPECT_EQ(shown(folder / "a", 1),
+            read_only + "[Warning: Specified folder or no permission to updated.]" + read_only);
+  permissions(folder, perms::owner_all);
+}
