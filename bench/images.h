@@ -5,7 +5,7 @@
 
 namespace ZQ7Standard::Bench {
 
-/// A file with a picture of 640 x 480 in the format "png", "jpeg", "gif" or "bmp", made
+/// A file with a picture of 160 x 120 in the format "png", "jpeg", "gif" or "bmp", made
 /// by ImageMagick and removed at the end of the program.
 std::string ImageFile(const std::string& format);
 

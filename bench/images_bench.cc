@@ -13,7 +13,7 @@ namespace ZQ7Standard::Bench {
 std::string ImageFile(const std::string& format) {
   static const TempFolder folder;
   const std::string name = "picture." + format;
-  folder.Run("test -e " + name + " || convert -seed 1 -size 640x480 plasma: " + name);
+  folder.Run("test -e " + name + " || convert -seed 1 -size 160x120 plasma: " + name);
   return folder.Native() / name;
 }
 

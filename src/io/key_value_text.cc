@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
 #include "io/lines.h"
@@ -53,6 +54,29 @@ std::string_view TrimBlanks(std::string_view line) {
   return line.substr(std::min(line.find_first_not_of(' '), line.size()));
 }
 
+// Looked at together, by a loop of a fixed length without branches, which compilers turn
+// into vector instructions.
+constexpr std::size_t kBlock = 32;
+
+/// Whether a mark of `size` bytes may begin at one of the first `kBlock` of `bytes`.
+bool MayHoldMark(const char* bytes, std::size_t size) {
+  std::uint8_t brackets = 0;
+  for (std::size_t i = 0; i < kBlock; ++i) {
+    const bool both = (bytes[i] == '[') & (bytes[i + size - 1] == ']');
+    brackets |= static_cast<std::uint8_t>(both);
+  }
+  return brackets != 0;
+}
+
+/// The first place from `at` on where brackets stand as those of a mark of `size` bytes.
+std::size_t FindBrackets(std::string_view contents, std::size_t at, std::size_t size) {
+  while (at + kBlock + size <= contents.size() && !MayHoldMark(&contents[at], size)) at += kBlock;
+  for (; at + size <= contents.size(); ++at) {
+    if (contents[at] == '[' && contents[at + size - 1] == ']') return at;
+  }
+  return contents.npos;
+}
+
 /// Whether there are only blanks in front of `at` in its line.
 bool BeginsLine(std::string_view contents, std::size_t at) {
   const auto before = contents.substr(0, at).find_last_not_of(' ');
@@ -86,7 +110,8 @@ std::string_view FindValue(std::string_view contents, TextView key) {
   const KeyMark mark(key);
   std::string_view value;
   // From bracket to bracket, which is less work than line by line.
-  for (auto at = contents.find('['); at != contents.npos; at = contents.find('[', at + 1)) {
+  const auto next = [&](std::size_t at) { return FindBrackets(contents, at, mark.Size()); };
+  for (std::size_t at = next(0); at != contents.npos; at = next(at + 1)) {
     std::string_view rest = contents.substr(at);
     if (!mark.Begins(rest) || !BeginsLine(contents, at)) continue;
     value = TrimBlanks(TakeLine(rest).substr(mark.Size()));

@@ -1,0 +1,45 @@
+#ifndef ZQ7STANDARD_BENCH_SETTINGS_H_
+#define ZQ7STANDARD_BENCH_SETTINGS_H_
+
+#include <ZQ7Standard/Types.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ZQ7Standard::Bench {
+
+/// The 200 keys of a settings file, such as "PosPaper017"; the same on each run.
+const std::vector<std::string>& SettingKeys();
+
+/// The settings file of the library, and the same settings in a group as others write
+/// them.
+std::string SettingsAsLines();
+std::string SettingsAsGroup();
+
+/// The group of the latter.
+inline constexpr const char* kGroup = "settings";
+
+/// A file of `bytes` in a folder of its own, both removed at the end.
+class ScratchFile {
+ public:
+  /// In memory: on the tmpfs that Linux has. On disk: in the folder for temporary files.
+  enum class Place { kMemory, kDisk };
+
+  ScratchFile(Place place, std::string_view bytes);
+  ScratchFile(const ScratchFile&) = delete;
+  ScratchFile& operator=(const ScratchFile&) = delete;
+  ~ScratchFile();
+
+  const std::string& Name() const { return name_; }
+  const std::string& Folder() const { return folder_; }
+  Text Path() const;
+
+ private:
+  std::string folder_;
+  std::string name_;
+};
+
+}  // namespace ZQ7Standard::Bench
+
+#endif  // ZQ7STANDARD_BENCH_SETTINGS_H_
