@@ -1,0 +1,63 @@
+#ifndef ZQ7STANDARD_CIMAGEINFO_H_
+#define ZQ7STANDARD_CIMAGEINFO_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/ImageType.h>
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/file_contents.h>
+
+#include <cstdint>
+#include <memory>
+
+namespace ZQ7Standard {
+
+/// What a `CImageInfo` needs of the machine. A service left empty is the machine's own.
+struct ImageServices {
+  std::shared_ptr<FileReader> reader = nullptr;
+};
+
+/// The kind, size and colour depth of an image file, told from its first 65,536
+/// bytes without decoding the image: GIF, JPEG, PNG and BMP.
+///
+/// The properties describe the last file read; before the first and after an error
+/// all four are 0. An instance belongs to one thread at a time; distinct instances
+/// are independent.
+///
+/// The operations are defined in src/io/image_info.cc.
+class ZQ7STANDARD_EXPORT CImageInfo {
+ public:
+  /// With the files of the machine.
+  CImageInfo();
+  /// With services of the host's own.
+  explicit CImageInfo(ImageServices services);
+
+  /// Reads the file `sFileName`, a full path, in one read. Unknown content is no
+  /// failure: `ImageType` is `itUNKNOWN` and the rest 0. A file that does not exist
+  /// is made, empty, and is unknown too.
+  ///
+  /// Sizes have 16 bits: a PNG 70,000 pixels wide has the `Width` 4,464, and a BMP
+  /// stored top down the `Height` 65,536 less its own. The frame header of a JPEG
+  /// is looked for in the first 65,525 bytes. A PNG with a palette has the depth 8,
+  /// however few bits it stores.
+  ///
+  /// Raises 6 for a depth beyond 255 bits (a JPEG of 32 components), 76 when the
+  /// folder is not there, 70 or 75 for a file that cannot be opened for reading and
+  /// writing.
+  void ReadImageInfo(TextView sFileName);
+
+  std::int32_t Width() const { return width_; }    ///< in pixels
+  std::int32_t Height() const { return height_; }  ///< in pixels
+  std::uint8_t Depth() const { return depth_; }    ///< in bits per pixel
+  eImageType ImageType() const { return image_type_; }
+
+ private:
+  ImageServices services_;
+  std::int32_t width_ = 0;
+  std::int32_t height_ = 0;
+  std::uint8_t depth_ = 0;
+  eImageType image_type_ = itUNKNOWN;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_CIMAGEINFO_H_

@@ -1,0 +1,40 @@
+#ifndef ZQ7STANDARD_PLATFORM_FOLDERS_H_
+#define ZQ7STANDARD_PLATFORM_FOLDERS_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/path_text.h>
+
+#include <memory>
+#include <vector>
+
+namespace ZQ7Standard {
+
+/// A file or folder in a folder.
+struct FolderEntry {
+  Text name;
+  bool is_folder = false;
+};
+
+/// The folders of a file system. Paths are path texts, which may end in "\". Failures
+/// raise 53, 57, 61, 70, 75 or 76.
+class ZQ7STANDARD_EXPORT Folders {
+ public:
+  virtual ~Folders();
+
+  /// Makes the folder `path` in one that is there. Raises 75 when the name is taken.
+  virtual void Create(TextView path) = 0;
+
+  /// Everything in the folder `path`, hidden entries included, in the order of the
+  /// file system; "." and ".." are left out.
+  virtual std::vector<FolderEntry> List(TextView path) = 0;
+};
+
+/// The folders of the machine. A link to a folder counts as a folder. Listing raises
+/// 75 at a name that no path text leads to, with "\" in it or not in UTF-8: it would
+/// be taken for another one.
+ZQ7STANDARD_EXPORT std::shared_ptr<Folders> SystemFolders(DriveMap drives = {});
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PLATFORM_FOLDERS_H_

@@ -1,0 +1,32 @@
+#ifndef ZQ7STANDARD_SRC_IO_IMAGE_HEADER_H_
+#define ZQ7STANDARD_SRC_IO_IMAGE_HEADER_H_
+
+#include <ZQ7Standard/ImageType.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// How much of a file's start is looked at, in bytes.
+inline constexpr std::size_t kImageHeaderSize = 65'536;
+
+/// What the start of an image file tells. Sizes are in pixels.
+struct ImageHeader {
+  eImageType type = itUNKNOWN;
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  std::int32_t depth = 0;  ///< bits per pixel, [0, 2040]
+
+  friend bool operator==(const ImageHeader&, const ImageHeader&) = default;
+};
+
+/// Reads the header of a file that starts with `bytes`, at most
+/// `kImageHeaderSize` of them; a header that is cut short reads as if zeros
+/// followed.
+ImageHeader ReadImageHeader(std::string_view bytes);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_IO_IMAGE_HEADER_H_

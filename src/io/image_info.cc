@@ -1,0 +1,34 @@
+#include <ZQ7Standard/CImageInfo.h>
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "io/image_header.h"
+#include "text/unicode.h"
+
+namespace ZQ7Standard {
+
+CImageInfo::CImageInfo() : CImageInfo(ImageServices{}) {}
+
+CImageInfo::CImageInfo(ImageServices services) : services_(std::move(services)) {
+  if (!services_.reader) services_.reader = SystemFileReader();
+}
+
+void CImageInfo::ReadImageInfo(TextView sFileName) {
+  width_ = height_ = depth_ = 0;
+  image_type_ = itUNKNOWN;
+  std::array<char, kImageHeaderSize> start;
+  const std::size_t size = services_.reader->ReadStart(sFileName, start);
+  const ImageHeader header = ReadImageHeader({start.data(), size});
+  if (header.depth > std::numeric_limits<std::uint8_t>::max()) {
+    throw RunTimeError::Overflow("ReadImageInfo", Quoted(sFileName));
+  }
+  width_ = header.width;
+  height_ = header.height;
+  depth_ = static_cast<std::uint8_t>(header.depth);
+  image_type_ = header.type;
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,85 @@
+#include <ZQ7Standard/DiskObject.h>
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "io/path_parts.h"
+#include "text/pieces.h"
+
+namespace ZQ7Standard {
+namespace {
+
+constexpr TextView kSeparator = u"\\";
+constexpr TextView kNetworkPrefix = u"\\\\";
+
+/// The drive and first folder of `path`, or its server and share, looked for in
+/// the first `length` characters.
+TextView Head(TextView path, std::size_t length) {
+  std::size_t head_length = 0;
+  int separators = 0;
+  for (std::size_t i = path.starts_with(kNetworkPrefix) ? kNetworkPrefix.size() : 0; i < length;
+       ++i) {
+    if (path.substr(std::min(i, path.size()), 1) != kSeparator) {
+      head_length = i + 1;
+    } else if (++separators == 2) {
+      break;
+    }
+  }
+  return path.substr(0, head_length);
+}
+
+}  // namespace
+
+DiskObject::DiskObject() : DiskObject(DiskServices{}) {}
+
+DiskObject::DiskObject(DiskServices services) : services_(std::move(services)) {
+  if (!services_.status) services_.status = SystemFileStatus();
+  if (!services_.folders) services_.folders = SystemFolders();
+  if (!services_.copier) services_.copier = SystemFileCopier();
+}
+
+Text DiskObject::FileName(TextView full_name) const {
+  return Text(FileNamePart(full_name));
+}
+
+Text DiskObject::Pathname(TextView full_name) const {
+  return Text(FolderPart(full_name));
+}
+
+Text DiskObject::trimPath(TextView Path) const {
+  return Text(TrimBack(Path, kSeparator));
+}
+
+Text DiskObject::ScaleFullPath(TextView inFullPath, std::int32_t /*MaxLen*/) const {
+  const TextView path = TrimBack(TrimFront(inFullPath));
+  const TextView name = FileNamePart(inFullPath);
+  Text scaled(Head(path, FolderPart(inFullPath).size()));
+  if (path == scaled + u'\\' + Text(name)) return Text(path);
+  return scaled.append(u"\\...\\").append(name);
+}
+
+std::int16_t DiskObject::CreateFullPath(TextView FullPathName) const {
+  const TextView path = TrimBack(TrimFront(FullPathName, kSeparator), kSeparator);
+  for (std::size_t end = 0; end < path.size(); ++end) {
+    end = std::min(path.find(kSeparator, end), path.size());
+    const TextView folder = path.substr(0, end);
+    if (!IsFolder(folder)) services_.folders->Create(folder);
+  }
+  return IsFolder(path) ? -1 : 0;
+}
+
+std::optional<FileStatus> DiskObject::StatusOf(TextView path) const {
+  try {
+    return services_.status->StatusOf(path);
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
+bool DiskObject::IsFolder(TextView path) const {
+  const auto status = StatusOf(path);
+  return status && status->is_folder;
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,40 @@
+#include <ZQ7Standard/DiskObject.h>
+
+#include "tests/support/rows.h"
+#include "tests/support/temp_folder.h"
+
+using namespace ZQ7Standard;
+
+// clang-format off
+TEST(Paths, AreSplitTrimmedAndShortened) {
+  const DiskObject disk;
+  ExpectRows<TextView>([&](auto it) { return disk.Pathname(it) + u"|" + disk.FileName(it); }, {
+      {{u"C:\\a\\b.txt"}, "C:\\a|b.txt"}, {{u"C:\\b.txt"}, "C:|b.txt"}, {{u"b.txt"}, "|b.txt"},
+      {{u"\\b.txt"}, "|b.txt"}, {{u"C:\\a\\"}, "C:\\a|"}, {{u"a/b"}, "|a/b"}, {{u""}, "|"}});
+  ExpectTexts([&](TextView path) { return disk.trimPath(path); }, {
+      {"C:\\a", {u"C:\\a", u"C:\\a\\\\\\"}}, {"\\a/", {u"\\a/"}}, {"", {u"", u"\\\\"}}});
+  // Spaces around the path go, but its name keeps its own, and they count in its length.
+  ExpectRows<TextView>([&](TextView path) { return disk.ScaleFullPath(path, 500); }, {
+      {{u"C:\\Data\\Sales\\2024\\report.xls"}, "C:\\Data\\...\\report.xls"},
+      {{u" C:\\Data\\report.xls"}, "C:\\Data\\report.xls"}, {{u"C:\\f.txt"}, "C:\\f.txt"},
+      {{u"C:\\Data\\f.txt "}, "C:\\Data\\...\\f.txt "}, {{u"   a\\b   "}, "a\\b\\...\\b   "},
+      {{u"\\\\srv\\share\\a\\b\\f.txt"}, "\\\\srv\\share\\...\\f.txt"}, {{u""}, "\\...\\"},
+      {{u"\\\\srv\\share\\f.txt"}, "\\\\srv\\share\\f.txt"}, {{u"f.txt"}, "\\...\\f.txt"},
+      {{u"\\a\\b\\f.txt"}, "\\a\\...\\f.txt"}, {{u"C:\\Data\\Sales\\"}, "C:\\Data\\...\\"}});
+}
+
+TEST(CreateFullPath, MakesEachFolderThatIsMissing) {
+  const TempFolder folder;
+  const DriveMap drives = {{'D', folder.Native()}, {'E', folder.Native() / "new"}};
+  const DiskObject disk({.status = SystemFileStatus(drives), .folders = SystemFolders(drives)});
+  const auto current = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Native());
+  ExpectRows<Text>([&](const Text& path) { return disk.CreateFullPath(path); }, {
+      {{u"D:\\x\\y\\z\\\\"}, "-1"}, {{u"d:\\x\\y"}, "-1"}, {{u"D:\\x\\\\w"}, "-1"}, {{u"C:"}, "-1"},
+      {{u"\\\\srv\\share"}, "-1"}, {{u"E:\\a"}, "-1"}, {{u""}, "0"}, {{u"\\\\"}, "0"},
+      {{u"C:\\etc\\passwd\\x"}, "error 75"}, {{u"D:\\" + Text(300, u'x')}, "error 75"}});
+  std::filesystem::current_path(current);
+  EXPECT_EQ(folder.Run("find -mindepth 1 -printf '%P\n' | sort | tr '\n' ' '"),
+            "new new/a srv srv/share x x/w x/y x/y/z ");
+}
+// clang-format on
