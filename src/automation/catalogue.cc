@@ -46,8 +46,9 @@ ClassInfo Documented(ClassInfo owner) {
 std::vector<ClassInfo> AllClasses() {
   std::vector<ClassInfo> classes;
   for (const auto entry :
-       {BahtStringObjectEntry, BitByteObjectEntry, GridValueObjectEntry, PeripheralObjectEntry,
-        RegistryObjectEntry, StandardObjectEntry, SerialPortEntry}) {
+       {ASCIIObjectEntry, BahtStringObjectEntry, BitByteObjectEntry, CImageInfoEntry,
+        DiskObjectEntry, GridValueObjectEntry, PeripheralObjectEntry, RegistryObjectEntry,
+        StandardObjectEntry, SerialPortEntry}) {
     classes.push_back(Documented(entry()));
   }
   return classes;

@@ -7,8 +7,11 @@ namespace ZQ7Standard::Automation {
 
 // The entry of each public class, without what the headers say.
 
+ClassInfo ASCIIObjectEntry();
 ClassInfo BahtStringObjectEntry();
 ClassInfo BitByteObjectEntry();
+ClassInfo CImageInfoEntry();
+ClassInfo DiskObjectEntry();
 ClassInfo GridValueObjectEntry();
 ClassInfo PeripheralObjectEntry();
 ClassInfo RegistryObjectEntry();

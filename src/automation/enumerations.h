@@ -1,6 +1,7 @@
 #ifndef ZQ7STANDARD_SRC_AUTOMATION_ENUMERATIONS_H_
 #define ZQ7STANDARD_SRC_AUTOMATION_ENUMERATIONS_H_
 
+#include <ZQ7Standard/CImageInfo.h>
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/automation/catalogue.h>
 
@@ -32,6 +33,18 @@ struct EnumeratorsOf<CTDateType> {
       {"ZQ7MMMYYYY", ZQ7MMMYYYY},
       {"ZQ7D_D_M_M_Y_Y_Y_Y", ZQ7D_D_M_M_Y_Y_Y_Y},
       {"ZQ7D_D_M_M_B_B_B_B", ZQ7D_D_M_M_B_B_B_B},
+  });
+};
+
+template <>
+struct EnumeratorsOf<eImageType> {
+  static constexpr std::string_view kName = "eImageType";
+  static constexpr auto kMembers = std::to_array<EnumeratorInfo>({
+      {"itUNKNOWN", itUNKNOWN},
+      {"itGIF", itGIF},
+      {"itJPEG", itJPEG},
+      {"itPNG", itPNG},
+      {"itBMP", itBMP},
   });
 };
 

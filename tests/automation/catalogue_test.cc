@@ -12,6 +12,7 @@
 #include <string>
 
 #include "tests/support/rows.h"
+#include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -27,8 +28,8 @@ std::string Headers() {
 
 /// The members that a class declares, without access to what is private: name, and
 /// "result name(type parameter = default, ...)" with single blanks.
-std::map<std::string, std::string> Declarations(const std::string& class_name) {
-  static const std::string headers = Headers();
+std::map<std::string, std::string> Declarations(const std::string& headers,
+                                                const std::string& class_name) {
   std::string body = headers.substr(headers.find("class ZQ7STANDARD_EXPORT " + class_name + " "));
   body = body.substr(0, std::min(body.find("\n private:"), body.find("\n};")));
   body = std::regex_replace(body, std::regex("//[^\n]*"), "");
@@ -93,8 +94,9 @@ const std::set<std::string> kOutside = {"AddListener", "RemoveListener"};
 // Every operation and property of a public header is in the catalogue with its very
 // signature, and nothing else is.
 TEST(Catalogue, AgreesWithTheHeaders) {
+  const std::string headers = Headers();
   for (const ClassInfo& owner : Classes()) {
-    auto declared = Declarations(std::string(owner.name));
+    auto declared = Declarations(headers, std::string(owner.name));
     for (const std::string& name : kOutside) declared.erase(name);
     declared.erase(std::string(owner.name));
     for (const OperationInfo& operation : owner.operations) {
@@ -116,6 +118,34 @@ TEST(Catalogue, AgreesWithTheHeaders) {
   }
 }
 
+/// The members that a header gives an enumeration, one behind the other.
+std::string DeclaredMembers(const std::string& headers, const EnumerationInfo& enumeration) {
+  const std::size_t start = headers.find("enum " + std::string(enumeration.name) + " ");
+  const std::string body = headers.substr(start, headers.find("};", start) - start);
+  std::string members;
+  const std::regex member("\n  (\\w+) = ");
+  for (std::sregex_iterator it(body.begin(), body.end(), member), end; it != end; ++it) {
+    members += it->str(1) + " ";
+  }
+  return members;
+}
+
+TEST(Catalogue, EnumerationsAgreeWithTheHeaders) {
+  const std::string headers = Headers();
+  const auto check = [&](const TypeInfo& type) {
+    if (type.enumeration == nullptr) return;
+    std::string members;
+    for (const auto& member : type.enumeration->members) members += std::string(member.name) + " ";
+    EXPECT_EQ(members, DeclaredMembers(headers, *type.enumeration));
+  };
+  for (const ClassInfo& owner : Classes()) {
+    for (const PropertyInfo& property : owner.properties) check(property.type);
+    for (const OperationInfo& operation : owner.operations) {
+      for (const ParameterInfo& parameter : operation.parameters) check(parameter.type);
+    }
+  }
+}
+
 TEST(Catalogue, HoldsEveryPublicClass) {
   for (const auto& entry : std::filesystem::directory_iterator(ZQ7STANDARD_HEADERS)) {
     const std::string name = entry.path().stem();
@@ -128,6 +158,9 @@ TEST(Catalogue, HoldsEveryPublicClass) {
 TEST(Catalogue, ExamplesHold) {
   HostServices services = ExampleServices();
   services.message_box = std::make_shared<RecordingMessageBox>();
+  const TempFolder drive;
+  std::filesystem::create_directory(drive.Native() / "shop");
+  services.drives = {{'C', drive.Native()}};
   for (const ClassInfo& owner : Classes()) {
     for (const OperationInfo& operation : owner.operations) {
       EXPECT_FALSE(operation.examples.empty()) << operation.name;

@@ -8,6 +8,7 @@
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
 #include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/path_text.h>
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/serial_port.h>
 
@@ -26,9 +27,10 @@ struct HostServices {
   BlockCipherFactory block_cipher = nullptr;
   std::shared_ptr<MessageBox> message_box = nullptr;
   SerialDevices serial_devices = {};
+  DriveMap drives = {};
 };
 
-/// What the examples of the catalogue run with.
+/// What the examples of the catalogue run with, besides an empty folder C:\shop.
 ZQ7STANDARD_EXPORT HostServices ExampleServices();
 
 struct NamedArgument {
