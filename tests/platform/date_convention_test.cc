@@ -63,9 +63,9 @@ TEST(SystemDateConvention, JudgesInstalledAndOtherLocalesAlike) {
 TEST(SystemTimeText, IsTheLocalesOwn) {
   Environment environment;
   // clang-format off
-  ExpectRows<const char*>([&](const char* locale) {
+  ExpectRows<const char*>([&, source = SystemTimeText()](const char* locale) {
     environment.SetLocale(locale);
-    return SystemTimeText()->LongTime(OleDate::FromParts(2024, 3, 7, 9, 5, 7));
+    return source->LongTime(OleDate::FromParts(2024, 3, 7, 9, 5, 7));
   }, {{"en_US.UTF-8", "09:05:07 AM"}, {"th_TH.UTF-8", "09:05:07"}, {"xx_YY", "09:05:07"},
       {"ja_JP.EUC-JP", "09時05分07秒", "whatever its encoding"}, {"", "09:05:07"}});
   // clang-format on
