@@ -1,47 +1,17 @@
 #include <ZQ7Standard/platform/date_convention.h>
 #include <langinfo.h>
 #include <locale.h>
-#include <unistd.h>
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "platform/linux/locale_name.h"
 #include "platform/linux/locale_table.h"
 
 namespace ZQ7Standard {
 namespace {
-
-/// The locale that the environment names, and the folder of locales that LOCPATH
-/// names, which decides what that locale is.
-struct LocaleName {
-  std::string_view locale;
-  std::string_view folder;
-};
-
-/// Whether an entry of the environment may be one of those that decide, by a
-/// look at two letters: LS_COLORS, for one, is long.
-bool MayDecide(const char* entry) {
-  return entry[0] == 'L' && (entry[1] == 'C' || entry[1] == 'A' || entry[1] == 'O');
-}
-
-/// Reads the environment in one pass, which a lookup for each name would repeat.
-LocaleName NameFromEnvironment() {
-  constexpr std::array<std::string_view, 4> kVariables = {
-      "LC_ALL=", "LC_TIME=", "LANG=", "LOCPATH="};
-  std::array<std::string_view, 4> values;
-  for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
-    if (!MayDecide(*entry)) continue;
-    const std::string_view text = *entry;
-    for (std::size_t i = 0; i < kVariables.size(); ++i) {
-      if (text.starts_with(kVariables[i])) values[i] = text.substr(kVariables[i].size());
-    }
-  }
-  const auto& [all, time, lang, folder] = values;
-  return {!all.empty() ? all : !time.empty() ? time : lang, folder};
-}
 
 /// The order of day and month in a short-date layout such as "%d/%m/%Ey"; a
 /// layout that begins with the year counts as month first.
@@ -89,7 +59,7 @@ std::optional<DateConvention> ConventionByData(const std::string& locale_name) {
 class LinuxDateConvention final : public DateConventionSource {
  public:
   DateConvention Current() override {
-    const LocaleName name = NameFromEnvironment();
+    const LocaleName name = LocaleNameFromEnvironment();
     if (!known_ || name.locale != locale_ || name.folder != folder_) {
       locale_ = name.locale;
       folder_ = name.folder;

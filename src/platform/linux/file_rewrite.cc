@@ -31,7 +31,7 @@ OpenFile MakeTemporary(TextView path, const std::string& temporary) {
   constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL;
   constexpr unsigned kOwnerOnly = S_IRUSR | S_IWUSR;
   unlink(temporary.c_str());
-  return OpenFile(path, temporary, kFlags, kOwnerOnly);
+  return {path, temporary, kFlags, kOwnerOnly};
 }
 
 /// The rights that a file keeps when it comes to a group that is not its old one: what

@@ -4,7 +4,10 @@
 #include <wchar.h>
 
 #include <array>
+#include <string>
 #include <string_view>
+
+#include "platform/linux/locale_name.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -21,24 +24,48 @@ tm PartsOf(OleDate moment) {
   return parts;
 }
 
-/// The locale of the environment, or "C" where that is not installed.
-locale_t NewEnvironmentLocale() {
-  const locale_t locale = newlocale(LC_TIME_MASK, "", nullptr);
+/// A locale by name, or "C" where it is not installed or has no name.
+locale_t NewLocale(const std::string& name) {
+  const locale_t locale = newlocale(LC_TIME_MASK, name.empty() ? "C" : name.c_str(), nullptr);
   return locale != nullptr ? locale : newlocale(LC_TIME_MASK, "C", nullptr);
 }
 
 class LinuxTimeText final : public TimeTextSource {
  public:
+  LinuxTimeText() = default;
+  LinuxTimeText(const LinuxTimeText&) = delete;
+  LinuxTimeText& operator=(const LinuxTimeText&) = delete;
+  ~LinuxTimeText() override { Release(); }
+
   // In wide characters, which do not depend on the encoding of the locale.
   Text LongTime(OleDate moment) override {
     const tm parts = PartsOf(moment);
     std::array<wchar_t, 128> text;
-    const locale_t locale = NewEnvironmentLocale();
-    const std::size_t size = wcsftime_l(text.data(), text.size(), L"%X", &parts, locale);
-    freelocale(locale);
+    const std::size_t size = wcsftime_l(text.data(), text.size(), L"%X", &parts, Current());
     const std::wstring_view written(text.data(), size);
     return {written.begin(), written.end()};
   }
+
+ private:
+  /// The locale of the environment, which is kept while its name stays the same.
+  locale_t Current() {
+    const LocaleName name = LocaleNameFromEnvironment();
+    if (locale_ == nullptr || name.locale != name_ || name.folder != folder_) {
+      Release();
+      name_ = name.locale;
+      folder_ = name.folder;
+      locale_ = NewLocale(name_);
+    }
+    return locale_;
+  }
+
+  void Release() {
+    if (locale_ != nullptr) freelocale(locale_);
+  }
+
+  std::string name_;
+  std::string folder_;
+  locale_t locale_ = nullptr;
 };
 
 }  // namespace
