@@ -14,8 +14,6 @@ class TempFolder {
  public:
   explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
       : native_(mkdtemp((parent / "zq7.XXXXXX").string().data())) {}
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
   ~TempFolder() { std::filesystem::remove_all(native_); }
 
   const std::filesystem::path& Native() const { return native_; }
