@@ -22,7 +22,7 @@ Text UpperCase(TextView text) {
 /// Whether a line can hold `key`, which `bytes` encode: neither a character outside the code
 /// page, whose "?" is another key, nor a line end.
 bool IsMatchable(TextView key, std::string_view bytes) {
-  return FromCodePage(bytes) == key && bytes.find_first_of(kLineEnd) == bytes.npos;
+  return FromCodePage(bytes) == key && bytes.find_first_of(kLineEnd) == std::string_view::npos;
 }
 
 /// The key in brackets that its lines begin with.
@@ -62,8 +62,9 @@ constexpr std::size_t kBlock = 32;
 bool MayHoldMark(const char* bytes, std::size_t size) {
   std::uint8_t brackets = 0;
   for (std::size_t i = 0; i < kBlock; ++i) {
-    const bool both = (bytes[i] == '[') & (bytes[i + size - 1] == ']');
-    brackets |= static_cast<std::uint8_t>(both);
+    const auto opens = static_cast<std::uint8_t>(bytes[i] == '[');
+    const auto closes = static_cast<std::uint8_t>(bytes[i + size - 1] == ']');
+    brackets |= static_cast<std::uint8_t>(opens & closes);
   }
   return brackets != 0;
 }
@@ -74,7 +75,7 @@ std::size_t FindBrackets(std::string_view contents, std::size_t at, std::size_t 
   for (; at + size <= contents.size(); ++at) {
     if (contents[at] == '[' && contents[at + size - 1] == ']') return at;
   }
-  return contents.npos;
+  return std::string_view::npos;
 }
 
 /// Whether there are only blanks in front of `at` in its line.
@@ -111,7 +112,7 @@ std::string_view FindValue(std::string_view contents, TextView key) {
   std::string_view value;
   // From bracket to bracket, which is less work than line by line.
   const auto next = [&](std::size_t at) { return FindBrackets(contents, at, mark.Size()); };
-  for (std::size_t at = next(0); at != contents.npos; at = next(at + 1)) {
+  for (std::size_t at = next(0); at != std::string_view::npos; at = next(at + 1)) {
     std::string_view rest = contents.substr(at);
     if (!mark.Begins(rest) || !BeginsLine(contents, at)) continue;
     value = TrimBlanks(TakeLine(rest).substr(mark.Size()));

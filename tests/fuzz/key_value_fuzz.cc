@@ -40,13 +40,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::size_t split = std::min<std::size_t>(data[0] % 8, size - 1);
   const Text key = FuzzText(data + 1, split);
   const std::string contents(data + 1 + split, data + size);
-  const std::string with = WithValue(contents, key, u" v[=");
+  const auto set = [&](const auto& bytes) { return WithValue(bytes, key, u" v[="); };
+  const std::string with = set(contents);
   const std::string without = WithoutKey(contents, key);
   Check(FromCodePage(FindValue(contents, key)) == ValueByStep(contents, key));
   Check(FindValue(without, key).empty() && WithoutKey(without, key) == without);
   const bool matchable = UpperCase(key) == FromCodePage(ToCodePage(UpperCase(key))) &&
                          key.find_first_of(u"\r\n") == Text::npos;
   Check(FindValue(with, key) == (matchable ? " v[=" : ""));
-  Check(!matchable || (WithValue(with, key, u" v[=") == with && WithoutKey(with, key) == without));
+  Check(!matchable || (set(with) == with && WithoutKey(with, key) == without));
   return 0;
 }

@@ -4,7 +4,6 @@
 #include "tests/support/rows.h"
 
 using namespace ZQ7Standard;
-using std::filesystem::perms;
 
 // clang-format off
 TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
@@ -30,7 +29,7 @@ TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
   EXPECT_EQ(files.object.GetValue(PathText(files.Folder() / "none" / "x"), u"A"), u"");
   EXPECT_EQ(files.object.GetValue(PathText(files.Folder()), u"A") + FromUtf8(files.TakeShown()), u"");
   EXPECT_EQ(files.object.GetValue(u"C:\\proc\\self\\mem", u"A"), u"");
-  EXPECT_EQ(files.TakeShown(), "[Warning: Not found specified file]");
+  EXPECT_EQ(files.TakeShown(), "Warning: Not found specified file");
 }
 
 TEST(KeyValueFile, SetvalueReplacesEveryLineOfTheKeyOrAppendsOne) {
@@ -54,37 +53,35 @@ TEST(KeyValueFile, DeleteValueDropsEveryLineOfTheKey) {
   ExpectRows<std::optional<std::string>>([&](const auto& bytes) {
     return files.After(bytes, [&] { files.object.DeleteValue(files.Path(), u"a"); });
   }, {{{"[A]=1\r\n [B]=2\n[a]x"}, "[B]=2\r\n"}, {{"[A]=1"}, ""}, {{" x"}, "x\r\n"},
-      {{std::nullopt}, "none"}});
+      {{std::nullopt}, ""}});
 }
 
 // clang-format on
 
-// Every operation that writes, with a new file in folders of all kinds.
+// What the operations that write tell of a new file in folders of all kinds.
 TEST(WriteMessages, TellAMissingFolderFromAReadOnlyOne) {
   AsciiFiles files;
-  const auto shown = [&](const std::filesystem::path& file, int level) {
-    const Text path = PathText(file);
-    files.object.SetDisableMsgLevel(static_cast<std::int16_t>(level));
-    files.object.Setvalue(path, u"K", u"v");
-    files.object.AddLog(path, u"o", u"t", u"Y", u"d");
-    std::error_code none;
-    std::filesystem::remove(file, none);
-    files.object.SaveStringToTextFile(path, u"x");
-    return files.TakeShown();
-  };
   const auto folder = files.Folder() / "sub";
-  const std::string missing = "[Warning: Not found specified folder.]";
-  const std::string failed = "[Warning: Not found specified folder or no permission to write.]";
-  EXPECT_EQ(shown(folder / "a", 1), missing + missing + missing);
-  EXPECT_EQ(shown(folder / "a", 0), "");
+  const auto expect_shown = [&](const std::string& name, const std::string& shown,
+                                const std::string& shown_by_log) {
+    const Text path = PathText(folder / name);
+    files.object.Setvalue(path, u"K", u"v");
+    files.object.SaveStringToTextFile(path, u"x");
+    EXPECT_EQ(files.TakeShown(), shown + shown);
+    files.object.AddLog(path, u"o", u"t", u"Y", u"d");
+    EXPECT_EQ(files.TakeShown(), shown_by_log);
+  };
+  const std::string missing = "Warning: Not found specified folder.";
+  const std::string failed = "Warning: Not found specified folder or no permission to write.";
+  expect_shown("a", missing, missing);
   create_directories(folder);
-  EXPECT_EQ(shown(folder / "a", 1), "");
-  EXPECT_EQ(shown(folder / std::string(300, 'a'), 2), failed + failed + failed);
-  EXPECT_EQ(shown(folder / "a" / "b", 1), missing + missing + missing) << "the folder is a file";
-  std::filesystem::remove(folder / "a");
-  permissions(folder, perms::owner_read | perms::owner_exec);
-  const std::string read_only = "[Warning: Specified folder can not write.]";
-  EXPECT_EQ(shown(folder / "a", 1),
-            read_only + "[Warning: Specified folder or no permission to updated.]" + read_only);
-  permissions(folder, perms::owner_all);
+  expect_shown("a", "", "");
+  expect_shown("a\\b", missing, missing);  // in a file
+  expect_shown(std::string(300, 'a'), failed, failed);
+  permissions(folder, std::filesystem::perms(0577));
+  expect_shown("b", "Warning: Specified folder can not write.",
+               "Warning: Specified folder or no permission to updated.");
+  permissions(folder, std::filesystem::perms(0777));
+  files.object.SetDisableMsgLevel(0);
+  expect_shown("none\\a", "", "");
 }

@@ -1,17 +1,46 @@
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/time_text.h>
 #include <stdlib.h>
 #include <time.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <map>
 
 #include "platform/linux/locale_table.h"
-#include "tests/support/environment.h"
 #include "tests/support/rows.h"
 
 using namespace ZQ7Standard;
+
+/// Sets variables of the environment and puts the old values back at the end.
+class Environment {
+ public:
+  ~Environment() {
+    for (const auto& [name, value] : old_) Put(name, value ? value->c_str() : nullptr);
+  }
+
+  /// Sets a variable; nullptr removes it.
+  void Set(const std::string& name, const char* value) {
+    const char* const old = getenv(name.c_str());
+    old_.emplace(name, old != nullptr ? std::optional<std::string>(old) : std::nullopt);
+    Put(name, value);
+  }
+
+  void SetLocale(const char* all, const char* time = "", const char* lang = "") {
+    Set("LC_ALL", all);
+    Set("LC_TIME", time);
+    Set("LANG", lang);
+  }
+
+ private:
+  static void Put(const std::string& name, const char* value) {
+    value != nullptr ? setenv(name.c_str(), value, 1) : unsetenv(name.c_str());
+  }
+
+  std::map<std::string, std::optional<std::string>> old_;
+};
 
 TEST(SystemDateConvention, JudgesInstalledAndOtherLocalesAlike) {
   Environment environment;
@@ -29,6 +58,17 @@ TEST(SystemDateConvention, JudgesInstalledAndOtherLocalesAlike) {
         {"xx", "2"}});
     // clang-format on
   }
+}
+
+TEST(SystemTimeText, IsTheLocalesOwn) {
+  Environment environment;
+  // clang-format off
+  ExpectRows<const char*>([&](const char* locale) {
+    environment.SetLocale(locale);
+    return SystemTimeText()->LongTime(OleDate::FromParts(2024, 3, 7, 9, 5, 7));
+  }, {{"en_US.UTF-8", "09:05:07 AM"}, {"th_TH.UTF-8", "09:05:07"}, {"xx_YY", "09:05:07"},
+      {"ja_JP.EUC-JP", "09時05分07秒", "whatever its encoding"}, {"", "09:05:07"}});
+  // clang-format on
 }
 
 TEST(SystemDateConvention, TakesTheFirstNameThatIsNotEmpty) {

@@ -2,53 +2,64 @@
 #define ZQ7STANDARD_TESTS_SUPPORT_ASCII_FILES_H_
 
 #include <ZQ7Standard/ASCIIObject.h>
+#include <stdlib.h>
 
 #include <filesystem>
-#include <functional>
-#include <optional>
-#include <string>
+#include <fstream>
+#include <iterator>
 
 #include "tests/support/fakes.h"
 
 namespace ZQ7Standard {
 
-/// Keeps what it was to show: "[title: text]", one behind the other.
-class FakeMessageBox final : public MessageBox {
- public:
-  void Show(const Message& message) override;
-  std::string TakeShown() { return std::exchange(shown_, {}); }
-
- private:
-  std::string shown_;
+/// Keeps what it was to show.
+struct FakeMessageBox final : MessageBox {
+  void Show(const Message& message) override {
+    shown += Utf8(message.title + u": " + message.text);
+  }
+  std::string shown;
 };
 
-/// A folder with one file of known bytes, and an object of message level 1 that works
-/// on it at 2024-01-15 09:30:00, which its time text writes as "9:30".
+struct FakeTimeText final : TimeTextSource {
+  Text LongTime(OleDate moment) override { return u"time " + FromUtf8(IsoText(moment)); }
+};
+
+/// A folder, a file in it, and an object of message level 1 that works on them.
 class AsciiFiles {
  public:
-  explicit AsciiFiles(std::shared_ptr<FileRewriter> rewriter = nullptr);
-  AsciiFiles(const AsciiFiles&) = delete;
-  AsciiFiles& operator=(const AsciiFiles&) = delete;
-  ~AsciiFiles();
+  explicit AsciiFiles(std::shared_ptr<FileRewriter> rewriter = nullptr) {
+    mkdtemp(folder_.data());
+    object = ASCIIObject({nullptr, nullptr, nullptr, rewriter, box_, FixedClock(TestNow()),
+                          std::make_shared<FakeTimeText>()});
+    object.SetDisableMsgLevel(1);
+  }
+  ~AsciiFiles() { std::filesystem::remove_all(folder_); }
+
+  std::filesystem::path Folder() const { return folder_; }
+  std::filesystem::path File() const { return Folder() / "set.ini"; }
+  Text Path() const { return PathText(File()); }
+  std::string TakeShown() { return std::exchange(box_->shown, {}); }
+
+  void Write(std::string_view bytes) const { std::ofstream(File(), std::ios::binary) << bytes; }
+  std::string Read() const {
+    std::ifstream file(File(), std::ios::binary);
+    return {std::istreambuf_iterator(file), {}};
+  }
+
+  /// The bytes of the file after `change`, and what was shown. Before it the file holds
+  /// `bytes`, or is not there.
+  std::string After(const std::optional<std::string>& bytes, const auto& change) {
+    std::filesystem::remove(File());
+    if (bytes) Write(*bytes);
+    change();
+    return Read() + TakeShown();
+  }
 
   ASCIIObject object;
 
-  /// The bytes of the file after `change`, with what was shown behind them; "none" when
-  /// there is no file. Before it the file holds `bytes`, or is not there.
-  std::string After(const std::optional<std::string>& bytes, const std::function<void()>& change);
-
-  /// What was shown since it was last asked for.
-  std::string TakeShown() { return box_->TakeShown(); }
-
-  const std::filesystem::path& Folder() const { return folder_; }
-  std::filesystem::path File() const { return folder_ / "set.ini"; }
-  Text Path() const { return PathText(File()); }
-  void Write(std::string_view bytes) const;
-  std::string Read() const;
-
  private:
-  std::filesystem::path folder_;
-  std::shared_ptr<FakeMessageBox> box_;
+  std::string folder_ = std::filesystem::temp_directory_path() / "zq7.XXXXXX";
+  std::shared_ptr<FakeMessageBox> box_ = std::make_shared<FakeMessageBox>();
 };
 
 }  // namespace ZQ7Standard
