@@ -83,6 +83,7 @@ class ZQ7STANDARD_EXPORT DiskObject {
   /// that was copied until then left in place: 75 for a subfolder that the target
   /// has already, so a tree with subfolders is copied once; 70 for a read-only
   /// target file; 76 when `to_file` could not be made and there is something to copy.
+  /// A target inside `from_file` raises 75 at once.
   std::int32_t XCopyFile(TextView from_file, TextView to_file) const;
 
  private:

@@ -1,6 +1,8 @@
 #include <ZQ7Standard/DiskObject.h>
 #include <ZQ7Standard/RunTimeError.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,19 @@ Text AsFolder(TextView path) {
   Text folder(path);
   if (!folder.ends_with(u'\\')) folder += u'\\';
   return folder;
+}
+
+/// The path, ending in "/", without detours by "." and "..".
+std::string Straight(const Text& folder) {
+  std::string path = Utf8(folder);
+  std::ranges::replace(path, '\\', '/');
+  return std::filesystem::path(path).lexically_normal();
+}
+
+bool IsInside(const Text& folder, const Text& other) {
+  const std::string inner = Straight(folder);
+  const std::string outer = Straight(other);
+  return inner != outer && inner.starts_with(outer);
 }
 
 /// Copies what the folder `from` holds into the folder `to`, both ending in "\", and
@@ -65,9 +80,7 @@ std::int32_t DiskObject::XCopyFile(TextView from_file, TextView to_file) const {
   const Text from = AsFolder(from_file);
   const Text to = AsFolder(to_file);
   // Into itself, a copy would go on until no path could hold it: the same error.
-  if (to != from && to.starts_with(from)) {
-    throw RunTimeError::PathFileAccess("XCopyFile", Quoted(to_file));
-  }
+  if (IsInside(to, from)) throw RunTimeError::PathFileAccess("XCopyFile", Quoted(to_file));
   const bool is_target_there = Succeeds([&] {
     if (!IsFolder(to)) services_.folders->Create(to);
   });

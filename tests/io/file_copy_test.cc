@@ -7,14 +7,10 @@
 
 using namespace ZQ7Standard;
 
-namespace {
-
-// What is in the current folder, each file with its content, its mode and the year of its time.
-const std::string kContents =
-    "find -mindepth 1 \\( -type d -printf '%P/\\n' -o -printf '%P=' -exec cat {} \\; "
-    "-printf ',%m,%TY\\n' \\) | LC_ALL=C sort | tr '\\n' ' '";
-
-}  // namespace
+// The file "to", or all in the folder: content, mode and year of the last-modified time.
+constexpr const char* kTarget =
+    "find to \\( -type d -printf ' %P/\\n' -o -printf ' %P=' -exec cat {} \\; "
+    "-printf ',%m,%TY\\n' \\) 2>&- | LC_ALL=C sort | tr -d '\\n'";
 
 // clang-format off
 TEST(CopyFileCheck, CopiesWhatHasAnotherTime) {
@@ -24,17 +20,14 @@ TEST(CopyFileCheck, CopiesWhatHasAnotherTime) {
                "printf older >to; touch -r from to; chmod 600 *;" + change);
     const Text to = folder.Path("to");
     const int result = DiskObject().CopyFileCheck(folder.Path("from"), to, overwrite);
-    return Shown(result) + ": " + folder.Run(kContents);
+    return Shown(result) + folder.Run(kTarget);
   }, {
-      {{"rm from; chmod a-w to", true}, "0: to=older,400,2001 "},
-      {{"rm from; mkdir from; chmod a-w to", true}, "0: from/ to=older,400,2001 "},
-      {{"rm to", false}, "1: from=new,600,2001 to=new,600,2001 "},
-      {{"rm to; mkdir to", true}, "1: from=new,600,2001 to/ "},
-      {{"chmod a-w to", false}, "0: from=new,600,2001 to=older,600,2001 "},
-      {{"touch -d 2002-01-01 to; chmod 440 to", false}, "1: from=new,600,2001 to=older,640,2002 "},
-      {{"touch -d 2002-01-01 to; chmod 440 to", true}, "1: from=new,600,2001 to=new,640,2001 "},
-      {{"touch -d '2001-01-01 00:00:00.123456788' to", true},
-       "1: from=new,600,2001 to=new,600,2001 "}});
+      {{"rm from; chmod 400 to", true}, "0 =older,400,2001"}, {{"rm to", false}, "1 =new,600,2001"},
+      {{"rm from; mkdir from; chmod 400 to", true}, "0 =older,400,2001"},
+      {{"rm to; mkdir to", true}, "1 /"}, {{"chmod 400 to", false}, "0 =older,600,2001"},
+      {{"touch -d 2002-01-01 to; chmod 440 to", false}, "1 =older,640,2002"},
+      {{"touch -d 2002-01-01 to; chmod 440 to", true}, "1 =new,640,2001"},
+      {{"touch -d '2001-01-01 00:00:00.123456788' to", true}, "1 =new,600,2001"}});
 }
 
 TEST(XCopyFile, CopiesATreeAndCountsIt) {
@@ -44,20 +37,19 @@ TEST(XCopyFile, CopiesATreeAndCountsIt) {
                "touch -d 2001-01-01 from/a from/.b from/c/d; chmod 400 from/a;"
                "chmod 600 from/.b from/c/d;" + change);
     const int count = DiskObject().XCopyFile(folder.Path("from"), folder.Path(to));
-    return Shown(count) + ": " + folder.Run("test -d to && cd to && " + kContents);
+    return Shown(count) + folder.Run(kTarget);
   }, {
-      {{"", "to\\"}, "5: .b=two,600,2001 a=one,400,2001 c/ c/d=three,600,2001 "},
-      {{"mkdir -p to/x; printf older >to/a; chmod 644 to/a", "to"},
-       "5: .b=two,600,2001 a=one,644,2001 c/ c/d=three,600,2001 x/ "},
-      {{"rm from/a from/.b; ln -s c from/l", "to"}, 
-       "5: c/ c/d=three,600,2001 l/ l/d=three,600,2001 "},
-      {{"rm -rf from; mkdir from", "to"}, "1: "}, {{"rm -rf from; mkdir from", "no/to"}, "0: "},
-      {{"rm -rf from; >from", "to"}, "0: "}, {{"rm -rf from", "to"}, "0: "},
+      {{"", "to\\"}, "5 .b=two,600,2001 / a=one,400,2001 c/ c/d=three,600,2001"},
+      {{"mkdir to; printf older >to/a; chmod 644 to/a", "from\\..\\to"},
+       "5 .b=two,600,2001 / a=one,644,2001 c/ c/d=three,600,2001"},
+      {{"rm from/a from/.b; ln -s c from/l", "to"},
+       "5 / c/ c/d=three,600,2001 l/ l/d=three,600,2001"},
+      {{"rm -r from; mkdir from", "to"}, "1 /"}, {{"rm -r from; mkdir from", "no/to"}, "0"},
+      {{"rm -r from; >from", "to"}, "0"}, {{"rm -r from", "to"}, "0"}, {{"", "no/to"}, "error 76"},
       {{"mkdir -p to/c", "to"}, "error 75"}, {{"mkdir -p to/a", "to"}, "error 75"},
-      {{"mkdir to; >to/.b; chmod 400 to/.b", "to"}, "error 70"}, {{"", "no/to"}, "error 76"},
-      {{"rm -r from/c", "from"}, "error 70"}, {{"", "from/to"}, "error 75"},
-      {{"ln -s gone from/l", "to"}, "error 53"}, {{"mkfifo from/p", "to"}, "error 75"},
-      {{"touch 'from/..\\x'", "to"}, "error 75"},
+      {{"mkdir to; >to/.b; chmod 400 to/.b", "to"}, "error 70"}, {{"", "from/to"}, "error 75"},
+      {{"rm -r from/c", "from"}, "error 70"}, {{"ln -s gone from/l", "to"}, "error 53"},
+      {{"mkfifo from/p", "to"}, "error 75"}, {{"touch 'from/..\\x'", "to"}, "error 75"},
       {{"touch from/$(printf '\\377')", "to"}, "error 75"}});
 }
 // clang-format on

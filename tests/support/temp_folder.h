@@ -12,10 +12,8 @@ namespace ZQ7Standard {
 /// A folder of a test's own, which is gone at its end.
 class TempFolder {
  public:
-  TempFolder()
-      : native_(mkdtemp((std::filesystem::temp_directory_path() / "zq7.XXXXXX").string().data())) {}
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
+  explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
+      : native_(mkdtemp((parent / "zq7.XXXXXX").string().data())) {}
   ~TempFolder() { std::filesystem::remove_all(native_); }
 
   const std::filesystem::path& Native() const { return native_; }

@@ -17,8 +17,12 @@ namespace {
 constexpr std::size_t kMostAtOnce = std::size_t{1} << 30;
 constexpr std::size_t kBufferSize = 65'536;
 
+// A pipe is opened without waiting for its other end, only to be refused.
+constexpr int kForReading = O_RDONLY | O_NONBLOCK;
+constexpr int kForReplacing = O_WRONLY | O_NONBLOCK;
+
 /// The status of a file, which must be a regular one: a folder or a device has no
-/// content to copy. Such are opened without waiting for their other end.
+/// content to copy.
 struct stat StatusOf(const OpenFile& file) {
   struct stat status {};
   if (fstat(file.Descriptor(), &status) != 0) file.Fail(errno, "status");
@@ -48,7 +52,7 @@ void SetLastModified(const OpenFile& file, const timespec& last_modified) {
 class Copying {
  public:
   Copying(TextView from, const std::string& source)
-      : source_(from, source, O_RDONLY | O_NONBLOCK), status_(StatusOf(source_)) {}
+      : source_(from, source, kForReading), status_(StatusOf(source_)) {}
 
   void ToNew(TextView to, const std::string& target) const {
     OpenFile file(to, target, O_WRONLY | O_CREAT | O_EXCL, status_.st_mode & ACCESSPERMS);
@@ -62,7 +66,7 @@ class Copying {
 
   /// False when there is no file `target`.
   bool ToExisting(TextView to, const std::string& target) const {
-    auto file = OpenFile::IfThere(to, target, O_WRONLY | O_NONBLOCK);
+    auto file = OpenFile::IfThere(to, target, kForReplacing);
     if (!file) return false;
     const struct stat status = StatusOf(*file);
     const bool is_read_only = (status.st_mode & S_IWUSR) == 0;
