@@ -49,6 +49,62 @@ class RecordingCipher final : public BlockCipher {
   std::string& calls_;
 };
 
+/// Writes a call down; whether it is to succeed.
+bool Record(RegistryScript& script, const std::string& name, const std::string& arguments) {
+  script.calls += name + arguments + "; ";
+  if (name != script.failing) return true;
+  if (script.raises) throw RunTimeError::DeviceIoError(name, arguments);
+  return false;
+}
+
+class ScriptedKey final : public RegistryKey {
+ public:
+  explicit ScriptedKey(RegistryScript& script) : script_(script) {}
+  ~ScriptedKey() override { Record(script_, "close", ""); }
+
+  std::optional<QueriedValue> Query(TextView name, std::span<char> buffer) override {
+    const auto size = " of " + std::to_string(buffer.size());
+    if (!Record(script_, "Query", " " + Utf8(name) + size)) return std::nullopt;
+    buffer.front() = 7;
+    return QueriedValue{kRegistryNumber, 4};
+  }
+  bool Set(TextView name, std::uint32_t type, std::string_view data) override {
+    const auto typed = " as " + std::to_string(type) + ": ";
+    return Record(script_, "Set", " " + Utf8(name) + typed + std::string(data));
+  }
+
+ private:
+  RegistryScript& script_;
+};
+
+class ScriptedRegistry final : public Registry {
+ public:
+  explicit ScriptedRegistry(RegistryScript& script) : script_(script) {}
+
+  std::unique_ptr<RegistryKey> Open(std::int32_t root, TextView path,
+                                    std::uint32_t access) override {
+    return Key("Open", {std::to_string(root), Utf8(path), std::to_string(access)});
+  }
+  std::unique_ptr<RegistryKey> Create(std::int32_t root, TextView path,
+                                      const KeyCreation& creation) override {
+    const auto& [key_class, options, access, security] = creation;
+    return Key("Create",
+               {std::to_string(root), Utf8(path), Utf8(key_class), std::to_string(options),
+                std::to_string(access), std::to_string(security.length),
+                security.descriptor == nullptr ? "null" : "descriptor",
+                security.inherit ? "inherit" : "keep"});
+  }
+
+ private:
+  std::unique_ptr<RegistryKey> Key(const char* call, const std::vector<std::string>& arguments) {
+    std::string listed;
+    for (const std::string& argument : arguments) listed += " " + argument;
+    return Record(script_, call, listed) ? std::make_unique<ScriptedKey>(script_) : nullptr;
+  }
+
+  RegistryScript& script_;
+};
+
 }  // namespace
 
 OleDate TestNow() {
@@ -62,6 +118,10 @@ StandardObject ObjectWith(DateConvention convention, OleDate now) {
 
 BlockCipherFactory FakeBlockCipher(std::string& calls) {
   return [&calls] { return std::make_unique<RecordingCipher>(calls); };
+}
+
+std::shared_ptr<Registry> FakeRegistry(RegistryScript& script) {
+  return std::make_shared<ScriptedRegistry>(script);
 }
 
 int ErrorOf(const std::function<void()>& call) {

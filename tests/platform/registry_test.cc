@@ -1,0 +1,288 @@
+#include <ZQ7Standard/RegistryObject.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+namespace ZQ7Standard {
+namespace {
+
+using namespace std::string_literals;
+namespace fs = std::filesystem;
+
+constexpr std::int32_t kUser = HKEY_CURRENT_USER;
+constexpr uid_t kNobody = 65534;
+
+/// A registry in a folder of its own, which every user may enter.
+class SystemRegistryTest : public testing::Test {
+ protected:
+  SystemRegistryTest() { fs::permissions(folder_, fs::perms{0755}); }
+  ~SystemRegistryTest() override { fs::remove_all(folder_); }
+
+  RegistryServices Services() const { return {SystemRegistry({folder_ / "u", folder_ / "m"})}; }
+  RegistryObject Object() const { return RegistryObject(Services()); }
+  fs::path File() const { return folder_ / "u/registry.db"; }
+
+  std::string temporary_ = (fs::temp_directory_path() / "zq7-XXXXXX").string();
+  fs::path folder_ = mkdtemp(temporary_.data());
+};
+
+using SystemRegistryBreadth = SystemRegistryTest;
+
+/// Runs `work` in a child, whose status is the result; `End` waits for it.
+pid_t Begin(const std::function<int()>& work) {
+  const pid_t child = fork();
+  if (child == 0) _exit(work());
+  return child;
+}
+int End(pid_t child) {
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+bool Update(const RegistryObject& object, int number, TextView name = u"V") {
+  return object.UpdateKeyValueLong(kUser, u"Software\\App", name, number);
+}
+int Read(const RegistryObject& object, TextView name = u"V") {
+  return object.GetKeyValueLong(kUser, u"software\\app", name);
+}
+
+std::string Content(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+TEST_F(SystemRegistryTest, KeepsKeysAsTheOneInMemoryDoes) {
+  struct Place {
+    std::int32_t root;
+    Text path;
+    Text name;
+  };
+  const std::pair<Place, Place> same[] = {
+      {{kUser, u"Software\\ร้านค้า", u"เลขที่ No"}, {kUser, u"SOFTWARE\\ร้านค้า\\", u"เลขที่ nO"}},
+      {{HKEY_USERS, u"A\\B\\C", u""}, {HKEY_USERS, u"a\\b\\c", u""}},
+      {{HKEY_CLASSES_ROOT, u"", u"x"}, {HKEY_CLASSES_ROOT, u"\0y"s, u"X\0"s}},
+      {{HKEY_LOCAL_MACHINE, u"日", u"é"}, {HKEY_LOCAL_MACHINE, u"?", u"É"}},
+  };
+  const Place never[] = {
+      {HKEY_PERFORMANCE_DATA, u"K", u"V"},
+      {0, u"K", u"V"},
+      {-1, u"K", u"V"},
+      {kUser, u"K\\\\L", u"V"},
+      {kUser, u"\\K", u"V"},
+      {kUser, u"\\", u"V"},
+  };
+  for (const RegistryServices& services : {Services(), RegistryServices{MemoryRegistry()}}) {
+    const RegistryObject object(services);
+    int number = 1;
+    for (const auto& [written, read] : same) {
+      EXPECT_EQ(object.GetKeyValueLong(read.root, read.path, read.name), 0);
+      EXPECT_FALSE(object.UpdateKeyValueLong(written.root, written.path, written.name, ++number));
+      EXPECT_EQ(object.GetKeyValueLong(read.root, read.path, read.name), number);
+      EXPECT_FALSE(object.UpdateKeyValueString(read.root, read.path, read.name, u""));
+      EXPECT_FALSE(object.UpdateKeyValueString(read.root, read.path, read.name, u"ก5\0"s));
+      EXPECT_EQ(object.GetKeyValueString(written.root, written.path, written.name), u"ก5");
+      EXPECT_EQ(object.GetKeyValueLong(written.root, written.path, written.name), 0);
+    }
+    for (const auto& [root, path, name] : never) {
+      EXPECT_TRUE(object.UpdateKeyValueLong(root, path, name, 1)) << root << Utf8(path);
+      EXPECT_EQ(object.GetKeyValueLong(root, path, name), 0);
+    }
+    const auto is_there = [&](std::int32_t root, TextView path) {
+      return services.registry->Open(root, path, kKeyAllAccess) != nullptr;
+    };
+    EXPECT_TRUE(is_there(HKEY_USERS, u"a\\b")) << "made on the way";
+    EXPECT_TRUE(is_there(HKEY_LOCAL_MACHINE, u"")) << "a root";
+    EXPECT_FALSE(is_there(HKEY_LOCAL_MACHINE, u"a\\b")) << "of another root";
+    const auto key = services.registry->Create(kUser, u"Ärger\\Σ", {});
+    EXPECT_TRUE(key->Set(u"Д", 3, "data") && is_there(kUser, u"äRGER\\σ"));
+    std::array<char, 4> buffer{};
+    EXPECT_TRUE(key->Query(u"д", buffer) && !key->Query(u"д", std::span(buffer).first(3)));
+  }
+}
+
+TEST_F(SystemRegistryTest, MakesNothingBeforeAnUpdate) {
+  const RegistryObject object = Object();
+  EXPECT_EQ(Read(object), 0);
+  EXPECT_FALSE(fs::exists(File().parent_path()));
+  EXPECT_FALSE(Update(object, 1));
+  EXPECT_FALSE(fs::exists(folder_ / "m"));
+  EXPECT_EQ(fs::status(File().parent_path()).permissions(), fs::perms{0700});
+  fs::remove_all(File().parent_path());
+  EXPECT_FALSE(Update(object, 2)) << "a database that was removed while open is made again";
+  EXPECT_EQ(Read(Object()), 2);
+}
+
+TEST_F(SystemRegistryTest, LiesWhereTheEnvironmentSays) {
+  const std::string folder = folder_.string();
+  const std::tuple<std::string, std::string, const char*> rows[] = {
+      {folder + "/data", folder, "data/zq7standard"},
+      {"", folder + "/home", "home/.local/share/zq7standard"},
+      {"relative", folder, ".local/share/zq7standard"},
+      {"", "", nullptr},
+  };
+  for (const auto& [data, home, expected] : rows) {
+    EXPECT_EQ(End(Begin([&] {
+                setenv("XDG_DATA_HOME", data.c_str(), 1);
+                setenv("HOME", home.c_str(), 1);
+                if (Update(RegistryObject(), 1)) return expected == nullptr ? 0 : 1;
+                return expected != nullptr && fs::exists(folder_ / expected / "registry.db") ? 0
+                                                                                             : 2;
+              })),
+              0)
+        << data << home;
+  }
+}
+
+TEST_F(SystemRegistryTest, LeavesWhatIsNoRegistryOfItsVersionAsItIs) {
+  ASSERT_FALSE(Update(Object(), 1));
+  const std::string good = Content(File());
+  const auto run = [&](const char* sql) {
+    sqlite3* db = nullptr;
+    sqlite3_open(File().c_str(), &db);
+    sqlite3_exec(db, sql, nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+  };
+  const std::pair<const char*, std::function<void()>> cases[] = {
+      {"no database", [&] { std::ofstream(File()) << "[settings]\nlast=7\n"; }},
+      {"no header", [&] { std::ofstream(File()) << std::string(100, '\0') + good.substr(100); }},
+      {"cut", [&] { fs::resize_file(File(), 5000); }},
+      {"damaged pages",
+       [&] {
+         std::ofstream(File()) << good.substr(0, 4096) + std::string(good.size() - 4096, '\xA5');
+       }},
+      {"of another program", [&] { run("PRAGMA application_id = 7"); }},
+      {"unmarked", [&] { run("PRAGMA application_id = 0; PRAGMA user_version = 0"); }},
+      {"a later version", [&] { run("PRAGMA user_version = 2"); }},
+      {"other tables", [&] { run("PRAGMA journal_mode = DELETE; DROP TABLE entries"); }},
+  };
+  for (const auto& [reason, damage] : cases) {
+    std::ofstream(File()) << good;
+    damage();
+    const std::string before = Content(File());
+    ASSERT_NE(before, good) << reason;
+    EXPECT_EQ(Read(Object()), 0) << reason;
+    EXPECT_TRUE(Update(Object(), 2)) << reason;
+    EXPECT_EQ(Content(File()), before) << reason;
+  }
+  fs::resize_file(File(), 0);
+  EXPECT_EQ(Read(Object()), 0);
+  EXPECT_EQ(fs::file_size(File()), 0);
+  EXPECT_FALSE(Update(Object(), 3)) << "an empty file is no database yet";
+  EXPECT_EQ(Read(Object()), 3);
+}
+
+TEST_F(SystemRegistryTest, TakesFilePermissionsAsRights) {
+  ASSERT_FALSE(Update(Object(), 1));
+  const std::tuple<unsigned, unsigned, bool> rows[] = {
+      {0555, 0444, false}, {0777, 0444, false}, {0555, 0666, false}, {0777, 0666, true}};
+  for (const auto& [folder_mode, file_mode, granted] : rows) {
+    fs::permissions(File().parent_path(), fs::perms{folder_mode});
+    fs::permissions(File(), fs::perms{file_mode});
+    EXPECT_EQ(End(Begin([&] {
+                if (geteuid() == 0 && setuid(kNobody) != 0) return 9;
+                return Read(Object()) + (Update(Object(), 1) ? 2 : 0);
+              })),
+              granted ? 1 : 2)
+        << std::oct << folder_mode << " " << file_mode;
+  }
+  fs::permissions(File().parent_path(), fs::perms{0700});
+}
+
+TEST_F(SystemRegistryBreadth, LosesNothingOfEightProcessesThatBeginAtOnce) {
+  const RegistryObject object = Object();
+  std::vector<pid_t> writers;
+  for (char16_t writer = u'a'; writer < u'i'; ++writer) {
+    writers.push_back(Begin([&] {
+      int failures = 0;
+      for (char16_t i = u'a'; i <= u'z'; ++i) {
+        failures += Update(object, i, Text{writer, i}) ? 1 : 0;
+        failures += object.UpdateKeyValueLong(HKEY_USERS, Text{i}, Text{writer}, i) ? 1 : 0;
+      }
+      return failures;
+    }));
+  }
+  for (const pid_t writer : writers) EXPECT_EQ(End(writer), 0);
+  for (char16_t writer = u'a'; writer < u'i'; ++writer) {
+    for (char16_t i = u'a'; i <= u'z'; ++i) {
+      ASSERT_EQ(Read(object, Text{writer, i}), i);
+      ASSERT_EQ(object.GetKeyValueLong(HKEY_USERS, Text{i}, Text{writer}), i);
+    }
+  }
+}
+
+TEST_F(SystemRegistryBreadth, LosesNothingToKills) {
+  const RegistryObject object = Object();
+  ASSERT_FALSE(Update(object, 0, u"A") || Update(object, 0, u"B"));
+  int kills = 0;
+  for (int round = 1; round <= 200; ++round) {
+    std::array<int, 2> acknowledged{};
+    ASSERT_EQ(pipe(acknowledged.data()), 0);
+    const pid_t child = Begin([&] {
+      for (int i = Read(object, u"A") + 1; !Update(object, i, u"A"); ++i) {
+        if (Update(object, i, u"B") || write(acknowledged[1], &i, sizeof i) < 0) return 1;
+      }
+      return 1;
+    });
+    close(acknowledged[1]);
+    int last = Read(object, u"B");
+    for (int i = round % 7; i > 0; --i) ASSERT_GT(read(acknowledged[0], &last, sizeof last), 0);
+    usleep(static_cast<useconds_t>(round * 37 % 1000));
+    kill(child, SIGKILL);
+    kills += End(child) == -SIGKILL ? 1 : 0;
+    while (read(acknowledged[0], &last, sizeof last) > 0) {
+    }
+    close(acknowledged[0]);
+    const int first = Read(object, u"A");
+    const int second = Read(Object(), u"B");
+    ASSERT_TRUE(last <= second && second <= first && first <= last + 1) << last << second << first;
+  }
+  EXPECT_EQ(kills, 200);
+}
+
+// SQLite takes the locks of a parent for the child's own. A child that did not know
+// better would go on writing to a log that the parent, closing last, removes.
+TEST_F(SystemRegistryTest, SurvivesAFork) {
+  auto object = std::make_unique<RegistryObject>(Object());
+  auto unused = std::make_unique<RegistryObject>(Object());
+  RegistryServices services = Services();
+  ASSERT_FALSE(Update(*object, 1) || Update(*unused, 1));
+  auto key = services.registry->Open(kUser, u"Software\\App", kKeyAllAccess);
+  std::array<int, 2> to_child{};
+  std::array<int, 2> to_parent{};
+  ASSERT_TRUE(pipe(to_child.data()) == 0 && pipe(to_parent.data()) == 0);
+  const pid_t child = Begin([&] {
+    int failures =
+        Read(*object) == 1 && !Update(*object, 2, u"W") && Read(*object, u"W") == 2 ? 0 : 1;
+    failures += key->Set(u"V", 4, "1234") ? 2 : 0;
+    key.reset();
+    unused.reset();
+    char byte = 0;
+    if (write(to_parent[1], &byte, 1) != 1 || read(to_child[0], &byte, 1) != 1) return 4;
+    return failures + (Update(*object, 3) ? 8 : 0);
+  });
+  char byte = 0;
+  ASSERT_EQ(read(to_parent[0], &byte, 1), 1);
+  EXPECT_EQ(Read(*object, u"W"), 2);
+  EXPECT_FALSE(Update(*object, 4, u"X"));
+  key.reset();
+  services.registry.reset();
+  object.reset();
+  unused.reset();
+  ASSERT_EQ(write(to_child[1], &byte, 1), 1);
+  EXPECT_EQ(End(child), 0);
+  EXPECT_EQ(Read(Object()), 3);
+  EXPECT_EQ(Read(Object(), u"W"), 2);
+  EXPECT_EQ(Read(Object(), u"X"), 4);
+}
+
+}  // namespace
+}  // namespace ZQ7Standard
