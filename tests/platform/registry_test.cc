@@ -30,6 +30,14 @@ class SystemRegistryTest : public testing::Test {
   RegistryObject Object() const { return RegistryObject(Services()); }
   fs::path File() const { return folder_ / "u/registry.db"; }
 
+  /// Does what another program may do to the user's database.
+  void Run(const char* sql) const {
+    sqlite3* db = nullptr;
+    sqlite3_open(File().c_str(), &db);
+    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sql;
+    sqlite3_close(db);
+  }
+
   std::string temporary_ = (fs::temp_directory_path() / "zq7-XXXXXX").string();
   fs::path folder_ = mkdtemp(temporary_.data());
 };
@@ -121,6 +129,16 @@ TEST_F(SystemRegistryTest, MakesNothingBeforeAnUpdate) {
   EXPECT_EQ(Read(Object()), 2);
 }
 
+TEST_F(SystemRegistryTest, FollowsWhatOthersDoToItsKeys) {
+  const RegistryObject object = Object();
+  ASSERT_TRUE(!Update(object, 1) && Read(object) == 1);
+  Run("PRAGMA foreign_keys = ON; DELETE FROM keys WHERE name = 'App'");
+  EXPECT_FALSE(Object().UpdateKeyValueLong(kUser, u"Other", u"V", 5)) << "takes the key's number";
+  EXPECT_EQ(Read(object), 0);
+  EXPECT_FALSE(Update(object, 2));
+  EXPECT_EQ(Read(Object()), 2);
+}
+
 TEST_F(SystemRegistryTest, LiesWhereTheEnvironmentSays) {
   const std::string folder = folder_.string();
   const std::tuple<std::string, std::string, const char*> rows[] = {
@@ -145,12 +163,6 @@ TEST_F(SystemRegistryTest, LiesWhereTheEnvironmentSays) {
 TEST_F(SystemRegistryTest, LeavesWhatIsNoRegistryOfItsVersionAsItIs) {
   ASSERT_FALSE(Update(Object(), 1));
   const std::string good = Content(File());
-  const auto run = [&](const char* sql) {
-    sqlite3* db = nullptr;
-    sqlite3_open(File().c_str(), &db);
-    sqlite3_exec(db, sql, nullptr, nullptr, nullptr);
-    sqlite3_close(db);
-  };
   const std::pair<const char*, std::function<void()>> cases[] = {
       {"no database", [&] { std::ofstream(File()) << "[settings]\nlast=7\n"; }},
       {"no header", [&] { std::ofstream(File()) << std::string(100, '\0') + good.substr(100); }},
@@ -159,10 +171,10 @@ TEST_F(SystemRegistryTest, LeavesWhatIsNoRegistryOfItsVersionAsItIs) {
        [&] {
          std::ofstream(File()) << good.substr(0, 4096) + std::string(good.size() - 4096, '\xA5');
        }},
-      {"of another program", [&] { run("PRAGMA application_id = 7"); }},
-      {"unmarked", [&] { run("PRAGMA application_id = 0; PRAGMA user_version = 0"); }},
-      {"a later version", [&] { run("PRAGMA user_version = 2"); }},
-      {"other tables", [&] { run("PRAGMA journal_mode = DELETE; DROP TABLE entries"); }},
+      {"of another program", [&] { Run("PRAGMA application_id = 7"); }},
+      {"unmarked", [&] { Run("PRAGMA application_id = 0; PRAGMA user_version = 0"); }},
+      {"a later version", [&] { Run("PRAGMA user_version = 2"); }},
+      {"other tables", [&] { Run("PRAGMA journal_mode = DELETE; DROP TABLE entries"); }},
   };
   for (const auto& [reason, damage] : cases) {
     std::ofstream(File()) << good;
@@ -227,7 +239,7 @@ TEST_F(SystemRegistryBreadth, LosesNothingToKills) {
     std::array<int, 2> acknowledged{};
     ASSERT_EQ(pipe(acknowledged.data()), 0);
     const pid_t child = Begin([&] {
-      for (int i = Read(object, u"A") + 1; !Update(object, i, u"A"); ++i) {
+      for (int i = Read(object, u"B") + 1; !Update(object, i, u"A"); ++i) {
         if (Update(object, i, u"B") || write(acknowledged[1], &i, sizeof i) < 0) return 1;
       }
       return 1;

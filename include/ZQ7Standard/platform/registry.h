@@ -56,7 +56,7 @@ struct QueriedValue {
 };
 
 /// A key that was opened; its destructor closes it. It is not used after its
-/// registry, and is best closed soon: a store may keep old data for it.
+/// registry, nor in another process.
 class ZQ7STANDARD_EXPORT RegistryKey {
  public:
   virtual ~RegistryKey();

@@ -14,22 +14,19 @@ constexpr mode_t kEveryoneEnters = 0755;
 
 class DatabaseKey final : public RegistryKey {
  public:
-  DatabaseKey(std::shared_ptr<RegistryDatabase> database, std::int64_t key)
-      : database_(std::move(database)), key_(key) {}
-  ~DatabaseKey() override { database_->EndReading(); }
-  DatabaseKey(const DatabaseKey&) = delete;
-  DatabaseKey& operator=(const DatabaseKey&) = delete;
+  DatabaseKey(std::shared_ptr<RegistryDatabase> database, KeyPlace place)
+      : database_(std::move(database)), place_(std::move(place)) {}
 
   std::optional<QueriedValue> Query(TextView name, std::span<char> buffer) override {
-    return database_->Query(key_, name, buffer);
+    return database_->Query(place_, name, buffer);
   }
   bool Set(TextView name, std::uint32_t type, std::string_view data) override {
-    return database_->Set(key_, name, type, data);
+    return database_->Set(place_, name, type, data);
   }
 
  private:
   std::shared_ptr<RegistryDatabase> database_;
-  std::int64_t key_;
+  KeyPlace place_;
 };
 
 /// The database in a folder of the host's, or else in `own_place`. It is opened when
@@ -77,27 +74,30 @@ class DatabaseRegistry final : public Registry {
 
   std::unique_ptr<RegistryKey> Open(std::int32_t root, TextView path,
                                     std::uint32_t /*access*/) override {
-    const auto key_path = KeyPath(path);
-    if (!KeepsKeys(root) || !key_path) return nullptr;
+    auto place = PlaceOf(root, path);
+    if (!place) return nullptr;
     const auto& database = StoreOf(root).ForReading();
-    return database ? KeyIn(database, database->FindKey(root, *key_path)) : nullptr;
+    if (!database || !database->HasKey(*place)) return nullptr;
+    return std::make_unique<DatabaseKey>(database, std::move(*place));
   }
 
   std::unique_ptr<RegistryKey> Create(std::int32_t root, TextView path,
                                       const KeyCreation& /*creation*/) override {
-    const auto key_path = KeyPath(path);
-    if (!KeepsKeys(root) || !key_path) return nullptr;
+    auto place = PlaceOf(root, path);
+    if (!place) return nullptr;
     const auto& database = StoreOf(root).ForWriting();
-    return database ? KeyIn(database, database->FindOrMakeKey(root, *key_path)) : nullptr;
+    if (!database || !database->MakeKey(*place)) return nullptr;
+    return std::make_unique<DatabaseKey>(database, std::move(*place));
   }
 
  private:
-  Store& StoreOf(std::int32_t root) { return root == HKEY_CURRENT_USER ? user_ : machine_; }
-
-  static std::unique_ptr<RegistryKey> KeyIn(const std::shared_ptr<RegistryDatabase>& database,
-                                            std::optional<std::int64_t> key) {
-    return key ? std::make_unique<DatabaseKey>(database, *key) : nullptr;
+  static std::optional<KeyPlace> PlaceOf(std::int32_t root, TextView path) {
+    const auto key_path = KeyPath(path);
+    if (!KeepsKeys(root) || !key_path) return std::nullopt;
+    return KeyPlace{root, Text(*key_path)};
   }
+
+  Store& StoreOf(std::int32_t root) { return root == HKEY_CURRENT_USER ? user_ : machine_; }
 
   Store user_;
   Store machine_;

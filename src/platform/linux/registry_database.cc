@@ -35,7 +35,7 @@ constexpr const char* kSchema = R"(
   PRAGMA user_version = 1;
 )";
 
-constexpr const char* kFindKey = "SELECT id FROM keys WHERE root = ?1 AND folded = ?2";
+constexpr const char* kLookUpKey = "SELECT id FROM keys WHERE root = ?1 AND folded = ?2";
 
 constexpr const char* kMakeKey = R"(
   INSERT INTO keys(root, folded, parent, name)
@@ -45,7 +45,8 @@ constexpr const char* kMakeKey = R"(
 constexpr const char* kQuery = "SELECT type, data FROM entries WHERE key = ?1 AND folded = ?2";
 
 constexpr const char* kSet = R"(
-  INSERT INTO entries(key, folded, name, type, data) VALUES(?1, ?2, ?3, ?4, ?5)
+  INSERT INTO entries(key, folded, name, type, data)
+  SELECT id, ?3, ?4, ?5, ?6 FROM keys WHERE root = ?1 AND folded = ?2
   ON CONFLICT DO UPDATE SET type = excluded.type, data = excluded.data)";
 
 enum class Content { kNothing, kRegistry, kOther };
@@ -85,30 +86,87 @@ std::shared_ptr<RegistryDatabase> RegistryDatabase::Open(const std::filesystem::
   return database;
 }
 
-std::optional<std::int64_t> RegistryDatabase::FindKey(std::int32_t root, TextView path) {
-  const std::string folded = Folded(path);
-  Start(find_key_, std::int64_t{root}, folded);
-  if (sqlite3_step(find_key_) == SQLITE_ROW) return sqlite3_column_int64(find_key_, 0);
-  sqlite3_reset(find_key_);
-  return std::nullopt;
-}
-
-void RegistryDatabase::EndReading() {
-  if (IsUsable()) sqlite3_reset(find_key_);
-}
-
-std::optional<std::int64_t> RegistryDatabase::FindOrMakeKey(std::int32_t root, TextView path) {
-  const auto key = FindKey(root, path);
-  if (key) return key;
-  if (!connection_.Execute("BEGIN IMMEDIATE")) return std::nullopt;
-  if (MakeKeys(root, path) && connection_.Execute("COMMIT")) return FindKey(root, path);
+bool RegistryDatabase::MakeKey(const KeyPlace& place) {
+  if (LookUpKey(place)) return true;
+  if (!connection_.Execute("BEGIN IMMEDIATE")) return false;
+  if (MakeKeysOnTheWay(place) && connection_.Execute("COMMIT")) return true;
   connection_.Execute("ROLLBACK");
-  return std::nullopt;
+  return false;
 }
 
-std::optional<QueriedValue> RegistryDatabase::Query(std::int64_t key, TextView name,
+std::optional<QueriedValue> RegistryDatabase::Query(const KeyPlace& place, TextView name,
                                                     std::span<char> buffer) {
   if (!IsUsable()) return std::nullopt;
+  while (const auto key = FindKey(place)) {
+    const auto value = QueryIn(*key, name, buffer);
+    if (!ForgetChangedKeys()) return value;
+  }
+  return std::nullopt;
+}
+
+bool RegistryDatabase::Set(const KeyPlace& place, TextView name, std::uint32_t type,
+                           std::string_view data) {
+  if (!IsUsable()) return false;
+  const std::string path = Folded(place.path);
+  const std::string folded = Folded(name);
+  const std::string written = Utf8(name);
+  Start(set_, std::int64_t{place.root}, path, folded, written, std::int64_t{type},
+        SqliteBytes{data});
+  return Finish(set_) && connection_.Changes() == 1;
+}
+
+/// Makes the tables, unless another process has just done so.
+bool RegistryDatabase::MakeSchema() {
+  if (!connection_.Execute("BEGIN IMMEDIATE")) return false;
+  const Content content = ContentOf(connection_);
+  const bool made = content == Content::kRegistry ||
+                    (content == Content::kNothing && connection_.Execute(kSchema));
+  return made && connection_.Execute("COMMIT");
+}
+
+bool RegistryDatabase::PrepareStatements() {
+  look_up_key_ = connection_.Prepare(kLookUpKey);
+  make_key_ = connection_.Prepare(kMakeKey);
+  query_ = connection_.Prepare(kQuery);
+  set_ = connection_.Prepare(kSet);
+  return look_up_key_ != nullptr && make_key_ != nullptr && query_ != nullptr && set_ != nullptr;
+}
+
+std::optional<std::int64_t> RegistryDatabase::LookUpKey(const KeyPlace& place) {
+  const std::string folded = Folded(place.path);
+  Start(look_up_key_, std::int64_t{place.root}, folded);
+  std::optional<std::int64_t> key;
+  if (sqlite3_step(look_up_key_) == SQLITE_ROW) key = sqlite3_column_int64(look_up_key_, 0);
+  sqlite3_reset(look_up_key_);
+  return key;
+}
+
+/// The same, remembered until `ForgetChangedKeys`.
+std::optional<std::int64_t> RegistryDatabase::FindKey(const KeyPlace& place) {
+  const auto found = found_.find(place);
+  if (found != found_.end()) return found->second;
+  const auto key = LookUpKey(place);
+  if (key) found_.emplace(place, *key);
+  return key;
+}
+
+bool RegistryDatabase::MakeKeysOnTheWay(const KeyPlace& place) {
+  const TextView path = place.path;
+  std::string parent;
+  for (std::size_t start = 0; start <= path.size();) {
+    const std::size_t end = std::min(path.find(u'\\', start), path.size());
+    const std::string folded = Folded(path.substr(0, end));
+    const std::string name = Utf8(path.substr(start, end - start));
+    Start(make_key_, std::int64_t{place.root}, folded, parent, name);
+    if (!Finish(make_key_)) return false;
+    parent = folded;
+    start = end + 1;
+  }
+  return true;
+}
+
+std::optional<QueriedValue> RegistryDatabase::QueryIn(std::int64_t key, TextView name,
+                                                      std::span<char> buffer) {
   const std::string folded = Folded(name);
   Start(query_, key, folded);
   std::optional<QueriedValue> value;
@@ -124,45 +182,12 @@ std::optional<QueriedValue> RegistryDatabase::Query(std::int64_t key, TextView n
   return value;
 }
 
-bool RegistryDatabase::Set(std::int64_t key, TextView name, std::uint32_t type,
-                           std::string_view data) {
-  if (!IsUsable()) return false;
-  EndReading();  // SQLite refuses to write on top of a read that another process overtook
-  const std::string folded = Folded(name);
-  const std::string written = Utf8(name);
-  Start(set_, key, folded, written, std::int64_t{type}, SqliteBytes{data});
-  return Finish(set_);
-}
-
-/// Makes the tables, unless another process has just done so.
-bool RegistryDatabase::MakeSchema() {
-  if (!connection_.Execute("BEGIN IMMEDIATE")) return false;
-  const Content content = ContentOf(connection_);
-  const bool made = content == Content::kRegistry ||
-                    (content == Content::kNothing && connection_.Execute(kSchema));
-  return made && connection_.Execute("COMMIT");
-}
-
-bool RegistryDatabase::PrepareStatements() {
-  find_key_ = connection_.Prepare(kFindKey);
-  make_key_ = connection_.Prepare(kMakeKey);
-  query_ = connection_.Prepare(kQuery);
-  set_ = connection_.Prepare(kSet);
-  return find_key_ != nullptr && make_key_ != nullptr && query_ != nullptr && set_ != nullptr;
-}
-
-/// Makes each key on the way to `path` that is not there.
-bool RegistryDatabase::MakeKeys(std::int32_t root, TextView path) {
-  std::string parent;
-  for (std::size_t start = 0; start <= path.size();) {
-    const std::size_t end = std::min(path.find(u'\\', start), path.size());
-    const std::string folded = Folded(path.substr(0, end));
-    const std::string name = Utf8(path.substr(start, end - start));
-    Start(make_key_, std::int64_t{root}, folded, parent, name);
-    if (!Finish(make_key_)) return false;
-    parent = folded;
-    start = end + 1;
-  }
+/// Whether anything changed, and with it maybe the keys, since they were found.
+bool RegistryDatabase::ForgetChangedKeys() {
+  const unsigned version = connection_.DataVersion();
+  if (version == found_in_) return false;
+  found_in_ = version;
+  found_.clear();
   return true;
 }
 

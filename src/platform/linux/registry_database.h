@@ -3,9 +3,25 @@
 
 #include <ZQ7Standard/platform/registry.h>
 
+#include <unordered_map>
+
 #include "platform/linux/sqlite_connection.h"
 
 namespace ZQ7Standard {
+
+/// Where a key is: a root, and the path below it in the form of `KeyPath`.
+struct KeyPlace {
+  std::int32_t root;
+  Text path;
+
+  friend bool operator==(const KeyPlace&, const KeyPlace&) = default;
+
+  struct Hash {
+    std::size_t operator()(const KeyPlace& place) const {
+      return std::hash<Text>()(place.path) + static_cast<std::size_t>(place.root);
+    }
+  };
+};
 
 /// An open database of registry keys, used by one thread at a time. What fails, or
 /// is asked in a child of the process that opened it, is answered with nothing.
@@ -25,16 +41,14 @@ class RegistryDatabase {
   bool IsUsable() const { return connection_.IsUsable(); }
   bool WasMoved() { return connection_.WasMoved(); }
 
-  /// The number of the key at `path` (see `KeyPath`). It begins a read, which
-  /// spares `Query` a lock of its own and lasts until `EndReading`.
-  std::optional<std::int64_t> FindKey(std::int32_t root, TextView path);
-  void EndReading();
+  /// Whether there is a key. It may be gone by now when it was found before.
+  bool HasKey(const KeyPlace& place) { return FindKey(place).has_value(); }
 
-  /// The same, making the keys that are not there.
-  std::optional<std::int64_t> FindOrMakeKey(std::int32_t root, TextView path);
+  /// Makes a key, and those above it, unless they are there. Whether they are now.
+  bool MakeKey(const KeyPlace& place);
 
-  std::optional<QueriedValue> Query(std::int64_t key, TextView name, std::span<char> buffer);
-  bool Set(std::int64_t key, TextView name, std::uint32_t type, std::string_view data);
+  std::optional<QueriedValue> Query(const KeyPlace& place, TextView name, std::span<char> buffer);
+  bool Set(const KeyPlace& place, TextView name, std::uint32_t type, std::string_view data);
 
   /// For `Open` alone.
   RegistryDatabase(const std::filesystem::path& file, int flags) : connection_(file, flags) {}
@@ -42,13 +56,21 @@ class RegistryDatabase {
  private:
   bool MakeSchema();
   bool PrepareStatements();
-  bool MakeKeys(std::int32_t root, TextView path);
+  std::optional<std::int64_t> LookUpKey(const KeyPlace& place);
+  std::optional<std::int64_t> FindKey(const KeyPlace& place);
+  bool MakeKeysOnTheWay(const KeyPlace& place);
+  std::optional<QueriedValue> QueryIn(std::int64_t key, TextView name, std::span<char> buffer);
+  bool ForgetChangedKeys();
 
   SqliteConnection connection_;
-  sqlite3_stmt* find_key_ = nullptr;
+  sqlite3_stmt* look_up_key_ = nullptr;
   sqlite3_stmt* make_key_ = nullptr;
   sqlite3_stmt* query_ = nullptr;
   sqlite3_stmt* set_ = nullptr;
+  // The numbers of the keys that were found in one state of the database: to look
+  // one up takes as long as to read a value.
+  std::unordered_map<KeyPlace, std::int64_t, KeyPlace::Hash> found_;
+  unsigned found_in_ = 0;
 };
 
 }  // namespace ZQ7Standard

@@ -86,6 +86,12 @@ bool SqliteConnection::WasMoved() {
   return moved != 0;
 }
 
+unsigned SqliteConnection::DataVersion() {
+  unsigned version = 0;
+  sqlite3_file_control(db_, "main", SQLITE_FCNTL_DATA_VERSION, &version);
+  return version;
+}
+
 bool SqliteConnection::Execute(const char* sql) {
   return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
 }

@@ -32,6 +32,12 @@ class SqliteConnection {
   /// Whether the file is no longer where it was opened.
   bool WasMoved();
 
+  /// A number that changes with the state of the database that the last statement saw.
+  unsigned DataVersion();
+
+  /// How many rows the last statement that writes changed.
+  int Changes() { return sqlite3_changes(db_); }
+
   /// Runs statements without parameters; whether all went well.
   bool Execute(const char* sql);
 
