@@ -43,36 +43,29 @@ Text Crossing(TextView name) {
   return FromCodePage(ToCodePage(name.substr(0, name.find(u'\0'))));
 }
 
-/// What `call` gives; `fallback` when the registry of a host throws.
-template <typename Result>
-Result OrFallback(Result fallback, const auto& call) {
+/// Reads the value into `buffer`; nothing when it cannot be read or is longer. The
+/// registry of a host may throw, and may say that it wrote more than there is room.
+std::optional<QueriedValue> Read(Registry& registry, std::int32_t root, TextView keyname,
+                                 TextView subkeyname, std::span<char> buffer) {
   try {
-    return call();
+    const auto key = registry.Open(root, Crossing(keyname), kKeyAllAccess);
+    if (!key) return std::nullopt;
+    const auto value = key->Query(Crossing(subkeyname), buffer);
+    return value && value->size <= buffer.size() ? value : std::nullopt;
   } catch (const std::exception&) {
-    return fallback;
+    return std::nullopt;
   }
 }
 
-/// Reads the value into `buffer`; nothing when it cannot be read or is longer, also
-/// where a host's registry answers with more than it was given room for.
-std::optional<QueriedValue> Read(Registry& registry, std::int32_t root, TextView key_path,
-                                 TextView name, std::span<char> buffer) {
-  return OrFallback<std::optional<QueriedValue>>(
-      std::nullopt, [&]() -> std::optional<QueriedValue> {
-        const auto key = registry.Open(root, Crossing(key_path), kKeyAllAccess);
-        if (!key) return std::nullopt;
-        const auto value = key->Query(Crossing(name), buffer);
-        return value && value->size <= buffer.size() ? value : std::nullopt;
-      });
-}
-
 /// Whether the value could NOT be written.
-bool WriteFails(Registry& registry, std::int32_t root, TextView key_path, TextView name,
+bool WriteFails(Registry& registry, std::int32_t root, TextView keyname, TextView subkeyname,
                 std::uint32_t type, std::string_view data) {
-  return OrFallback(true, [&] {
-    const auto key = registry.Create(root, Crossing(key_path), kCreation);
-    return !key || !key->Set(Crossing(name), type, data);
-  });
+  try {
+    const auto key = registry.Create(root, Crossing(keyname), kCreation);
+    return !key || !key->Set(Crossing(subkeyname), type, data);
+  } catch (const std::exception&) {
+    return true;
+  }
 }
 
 }  // namespace

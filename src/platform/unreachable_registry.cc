@@ -18,7 +18,7 @@ class UnreachableRegistry final : public Registry {
 
 }  // namespace
 
-std::shared_ptr<Registry> SystemRegistry(RegistryFolders /*folders*/) {
+std::shared_ptr<Registry> SystemRegistry(const RegistryFolders& /*folders*/) {
   return std::make_shared<UnreachableRegistry>();
 }
 

@@ -50,27 +50,30 @@ class RecordingCipher final : public BlockCipher {
 };
 
 /// Writes a call down; whether it is to succeed.
-bool Record(RegistryScript& script, const std::string& name, const std::string& arguments) {
-  script.calls += name + arguments + "; ";
-  if (name != script.failing) return true;
-  if (script.raises) throw RunTimeError::DeviceIoError(name, arguments);
-  return false;
+bool Record(RegistryScript& script, const std::string& call, const std::vector<Text>& arguments) {
+  script.calls += call;
+  for (const Text& argument : arguments) script.calls += " " + Utf8(argument);
+  script.calls += "; ";
+  if (call == script.failing && script.raises) throw RunTimeError::DeviceIoError(call, "");
+  return call != script.failing;
+}
+
+Text Decimal(auto number) {
+  return FromUtf8(std::to_string(number));
 }
 
 class ScriptedKey final : public RegistryKey {
  public:
   explicit ScriptedKey(RegistryScript& script) : script_(script) {}
-  ~ScriptedKey() override { Record(script_, "close", ""); }
+  ~ScriptedKey() override { Record(script_, "close", {}); }
 
   std::optional<QueriedValue> Query(TextView name, std::span<char> buffer) override {
-    const auto size = " of " + std::to_string(buffer.size());
-    if (!Record(script_, "Query", " " + Utf8(name) + size)) return std::nullopt;
+    if (!Record(script_, "Query", {Text(name), u"of", Decimal(buffer.size())})) return {};
     buffer.front() = 7;
     return QueriedValue{kRegistryNumber, 4};
   }
   bool Set(TextView name, std::uint32_t type, std::string_view data) override {
-    const auto typed = " as " + std::to_string(type) + ": ";
-    return Record(script_, "Set", " " + Utf8(name) + typed + std::string(data));
+    return Record(script_, "Set", {Text(name), u"as", Decimal(type), u"bytes", FromCodePage(data)});
   }
 
  private:
@@ -83,23 +86,21 @@ class ScriptedRegistry final : public Registry {
 
   std::unique_ptr<RegistryKey> Open(std::int32_t root, TextView path,
                                     std::uint32_t access) override {
-    return Key("Open", {std::to_string(root), Utf8(path), std::to_string(access)});
+    return KeyIf(Record(script_, "Open", {Decimal(root), Text(path), Decimal(access)}));
   }
   std::unique_ptr<RegistryKey> Create(std::int32_t root, TextView path,
                                       const KeyCreation& creation) override {
     const auto& [key_class, options, access, security] = creation;
-    return Key("Create",
-               {std::to_string(root), Utf8(path), Utf8(key_class), std::to_string(options),
-                std::to_string(access), std::to_string(security.length),
-                security.descriptor == nullptr ? "null" : "descriptor",
-                security.inherit ? "inherit" : "keep"});
+    return KeyIf(
+        Record(script_, "Create",
+               {Decimal(root), Text(path), Text(key_class), Decimal(options), Decimal(access),
+                Decimal(security.length), security.descriptor == nullptr ? u"null" : u"descriptor",
+                security.inherit ? u"inherit" : u"keep"}));
   }
 
  private:
-  std::unique_ptr<RegistryKey> Key(const char* call, const std::vector<std::string>& arguments) {
-    std::string listed;
-    for (const std::string& argument : arguments) listed += " " + argument;
-    return Record(script_, call, listed) ? std::make_unique<ScriptedKey>(script_) : nullptr;
+  std::unique_ptr<RegistryKey> KeyIf(bool succeeds) {
+    return succeeds ? std::make_unique<ScriptedKey>(script_) : nullptr;
   }
 
   RegistryScript& script_;

@@ -106,7 +106,7 @@ struct RegistryFolders {
 ///
 /// A process that forks may use it on both sides. In a library built without
 /// ZQ7STANDARD_WITH_SQLITE no key can be opened or made.
-ZQ7STANDARD_EXPORT std::shared_ptr<Registry> SystemRegistry(RegistryFolders folders = {});
+ZQ7STANDARD_EXPORT std::shared_ptr<Registry> SystemRegistry(const RegistryFolders& folders = {});
 
 /// A registry in memory, empty at first: for tests, and for hosts that are to leave
 /// nothing behind.

@@ -68,9 +68,9 @@ class Store {
 /// may not be used, so every key in it has all rights.
 class DatabaseRegistry final : public Registry {
  public:
-  explicit DatabaseRegistry(RegistryFolders folders)
-      : user_(std::move(folders.user), UserRegistryFolder, kUserOnly),
-        machine_(std::move(folders.machine), MachineRegistryFolder, kEveryoneEnters) {}
+  explicit DatabaseRegistry(const RegistryFolders& folders)
+      : user_(folders.user, UserRegistryFolder, kUserOnly),
+        machine_(folders.machine, MachineRegistryFolder, kEveryoneEnters) {}
 
   std::unique_ptr<RegistryKey> Open(std::int32_t root, TextView path,
                                     std::uint32_t /*access*/) override {
@@ -105,8 +105,8 @@ class DatabaseRegistry final : public Registry {
 
 }  // namespace
 
-std::shared_ptr<Registry> SystemRegistry(RegistryFolders folders) {
-  return std::make_shared<DatabaseRegistry>(std::move(folders));
+std::shared_ptr<Registry> SystemRegistry(const RegistryFolders& folders) {
+  return std::make_shared<DatabaseRegistry>(folders);
 }
 
 }  // namespace ZQ7Standard

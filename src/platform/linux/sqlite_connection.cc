@@ -37,7 +37,7 @@ void UnlockChild() {
 }
 
 Process& ThisProcess() {
-  static Process* const process = new Process;
+  static auto* const process = new Process;
   return *process;
 }
 
