@@ -3,14 +3,57 @@
 
 #include <ZQ7Standard/Export.h>
 #include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/registry.h>
+
+#include <cstdint>
+#include <memory>
 
 namespace ZQ7Standard {
 
-/// The password cipher for texts that are kept in the registry. An instance
-/// belongs to one thread at a time; distinct instances are independent.
+/// What a `RegistryObject` needs of the machine. A service left empty is the
+/// machine's own.
+struct RegistryServices {
+  std::shared_ptr<Registry> registry = nullptr;
+};
+
+/// Numbers and texts in the registry, and the password cipher for texts that are
+/// kept there. An instance and its copies, which share its registry, belong to one
+/// thread at a time; distinct instances are independent.
 class ZQ7STANDARD_EXPORT RegistryObject {
  public:
+  /// With the registry of the machine, which is not touched before the first call.
   RegistryObject();
+  /// With services of the host's own.
+  explicit RegistryObject(RegistryServices services);
+
+  // --- Values of the registry: src/io/registry.cc; docs/files.md ---
+
+  // `keyroot` is a `KetRootType`, `keyname` the path of a key below it with "\"
+  // between the names, `subkeyname` the name of a value in that key. Case does not
+  // count in either; characters outside Windows-874 count as "?", and a character 0
+  // ends the name. No failure raises: reads give 0 or no text, updates true.
+
+  /// The number that the value holds; 0 when there is none, or it holds anything
+  /// but a number, be it a text of digits. A key that the user may read but not
+  /// write counts as none.
+  std::int32_t GetKeyValueLong(std::int32_t keyroot, TextView keyname, TextView subkeyname) const;
+
+  /// The text that the value holds, less one character 0 at its end; empty when
+  /// there is none, it has more than 1,024 bytes, or it holds anything but a plain
+  /// text. A key that the user may read but not write counts as none.
+  Text GetKeyValueString(std::int32_t keyroot, TextView keyname, TextView subkeyname) const;
+
+  /// Sets the value to a number, making the key and those above it where they are
+  /// not there. False (0) says that it was done, true (-1) that it FAILED: callers
+  /// test for 0.
+  bool UpdateKeyValueLong(std::int32_t keyroot, TextView keyname, TextView subkeyname,
+                          std::int32_t keyval) const;
+
+  /// The same for a text, which is stored in Windows-874 with one byte for each
+  /// character and no zero behind it. A text of more than 1,024 characters is
+  /// stored, but `GetKeyValueString` does not read it.
+  bool UpdateKeyValueString(std::int32_t keyroot, TextView keyname, TextView subkeyname,
+                            TextView keyval) const;
 
   // --- Texts under a password: src/text/cipher.cc; docs/security.md ---
 
@@ -19,6 +62,9 @@ class ZQ7STANDARD_EXPORT RegistryObject {
   Text Encrypt(TextView StringInput, TextView PassWord) const;
   /// The same as `Encrypt`, which undoes itself.
   Text Decrypt(TextView EncryptedTextInput, TextView PassWord) const;
+
+ private:
+  RegistryServices services_;
 };
 
 }  // namespace ZQ7Standard

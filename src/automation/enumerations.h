@@ -4,6 +4,7 @@
 #include <ZQ7Standard/CImageInfo.h>
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/automation/catalogue.h>
+#include <ZQ7Standard/platform/registry.h>
 
 #include <array>
 
@@ -45,6 +46,18 @@ struct EnumeratorsOf<eImageType> {
       {"itJPEG", itJPEG},
       {"itPNG", itPNG},
       {"itBMP", itBMP},
+  });
+};
+
+template <>
+struct EnumeratorsOf<KetRootType> {
+  static constexpr std::string_view kName = "KetRootType";
+  static constexpr auto kMembers = std::to_array<EnumeratorInfo>({
+      {"HKEY_CLASSES_ROOT", HKEY_CLASSES_ROOT},
+      {"HKEY_CURRENT_USER", HKEY_CURRENT_USER},
+      {"HKEY_LOCAL_MACHINE", HKEY_LOCAL_MACHINE},
+      {"HKEY_USERS", HKEY_USERS},
+      {"HKEY_PERFORMANCE_DATA", HKEY_PERFORMANCE_DATA},
   });
 };
 

@@ -95,7 +95,8 @@ EventSink::~EventSink() = default;
 
 HostServices ExampleServices() {
   return {.clock = FixedClock(OleDate::FromParts(2024, 1, 15, 9, 30)),
-          .date_convention = FixedDateConvention({FieldOrder::kDayFirst, Era::kBuddhist})};
+          .date_convention = FixedDateConvention({FieldOrder::kDayFirst, Era::kBuddhist}),
+          .registry = MemoryRegistry()};
 }
 
 Object Create(std::string_view class_name, const HostServices& services) {

@@ -63,6 +63,7 @@ OperationInfo Described(std::string_view name, std::span<const ParameterRow> par
                                .optional = row.optional,
                                .default_value = Typed(row.default_value, types[i], context),
                                .by_reference = row.by_reference});
+    if (row.enumeration != nullptr) info.parameters.back().type.enumeration = row.enumeration;
   }
   for (const ExampleRow& row : examples) {
     info.examples.push_back(Worked(row, result, context));

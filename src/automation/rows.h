@@ -28,7 +28,16 @@ struct ParameterRow {
   bool optional = false;
   Value default_value = Omitted{};
   bool by_reference = false;
+  const EnumerationInfo* enumeration = nullptr;
 };
+
+/// A 32-bit number that hosts take from an enumeration.
+template <EnumerationType Enumeration>
+ParameterRow MemberOf(const char* name) {
+  ParameterRow row(name);
+  row.enumeration = &kEnumerationOf<Enumeration>;
+  return row;
+}
 
 /// One that may be left out, and what it is then.
 ParameterRow Optional(const char* name, Value default_value = Omitted{});

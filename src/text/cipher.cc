@@ -100,8 +100,6 @@ Text StandardObject::Decrypt(TextView EncryptedTextInput, TextView PassWord) con
   return text;
 }
 
-RegistryObject::RegistryObject() = default;
-
 Text RegistryObject::Encrypt(TextView StringInput, TextView PassWord) const {
   return Combine(StringInput, PassWord, "Encrypt");
 }

@@ -45,7 +45,10 @@ std::map<std::string, std::string> Declarations(const std::string& headers,
 
 /// The C++ type of a parameter or a result.
 std::string CppType(const TypeInfo& type, bool parameter, bool tells_missing) {
-  if (type.enumeration != nullptr) return std::string(type.enumeration->name);
+  // A root is any 32-bit number.
+  if (type.enumeration != nullptr && type.enumeration->name != "KetRootType") {
+    return std::string(type.enumeration->name);
+  }
   if (tells_missing) return "optional<double>";
   if (type.type == Type::kObject) {
     return "const shared_ptr<" + std::string(type.object_class) + ">&";

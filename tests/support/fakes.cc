@@ -49,6 +49,63 @@ class RecordingCipher final : public BlockCipher {
   std::string& calls_;
 };
 
+/// Writes a call down; whether it is to succeed.
+bool Record(RegistryScript& script, const std::string& call, const std::vector<Text>& arguments) {
+  script.calls += call;
+  for (const Text& argument : arguments) script.calls += " " + Utf8(argument);
+  script.calls += "; ";
+  if (call == script.failing && script.raises) throw RunTimeError::DeviceIoError(call, "");
+  return call != script.failing;
+}
+
+Text Decimal(auto number) {
+  return FromUtf8(std::to_string(number));
+}
+
+class ScriptedKey final : public RegistryKey {
+ public:
+  explicit ScriptedKey(RegistryScript& script) : script_(script) {}
+  ~ScriptedKey() override { Record(script_, "close", {}); }
+
+  std::optional<QueriedValue> Query(TextView name, std::span<char> buffer) override {
+    if (!Record(script_, "Query", {Text(name), u"of", Decimal(buffer.size())})) return {};
+    buffer.front() = 7;
+    return QueriedValue{kRegistryNumber, 4};
+  }
+  bool Set(TextView name, std::uint32_t type, std::string_view data) override {
+    return Record(script_, "Set", {Text(name), u"as", Decimal(type), u"bytes", FromCodePage(data)});
+  }
+
+ private:
+  RegistryScript& script_;
+};
+
+class ScriptedRegistry final : public Registry {
+ public:
+  explicit ScriptedRegistry(RegistryScript& script) : script_(script) {}
+
+  std::unique_ptr<RegistryKey> Open(std::int32_t root, TextView path,
+                                    std::uint32_t access) override {
+    return KeyIf(Record(script_, "Open", {Decimal(root), Text(path), Decimal(access)}));
+  }
+  std::unique_ptr<RegistryKey> Create(std::int32_t root, TextView path,
+                                      const KeyCreation& creation) override {
+    const auto& [key_class, options, access, security] = creation;
+    return KeyIf(
+        Record(script_, "Create",
+               {Decimal(root), Text(path), Text(key_class), Decimal(options), Decimal(access),
+                Decimal(security.length), security.descriptor == nullptr ? u"null" : u"descriptor",
+                security.inherit ? u"inherit" : u"keep"}));
+  }
+
+ private:
+  std::unique_ptr<RegistryKey> KeyIf(bool succeeds) {
+    return succeeds ? std::make_unique<ScriptedKey>(script_) : nullptr;
+  }
+
+  RegistryScript& script_;
+};
+
 }  // namespace
 
 OleDate TestNow() {
@@ -62,6 +119,10 @@ StandardObject ObjectWith(DateConvention convention, OleDate now) {
 
 BlockCipherFactory FakeBlockCipher(std::string& calls) {
   return [&calls] { return std::make_unique<RecordingCipher>(calls); };
+}
+
+std::shared_ptr<Registry> FakeRegistry(RegistryScript& script) {
+  return std::make_shared<ScriptedRegistry>(script);
 }
 
 int ErrorOf(const std::function<void()>& call) {

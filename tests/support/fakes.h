@@ -1,6 +1,7 @@
 #ifndef ZQ7STANDARD_TESTS_SUPPORT_FAKES_H_
 #define ZQ7STANDARD_TESTS_SUPPORT_FAKES_H_
 
+#include <ZQ7Standard/RegistryObject.h>
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/serial_port.h>
@@ -61,6 +62,16 @@ struct RecordingSerialPort final : SerialPort {
   std::string calls;
   std::function<void(const std::string&)> on_call;
 };
+
+/// What a `FakeRegistry` saw, and how it is to answer.
+struct RegistryScript {
+  std::string calls;
+  std::string failing;  // the call that answers with nothing: "Open", "Create", "Query" or "Set"
+  bool raises = false;  // instead of answering with nothing
+};
+
+/// A registry that holds the number 7, whatever it is asked for.
+std::shared_ptr<Registry> FakeRegistry(RegistryScript& script);
 
 /// The run-time error number that `call` raises; 0 when it raises none.
 int ErrorOf(const std::function<void()>& call);

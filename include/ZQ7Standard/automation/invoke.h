@@ -10,6 +10,7 @@
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/path_text.h>
 #include <ZQ7Standard/platform/random_source.h>
+#include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
 
 #include <memory>
@@ -28,9 +29,11 @@ struct HostServices {
   std::shared_ptr<MessageBox> message_box = nullptr;
   SerialDevices serial_devices = {};
   DriveMap drives = {};
+  std::shared_ptr<Registry> registry = nullptr;
 };
 
-/// What the examples of the catalogue run with, besides an empty folder C:\shop.
+/// What the examples of the catalogue run with, besides an empty folder C:\shop: a clock
+/// that stands, a date convention, and a registry in memory.
 ZQ7STANDARD_EXPORT HostServices ExampleServices();
 
 struct NamedArgument {

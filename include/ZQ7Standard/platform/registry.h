@@ -1,0 +1,117 @@
+#ifndef ZQ7STANDARD_PLATFORM_REGISTRY_H_
+#define ZQ7STANDARD_PLATFORM_REGISTRY_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// The keys that every registry begins with, as the platform numbers them.
+enum KetRootType : std::int32_t {
+  HKEY_CLASSES_ROOT = std::numeric_limits<std::int32_t>::min(),  ///< 0x80000000
+  HKEY_CURRENT_USER = HKEY_CLASSES_ROOT + 1,                     ///< the user's own
+  HKEY_LOCAL_MACHINE = HKEY_CLASSES_ROOT + 2,                    ///< the machine's
+  HKEY_USERS = HKEY_CLASSES_ROOT + 3,
+  HKEY_PERFORMANCE_DATA = HKEY_CLASSES_ROOT + 4,  ///< never holds a value
+};
+
+/// All the rights to a key, as an access mask.
+inline constexpr std::uint32_t kKeyAllAccess = 0xF003F;
+/// The option of a key that stays when the machine is turned off.
+inline constexpr std::uint32_t kKeyNonVolatile = 0;
+
+/// The types of a value that the library writes and reads. A registry may hold
+/// values of any other.
+inline constexpr std::uint32_t kRegistryText = 1;
+inline constexpr std::uint32_t kRegistryNumber = 4;  ///< 32 bits, low byte first
+
+/// Who may use a key that is made, and whether processes inherit it.
+struct KeySecurity {
+  std::uint32_t length = 0;          ///< bytes, as the caller states it
+  const void* descriptor = nullptr;  ///< the platform's own; nullptr for the default
+  bool inherit = false;
+};
+
+/// How a key is made, or opened where it is there.
+struct KeyCreation {
+  TextView key_class;
+  std::uint32_t options = kKeyNonVolatile;
+  std::uint32_t access = kKeyAllAccess;
+  KeySecurity security;
+};
+
+/// What a query found: the type, and how many bytes of data it wrote.
+struct QueriedValue {
+  std::uint32_t type;
+  std::size_t size;
+};
+
+/// A key that was opened; its destructor closes it. It is not used after its
+/// registry, nor in another process.
+class ZQ7STANDARD_EXPORT RegistryKey {
+ public:
+  virtual ~RegistryKey();
+
+  /// Writes the data of the value `name` to the front of `buffer`. Nothing, and
+  /// nothing written, when there is no such value or it is longer than `buffer`.
+  virtual std::optional<QueriedValue> Query(TextView name, std::span<char> buffer) = 0;
+
+  /// Gives the value `name` a type and data, whatever it was. False when it cannot
+  /// be written, which changes nothing; true when it will outlast a loss of power.
+  virtual bool Set(TextView name, std::uint32_t type, std::string_view data) = 0;
+};
+
+/// The registry behind `RegistryObject`: keys below a few roots, each with named
+/// values. A path has "\" between its names. Paths and names compare without
+/// regard to case. They hold characters of the code page only, and no character 0.
+///
+/// `root` is any number, mostly a `KetRootType`. An operation that cannot do what
+/// it should answers with nothing. A registry belongs to one thread at a time, and
+/// so do its keys.
+class ZQ7STANDARD_EXPORT Registry {
+ public:
+  virtual ~Registry();
+
+  /// The key at `path` below `root` with the rights of the mask `access`; nothing
+  /// when it is not there or a right is not granted.
+  virtual std::unique_ptr<RegistryKey> Open(std::int32_t root, TextView path,
+                                            std::uint32_t access) = 0;
+
+  /// The same, after making the key where it is not there, and the keys above it.
+  virtual std::unique_ptr<RegistryKey> Create(std::int32_t root, TextView path,
+                                              const KeyCreation& creation) = 0;
+};
+
+/// The folders that hold the databases of `SystemRegistry`. An empty path is the
+/// machine's own place for it.
+struct RegistryFolders {
+  std::filesystem::path user;     ///< of HKEY_CURRENT_USER; else ~/.local/share/zq7standard
+  std::filesystem::path machine;  ///< of the other roots; else /var/lib/zq7standard
+};
+
+/// The registry of the machine. On Linux it is two SQLite databases, whose file
+/// permissions are the rights to it: who may not write one may not open a key of
+/// it either. An update is on the disk when it returns, and processes may write at
+/// the same time. Nothing is opened before the first call, nothing made before the
+/// first key is. docs/files.md is for who looks after it.
+///
+/// A process that forks may use it on both sides. In a library built without
+/// ZQ7STANDARD_WITH_SQLITE no key can be opened or made.
+ZQ7STANDARD_EXPORT std::shared_ptr<Registry> SystemRegistry(const RegistryFolders& folders = {});
+
+/// A registry in memory, empty at first: for tests, and for hosts that are to leave
+/// nothing behind.
+ZQ7STANDARD_EXPORT std::shared_ptr<Registry> MemoryRegistry();
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PLATFORM_REGISTRY_H_

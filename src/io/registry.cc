@@ -1,0 +1,109 @@
+#include <ZQ7Standard/RegistryObject.h>
+
+#include <array>
+#include <exception>
+#include <string>
+#include <utility>
+
+#include "text/code_page.h"
+
+namespace ZQ7Standard {
+namespace {
+
+constexpr std::size_t kTextBuffer = 1024;
+
+// How updates make a key. The length is not that of the platform's structure, and
+// the class says nothing; but the keys that hosts have were made so.
+constexpr KeyCreation kCreation = {
+    .key_class = u"1",
+    .options = kKeyNonVolatile,
+    .access = kKeyAllAccess,
+    .security = {.length = 50, .descriptor = nullptr, .inherit = true},
+};
+
+using NumberBytes = std::array<char, sizeof(std::int32_t)>;
+
+NumberBytes BytesOf(std::int32_t number) {
+  NumberBytes bytes;
+  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(number >> (8 * i));
+  return bytes;
+}
+
+std::int32_t NumberOf(const NumberBytes& bytes) {
+  std::uint32_t number = 0;
+  for (std::size_t i = bytes.size(); i-- > 0;) {
+    number = (number << 8) | static_cast<unsigned char>(bytes[i]);
+  }
+  return static_cast<std::int32_t>(number);
+}
+
+/// The path of a key or the name of a value as it crosses to a registry: up to its
+/// first character 0, in the characters of the code page.
+Text Crossing(TextView name) {
+  return FromCodePage(ToCodePage(name.substr(0, name.find(u'\0'))));
+}
+
+/// Reads the value into `buffer`; nothing when it cannot be read or is longer. The
+/// registry of a host may throw, and may say that it wrote more than there is room.
+std::optional<QueriedValue> Read(Registry& registry, std::int32_t root, TextView keyname,
+                                 TextView subkeyname, std::span<char> buffer) {
+  try {
+    const auto key = registry.Open(root, Crossing(keyname), kKeyAllAccess);
+    if (!key) return std::nullopt;
+    const auto value = key->Query(Crossing(subkeyname), buffer);
+    return value && value->size <= buffer.size() ? value : std::nullopt;
+  } catch (const std::exception&) {
+    return std::nullopt;
+  }
+}
+
+/// Whether the value could NOT be written.
+bool WriteFails(Registry& registry, std::int32_t root, TextView keyname, TextView subkeyname,
+                std::uint32_t type, std::string_view data) {
+  try {
+    const auto key = registry.Create(root, Crossing(keyname), kCreation);
+    return !key || !key->Set(Crossing(subkeyname), type, data);
+  } catch (const std::exception&) {
+    return true;
+  }
+}
+
+}  // namespace
+
+RegistryObject::RegistryObject() : RegistryObject(RegistryServices{}) {}
+
+RegistryObject::RegistryObject(RegistryServices services) : services_(std::move(services)) {
+  if (!services_.registry) services_.registry = SystemRegistry();
+}
+
+std::int32_t RegistryObject::GetKeyValueLong(std::int32_t keyroot, TextView keyname,
+                                             TextView subkeyname) const {
+  NumberBytes buffer{};
+  const auto value = Read(*services_.registry, keyroot, keyname, subkeyname, buffer);
+  return value && value->type == kRegistryNumber ? NumberOf(buffer) : 0;
+}
+
+Text RegistryObject::GetKeyValueString(std::int32_t keyroot, TextView keyname,
+                                       TextView subkeyname) const {
+  std::array<char, kTextBuffer> buffer{};
+  const auto value = Read(*services_.registry, keyroot, keyname, subkeyname, buffer);
+  if (!value || value->type != kRegistryText) return {};
+  std::string_view bytes(buffer.data(), value->size);
+  if (bytes.ends_with('\0')) bytes.remove_suffix(1);
+  return FromCodePage(bytes);
+}
+
+bool RegistryObject::UpdateKeyValueLong(std::int32_t keyroot, TextView keyname, TextView subkeyname,
+                                        std::int32_t keyval) const {
+  const NumberBytes bytes = BytesOf(keyval);
+  return WriteFails(*services_.registry, keyroot, keyname, subkeyname, kRegistryNumber,
+                    {bytes.data(), bytes.size()});
+}
+
+bool RegistryObject::UpdateKeyValueString(std::int32_t keyroot, TextView keyname,
+                                          TextView subkeyname, TextView keyval) const {
+  return WriteFails(*services_.registry, keyroot, keyname, subkeyname, kRegistryText,
+                    ToCodePage(keyval));
+}
+
+}  // namespace ZQ7Standard

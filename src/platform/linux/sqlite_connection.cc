@@ -1,0 +1,163 @@
+#include "platform/linux/sqlite_connection.h"
+
+#include <pthread.h>
+
+#include <algorithm>
+#include <mutex>
+#include <vector>
+
+namespace ZQ7Standard {
+namespace {
+
+// Long enough for a queue of writers that wait for a slow disk.
+constexpr int kBusyMilliseconds = 10'000;
+
+/// What a process knows of its connections. It stays to the very end, because
+/// connections may be closed by destructors of static objects.
+struct Process {
+  std::mutex mutex;
+  std::vector<SqliteConnection*> connections;  // inherited ones too
+  unsigned forks = 0;
+  bool may_open = true;  // false when it could not let go of an inherited connection
+};
+
+Process& ThisProcess();
+
+void LockProcess() {
+  ThisProcess().mutex.lock();
+}
+
+void UnlockProcess() {
+  ThisProcess().mutex.unlock();
+}
+
+void UnlockChild() {
+  ++ThisProcess().forks;
+  UnlockProcess();
+}
+
+Process& ThisProcess() {
+  static auto* const process = new Process;
+  return *process;
+}
+
+void WatchForks() {
+  static const int watched = pthread_atfork(LockProcess, UnlockProcess, UnlockChild);
+  static_cast<void>(watched);
+}
+
+}  // namespace
+
+SqliteConnection::SqliteConnection(const std::filesystem::path& file, int flags) {
+  WatchForks();
+  Process& process = ThisProcess();
+  const std::lock_guard lock(process.mutex);
+  forks_ = process.forks;
+  process.connections.push_back(this);
+  if (!LetGoOfInherited()) return;
+  const int result = sqlite3_open_v2(file.c_str(), &db_, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+  // A file without the right to write would be opened for reading.
+  const bool writable = result == SQLITE_OK && sqlite3_db_readonly(db_, "main") == 0;
+  if (writable) {
+    sqlite3_busy_timeout(db_, kBusyMilliseconds);
+  } else {
+    Close();
+  }
+}
+
+SqliteConnection::~SqliteConnection() {
+  Process& process = ThisProcess();
+  const std::lock_guard lock(process.mutex);
+  std::erase(process.connections, this);
+  if (forks_ == process.forks) {
+    Close();
+  } else {
+    process.may_open = LetGo() && process.may_open;
+  }
+}
+
+bool SqliteConnection::IsUsable() const {
+  return forks_ == ThisProcess().forks && db_ != nullptr;
+}
+
+bool SqliteConnection::WasMoved() {
+  int moved = 0;
+  sqlite3_file_control(db_, "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+  return moved != 0;
+}
+
+unsigned SqliteConnection::DataVersion() {
+  unsigned version = 0;
+  sqlite3_file_control(db_, "main", SQLITE_FCNTL_DATA_VERSION, &version);
+  return version;
+}
+
+bool SqliteConnection::Execute(const char* sql) {
+  return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+std::int64_t SqliteConnection::Number(const char* sql, std::int64_t fallback) {
+  sqlite3_stmt* const statement = Prepare(sql);
+  const bool found = sqlite3_step(statement) == SQLITE_ROW;
+  const std::int64_t number = found ? sqlite3_column_int64(statement, 0) : fallback;
+  sqlite3_finalize(statement);
+  return number;
+}
+
+sqlite3_stmt* SqliteConnection::Prepare(const char* sql) {
+  sqlite3_stmt* statement = nullptr;
+  sqlite3_prepare_v3(db_, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+  return statement;
+}
+
+/// Whether the process may open databases.
+bool SqliteConnection::LetGoOfInherited() {
+  Process& process = ThisProcess();
+  for (SqliteConnection* const connection : process.connections) {
+    if (connection->forks_ == process.forks) continue;
+    process.may_open = connection->LetGo() && process.may_open;
+  }
+  return process.may_open;
+}
+
+/// Closes an inherited connection without a checkpoint, which would be the parent's
+/// to make, and without removing the log. Not while another thread of the parent was
+/// writing at the fork: to close would be to undo, in memory that the parent shares.
+bool SqliteConnection::LetGo() {
+  if (db_ == nullptr) return true;
+  if (sqlite3_txn_state(db_, nullptr) == SQLITE_TXN_WRITE) return false;
+  sqlite3_db_config(db_, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  Close();
+  return true;
+}
+
+void SqliteConnection::Close() {
+  if (db_ == nullptr) return;
+  while (sqlite3_stmt* const statement = sqlite3_next_stmt(db_, nullptr)) {
+    sqlite3_finalize(statement);
+  }
+  sqlite3_close(db_);
+  db_ = nullptr;
+}
+
+void Bind(sqlite3_stmt* statement, int index, std::int64_t number) {
+  sqlite3_bind_int64(statement, index, number);
+}
+
+void Bind(sqlite3_stmt* statement, int index, std::string_view utf8) {
+  sqlite3_bind_text64(statement, index, utf8.data(), utf8.size(), SQLITE_STATIC, SQLITE_UTF8);
+}
+
+void Bind(sqlite3_stmt* statement, int index, SqliteBytes data) {
+  // Without an address the parameter would be NULL.
+  const char* const bytes = data.bytes.empty() ? "" : data.bytes.data();
+  sqlite3_bind_blob64(statement, index, bytes, data.bytes.size(), SQLITE_STATIC);
+}
+
+bool Finish(sqlite3_stmt* statement) {
+  const bool done = sqlite3_step(statement) == SQLITE_DONE;
+  sqlite3_reset(statement);
+  return done;
+}
+
+}  // namespace ZQ7Standard
