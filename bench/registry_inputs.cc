@@ -1,9 +1,9 @@
 #include "bench/registry_inputs.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <random>
+
+#include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard::Bench {
 namespace {
@@ -14,16 +14,6 @@ Entry MakeEntry(int key, int value) {
   return {FromUtf8("Software\\Siam Trading\\Branch " + number), FromUtf8("Last Number " + last),
           "software\\siam trading\\branch " + number, "last number " + last};
 }
-
-struct Folder {
-  Folder() : path(mkdtemp(name.data())) {}
-  ~Folder() { std::filesystem::remove_all(path); }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-
-  std::string name = (std::filesystem::temp_directory_path() / "zq7-bench-XXXXXX").string();
-  std::filesystem::path path;
-};
 
 }  // namespace
 
@@ -40,8 +30,8 @@ const std::vector<Entry>& Entries() {
 }
 
 const std::filesystem::path& DatabaseFolder() {
-  static const Folder folder;
-  return folder.path;
+  static const TempFolder folder;
+  return folder.Native();
 }
 
 }  // namespace ZQ7Standard::Bench

@@ -1,10 +1,8 @@
 #include "bench/settings.h"
 
 #include <ZQ7Standard/platform/path_text.h>
-#include <stdlib.h>
 
 #include <array>
-#include <filesystem>
 #include <fstream>
 
 namespace ZQ7Standard::Bench {
@@ -42,18 +40,10 @@ std::string SettingsAsGroup() {
   return std::string("[").append(kGroup).append("]\n").append(Joined("", "="));
 }
 
-ScratchFile::ScratchFile(Place place, std::string_view bytes) {
-  const std::filesystem::path parent =
-      place == Place::kMemory ? "/dev/shm" : std::filesystem::temp_directory_path();
-  folder_ = parent / "zq7_bench.XXXXXX";
-  mkdtemp(folder_.data());
-  name_ = folder_ + "/set.ini";
+ScratchFile::ScratchFile(Place place, std::string_view bytes)
+    : folder_(place == Place::kMemory ? "/dev/shm" : std::filesystem::temp_directory_path()),
+      name_(Folder() + "/set.ini") {
   std::ofstream(name_, std::ios::binary) << bytes;
-}
-
-ScratchFile::~ScratchFile() {
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
 }
 
 Text ScratchFile::Path() const {

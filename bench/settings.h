@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/support/temp_folder.h"
+
 namespace ZQ7Standard::Bench {
 
 /// The 200 keys of a settings file, such as "PosPaper017"; the same on each run.
@@ -27,16 +29,13 @@ class ScratchFile {
   enum class Place { kMemory, kDisk };
 
   ScratchFile(Place place, std::string_view bytes);
-  ScratchFile(const ScratchFile&) = delete;
-  ScratchFile& operator=(const ScratchFile&) = delete;
-  ~ScratchFile();
 
   const std::string& Name() const { return name_; }
-  const std::string& Folder() const { return folder_; }
+  const std::string& Folder() const { return folder_.Native().native(); }
   Text Path() const;
 
  private:
-  std::string folder_;
+  TempFolder folder_;
   std::string name_;
 };
 

@@ -11,6 +11,8 @@
 #include <functional>
 #include <iterator>
 
+#include "tests/support/temp_folder.h"
+
 namespace ZQ7Standard {
 namespace {
 
@@ -24,7 +26,6 @@ constexpr uid_t kNobody = 65534;
 class SystemRegistryTest : public testing::Test {
  protected:
   SystemRegistryTest() { fs::permissions(folder_, fs::perms{0755}); }
-  ~SystemRegistryTest() override { fs::remove_all(folder_); }
 
   RegistryServices Services() const { return {SystemRegistry({folder_ / "u", folder_ / "m"})}; }
   RegistryObject Object() const { return RegistryObject(Services()); }
@@ -38,8 +39,8 @@ class SystemRegistryTest : public testing::Test {
     sqlite3_close(db);
   }
 
-  std::string temporary_ = (fs::temp_directory_path() / "zq7-XXXXXX").string();
-  fs::path folder_ = mkdtemp(temporary_.data());
+  const TempFolder temporary_;
+  const fs::path folder_ = temporary_.Native();
 };
 
 using SystemRegistryBreadth = SystemRegistryTest;

@@ -2,23 +2,15 @@
 #define ZQ7STANDARD_TESTS_SUPPORT_ASCII_FILES_H_
 
 #include <ZQ7Standard/ASCIIObject.h>
-#include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "tests/support/fakes.h"
+#include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {
-
-/// Keeps what it was to show.
-struct FakeMessageBox final : MessageBox {
-  void Show(const Message& message) override {
-    shown += Utf8(message.title + u": " + message.text);
-  }
-  std::string shown;
-};
 
 struct FakeTimeText final : TimeTextSource {
   Text LongTime(OleDate moment) override { return u"time " + FromUtf8(IsoText(moment)); }
@@ -28,17 +20,21 @@ struct FakeTimeText final : TimeTextSource {
 class AsciiFiles {
  public:
   explicit AsciiFiles(std::shared_ptr<FileRewriter> rewriter = nullptr) {
-    mkdtemp(folder_.data());
     object = ASCIIObject({nullptr, nullptr, nullptr, rewriter, box_, FixedClock(TestNow()),
                           std::make_shared<FakeTimeText>()});
     object.SetDisableMsgLevel(1);
   }
-  ~AsciiFiles() { std::filesystem::remove_all(folder_); }
 
-  std::filesystem::path Folder() const { return folder_; }
+  std::filesystem::path Folder() const { return folder_.Native(); }
   std::filesystem::path File() const { return Folder() / "set.ini"; }
   Text Path() const { return PathText(File()); }
-  std::string TakeShown() { return std::exchange(box_->shown, {}); }
+  std::string TakeShown() {
+    std::string texts;
+    for (const Message& message : std::exchange(box_->shown, {})) {
+      texts += Utf8(message.title + u": " + message.text);
+    }
+    return texts;
+  }
 
   void Write(std::string_view bytes) const { std::ofstream(File(), std::ios::binary) << bytes; }
   std::string Read() const {
@@ -58,8 +54,8 @@ class AsciiFiles {
   ASCIIObject object;
 
  private:
-  std::string folder_ = std::filesystem::temp_directory_path() / "zq7.XXXXXX";
-  std::shared_ptr<FakeMessageBox> box_ = std::make_shared<FakeMessageBox>();
+  TempFolder folder_;
+  std::shared_ptr<RecordingMessageBox> box_ = std::make_shared<RecordingMessageBox>();
 };
 
 }  // namespace ZQ7Standard
