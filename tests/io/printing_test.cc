@@ -1,0 +1,272 @@
+#include <ZQ7Standard/PrintObject.h>
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <cmath>
+
+#include "io/fitting_text.h"
+#include "io/picture_size.h"
+#include "tests/support/printers.h"
+#include "tests/support/rows.h"
+
+namespace ZQ7Standard {
+namespace {
+
+/// What is printed by calls on an object with one recording printer.
+struct Job {
+  const char* reason;
+  const char* log;
+  void (*calls)(PrintObject& p);
+};
+
+TEST(Printing, PlacesTextAndPictures) {
+  const std::vector<Job> jobs = {
+      {"a document", "mm a@1,1 end",
+       [](auto& p) { p.PrintStart(), p.PrintGraphicText(u"a"), p.PrintOut(); }},
+      {"thrown away", "mm a@1,1 abort",
+       [](auto& p) { p.PrintStart(), p.PrintGraphicText(u"a"), p.PrintCancel(); }},
+      {"-1 is the printer's place, halves to even", "a@2,4",
+       [](auto& p) { p.PrintGraphicText(u"a"); }},
+      {"the next line starts at the left", "a@10,20 b@0,25",
+       [](auto& p) { p.PrintGraphicText(u"a", 10, 20), p.PrintGraphicText(u"b"); }},
+      {"-2 is a place", "a@-2,-3", [](auto& p) { p.PrintGraphicText(u"a", -2, -3); }},
+      {"the same line", "a@10,20 b@50,20",
+       [](auto& p) { p.PrintGraphicText(u"a", 10, 20), p.PrintGraphicText(u"b", 50, 99, 0); }},
+      {"the first on the same line", "a@10,3.5",
+       [](auto& p) { p.PrintGraphicText(u"a", 10, 99, 0); }},
+      {"a remembered 0 is the printer's place", "a@10,0 b@50,5",
+       [](auto& p) { p.PrintGraphicText(u"a", 10, 0), p.PrintGraphicText(u"b", 50, 99, 0); }},
+      {"what PrintSet prints is not remembered",
+       "a@10,20 s@5,6[BrowalliaUPC 10 222] b@9,20[BrowalliaUPC 10 222]",
+       [](auto& p) {
+         p.PrintGraphicText(u"a", 10, 20), p.PrintSet(5, 6, 0, u"s"),
+             p.PrintGraphicText(u"b", 9, 99, 0);
+       }},
+      {"centred, to the even below", "ab@98,9",
+       [](auto& p) { p.PrintGraphicText(u"ab", 100, 9, 1, 1); }},
+      {"centred, to the even above", "abcdef@96,9",
+       [](auto& p) { p.PrintGraphicText(u"abcdef", 100, 9, 1, 1); }},
+      {"at the end, not rounded", "abc@95.5,9",
+       [](auto& p) { p.PrintGraphicText(u"abc", 100, 9, 1, 2); }},
+      {"no other alignment", "a@100,9 a@100,9",
+       [](auto& p) {
+         p.PrintGraphicText(u"a", 100, 9, 1, 3), p.PrintGraphicText(u"a", 100, 9, 1, -1);
+       }},
+      {"aligned in the new font, from the printer's place", "ab@-4,4[F 20 1 bold italic]",
+       [](auto& p) { p.PrintGraphicText(u"ab", -1, -1, 1, 2, 0, u"F", 20, true, true); }},
+      {"bold and italic are always set", "a@1,1[F 20 1 bold italic] a@1,1[F 20 1]",
+       [](auto& p) {
+         p.PrintGraphicText(u"a", 1, 1, 1, 0, 0, u"F", 20, true, true),
+             p.PrintGraphicText(u"a", 1, 1);
+       }},
+      {"cut in the font before", "abc@1,1[ 20 1] a@1,1[ 20 1]",
+       [](auto& p) {
+         p.PrintGraphicText(u"abcdef", 1, 1, 1, 0, 4.5, u"", 20),
+             p.PrintGraphicText(u"abcdef", 1, 1, 1, 0, 4.5);
+       }},
+      {"cut to nothing, and not at all", "@1,1 abc@1,1",
+       [](auto& p) {
+         p.PrintGraphicText(u"abc", 1, 1, 1, 0, 1), p.PrintGraphicText(u"abc", 1, 1, 1, 0, -1);
+       }},
+      {"Row is across and Col down", "s@30.5,40.25[BrowalliaUPC 10 222]",
+       [](auto& p) { p.PrintSet(30.5, 40.25, 99, u"s"); }},
+      {"PrintSet resets the font", "a@1,1[F 20 1 bold italic] s@3,4[BrowalliaUPC 10 222]",
+       [](auto& p) {
+         p.PrintGraphicText(u"a", 1, 1, 1, 0, 0, u"F", 20, true, true), p.PrintSet(3, 4, 0, u"s");
+       }},
+      {"a picture in its own size", "picture@2,4:40x20",
+       [](auto& p) { p.PrintGraphicObject(TestPicture()); }},
+      {"a picture, and text beside it", "picture@7,8:30x20 a@50,8",
+       [](auto& p) {
+         p.PrintGraphicObject(TestPicture(), 7, 8, 30), p.PrintGraphicText(u"a", 50, 99, 0);
+       }},
+      {"a picture beside text does not move on", "a@10,20 picture@60,20:40x5.5 b@60,20",
+       [](auto& p) {
+         p.PrintGraphicText(u"a", 10, 20), p.PrintGraphicObject(TestPicture(), 60, 99, 0, 5.5, 0),
+             p.PrintGraphicText(u"b");
+       }},
+  };
+  for (const Job& job : jobs) {
+    PrintRecord record;
+    PrintObject printer({.printers = RecordingPrinters(record)});
+    job.calls(printer);
+    EXPECT_EQ(record.log, job.log) << job.reason;
+  }
+}
+
+TEST(Printing, TellsWhatThePrinterFailsToDo) {
+  // What is printed, or the error, when the printer fails to do one thing.
+  const std::vector<std::pair<const char*, Job>> rows = {
+      {"", {"no picture", "5", [](auto& p) { p.PrintGraphicObject(nullptr); }}},
+      {"MoveTo",
+       {"PrintStart passes it on", "mm 482 PrintStart: printer error (error 482): no MoveTo",
+        [](auto& p) { p.PrintStart(); }}},
+      {"PrintLine",
+       {"so does text", "482 PrintGraphicText: printer error (error 482): no PrintLine",
+        [](auto& p) { p.PrintGraphicText(u"a"); }}},
+      {"MoveTo",
+       {"and a picture", "482 PrintGraphicObject: printer error (error 482): no MoveTo",
+        [](auto& p) { p.PrintGraphicObject(TestPicture()); }}},
+      {"End",
+       {"and the end", "482 PrintOut: printer error (error 482): no End",
+        [](auto& p) { p.PrintOut(); }}},
+      {"SetFont", {"without the font", "s@3,4", [](auto& p) { p.PrintSet(3, 4, 0, u"s"); }}},
+      {"MoveTo",
+       {"without the place", "s@2.5,3.5[BrowalliaUPC 10 222]",
+        [](auto& p) { p.PrintSet(3, 4, 0, u"s"); }}},
+      {"PrintLine", {"without the text", "", [](auto& p) { p.PrintSet(3, 4, 0, u"s"); }}},
+  };
+  for (const auto& [refused, job] : rows) {
+    PrintRecord record;
+    record.refused = refused;
+    PrintObject printer({.printers = RecordingPrinters(record)});
+    try {
+      job.calls(printer);
+    } catch (const RunTimeError& error) {
+      record.Add(std::to_string(error.Number()) +
+                 (error.Number() == 482 ? std::string(" ") + error.what() : ""));
+    }
+    EXPECT_EQ(record.log, job.log) << job.reason;
+  }
+}
+
+TEST(Printing, WithoutAPrinter) {
+  PrintRecord record;
+  PrintObject printer({.printers = RecordingPrinters(record, {})});
+  EXPECT_EQ(printer.CheckPaperSize(9), 0);
+  EXPECT_EQ(printer.PrintSet(1, 1, 0, u"s"), 0);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintStart(); }), 482);
+}
+
+TEST(PrinterSelection, MakesTheRememberedPrinterCurrent) {
+  PrintRecord record;
+  const auto printers = RecordingPrinters(record, {u"Laser", u"pdf", u"ink", u"PDF"});
+  PrintObject printer({.printers = printers});
+  const auto used = [&](TextView name) {
+    record.log.clear();
+    printer.SelectPrinter(name, 1, 9, 7);
+    printer.PrintGraphicText(u"a", 1, 1);
+    return record.log;
+  };
+  ExpectRows<TextView>(used, {{{u"LASER"}, "a@1,1", "current, case aside"},
+                              {{u"Pdf"}, "use pdf use PDF a@1,1", "the last of the name"},
+                              {{u"pdf"}, "a@1,1", "current as it is"},
+                              {{u"plotter"}, "a@1,1", "not installed"},
+                              {{u""}, "a@1,1", "no name"},
+                              {{u"laser"}, "use Laser a@1,1", "back to the first"}});
+  EXPECT_EQ(printer.SelectPrinter2(u"Ink", 1, 9, 7, -1), 1);
+  EXPECT_EQ(printer.CheckPaperSize(8), 8);
+  EXPECT_EQ(printers->Current().device_name, u"ink");
+}
+
+TEST(PrinterSelection, ChecksPaperAndBin) {
+  PrintRecord record;
+  const auto paper = [&](const char* device, const char* os, std::int16_t start) {
+    PrintObject printer(
+        {.printers = RecordingPrinters(record, {FromUtf8(device)}), .os = FromUtf8(os)});
+    return printer.CheckPaperSize(start);
+  };
+  ExpectRows<const char*, const char*, std::int16_t>(
+      paper, {{{"Laser", "", 0}, "9", "the printer's own"},
+              {{"Laser", "", -1}, "9"},
+              {{"Laser", "", 1}, "1"},
+              {{"Laser", "Linux", 256}, "256", "user-defined"},
+              {{"Laser", "Windows_NT", 255}, "255"},
+              {{"Laser", "Windows_NT", 256}, "9", "not there"},
+              {{"!", "", 8}, "8", "refused, and still returned"}});
+  const auto printers = RecordingPrinters(record, {u"Laser"});
+  PrintObject printer({.printers = printers});
+  const auto bin = [&](std::int16_t start) { return printer.CheckPaperBin(start); };
+  ExpectRows<std::int16_t>(bin, {{{0}, "2"},
+                                 {{7}, "2", "never forced"},
+                                 {{-1}, "2"},
+                                 {{256}, "256"},
+                                 {{1}, "1"},
+                                 {{7}, "1"}});
+  EXPECT_EQ(printers->Current().settings->Get(PrinterSetting::kPaperBin), 1);
+  record.refused = "Get";
+  EXPECT_EQ(printer.CheckPaperBin(3), 0);
+}
+
+TEST(PaperTexts, AreThereForEveryCode) {
+  PrintRecord record;
+  const PrintObject printer({.printers = RecordingPrinters(record)});
+  const auto size = [&](std::int16_t code) { return printer.GETPaperSizeText(code); };
+  const auto bin = [&](std::int16_t code) { return printer.GETPaperBinText(code); };
+  const auto turned = [&](std::int16_t code) { return printer.GETPaperOrientationText(code); };
+  for (std::int16_t code = 1; code <= 41; ++code) EXPECT_FALSE(size(code).starts_with(u"Custom"));
+  ExpectRows<std::int16_t>(size, {{{1}, "Letter, 8 1/2 x 11 in"},
+                                  {{2}, "+A611Letter Small, 8 1/2 x 11 in", "as hosts know it"},
+                                  {{9}, "A4, 210 x 297 mm"},
+                                  {{28}, "Envelope C5, 162 x 229 mm"},
+                                  {{41}, "German Legal Fanfold, 8 1/2 x 13 in"},
+                                  {{256}, "User-defined"},
+                                  {{0}, "Custom Size: ( 0 )"},
+                                  {{300}, "Custom Size: ( 300 )"},
+                                  {{-32768}, "Custom Size: ( -32768 )"}});
+  ExpectRows<std::int16_t>(bin, {{{1}, "Upper Bin"},
+                                 {{6}, "Envelope feeder, but wait for manual insertion"},
+                                 {{7}, "Default bin"},
+                                 {{11}, "Large capacity feeder"},
+                                 {{12}, "Custom Bin: ( 12 )"},
+                                 {{14}, "Attached cassette cartridge"}});
+  ExpectRows<std::int16_t>(turned, {{{1}, "Portrait"}, {{2}, "Landscape"}, {{99}, "Portrait"}});
+}
+
+TEST(FittingText, IsWhatDroppingOneByOneLeaves) {
+  // A text that may get narrower: an "i" joins an "f" or "t", and a family of four is
+  // one picture.
+  const auto width = [](TextView text) {
+    double sum = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      const bool joins = text[i] == u'i' && i > 0 && (text[i - 1] == u'f' || text[i - 1] == u't');
+      if (text.substr(0, i + 1).ends_with(u"👨👨👨👨")) sum -= 24;
+      sum += joins ? -2 : text[i] == u'\u0E48' ? 0 : 4;
+    }
+    return sum;
+  };
+  const auto one_by_one = [&](TextView text, double limit) {
+    while (width(text) > limit)
+      text.remove_suffix(text.back() >= 0xDC00 && text.back() < 0xE000 ? 2 : 1);
+    return Text(text);
+  };
+  int measured = 0;
+  for (const TextView text : {u"officfiti ttitifi", u"a👨👨👨👨b👨👨👨👨👨c", u"ก่ก่ก่ก่่่่่่่ก่ก่", u""}) {
+    for (double limit = 0.5; limit < 100; limit += 0.75) {
+      EXPECT_EQ(FittingStart(text, limit, 32, width), one_by_one(text, limit))
+          << Shown(text) << limit;
+    }
+  }
+  const auto counted = [&](TextView text) { return ++measured, width(text); };
+  EXPECT_EQ(FittingStart(Text(2000, u'x'), 4001, 32, counted).size(), 1000U);
+  EXPECT_LT(measured, 30);
+}
+
+TEST(PictureSize, IsReadFromTheHeader) {
+  using namespace std::string_literals;
+  const std::string png = "\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\1\2\0\0\0\3\b\2\0\0\0...."s;
+  const std::string jpeg = "\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1"s;
+  const std::string frame = "\0\0\xFF\xFF\xC4\0\3x\xFF\xC2\0\x11\b\0\x02\1\0\3..."s;
+  const auto read = [](const std::string& file) -> std::string {
+    const auto size = ReadPictureSize(file);
+    if (!size) return "none";
+    return std::to_string(size->columns) + "x" + std::to_string(size->rows) + " " +
+           Shown(std::round(size->columns_per_mm * 254)) + " " +
+           Shown(std::round(size->rows_per_mm * 254));
+  };
+  ExpectRows<std::string>(
+      read, {{{png}, "258x3 960 960", "96 dpi"},
+             {{png + "\0\0\0\tpHYs\0\0\x2E\x23\0\0\x17\x12\1....\0\0\0\0IDAT"s},
+              "258x3 3000 1500",
+              "a PNG of 300 x 150 dpi"},
+             {{png + "\0\0\0\tpHYs\0\0\0\1\0\0\0\1\0....IDAT"s}, "258x3 960 960", "shape alone"},
+             {{png.substr(0, 18)}, "none", "cut short"},
+             {{jpeg + "\1\1\x2C\0\x96"s + frame}, "256x2 3000 1500", "in inches, rows first"},
+             {{jpeg + "\2\0\x64\0\x64"s + frame}, "256x2 2540 2540", "in centimetres"},
+             {{jpeg + "\1\0\0\0\0"s + frame}, "256x2 960 960", "no density"},
+             {{"\xFF\xD8\xFF\xC0\0\0\0\0"s}, "none", "cut short"},
+             {{"GIF89a"s}, "none"}});
+  EXPECT_EQ(ErrorOf([] { PictureFromFile(u"/nonexistent.png"); }), 53);
+}
+
+}  // namespace
+}  // namespace ZQ7Standard
