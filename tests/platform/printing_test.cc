@@ -1,5 +1,6 @@
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/RunTimeError.h>
+#include <cairo.h>
 #include <cups/cups.h>
 #include <stdlib.h>
 #include <unistd.h>
@@ -105,6 +106,23 @@ TEST_F(Pages, HaveTheSizeOfTheirPaper) {
                                           {{256, 1}, "595.276 x 841.89 pts (A4)", "refused"}});
   EXPECT_EQ(printer.CheckPaperBin(1), 1);
   EXPECT_EQ(printer.CheckPaperBin(), 7);
+}
+
+TEST_F(Pages, HaveTheirPictures) {
+  using namespace std::string_literals;
+  const std::string jpeg = folder.path.string() + "/a.jpg";
+  const std::string png = folder.path.string() + "/a.png";
+  std::ofstream(jpeg) << "\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\1\0\x64\0\x64\0\0"s
+                         "\xFF\xC0\0\x11\b\0\x64\0\xC8\3\1\x22\0\2\x11\1\3\x11\1\xFF\xD9"s;
+  const auto surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, 300, 150);
+  cairo_surface_write_to_png(surface, png.c_str());
+  cairo_surface_destroy(surface);
+  printer.PrintGraphicObject(PictureFromFile(FromUtf8(jpeg)), 10, 10);
+  printer.PrintGraphicObject(PictureFromFile(FromUtf8(png)), 10, 80, 25.4F, 25.4F);
+  printer.PrintOut();
+  const std::string list = "pdfimages -list " + folder.path.string() + "/*.pdf | tail -n +3";
+  EXPECT_EQ(OutputOf(list + " | awk '{ print $4, $5, $9, $13, $14 }'"),
+            "200 100 jpeg 100 100\n300 150 image 300 150\n");
 }
 
 TEST_F(Pages, AreFilesOfTheirOwn) {
