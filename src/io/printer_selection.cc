@@ -43,7 +43,7 @@ PrintObject::Setup PrintObject::SetupOf(const Printer& printer) {
 }
 
 Printer PrintObject::MakeRememberedCurrent() {
-  const Printer current = services_.printers->Current();
+  Printer current = services_.printers->Current();
   if (SameName(current.device_name, setup_.device_name)) return current;
   for (const Printer& printer : services_.printers->Installed()) {
     if (SameName(printer.device_name, setup_.device_name)) services_.printers->MakeCurrent(printer);

@@ -70,7 +70,8 @@ void WriteNewFile(const std::filesystem::path& folder, const std::string& stem,
   file.Write(bytes);
   std::string name = stem + extension;
   for (int number = 2; !file.MoveTo(folder / name); ++number) {
-    name = stem + " (" + std::to_string(number) + ")" + extension;
+    name = stem;
+    name.append(" (").append(std::to_string(number)).append(")").append(extension);
   }
 }
 
