@@ -20,7 +20,7 @@ constexpr std::string_view kObject = "PrintGraphicObject";
 constexpr std::uint8_t kThaiCharset = 222;
 
 // The most, in heights of the font, that a character narrows what stands before it: a
-// family of emoji becomes one. Thai letters do not at all.
+// family of emoji becomes one.
 constexpr double kShrinkage = 4;
 constexpr double kMillimetresPerPoint = 25.4 / 72;
 

@@ -66,23 +66,21 @@ TEST_F(Pages, HaveTheirTextInItsPlace) {
   printer.PrintGraphicText(u"ใบกำกับภาษี", 20, 30, 1, 0, 0, u"Garuda", 14);
   printer.PrintGraphicText(u"1,234.50", 190, 0, 0, 2);
   printer.PrintGraphicText(u"ญาติผู้ใหญ่\tน้ำมัน", 20, 200);
-  printer.PrintSet(50.5, 60.25, 0, u"ที่นี่กี่สตางค์");
+  printer.PrintSet(50.5, 60.3F, 0, u"ที่นี่กี่สตางค์");
   printer.PrintOut();
-  // Millimetres from the left edge of a word to that of the page, or of its right edge.
+  // Where an edge of a word is, in tenths of a millimetre.
   const std::string words = OutputOf("pdftotext -bbox " + folder.Only() + " -");
-  const auto edge = [&](const std::string& word, const char* name) {
-    const std::size_t end = words.find("\">" + word + "<");
-    if (end == std::string::npos) return kNan;
-    const std::size_t start = words.rfind(name, end);
-    return std::stod(words.substr(start + std::string(name).size())) / 72 * 25.4;
+  const auto edge = [&](std::string word, std::string name) {
+    const std::size_t start = words.rfind(name + "=\"", words.find("\">" + word + "<"));
+    return std::lround(std::stod(words.substr(start + name.size() + 2)) / 72 * 254);
   };
-  EXPECT_NEAR(edge("ใบกำกับภาษี", "xMin=\""), 20, 0.1) << words;
-  EXPECT_NEAR(edge("ใบกำกับภาษี", "yMin=\""), 30, 0.1);
-  EXPECT_NEAR(edge("1,234.50", "xMax=\""), 190, 0.1);
-  EXPECT_NEAR(edge("1,234.50", "yMin=\""), 30, 0.1);
-  EXPECT_NEAR(edge("น้ำมัน", "yMin=\""), 200, 0.1) << words;
-  EXPECT_NEAR(edge("ที่นี่กี่สตางค์", "xMin=\""), 50.5, 0.1);
-  EXPECT_NEAR(edge("ที่นี่กี่สตางค์", "yMin=\""), 60.25, 0.1);
+  ExpectRows<std::string, std::string>(edge, {{{"ใบกำกับภาษี", "xMin"}, "200"},
+                                              {{"ใบกำกับภาษี", "yMin"}, "300"},
+                                              {{"1,234.50", "xMax"}, "1900"},
+                                              {{"1,234.50", "yMin"}, "300"},
+                                              {{"น้ำมัน", "yMin"}, "2000"},
+                                              {{"ที่นี่กี่สตางค์", "xMin"}, "505"},
+                                              {{"ที่นี่กี่สตางค์", "yMin"}, "603"}});
   const std::string fonts = OutputOf("pdffonts " + folder.Only());
   EXPECT_NE(fonts.find("+Garuda"), std::string::npos) << fonts;
 }
