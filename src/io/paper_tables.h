@@ -4,7 +4,9 @@
 #include <ZQ7Standard/Types.h>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace ZQ7Standard {
 
@@ -73,6 +75,16 @@ inline constexpr auto kPaperBinTexts = std::to_array<CodeText>({
     {11, u"Large capacity feeder"},
     {14, u"Attached cassette cartridge"},
 });
+
+/// Whether the first `count` rows have the codes from 1 to `count`.
+constexpr bool CountsFromOne(std::span<const CodeText> rows, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    if (rows[i].code != static_cast<std::int16_t>(i + 1)) return false;
+  }
+  return true;
+}
+static_assert(CountsFromOne(kPaperSizeTexts, 41) && kPaperSizeTexts.size() == 42);
+static_assert(CountsFromOne(kPaperBinTexts, 11) && kPaperBinTexts.size() == 12);
 
 }  // namespace ZQ7Standard
 

@@ -56,9 +56,10 @@ class RecordingPrinter final : public PrintDocument, public PrinterSettings {
 
  private:
   std::string FontText() const {
-    if (font_ == PrintFont{}) return "";
-    return "[" + Utf8(font_.name) + " " + Shown(font_.size) + " " + Shown(+font_.charset) +
-           (font_.bold ? " bold" : "") + (font_.italic ? " italic" : "") + "]";
+    return font_ == PrintFont{}
+               ? ""
+               : "[" + Utf8(font_.name) + " " + Shown(font_.size) + " " + Shown(+font_.charset) +
+                     (font_.bold ? " bold" : "") + (font_.italic ? " italic" : "") + "]";
   }
 
   PrintRecord& record_;
@@ -68,11 +69,9 @@ class RecordingPrinter final : public PrintDocument, public PrinterSettings {
   PrintFont font_;
 };
 
-/// Recording printers of these names, of which the first is current.
 class RecordingPrinters final : public PrinterList {
  public:
-  explicit RecordingPrinters(PrintRecord& record, const std::vector<Text>& names = {u"Laser"})
-      : record_(record) {
+  RecordingPrinters(PrintRecord& record, const std::vector<Text>& names) : record_(record) {
     for (const Text& name : names) {
       const auto printer = std::make_shared<RecordingPrinter>(record);
       printers_.push_back({name, printer, printer});
@@ -95,6 +94,12 @@ class RecordingPrinters final : public PrinterList {
   std::vector<Printer> printers_;
   Printer current_;
 };
+
+/// Recording printers of these names, of which the first is current.
+inline std::shared_ptr<PrinterList> Recorded(PrintRecord& record,
+                                             const std::vector<Text>& names = {u"Laser"}) {
+  return std::make_shared<RecordingPrinters>(record, names);
+}
 
 /// A picture of 40 x 20 mm.
 class PlainPicture final : public PrintPicture {

@@ -4,9 +4,12 @@
 #include <ZQ7Standard/platform/printer_settings.h>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
+
+#include "io/paper_tables.h"
 
 namespace ZQ7Standard {
 
@@ -102,6 +105,16 @@ inline constexpr auto kSettings = std::to_array<SettingNames>({
     {PrinterSetting::kPaperBin, "media-source", kBinNames, 7},
     {PrinterSetting::kPrintQuality, "print-quality", kQualityNames, -3},
 });
+
+/// Whether each name stands beside a text of the same code.
+constexpr bool SameCodes(std::span<const CodeName> names, std::span<const CodeText> texts) {
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (names[i].code != texts[i].code) return false;
+  }
+  return true;
+}
+static_assert(SameCodes(kPaperNames, kPaperSizeTexts) && kPaperNames.size() == 41);
+static_assert(SameCodes(kBinNames, kPaperBinTexts) && kBinNames.size() == 12);
 
 }  // namespace ZQ7Standard
 
