@@ -37,9 +37,12 @@ std::string ContentsOf(TextView path) {
     throw RunTimeError::FileNotFound("PictureFromFile", Quoted(path));
   }
   std::ifstream stream(file, std::ios::binary);
-  std::string bytes(std::istreambuf_iterator<char>(stream), {});
   if (!stream) throw RunTimeError::PermissionDenied("PictureFromFile", Quoted(path));
-  return bytes;
+  try {
+    return {std::istreambuf_iterator<char>(stream), {}};
+  } catch (const std::ios_base::failure&) {
+    throw RunTimeError::PathFileAccess("PictureFromFile", Quoted(path));
+  }
 }
 
 }  // namespace

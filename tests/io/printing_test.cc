@@ -204,7 +204,8 @@ TEST(PictureSize, IsReadFromTheHeader) {
        {{jpeg + "\2\0\x64\0\x64"s + frame}, "256x2 2540 2540", "in centimetres"},
        {{"\xFF\xD8\xFF\xC0\0\0\0\0"s}, "none", "cut short"},
        {{"GIF89a"s}, "none"}});
-  EXPECT_EQ(ErrorOf([] { PictureFromFile(u"/nonexistent.png"); }), 53);
+  const auto made = [](TextView path) { return PictureFromFile(path)->Width(); };
+  ExpectTexts(made, {{"error 53", {u"/x.png"}}, {"error 75", {u"/"}}, {"error 5", {u"/dev/null"}}});
 }
 
 }  // namespace

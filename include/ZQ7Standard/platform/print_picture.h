@@ -22,8 +22,9 @@ class ZQ7STANDARD_EXPORT PrintPicture {
 };
 
 /// The picture of a PNG or JPEG file, read at once, in the resolution that the file
-/// tells, else 96 dots to the inch. Raises 53 when the file is not there, 70 when it
-/// cannot be read, and 5 when it is neither a PNG nor a JPEG.
+/// tells, else 96 dots to the inch. Raises 53 when the file is not there, 70 without
+/// the right to read it, 75 when it cannot be read, as a folder, and 5 when it is
+/// neither a PNG nor a JPEG.
 ZQ7STANDARD_EXPORT std::shared_ptr<PrintPicture> PictureFromFile(TextView path);
 
 }  // namespace ZQ7Standard
