@@ -8,13 +8,6 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-constexpr bool IsHighSurrogate(char32_t c) {
-  return c >= 0xD800 && c <= 0xDBFF;
-}
-constexpr bool IsLowSurrogate(char32_t c) {
-  return c >= 0xDC00 && c <= 0xDFFF;
-}
-
 void AppendUtf8(std::string& bytes, char32_t c) {
   const auto tail = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
   if (c < 0x80) {

@@ -7,6 +7,14 @@
 
 namespace ZQ7Standard {
 
+// The two halves of a character beyond U+FFFF, the high one first.
+constexpr bool IsHighSurrogate(char32_t c) {
+  return c >= 0xD800 && c <= 0xDBFF;
+}
+constexpr bool IsLowSurrogate(char32_t c) {
+  return c >= 0xDC00 && c <= 0xDFFF;
+}
+
 /// `text` in UTF-8 between quotation marks, for the message of an error.
 std::string Quoted(TextView text);
 

@@ -1,0 +1,149 @@
+#ifndef ZQ7STANDARD_PRINTOBJECT_H_
+#define ZQ7STANDARD_PRINTOBJECT_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/print_picture.h>
+#include <ZQ7Standard/platform/printers.h>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace ZQ7Standard {
+
+/// What a `PrintObject` needs of the machine. A service left empty is the machine's
+/// own.
+struct PrintServices {
+  std::shared_ptr<PrinterList> printers = nullptr;
+  /// The environment variable "OS"; nothing is that of the process, read when it is
+  /// needed.
+  std::optional<Text> os = std::nullopt;
+};
+
+/// Chooses the printer and its paper, tells papers and bins by name, and prints
+/// documents of one page, positions in millimetres from the top left corner.
+///
+///     PrintObject printer;
+///     printer.PrintStart();
+///     printer.PrintGraphicText(u"ใบกำกับภาษี", 105, 20, 1, 1);
+///     printer.PrintOut();
+///
+/// Made, the object remembers the device name and the settings of the current
+/// printer, or an empty name where none is installed. Operations that say so first
+/// make the remembered printer current: when the current one has another name, case
+/// aside, the last installed printer of that name; the current one stays where there
+/// is none.
+///
+/// What a printer fails to do raises 482 with what the print system said, unless an
+/// operation says otherwise. An instance belongs to one thread at a time; distinct
+/// instances are independent unless they are given the same printers.
+class ZQ7STANDARD_EXPORT PrintObject {
+ public:
+  /// With the services of the machine.
+  PrintObject();
+  /// With services of the host's own.
+  explicit PrintObject(PrintServices services);
+
+  // --- The printer and its paper: src/io/printer_selection.cc ---
+
+  /// The same as `SelectPrinter2` with a quality of 0. Returns 1.
+  std::int16_t SelectPrinter(TextView DeviceName, std::int16_t Orientation, std::int16_t PaperSize,
+                             std::int16_t PaperBin);
+
+  /// Remembers a printer and settings. Only the name has an effect, on the operations
+  /// that make the remembered printer current; nothing is sent to a printer, and the
+  /// name may be of none. Returns 1.
+  std::int16_t SelectPrinter2(TextView DeviceName, std::int16_t Orientation, std::int16_t PaperSize,
+                              std::int16_t PaperBin, std::int16_t PrintQuality);
+
+  /// Makes the remembered printer current, sets its paper to `StartSize` and returns
+  /// the paper in force. A `StartSize` below 1 leaves the printer's own paper; so does
+  /// one of 256 (user-defined) or more where the environment variable "OS" is
+  /// Windows_NT.
+  ///
+  /// Never raises: a paper that the printer refuses is returned as if it were in
+  /// force, and 0 when the printer cannot be asked at all.
+  std::int16_t CheckPaperSize(std::int16_t StartSize = 0);
+
+  /// The same for the bin. `StartBin` below 1 and 7, the default bin, leave the
+  /// printer's own.
+  std::int16_t CheckPaperBin(std::int16_t StartBin = 0);
+
+  // --- Papers, bins and orientations by name: src/io/paper_texts.cc ---
+
+  /// "A4, 210 x 297 mm" for 9, "Custom Size: ( 300 )" for a code that has no name.
+  /// Hosts compare and store these texts, so all stay as they are: 2 is
+  /// "+A611Letter Small, 8 1/2 x 11 in".
+  Text GETPaperSizeText(std::int16_t PaperSize) const;
+
+  /// "Upper Bin" for 1, "Custom Bin: ( 12 )" for a code that has no name.
+  Text GETPaperBinText(std::int16_t PaperBin) const;
+
+  /// "Landscape" for 2, "Portrait" for any other value.
+  Text GETPaperOrientationText(std::int16_t Orientation) const;
+
+  // --- Printing: src/io/printing.cc ---
+
+  /// Makes the current printer count in millimetres and goes to 1, 1. Returns 0.
+  std::int16_t PrintStart();
+
+  /// Prints `message` on the current printer in BrowalliaUPC, 10 points, not bold. The
+  /// names are crossed: `Row` is the distance from the left edge, `Col` that from the
+  /// top. `FSize` has no effect. Steps that fail are left out. Returns 0.
+  std::int16_t PrintSet(float Row, float Col, std::uint8_t FSize, TextView message);
+
+  /// Prints one line of text on the remembered printer, made current.
+  ///
+  /// It stands at `x`, `y`, where -1 is the printer's position, rounded, a half to
+  /// even; with `MoveLine` 0 at the height of the last text or picture instead. `x` is
+  /// where it starts, for an `Alignment` of 1 its centre, its start being rounded the
+  /// same, and for 2 its end.
+  ///
+  /// A `MaxLenText` above 0 drops characters (a surrogate pair is one) from the end
+  /// until the text is no wider than that, in the font of the call before: only then
+  /// is the font set. An empty `FontName` and a `FontSize` of 0 leave those as they
+  /// are; bold and italic are always set.
+  ///
+  /// Returns 0. Raises 6 for a position that 32 bits cannot hold.
+  std::int16_t PrintGraphicText(TextView sMsg, std::int32_t x = -1, std::int32_t y = -1,
+                                std::int32_t MoveLine = 1, std::int32_t Alignment = 0,
+                                double MaxLenText = 0, TextView FontName = {}, double FontSize = 0,
+                                bool FontBold = false, bool FontItalic = false);
+
+  /// Draws a picture on the remembered printer, made current, with its top left corner
+  /// at `x`, `y`, which count as in `PrintGraphicText`, and goes there. A `W` or `H`
+  /// of 0 is the picture's own. Returns 0. Raises 5 without a picture, 6 as
+  /// `PrintGraphicText` does.
+  std::int16_t PrintGraphicObject(const std::shared_ptr<PrintPicture>& Src, std::int32_t x = -1,
+                                  std::int32_t y = -1, float W = 0, float H = 0,
+                                  std::int32_t MoveLine = 1);
+
+  /// Ends the document of the current printer, which is then printed. Returns 0. After
+  /// a failure the document is lost; the next one is not touched by it.
+  std::int16_t PrintOut();
+
+  /// Throws the document of the current printer away. Returns 0.
+  std::int16_t PrintCancel();
+
+ private:
+  struct Setup {
+    Text device_name;
+    std::int16_t orientation = 0;
+    std::int16_t paper_size = 0;
+    std::int16_t paper_bin = 0;
+    std::int16_t print_quality = 0;
+  };
+
+  static Setup SetupOf(const Printer& printer);
+  Printer MakeRememberedCurrent();
+  std::shared_ptr<PrintDocument> DocumentToPlaceIn();
+
+  PrintServices services_;
+  Setup setup_;
+  PagePosition last_;  // where the last text or picture was placed
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PRINTOBJECT_H_

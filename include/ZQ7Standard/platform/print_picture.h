@@ -1,0 +1,32 @@
+#ifndef ZQ7STANDARD_PLATFORM_PRINT_PICTURE_H_
+#define ZQ7STANDARD_PLATFORM_PRINT_PICTURE_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+
+#include <memory>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// A picture that can be printed, with the size that it has of itself.
+class ZQ7STANDARD_EXPORT PrintPicture {
+ public:
+  virtual ~PrintPicture();
+
+  virtual float Width() = 0;   ///< millimetres
+  virtual float Height() = 0;  ///< millimetres
+
+  /// The bytes of a PNG or JPEG file, which last as long as the picture.
+  virtual std::string_view Picture() = 0;
+};
+
+/// The picture of a PNG or JPEG file, read at once, in the resolution that the file
+/// tells, else 96 dots to the inch. Raises 53 when the file is not there, 70 without
+/// the right to read it, 75 when it cannot be read, as a folder, and 5 when it is
+/// neither a PNG nor a JPEG.
+ZQ7STANDARD_EXPORT std::shared_ptr<PrintPicture> PictureFromFile(TextView path);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PLATFORM_PRINT_PICTURE_H_

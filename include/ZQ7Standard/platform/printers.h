@@ -1,0 +1,59 @@
+#ifndef ZQ7STANDARD_PLATFORM_PRINTERS_H_
+#define ZQ7STANDARD_PLATFORM_PRINTERS_H_
+
+#include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/print_document.h>
+#include <ZQ7Standard/platform/printer_settings.h>
+
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+namespace ZQ7Standard {
+
+/// What a printer could not do; `what()` is what the print system said, in UTF-8.
+/// `PrintObject` raises 482 of it.
+class ZQ7STANDARD_EXPORT PrinterFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// An installed printer.
+struct Printer {
+  Text device_name;
+  std::shared_ptr<PrinterSettings> settings;
+  std::shared_ptr<PrintDocument> document;
+};
+
+/// The installed printers, of which one is the current one. What fails raises a
+/// `PrinterFailure`.
+class ZQ7STANDARD_EXPORT PrinterList {
+ public:
+  virtual ~PrinterList();
+
+  /// All of them, in the order of the system. A printer has the same settings and
+  /// document each time.
+  virtual std::vector<Printer> Installed() = 0;
+
+  /// The system's default printer until another is made current. Fails when no
+  /// printer is installed.
+  virtual Printer Current() = 0;
+
+  virtual void MakeCurrent(const Printer& printer) = 0;
+};
+
+/// The printers of the machine: those of the CUPS server that the environment names,
+/// its default one as current. Where none answers or it has no printer there is one
+/// by the name of "PDF" instead, which writes each document as a file to the folder
+/// `pdf_folder`, else to the documents folder of the user. docs/printing.md
+///
+/// The list belongs to one thread at a time, and keeps its own current printer. A
+/// document that is open when the list goes is thrown away.
+///
+/// A library built without ZQ7STANDARD_WITH_PRINTING has no printer installed.
+ZQ7STANDARD_EXPORT std::shared_ptr<PrinterList> SystemPrinters(TextView pdf_folder = {});
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_PLATFORM_PRINTERS_H_

@@ -1,0 +1,148 @@
+#include <ZQ7Standard/PrintObject.h>
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <string>
+
+#include "io/fitting_text.h"
+#include "io/printer_failures.h"
+#include "numbers/number_text.h"
+
+namespace ZQ7Standard {
+namespace {
+
+constexpr std::int32_t kPrinterPosition = -1;  // as a position: where the printer is
+constexpr std::int32_t kCentred = 1;
+constexpr std::int32_t kEnding = 2;
+
+constexpr std::string_view kText = "PrintGraphicText";
+constexpr std::string_view kObject = "PrintGraphicObject";
+
+constexpr std::uint8_t kThaiCharset = 222;
+
+// The most, in heights of the font, that a character narrows what stands before it: a
+// family of emoji becomes one.
+constexpr double kShrinkage = 4;
+constexpr double kMillimetresPerPoint = 25.4 / 72;
+
+std::int32_t Rounded(std::string_view operation, double position) {
+  const auto whole = RoundToInteger<std::int32_t>(position);
+  if (!whole) throw RunTimeError::Overflow(operation, std::to_string(position));
+  return *whole;
+}
+
+/// `asked`, or where the printer is, in whole millimetres.
+float PlaceOf(std::string_view operation, std::int32_t asked, float current) {
+  return static_cast<float>(asked == kPrinterPosition ? Rounded(operation, current) : asked);
+}
+
+/// Where a text begins that is aligned to `x`.
+float StartOf(std::int32_t alignment, float x, TextView text, PrintDocument& document) {
+  if (alignment == kCentred) {
+    return static_cast<float>(Rounded(kText, x - document.TextWidth(text) / 2));
+  }
+  return alignment == kEnding ? x - document.TextWidth(text) : x;
+}
+
+/// `text` without the characters at its end that make it wider than `limit`.
+TextView Shortened(TextView text, double limit, PrintDocument& document) {
+  if (!(limit > 0)) return text;
+  const double shrinkage = kShrinkage * document.Font().size * kMillimetresPerPoint;
+  return FittingStart(text, limit, shrinkage,
+                      [&](TextView start) { return document.TextWidth(start); });
+}
+
+PrintFont ThaiFont() {
+  return {.name = u"BrowalliaUPC", .size = 10, .charset = kThaiCharset};
+}
+
+void SwitchBoldOff(PrintDocument& document) {
+  PrintFont font = document.Font();
+  font.bold = false;
+  document.SetFont(font);
+}
+
+void ChangeFont(PrintDocument& document, TextView name, double size, bool bold, bool italic) {
+  PrintFont font = document.Font();
+  if (!name.empty()) font.name = name;
+  if (size != 0) font.size = size;
+  font.bold = bold;
+  font.italic = italic;
+  document.SetFont(font);
+}
+
+}  // namespace
+
+std::int16_t PrintObject::PrintStart() {
+  Reported("PrintStart", [this] {
+    const Printer printer = services_.printers->Current();
+    printer.document->UseMillimetres();
+    printer.document->MoveTo({1, 1});
+  });
+  return 0;
+}
+
+std::int16_t PrintObject::PrintSet(float Row, float Col, std::uint8_t /*FSize*/, TextView message) {
+  Trapped([&] {
+    const auto document = services_.printers->Current().document;
+    Trapped([&] { document->SetFont(ThaiFont()); });
+    Trapped([&] { SwitchBoldOff(*document); });
+    Trapped([&] { document->MoveTo({Row, Col}); });
+    document->PrintLine(message);
+  });
+  return 0;
+}
+
+std::shared_ptr<PrintDocument> PrintObject::DocumentToPlaceIn() {
+  const Printer printer = MakeRememberedCurrent();
+  const PagePosition position = printer.document->Position();
+  if (last_.x == 0) last_.x = position.x;
+  if (last_.y == 0) last_.y = position.y;
+  return printer.document;
+}
+
+std::int16_t PrintObject::PrintGraphicText(TextView sMsg, std::int32_t x, std::int32_t y,
+                                           std::int32_t MoveLine, std::int32_t Alignment,
+                                           double MaxLenText, TextView FontName, double FontSize,
+                                           bool FontBold, bool FontItalic) {
+  Reported(kText, [&] {
+    const auto document = DocumentToPlaceIn();
+    const TextView text = Shortened(sMsg, MaxLenText, *document);
+    ChangeFont(*document, FontName, FontSize, FontBold, FontItalic);
+    const PagePosition current = document->Position();
+    const float at = PlaceOf(kText, x, current.x);
+    const float down = MoveLine != 0 ? PlaceOf(kText, y, current.y) : last_.y;
+    document->MoveTo({StartOf(Alignment, at, text, *document), down});
+    last_ = document->Position();
+    document->PrintLine(text);
+  });
+  return 0;
+}
+
+std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>& Src,
+                                             std::int32_t x, std::int32_t y, float W, float H,
+                                             std::int32_t MoveLine) {
+  if (!Src) throw RunTimeError::InvalidArgument(kObject, "no picture");
+  Reported(kObject, [&] {
+    const auto document = DocumentToPlaceIn();
+    const PagePosition current = document->Position();
+    const float down = MoveLine != 0 ? PlaceOf(kObject, y, current.y) : last_.y;
+    const PagePosition at{PlaceOf(kObject, x, current.x), down};
+    const PageSize size{W != 0 ? W : Src->Width(), H != 0 ? H : Src->Height()};
+    document->MoveTo(at);
+    last_ = document->Position();
+    document->DrawPicture(Src->Picture(), at, size);
+  });
+  return 0;
+}
+
+std::int16_t PrintObject::PrintOut() {
+  Reported("PrintOut", [this] { services_.printers->Current().document->End(); });
+  return 0;
+}
+
+std::int16_t PrintObject::PrintCancel() {
+  Reported("PrintCancel", [this] { services_.printers->Current().document->Abort(); });
+  return 0;
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,210 @@
+#include "platform/linux/cups_printers.h"
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "platform/linux/handle.h"
+#include "platform/linux/named_settings.h"
+
+namespace ZQ7Standard {
+namespace {
+
+constexpr int kConnectMilliseconds = 5'000;
+constexpr double kAnswerSeconds = 30;
+
+using Connection = Handle<http_t, httpClose>;
+using Message = Handle<ipp_t, ippDelete>;
+
+[[noreturn]] void FailAsCups() {
+  throw PrinterFailure(cupsLastErrorString());
+}
+
+/// A connection that gives up on a server which does not answer; null where there is
+/// no server.
+Connection Connect() {
+  Connection server(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                 kConnectMilliseconds, nullptr));
+  if (server) {
+    httpSetTimeout(
+        server.get(), kAnswerSeconds, [](http_t*, void*) { return 0; }, nullptr);
+  }
+  return server;
+}
+
+Connection ConnectOrFail() {
+  Connection server = Connect();
+  if (!server) FailAsCups();
+  return server;
+}
+
+/// The address of a printer on its server, with what is not for addresses encoded.
+std::string UriOf(const std::string& printer) {
+  std::array<char, HTTP_MAX_URI> uri{};
+  httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
+                   "localhost", 0, "/printers/%s", printer.c_str());
+  return uri.data();
+}
+
+/// The part of an address behind the host.
+std::string PathOf(const std::string& uri) {
+  return uri.substr(uri.find('/', std::string_view("ipp://").size()));
+}
+
+Message RequestFor(ipp_op_t operation, const std::string& printer) {
+  Message request(ippNewRequest(operation));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
+               UriOf(printer).c_str());
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+               cupsUser());
+  return request;
+}
+
+/// The answer of `server`; it may be a refusal.
+Message Ask(http_t* server, Message request, const std::string& path) {
+  return Message(cupsDoRequest(server, request.release(), path.c_str()));
+}
+
+void CheckAnswer(const Message& answer) {
+  if (!answer || ippGetStatusCode(answer.get()) >= IPP_STATUS_REDIRECTION_OTHER_SITE) FailAsCups();
+}
+
+/// The first text of an attribute; empty when there is none.
+std::string TextOf(ipp_attribute_t* attribute) {
+  const char* const text = ippGetString(attribute, 0, nullptr);
+  return text == nullptr ? "" : text;
+}
+
+bool IsNumber(ipp_tag_t tag) {
+  return tag == IPP_TAG_ENUM || tag == IPP_TAG_INTEGER;
+}
+
+/// The default that a printer tells for a setting; empty when it tells none.
+std::string DefaultName(ipp_t* printer, const SettingNames& setting) {
+  const std::string name = setting.attribute + std::string("-default");
+  ipp_attribute_t* const attribute = ippFindAttribute(printer, name.c_str(), IPP_TAG_ZERO);
+  if (IsNumber(ippGetValueTag(attribute))) return std::to_string(ippGetInteger(attribute, 0));
+  if (attribute != nullptr) return TextOf(attribute);
+  ipp_attribute_t* const media = ippFindAttribute(printer, "media-col-default", IPP_TAG_ZERO);
+  return TextOf(ippFindAttribute(ippGetCollection(media, 0), setting.attribute, IPP_TAG_ZERO));
+}
+
+/// Adds a paper from a bin, which only a collection can say.
+void AddPaperFromBin(ipp_t* job, const std::string& paper, const std::string& bin) {
+  const Message collection(ippNew());
+  if (const pwg_media_t* const media = pwgMediaForPWG(paper.c_str())) {
+    const Message size(ippNew());
+    ippAddInteger(size.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "x-dimension", media->width);
+    ippAddInteger(size.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "y-dimension", media->length);
+    ippAddCollection(collection.get(), IPP_TAG_JOB, "media-size", size.get());
+  }
+  ippAddString(collection.get(), IPP_TAG_JOB, IPP_TAG_KEYWORD, "media-source", nullptr,
+               bin.c_str());
+  ippAddCollection(job, IPP_TAG_JOB, "media-col", collection.get());
+}
+
+void AddNumber(ipp_t* job, const char* attribute, const std::string& number) {
+  if (number.empty()) return;
+  ippAddInteger(job, IPP_TAG_JOB, IPP_TAG_ENUM, attribute, std::stoi(number));
+}
+
+/// Adds what is set of a printer to a job for it.
+void AddSettings(ipp_t* job, const SettingValues& values) {
+  const auto& [orientation, paper, bin, quality] = values;
+  AddNumber(job, "orientation-requested", orientation.name);
+  AddNumber(job, "print-quality", quality.name);
+  if (!bin.name.empty()) {
+    AddPaperFromBin(job, paper.name, bin.name);
+  } else if (!paper.name.empty()) {
+    ippAddString(job, IPP_TAG_JOB, IPP_TAG_KEYWORD, "media", nullptr, paper.name.c_str());
+  }
+}
+
+class CupsQueue final : public NamedSettings {
+ public:
+  explicit CupsQueue(std::string name) : name_(std::move(name)) {}
+
+  void Print(std::string_view pdf) override {
+    const Message job = RequestFor(IPP_OP_PRINT_JOB, name_);
+    ippAddString(job.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, "Document");
+    ippAddString(job.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
+                 CUPS_FORMAT_PDF);
+    AddSettings(job.get(), Values());
+    const Connection server = ConnectOrFail();
+    const std::string path = PathOf(UriOf(name_));
+    const std::size_t size = ippLength(job.get()) + pdf.size();
+    http_status_t status = cupsSendRequest(server.get(), job.get(), path.c_str(), size);
+    if (status == HTTP_STATUS_CONTINUE) {
+      status = cupsWriteRequestData(server.get(), pdf.data(), pdf.size());
+    }
+    if (status != HTTP_STATUS_CONTINUE) FailAsCups();
+    CheckAnswer(Message(cupsGetResponse(server.get(), path.c_str())));
+  }
+
+ private:
+  SettingValues Defaults() override {
+    SettingValues values;
+    std::ranges::transform(kSettings, values.begin(), [this](const SettingNames& setting) {
+      return ValueOf(setting, DefaultName(Attributes(), setting));
+    });
+    return values;
+  }
+
+  bool Supports(const SettingNames& setting, const std::string& name) override {
+    const std::string supported = setting.attribute + std::string("-supported");
+    ipp_attribute_t* const attribute =
+        ippFindAttribute(Attributes(), supported.c_str(), IPP_TAG_ZERO);
+    if (IsNumber(ippGetValueTag(attribute))) {
+      return ippContainsInteger(attribute, std::stoi(name)) != 0;
+    }
+    return attribute != nullptr && ippContainsString(attribute, name.c_str()) != 0;
+  }
+
+  /// What the server knows of the printer, as it was when it was first asked.
+  ipp_t* Attributes() {
+    if (attributes_) return attributes_.get();
+    const Connection server = ConnectOrFail();
+    Message answer =
+        Ask(server.get(), RequestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, name_), PathOf(UriOf(name_)));
+    CheckAnswer(answer);
+    attributes_ = std::move(answer);
+    return attributes_.get();
+  }
+
+  std::string name_;
+  Message attributes_;
+};
+
+}  // namespace
+
+std::vector<std::string> CupsPrinterNames() {
+  const Connection server = Connect();
+  if (!server) return {};
+  Message request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+  ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+               "printer-name");
+  const Message answer = Ask(server.get(), std::move(request), "/");
+  if (answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND) return {};
+  CheckAnswer(answer);
+  std::vector<std::string> names;
+  for (ipp_attribute_t* name = ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME);
+       name != nullptr; name = ippFindNextAttribute(answer.get(), "printer-name", IPP_TAG_NAME)) {
+    names.push_back(TextOf(name));
+  }
+  return names;
+}
+
+std::string CupsDefaultName() {
+  const Connection server = Connect();
+  const char* const name = server ? cupsGetDefault2(server.get()) : nullptr;
+  return name == nullptr ? "" : name;
+}
+
+Printer CupsPrinter(const std::string& name) {
+  return PrinterOn(FromUtf8(name), std::make_shared<CupsQueue>(name));
+}
+
+}  // namespace ZQ7Standard

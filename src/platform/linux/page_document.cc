@@ -1,0 +1,183 @@
+#include "platform/linux/page_document.h"
+
+#include <ZQ7Standard/platform/printers.h>
+#include <cairo-pdf.h>
+
+#include <cmath>
+#include <exception>
+#include <string>
+#include <utility>
+
+#include "io/picture_size.h"
+#include "platform/linux/handle.h"
+#include "platform/linux/page_text.h"
+
+namespace ZQ7Standard {
+namespace {
+
+using Surface = Handle<cairo_surface_t, cairo_surface_destroy>;
+using Context = Handle<cairo_t, cairo_destroy>;
+
+// Millimetres from the corner: what Cairo can count.
+constexpr double kFarthest = 1'000'000;
+
+void Check(cairo_status_t status) {
+  if (status != CAIRO_STATUS_SUCCESS) throw PrinterFailure(cairo_status_to_string(status));
+}
+
+bool IsOnPaper(double position) {
+  return std::abs(position) <= kFarthest;  // a NaN is not
+}
+
+/// Adds what Cairo has written to the string `file`.
+cairo_status_t Append(void* file, const unsigned char* data, unsigned int size) {
+  try {
+    static_cast<std::string*>(file)->append(reinterpret_cast<const char*>(data), size);
+  } catch (const std::exception&) {
+    return CAIRO_STATUS_NO_MEMORY;
+  }
+  return CAIRO_STATUS_SUCCESS;
+}
+
+/// Reads on in `file`, a `std::string_view`, for Cairo.
+cairo_status_t ReadOn(void* file, unsigned char* data, unsigned int size) {
+  auto& rest = *static_cast<std::string_view*>(file);
+  if (rest.size() < size) return CAIRO_STATUS_READ_ERROR;
+  rest.copy(reinterpret_cast<char*>(data), size);
+  rest.remove_prefix(size);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+Surface PngPicture(std::string_view file) {
+  return Surface(cairo_image_surface_create_from_png_stream(ReadOn, &file));
+}
+
+/// A picture without pixels, whose file goes into the page as it is.
+Surface JpegPicture(std::string_view file, const PictureSize& size) {
+  Surface picture(cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(size.columns),
+                                             static_cast<int>(size.rows)));
+  auto* const copy = new std::string(file);
+  const cairo_status_t status = cairo_surface_set_mime_data(
+      picture.get(), CAIRO_MIME_TYPE_JPEG, reinterpret_cast<const unsigned char*>(copy->data()),
+      copy->size(), [](void* bytes) { delete static_cast<std::string*>(bytes); }, copy);
+  if (status != CAIRO_STATUS_SUCCESS) delete copy;
+  Check(status);
+  return picture;
+}
+
+/// A page of a size in millimetres that becomes a PDF file.
+class Page {
+ public:
+  explicit Page(PageSize size)
+      : surface_(cairo_pdf_surface_create_for_stream(
+            Append, &file_, size.width * kPointsPerMillimetre, size.height * kPointsPerMillimetre)),
+        context_(cairo_create(surface_.get())) {
+    Check(cairo_status(context_.get()));
+  }
+  Page(const Page&) = delete;  // Cairo keeps the address of the file
+  Page& operator=(const Page&) = delete;
+
+  void DrawText(TextView text, PagePosition position, PageText& shaper) {
+    cairo_move_to(context_.get(), position.x * kPointsPerMillimetre,
+                  position.y * kPointsPerMillimetre);
+    shaper.Draw(text, context_.get());
+    Check(cairo_status(context_.get()));
+  }
+
+  void DrawPicture(std::string_view file, PagePosition position, PageSize size) {
+    const auto pixels = ReadPictureSize(file);
+    if (!pixels) throw PrinterFailure("the picture is neither a PNG nor a JPEG");
+    const bool is_png = pixels->format == PictureFormat::kPng;
+    const Surface picture = is_png ? PngPicture(file) : JpegPicture(file, *pixels);
+    Check(cairo_surface_status(picture.get()));
+    cairo_t* const page = context_.get();
+    cairo_save(page);
+    cairo_translate(page, position.x * kPointsPerMillimetre, position.y * kPointsPerMillimetre);
+    cairo_scale(page, size.width * kPointsPerMillimetre / pixels->columns,
+                size.height * kPointsPerMillimetre / pixels->rows);
+    cairo_set_source_surface(page, picture.get(), 0, 0);
+    cairo_paint(page);
+    cairo_restore(page);
+    Check(cairo_status(page));
+  }
+
+  /// The bytes of the PDF file, which ends the use of the page.
+  std::string Finish() {
+    cairo_show_page(context_.get());
+    cairo_surface_finish(surface_.get());
+    Check(cairo_surface_status(surface_.get()));
+    return std::move(file_);
+  }
+
+ private:
+  std::string file_;
+  Surface surface_;
+  Context context_;
+};
+
+class PageDocument final : public PrintDocument {
+ public:
+  explicit PageDocument(std::shared_ptr<PageTarget> target) : target_(std::move(target)) {}
+
+  void UseMillimetres() override {}  // as it does from the start
+
+  PagePosition Position() override { return position_; }
+  void MoveTo(PagePosition position) override {
+    if (!IsOnPaper(position.x) || !IsOnPaper(position.y)) {
+      throw PrinterFailure("a position beyond all paper");
+    }
+    position_ = position;
+  }
+
+  PrintFont Font() override { return Shaper().Font(); }
+  void SetFont(const PrintFont& font) override { Shaper().SetFont(font); }
+  float TextWidth(TextView text) override { return Shaper().Measure(text).width; }
+
+  void PrintLine(TextView text) override {
+    OpenPage().DrawText(text, position_, Shaper());
+    MoveTo({0, position_.y + Shaper().Measure(text).height});
+  }
+
+  void DrawPicture(std::string_view picture, PagePosition position, PageSize size) override {
+    if (!IsOnPaper(size.width) || !IsOnPaper(size.height) || size.width == 0 || size.height == 0) {
+      throw PrinterFailure("a picture of no size or beyond all paper");
+    }
+    OpenPage().DrawPicture(picture, position, size);
+  }
+
+  void End() override {
+    position_ = {};
+    const auto page = std::exchange(page_, nullptr);
+    if (page) target_->Print(page->Finish());
+  }
+
+  void Abort() override {
+    position_ = {};
+    page_.reset();
+  }
+
+ private:
+  /// Made when it is needed: a list has printers that nobody prints on.
+  PageText& Shaper() {
+    if (!shaper_) shaper_ = std::make_unique<PageText>();
+    return *shaper_;
+  }
+
+  Page& OpenPage() {
+    if (!page_) page_ = std::make_unique<Page>(target_->Page());
+    return *page_;
+  }
+
+  std::shared_ptr<PageTarget> target_;
+  std::unique_ptr<Page> page_;  // while a document is open
+  std::unique_ptr<PageText> shaper_;
+  PagePosition position_;
+};
+
+}  // namespace
+
+std::shared_ptr<PrintDocument> NewPageDocument(std::shared_ptr<PageTarget> target) {
+  return std::make_shared<PageDocument>(std::move(target));
+}
+
+}  // namespace ZQ7Standard

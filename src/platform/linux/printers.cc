@@ -1,0 +1,58 @@
+#include <ZQ7Standard/platform/printers.h>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <string>
+
+#include "platform/linux/cups_printers.h"
+#include "platform/linux/pdf_printer.h"
+
+namespace ZQ7Standard {
+namespace {
+
+class LinuxPrinters final : public PrinterList {
+ public:
+  explicit LinuxPrinters(TextView pdf_folder) : pdf_(PdfPrinter(pdf_folder)) {}
+
+  std::vector<Printer> Installed() override {
+    std::vector<Printer> printers;
+    for (const std::string& name : CupsPrinterNames()) printers.push_back(Queue(name));
+    if (printers.empty()) printers.push_back(pdf_);
+    return printers;
+  }
+
+  Printer Current() override {
+    if (!current_) current_ = Default();
+    return *current_;
+  }
+
+  void MakeCurrent(const Printer& printer) override { current_ = printer; }
+
+ private:
+  /// The same printer each time, so that its settings and its document stay.
+  const Printer& Queue(const std::string& name) {
+    const auto at = queues_.find(name);
+    return at != queues_.end() ? at->second
+                               : queues_.emplace(name, CupsPrinter(name)).first->second;
+  }
+
+  Printer Default() {
+    const std::vector<Printer> printers = Installed();
+    const auto named =
+        std::ranges::find(printers, FromUtf8(CupsDefaultName()), &Printer::device_name);
+    return named == printers.end() ? printers.front() : *named;
+  }
+
+  Printer pdf_;
+  std::map<std::string, Printer> queues_;
+  std::optional<Printer> current_;
+};
+
+}  // namespace
+
+std::shared_ptr<PrinterList> SystemPrinters(TextView pdf_folder) {
+  return std::make_shared<LinuxPrinters>(pdf_folder);
+}
+
+}  // namespace ZQ7Standard

@@ -1,0 +1,212 @@
+#include <ZQ7Standard/PrintObject.h>
+#include <ZQ7Standard/RunTimeError.h>
+#include <cairo.h>
+#include <cups/cups.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+#include "platform/linux/printer_names.h"
+#include "tests/support/rows.h"
+
+namespace ZQ7Standard {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What a command prints.
+std::string OutputOf(const std::string& command) {
+  FILE* const pipe = popen(command.c_str(), "r");
+  std::string output;
+  for (int c = 0; (c = fgetc(pipe)) != EOF;) output.push_back(static_cast<char>(c));
+  pclose(pipe);
+  return output;
+}
+
+/// A new folder, gone with the object.
+struct Folder {
+  Folder() : path(mkdtemp(std::string("/tmp/zq7-XXXXXX").data())) {
+    fs::permissions(path, fs::perms(0755));
+  }
+  ~Folder() { fs::remove_all(path); }
+  auto Files() const { return std::distance(fs::directory_iterator(path), {}); }
+  std::string Only() const { return "'" + fs::directory_iterator(path)->path().string() + "'"; }
+
+  fs::path path;
+};
+
+/// The user's folder, before anything looks for it.
+const Folder kHome;
+const int kHomeIsSet = setenv("HOME", kHome.path.c_str(), 1);
+
+void UseServer(const std::string& server) {
+  setenv("CUPS_SERVER", server.c_str(), 1);
+  cupsSetServer(nullptr);
+}
+
+struct Pages : testing::Test {
+  Pages() { UseServer("/nonexistent/cups.sock"); }
+
+  Folder folder;
+  std::shared_ptr<PrinterList> printers = SystemPrinters(folder.path.u16string());
+  PrintObject printer{{.printers = printers}};
+};
+
+TEST_F(Pages, HaveTheirTextInItsPlace) {
+  printer.PrintStart();
+  printer.PrintGraphicText(u"ใบกำกับภาษี", 20, 30, 1, 0, 0, u"Garuda", 14);
+  printer.PrintGraphicText(u"1,234.50", 190, 0, 0, 2);
+  printer.PrintGraphicText(u"ญาติผู้ใหญ่\tน้ำมัน", 20, 200);
+  printer.PrintSet(50.5, 60.3F, 0, u"ที่นี่กี่สตางค์");
+  printer.PrintOut();
+  // Where an edge of a word is, in tenths of a millimetre.
+  const std::string words = OutputOf("pdftotext -bbox " + folder.Only() + " -");
+  const auto edge = [&](std::string word, std::string name) {
+    const std::size_t start = words.rfind(name + "=\"", words.find("\">" + word + "<"));
+    return std::lround(std::stod(words.substr(start + name.size() + 2)) / 72 * 254);
+  };
+  ExpectRows<std::string, std::string>(edge, {{{"ใบกำกับภาษี", "xMin"}, "200"},
+                                              {{"ใบกำกับภาษี", "yMin"}, "300"},
+                                              {{"1,234.50", "xMax"}, "1900"},
+                                              {{"น้ำมัน", "yMin"}, "2000"},
+                                              {{"ที่นี่กี่สตางค์", "yMin"}, "603"}});
+  EXPECT_NE(OutputOf("pdffonts " + folder.Only() + " | grep +Garuda"), "");
+}
+
+TEST_F(Pages, HaveTheSizeOfTheirPaper) {
+  const auto page = [&](std::int16_t paper, std::int16_t orientation) {
+    Folder pages;
+    const auto list = SystemPrinters(pages.path.u16string());
+    PrintObject object({.printers = list});
+    list->Current().settings->Set(PrinterSetting::kOrientation, orientation);
+    object.CheckPaperSize(paper);
+    object.PrintGraphicText(u"a");
+    object.PrintOut();
+    return OutputOf("pdfinfo " + pages.Only() + " | sed -n 's/^Page size: *//p' | tr -d '\\n'");
+  };
+  ExpectRows<std::int16_t, std::int16_t>(page,
+                                         {{{9, 1}, "595.276 x 841.89 pts (A4)"},
+                                          {{9, 2}, "841.89 x 595.276 pts (A4)", "landscape"},
+                                          {{4, 1}, "1224 x 792 pts", "a ledger lies"},
+                                          {{256, 1}, "595.276 x 841.89 pts (A4)", "refused"}});
+  EXPECT_EQ(printer.CheckPaperBin(1), 1);
+  EXPECT_EQ(printer.CheckPaperBin(), 7);
+}
+
+TEST_F(Pages, HaveTheirPictures) {
+  using namespace std::string_literals;
+  const std::string jpeg = folder.path.string() + "/a.jpg";
+  const std::string png = folder.path.string() + "/a.png";
+  std::ofstream(jpeg) << "\xFF\xD8\xFF\xE0\0\x10JFIF\0\1\1\1\0\x64\0\x64\0\0"
+                         "\xFF\xC0\0\x0B\b\0\x64\0\xC8\1\1\x11\0\xFF\xD9"s;
+  const auto surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, 300, 150);
+  cairo_surface_write_to_png(surface, png.c_str());
+  cairo_surface_destroy(surface);
+  printer.PrintGraphicObject(PictureFromFile(FromUtf8(jpeg)), 10, 10);
+  printer.PrintGraphicObject(PictureFromFile(FromUtf8(png)), 10, 80, 25.4F, 25.4F);
+  printer.PrintOut();
+  const std::string list = "pdfimages -list " + folder.path.string() + "/*.pdf | tail -n +3";
+  EXPECT_EQ(OutputOf(list + " | awk '{ print $4, $5, $9, $13, $14 }'"),
+            "200 100 jpeg 100 100\n300 150 image 300 150\n");
+}
+
+TEST_F(Pages, AreFilesOfTheirOwn) {
+  printer.PrintOut();
+  printer.PrintGraphicText(u"a");
+  printer.PrintCancel();
+  EXPECT_EQ(folder.Files(), 0);
+  for (int i = 0; i < 3; ++i) {
+    printer.PrintGraphicText(u"a");
+    printer.PrintOut();
+  }
+  EXPECT_EQ(folder.Files(), 3);
+  PrintObject nowhere({.printers = SystemPrinters(u"/proc/none")});
+  nowhere.PrintGraphicText(u"a");
+  EXPECT_EQ(ErrorOf([&] { nowhere.PrintOut(); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintGraphicText(u"a", 1, 1, 1, 0, 0, u"", kNan); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintGraphicText(u"a", 2'000'000'000); }), 482);
+}
+
+TEST_F(Pages, GoToTheDocumentsOfTheUser) {
+  fs::create_directories(kHome.path / ".config");
+  std::ofstream(kHome.path / ".config/user-dirs.dirs") << "XDG_DOCUMENTS_DIR=\"$HOME/เอกสาร\"\n";
+  PrintObject object;
+  object.PrintGraphicText(u"a");
+  object.PrintOut();
+  EXPECT_EQ(std::distance(fs::directory_iterator(kHome.path / "เอกสาร"), {}), 1);
+}
+
+TEST(PrinterNames, ArePapersOfCups) {
+  for (const CodeName& row : kPaperNames) {
+    EXPECT_NE(pwgMediaForPWG(std::string(row.name).c_str()), nullptr) << row.name;
+  }
+  EXPECT_EQ(kPaperNames[6].name, "na_executive_7.25x10.5in");
+}
+
+/// A server of the test's own.
+struct Server : testing::Test {
+  Server() { Start(), UseServer("localhost:" + port); }
+  ~Server() override { Kill(); }
+
+  void Start() const { Run("start"); }
+  void Kill() const { Run("kill"); }
+  void Run(const std::string& what) const {
+    OutputOf(ZQ7_SOURCE_DIR "/tests/support/cups_server " + what + " " + folder.path.string() +
+             " " + port);
+  }
+  std::string Jobs() const {
+    return OutputOf("lpstat -W completed -o | cut -d' ' -f1; lpstat -o | cut -d' ' -f1");
+  }
+  std::string Printed() const {
+    return OutputOf("cd " + folder.path.string() +
+                    "/out; timeout 9 sh -c 'until [ -e job.pdf ]; do "
+                    "sleep 0.05; done'; pdftotext job.pdf - | head -1; rm job.pdf");
+  }
+
+  Folder folder;
+  std::string port = std::to_string(20'000 + getpid() % 20'000);
+};
+
+TEST_F(Server, PrintsAndCancels) {
+  const auto printers = SystemPrinters();
+  std::string names;
+  for (const Printer& printer : printers->Installed()) names += Utf8(printer.device_name) + " ";
+  EXPECT_EQ(names, "Idle Laser ");
+  PrintObject printer({.printers = printers});
+  EXPECT_EQ(printers->Current().device_name, u"Laser") << "the default one";
+  EXPECT_EQ(printer.CheckPaperSize(), 9);
+  EXPECT_EQ(printer.CheckPaperSize(1), 1) << "refused";
+  EXPECT_EQ(printer.CheckPaperSize(11), 11);
+  EXPECT_EQ(printer.CheckPaperBin(3), 3) << "refused";
+  EXPECT_EQ(printer.CheckPaperBin(2), 2);
+  printer.SelectPrinter(u"IDLE", 1, 9, 7);
+  printer.PrintGraphicText(u"หนึ่ง");
+  EXPECT_EQ(printers->Current().device_name, u"Idle");
+  printer.PrintCancel();
+  printer.SelectPrinter(u"laser", 1, 9, 7);
+  printer.PrintGraphicText(u"สอง");
+  printer.PrintOut();
+  EXPECT_EQ(Printed(), "สอง\n");
+  const std::string options =
+      "/out/options | grep -o -E 'PageSize=A5|InputSlot=Lower' | sort | xargs";
+  EXPECT_EQ(OutputOf("cat " + folder.path.string() + options), "InputSlot=Lower PageSize=A5\n");
+  EXPECT_EQ(Jobs(), "Laser-1\n");
+}
+
+TEST_F(Server, MayDieInADocument) {
+  PrintObject printer;
+  printer.PrintGraphicText(u"หนึ่ง");
+  Kill();
+  EXPECT_EQ(ErrorOf([&] { printer.PrintOut(); }), 482);
+  printer.PrintGraphicText(u"สอง");
+  Start();
+  printer.PrintOut();
+  EXPECT_EQ(Printed(), "สอง\n");
+}
+
+}  // namespace
+}  // namespace ZQ7Standard
