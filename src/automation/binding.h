@@ -2,6 +2,7 @@
 #define ZQ7STANDARD_SRC_AUTOMATION_BINDING_H_
 
 #include <ZQ7Standard/automation/catalogue.h>
+#include <ZQ7Standard/platform/print_picture.h>
 
 #include <concepts>
 #include <cstddef>
@@ -62,6 +63,8 @@ constexpr std::string_view kClassNameOf = {};
 
 template <typename T>
 constexpr std::string_view kClassNameOf<std::shared_ptr<T>> = kClassNameOf<T>;
+template <>
+constexpr std::string_view kClassNameOf<PrintPicture> = "PrintPicture";
 template <>
 constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
 

@@ -47,8 +47,8 @@ std::vector<ClassInfo> AllClasses() {
   std::vector<ClassInfo> classes;
   for (const auto entry :
        {ASCIIObjectEntry, BahtStringObjectEntry, BitByteObjectEntry, CImageInfoEntry,
-        DiskObjectEntry, GridValueObjectEntry, PeripheralObjectEntry, RegistryObjectEntry,
-        StandardObjectEntry, SerialPortEntry}) {
+        DiskObjectEntry, GridValueObjectEntry, PeripheralObjectEntry, PrintObjectEntry,
+        RegistryObjectEntry, StandardObjectEntry, PrintPictureEntry, SerialPortEntry}) {
     classes.push_back(Documented(entry()));
   }
   return classes;

@@ -14,11 +14,13 @@ ClassInfo CImageInfoEntry();
 ClassInfo DiskObjectEntry();
 ClassInfo GridValueObjectEntry();
 ClassInfo PeripheralObjectEntry();
+ClassInfo PrintObjectEntry();
 ClassInfo RegistryObjectEntry();
 ClassInfo StandardObjectEntry();
 
 // The same of what hosts hand in to operations.
 
+ClassInfo PrintPictureEntry();
 ClassInfo SerialPortEntry();
 
 // The operations of `StandardObject`, by subsystem.

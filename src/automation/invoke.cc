@@ -101,7 +101,8 @@ HostServices ExampleServices() {
 
 Object Create(std::string_view class_name, const HostServices& services) {
   const ClassInfo* owner = FindClass(class_name);
-  if (owner == nullptr) throw RunTimeError::CannotCreateObject("Create", class_name);
+  if (owner == nullptr || owner->create == nullptr)
+    throw RunTimeError::CannotCreateObject("Create", class_name);
   return Object(std::make_shared<const Instance>(
       Instance{owner, owner->create(services), Completed(services)}));
 }

@@ -100,8 +100,8 @@ PropertyInfo Property(std::string_view name, std::string_view help) {
   return {.name = name,
           .type = TypeInfoOf<ResultOf<Getter>>(),
           .help = help,
-          .read = [](const void* instance) {
-            return ToValue(std::invoke(Getter, *static_cast<const ClassOf<Getter>*>(instance)));
+          .read = [](void* instance) {
+            return ToValue(std::invoke(Getter, *static_cast<ClassOf<Getter>*>(instance)));
           }};
 }
 

@@ -14,7 +14,7 @@ class NoPrinters final : public PrinterList {
 
 }  // namespace
 
-std::shared_ptr<PrinterList> SystemPrinters(TextView /*pdf_folder*/) {
+std::shared_ptr<PrinterList> SystemPrinters(std::filesystem::path /*pdf_folder*/) {
   return std::make_shared<NoPrinters>();
 }
 

@@ -1,9 +1,7 @@
 #include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/file_contents.h>
 #include <ZQ7Standard/platform/print_picture.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <utility>
 
@@ -30,30 +28,16 @@ class FilePicture final : public PrintPicture {
   float height_;
 };
 
-std::string ContentsOf(TextView path) {
-  const std::filesystem::path file(Utf8(path));
-  std::error_code ignored;
-  if (!std::filesystem::exists(file, ignored)) {
-    throw RunTimeError::FileNotFound("PictureFromFile", Quoted(path));
-  }
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) throw RunTimeError::PermissionDenied("PictureFromFile", Quoted(path));
-  try {
-    return {std::istreambuf_iterator<char>(stream), {}};
-  } catch (const std::ios_base::failure&) {
-    throw RunTimeError::PathFileAccess("PictureFromFile", Quoted(path));
-  }
-}
-
 }  // namespace
 
 PrintPicture::~PrintPicture() = default;
 
-std::shared_ptr<PrintPicture> PictureFromFile(TextView path) {
-  std::string bytes = ContentsOf(path);
-  const auto size = ReadPictureSize(bytes);
+std::shared_ptr<PrintPicture> PictureFromFile(TextView path, DriveMap drives) {
+  auto bytes = SystemFileReader(std::move(drives))->ReadAll(path);
+  if (!bytes) throw RunTimeError::FileNotFound("PictureFromFile", Quoted(path));
+  const auto size = ReadPictureSize(*bytes);
   if (!size) throw RunTimeError::InvalidArgument("PictureFromFile", Quoted(path));
-  return std::make_shared<FilePicture>(std::move(bytes), *size);
+  return std::make_shared<FilePicture>(std::move(*bytes), *size);
 }
 
 }  // namespace ZQ7Standard

@@ -11,6 +11,7 @@
 #include <sstream>
 #include <string>
 
+#include "tests/support/printers.h"
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
@@ -71,6 +72,8 @@ std::string CppDefault(const ParameterInfo& parameter) {
   }
   if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
   if (const auto* number = std::get_if<std::int16_t>(&value)) return std::to_string(*number);
+  if (std::holds_alternative<float>(value)) return Shown(std::get<float>(value));
+  if (std::holds_alternative<double>(value)) return Shown(std::get<double>(value));
   const std::int32_t number = std::get<std::int32_t>(value);
   if (parameter.type.enumeration == nullptr) return std::to_string(number);
   return std::string(
@@ -91,8 +94,8 @@ std::string Declaration(const OperationInfo& operation) {
   return text + (separator == "(" ? "()" : ")");
 }
 
-/// Members of a header that are no operations: the host's C++ way to events.
-const std::set<std::string> kOutside = {"AddListener", "RemoveListener"};
+/// Members of a header that are no operations: the host's C++ way to events, and bytes.
+const std::set<std::string> kOutside = {"AddListener", "RemoveListener", "Picture"};
 
 // Every operation and property of a public header is in the catalogue with its very
 // signature, and nothing else is.
@@ -164,6 +167,8 @@ TEST(Catalogue, ExamplesHold) {
   const TempFolder drive;
   std::filesystem::create_directory(drive.Native() / "shop");
   services.drives = {{'C', drive.Native()}};
+  PrintRecord record;
+  services.printers = Recorded(record, {u"PDF"});
   for (const ClassInfo& owner : Classes()) {
     for (const OperationInfo& operation : owner.operations) {
       EXPECT_FALSE(operation.examples.empty()) << operation.name;

@@ -205,7 +205,7 @@ TEST(PictureSize, IsReadFromTheHeader) {
        {{"\xFF\xD8\xFF\xC0\0\0\0\0"s}, "none", "cut short"},
        {{"GIF89a"s}, "none"}});
   const auto made = [](TextView path) { return PictureFromFile(path)->Width(); };
-  ExpectTexts(made, {{"error 53", {u"/x.png"}}, {"error 75", {u"/"}}, {"error 5", {u"/dev/null"}}});
+  ExpectTexts(made, {{"error 53", {u"C:\\x.png", u"C:"}}, {"error 5", {u"C:\\dev\\null"}}});
 }
 
 }  // namespace

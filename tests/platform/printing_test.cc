@@ -52,7 +52,7 @@ struct Pages : testing::Test {
   Pages() { UseServer("/nonexistent/cups.sock"); }
 
   Folder folder;
-  std::shared_ptr<PrinterList> printers = SystemPrinters(folder.path.u16string());
+  std::shared_ptr<PrinterList> printers = SystemPrinters(folder.path);
   PrintObject printer{{.printers = printers}};
 };
 
@@ -80,7 +80,7 @@ TEST_F(Pages, HaveTheirTextInItsPlace) {
 TEST_F(Pages, HaveTheSizeOfTheirPaper) {
   const auto page = [&](std::int16_t paper, std::int16_t orientation) {
     Folder pages;
-    const auto list = SystemPrinters(pages.path.u16string());
+    const auto list = SystemPrinters(pages.path);
     PrintObject object({.printers = list});
     list->Current().settings->Set(PrinterSetting::kOrientation, orientation);
     object.CheckPaperSize(paper);
@@ -106,8 +106,8 @@ TEST_F(Pages, HaveTheirPictures) {
   const auto surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, 300, 150);
   cairo_surface_write_to_png(surface, png.c_str());
   cairo_surface_destroy(surface);
-  printer.PrintGraphicObject(PictureFromFile(FromUtf8(jpeg)), 10, 10);
-  printer.PrintGraphicObject(PictureFromFile(FromUtf8(png)), 10, 80, 25.4F, 25.4F);
+  printer.PrintGraphicObject(PictureFromFile(PathText(jpeg)), 10, 10);
+  printer.PrintGraphicObject(PictureFromFile(PathText(png)), 10, 80, 25.4F, 25.4F);
   printer.PrintOut();
   const std::string list = "pdfimages -list " + folder.path.string() + "/*.pdf | tail -n +3";
   EXPECT_EQ(OutputOf(list + " | awk '{ print $4, $5, $9, $13, $14 }'"),
@@ -124,7 +124,7 @@ TEST_F(Pages, AreFilesOfTheirOwn) {
     printer.PrintOut();
   }
   EXPECT_EQ(folder.Files(), 3);
-  PrintObject nowhere({.printers = SystemPrinters(u"/proc/none")});
+  PrintObject nowhere({.printers = SystemPrinters("/proc/none")});
   nowhere.PrintGraphicText(u"a");
   EXPECT_EQ(ErrorOf([&] { nowhere.PrintOut(); }), 482);
   EXPECT_EQ(ErrorOf([&] { printer.PrintGraphicText(u"a", 1, 1, 1, 0, 0, u"", kNan); }), 482);

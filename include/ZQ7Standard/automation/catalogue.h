@@ -78,7 +78,7 @@ struct PropertyInfo {
   TypeInfo type = {};
   std::string_view help = {};
   std::string_view details = {};
-  Value (*read)(const void* instance) = nullptr;
+  Value (*read)(void* instance) = nullptr;
   void (*write)(void* instance, const Value& value, const CallContext& context) = nullptr;
 };
 
@@ -98,7 +98,11 @@ struct ClassInfo {
   std::vector<OperationInfo> operations = {};
   std::vector<PropertyInfo> properties = {};
   std::vector<EventInfo> events = {};
+  /// Null for a class whose instances are only made from a text.
   std::shared_ptr<void> (*create)(const HostServices& services) = nullptr;
+  /// What a text stands for where an instance is wanted; null where only the name of the
+  /// class stands for one, a new instance.
+  std::shared_ptr<void> (*from_text)(const HostServices& services, TextView text) = nullptr;
   /// Sends the events of an instance to `sink` until the result goes; null where the
   /// class has no events.
   std::shared_ptr<void> (*subscribe)(std::shared_ptr<void> instance,

@@ -9,6 +9,7 @@
 #include <ZQ7Standard/platform/date_convention.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/path_text.h>
+#include <ZQ7Standard/platform/printers.h>
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
@@ -30,6 +31,7 @@ struct HostServices {
   SerialDevices serial_devices = {};
   DriveMap drives = {};
   std::shared_ptr<Registry> registry = nullptr;
+  std::shared_ptr<PrinterList> printers = nullptr;
 };
 
 /// What the examples of the catalogue run with, besides an empty folder C:\shop: a clock
@@ -57,7 +59,8 @@ class ZQ7STANDARD_EXPORT EventSink {
   virtual void Raise(const EventInfo& event, std::span<const Value> arguments) = 0;
 };
 
-/// A new instance of a public class. Raises 429 for a name that is none.
+/// A new instance of a class. Raises 429 for a name that is none, and for a class whose
+/// instances are only made from a text.
 ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices& services = {});
 
 /// Calls an operation and returns its result, `Omitted` where it has none. Raises what
@@ -78,7 +81,8 @@ ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices
 /// a date by the services' convention (docs/dates.md), or a day count. A date as text
 /// is d/m/yyyy or m/d/yyyy in the convention's order and era, and h:mm:ss where it has
 /// a time of day; the time alone on day 0. A text where an object is wanted is the name
-/// of its class, of which a new instance is made with the services of `object`.
+/// of its class, of which a new instance is made with the services of `object`; for a
+/// `PrintPicture` it is the path of a file.
 ZQ7STANDARD_EXPORT Value Invoke(const Object& object, std::string_view operation,
                                 const Arguments& arguments);
 

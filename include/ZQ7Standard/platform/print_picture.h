@@ -3,6 +3,7 @@
 
 #include <ZQ7Standard/Export.h>
 #include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/path_text.h>
 
 #include <memory>
 #include <string_view>
@@ -21,11 +22,12 @@ class ZQ7STANDARD_EXPORT PrintPicture {
   virtual std::string_view Picture() = 0;
 };
 
-/// The picture of a PNG or JPEG file, read at once, in the resolution that the file
-/// tells, else 96 dots to the inch. Raises 53 when the file is not there, 70 without
-/// the right to read it, 75 when it cannot be read, as a folder, and 5 when it is
-/// neither a PNG nor a JPEG.
-ZQ7STANDARD_EXPORT std::shared_ptr<PrintPicture> PictureFromFile(TextView path);
+/// The picture of a PNG or JPEG file, named by its path text and read at once, in the
+/// resolution that the file tells, else 96 dots to the inch. Raises 53 when there is no
+/// such file, 57, 70 or 75 when it cannot be read, and 5 when it is neither a PNG nor a
+/// JPEG.
+ZQ7STANDARD_EXPORT std::shared_ptr<PrintPicture> PictureFromFile(TextView path,
+                                                                 DriveMap drives = {});
 
 }  // namespace ZQ7Standard
 

@@ -6,6 +6,7 @@
 #include <ZQ7Standard/platform/print_document.h>
 #include <ZQ7Standard/platform/printer_settings.h>
 
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -52,7 +53,8 @@ class ZQ7STANDARD_EXPORT PrinterList {
 /// document that is open when the list goes is thrown away.
 ///
 /// A library built without ZQ7STANDARD_WITH_PRINTING has no printer installed.
-ZQ7STANDARD_EXPORT std::shared_ptr<PrinterList> SystemPrinters(TextView pdf_folder = {});
+ZQ7STANDARD_EXPORT std::shared_ptr<PrinterList> SystemPrinters(
+    std::filesystem::path pdf_folder = {});
 
 }  // namespace ZQ7Standard
 

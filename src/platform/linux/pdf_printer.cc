@@ -32,7 +32,7 @@ std::string StemAt(OleDate now) {
 
 class PdfFiles final : public NamedSettings {
  public:
-  explicit PdfFiles(TextView folder) : folder_(Utf8(folder)) {}
+  explicit PdfFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
   void Print(std::string_view pdf) override {
     const auto folder = folder_.empty() ? DocumentsFolder() : folder_;
@@ -57,8 +57,8 @@ class PdfFiles final : public NamedSettings {
 
 }  // namespace
 
-Printer PdfPrinter(TextView folder) {
-  return PrinterOn(u"PDF", std::make_shared<PdfFiles>(folder));
+Printer PdfPrinter(std::filesystem::path folder) {
+  return PrinterOn(u"PDF", std::make_shared<PdfFiles>(std::move(folder)));
 }
 
 }  // namespace ZQ7Standard

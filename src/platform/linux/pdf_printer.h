@@ -3,6 +3,8 @@
 
 #include <ZQ7Standard/platform/printers.h>
 
+#include <filesystem>
+
 namespace ZQ7Standard {
 
 /// The printer "PDF", which writes each document to a file of its own in `folder`,
@@ -10,7 +12,7 @@ namespace ZQ7Standard {
 /// " (2)" and so on behind the time where a file of that name is there. The folder is
 /// made when it is not there. It takes every paper, portrait and landscape, every
 /// quality, and the default bin.
-Printer PdfPrinter(TextView folder);
+Printer PdfPrinter(std::filesystem::path folder);
 
 }  // namespace ZQ7Standard
 

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/linux/cups_printers.h"
 #include "platform/linux/pdf_printer.h"
@@ -13,7 +14,8 @@ namespace {
 
 class LinuxPrinters final : public PrinterList {
  public:
-  explicit LinuxPrinters(TextView pdf_folder) : pdf_(PdfPrinter(pdf_folder)) {}
+  explicit LinuxPrinters(std::filesystem::path pdf_folder)
+      : pdf_(PdfPrinter(std::move(pdf_folder))) {}
 
   std::vector<Printer> Installed() override {
     std::vector<Printer> printers;
@@ -51,8 +53,8 @@ class LinuxPrinters final : public PrinterList {
 
 }  // namespace
 
-std::shared_ptr<PrinterList> SystemPrinters(TextView pdf_folder) {
-  return std::make_shared<LinuxPrinters>(pdf_folder);
+std::shared_ptr<PrinterList> SystemPrinters(std::filesystem::path pdf_folder) {
+  return std::make_shared<LinuxPrinters>(std::move(pdf_folder));
 }
 
 }  // namespace ZQ7Standard
