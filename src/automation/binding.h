@@ -195,6 +195,7 @@ constexpr std::size_t kParameterCount = std::tuple_size_v<ParametersOf<Member>>;
 template <auto Member>
 Value CallMember(void* instance, std::span<const Value* const> arguments,
                  const CallContext& context) {
+  static_assert(kParameterCount<Member> <= kMaxParameters);
   auto& object = *static_cast<ClassOf<Member>*>(instance);
   return [&]<std::size_t... I>(std::index_sequence<I...>)->Value {
     using Parameters = ParametersOf<Member>;

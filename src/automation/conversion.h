@@ -12,6 +12,9 @@
 
 namespace ZQ7Standard::Automation {
 
+/// The most parameters that an operation has.
+inline constexpr std::size_t kMaxParameters = 30;
+
 /// What a call runs with.
 struct CallContext {
   std::string_view member;                    ///< for the messages of errors

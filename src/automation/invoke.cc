@@ -14,8 +14,6 @@ namespace ZQ7Standard::Automation {
 
 namespace {
 
-constexpr std::size_t kMaxParameters = 30;
-
 HostServices Completed(HostServices services) {
   if (!services.clock) services.clock = SystemClock();
   if (!services.date_convention) services.date_convention = SystemDateConvention();
