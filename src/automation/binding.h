@@ -26,47 +26,47 @@ concept EnumerationType = std::is_enum_v<T>;
 
 /// The type of the catalogue that a C++ type is.
 template <typename T>
-constexpr Type kTypeOf = Type::kNothing;
+inline constexpr Type kTypeOf = Type::kNothing;
 template <>
-constexpr Type kTypeOf<Text> = Type::kText;
+inline constexpr Type kTypeOf<Text> = Type::kText;
 template <>
-constexpr Type kTypeOf<TextView> = Type::kText;
+inline constexpr Type kTypeOf<TextView> = Type::kText;
 template <>
-constexpr Type kTypeOf<std::uint8_t> = Type::kByte;
+inline constexpr Type kTypeOf<std::uint8_t> = Type::kByte;
 template <>
-constexpr Type kTypeOf<std::int16_t> = Type::kInteger;
+inline constexpr Type kTypeOf<std::int16_t> = Type::kInteger;
 template <>
-constexpr Type kTypeOf<std::int32_t> = Type::kLong;
+inline constexpr Type kTypeOf<std::int32_t> = Type::kLong;
 template <EnumerationType T>
-constexpr Type kTypeOf<T> = Type::kLong;
+inline constexpr Type kTypeOf<T> = Type::kLong;
 template <>
-constexpr Type kTypeOf<float> = Type::kSingle;
+inline constexpr Type kTypeOf<float> = Type::kSingle;
 template <>
-constexpr Type kTypeOf<double> = Type::kDouble;
+inline constexpr Type kTypeOf<double> = Type::kDouble;
 template <>
-constexpr Type kTypeOf<std::optional<double>> = Type::kDouble;
+inline constexpr Type kTypeOf<std::optional<double>> = Type::kDouble;
 template <>
-constexpr Type kTypeOf<bool> = Type::kBoolean;
+inline constexpr Type kTypeOf<bool> = Type::kBoolean;
 template <>
-constexpr Type kTypeOf<OleDate> = Type::kDate;
+inline constexpr Type kTypeOf<OleDate> = Type::kDate;
 template <>
-constexpr Type kTypeOf<Currency> = Type::kCurrency;
+inline constexpr Type kTypeOf<Currency> = Type::kCurrency;
 template <>
-constexpr Type kTypeOf<TextList> = Type::kTextList;
+inline constexpr Type kTypeOf<TextList> = Type::kTextList;
 
 template <typename T>
-constexpr Type kTypeOf<std::shared_ptr<T>> = Type::kObject;
+inline constexpr Type kTypeOf<std::shared_ptr<T>> = Type::kObject;
 
 /// The class of the catalogue whose instances are of the type `T`.
 template <typename T>
-constexpr std::string_view kClassNameOf = {};
+inline constexpr std::string_view kClassNameOf = {};
 
 template <typename T>
-constexpr std::string_view kClassNameOf<std::shared_ptr<T>> = kClassNameOf<T>;
+inline constexpr std::string_view kClassNameOf<std::shared_ptr<T>> = kClassNameOf<T>;
 template <>
-constexpr std::string_view kClassNameOf<PrintPicture> = "PrintPicture";
+inline constexpr std::string_view kClassNameOf<PrintPicture> = "PrintPicture";
 template <>
-constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
+inline constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
 
 template <typename T>
 TypeInfo TypeInfoOf() {
@@ -81,24 +81,25 @@ TypeInfo TypeInfoOf() {
 /// A value as a parameter of the type `T`.
 template <typename T>
 T ToParameter(const Value& value, const Place& place) {
-  if constexpr (EnumerationType<T>)
+  if constexpr (EnumerationType<T>) {
     return static_cast<T>(ToInteger<std::int32_t>(value, place));
-  else if constexpr (std::same_as<T, bool>)
+  } else if constexpr (std::same_as<T, bool>) {
     return ToBoolean(value, place);
-  else if constexpr (std::integral<T>)
+  } else if constexpr (std::integral<T>) {
     return ToInteger<T>(value, place);
-  else if constexpr (std::same_as<T, float>)
+  } else if constexpr (std::same_as<T, float>) {
     return ToSingle(value, place);
-  else if constexpr (std::same_as<T, double>)
+  } else if constexpr (std::same_as<T, double>) {
     return ToDouble(value, place);
-  else if constexpr (std::same_as<T, OleDate>)
+  } else if constexpr (std::same_as<T, OleDate>) {
     return ToDate(value, place);
-  else if constexpr (std::same_as<T, Currency>)
+  } else if constexpr (std::same_as<T, Currency>) {
     return ToCurrency(value, place);
-  else if constexpr (std::same_as<T, Text>)
+  } else if constexpr (std::same_as<T, Text>) {
     return ToText(value, place);
-  else
+  } else {
     return ToTextList(value, place);
+  }
 }
 
 /// A value and where it is wanted.
@@ -163,12 +164,13 @@ class Argument<std::optional<double>> {
 template <typename T>
 Value ToValue(T&& result) {
   using Result = std::remove_cvref_t<T>;
-  if constexpr (EnumerationType<Result>)
+  if constexpr (EnumerationType<Result>) {
     return static_cast<std::int32_t>(result);
-  else if constexpr (std::same_as<Result, std::uint8_t>)
+  } else if constexpr (std::same_as<Result, std::uint8_t>) {
     return static_cast<std::int16_t>(result);
-  else
+  } else {
     return Value(std::forward<T>(result));
+  }
 }
 
 template <typename Member>
@@ -189,7 +191,7 @@ using ResultOf = typename MemberTraits<decltype(Member)>::Result;
 template <auto Member>
 using ParametersOf = typename MemberTraits<decltype(Member)>::Parameters;
 template <auto Member>
-constexpr std::size_t kParameterCount = std::tuple_size_v<ParametersOf<Member>>;
+inline constexpr std::size_t kParameterCount = std::tuple_size_v<ParametersOf<Member>>;
 
 /// Calls `Member` on an instance with one value for each of its parameters.
 template <auto Member>

@@ -3,6 +3,7 @@
 #include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -92,16 +93,16 @@ struct NumberVisitor {
   double operator()(OleDate date) const { return date.Days(); }
   double operator()(Currency amount) const { return amount.ToDouble(); }
   double operator()(const Arithmetic auto& number) const { return number; }
-  double operator()(const auto&) const { RaiseMismatch(value, place); }
+  double operator()(const auto& /*other*/) const { RaiseMismatch(value, place); }
 };
 
 /// The digits of a single that are printed.
 Decimal SingleDecimal(float number) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, number, std::chars_format::scientific,
+  std::array<char, 32> text;
+  const auto end = std::to_chars(text.begin(), text.end(), number, std::chars_format::scientific,
                                  kSingleDigits - 1);
   double rounded = 0;
-  std::from_chars(text, end.ptr, rounded);
+  std::from_chars(text.begin(), end.ptr, rounded);
   return *ToDecimal(rounded);
 }
 
@@ -163,7 +164,7 @@ struct TextVisitor {
     if (!decimal) RaiseOverflow(value, place);
     return ShortestText(*decimal);
   }
-  Text operator()(const auto&) const { RaiseMismatch(value, place); }
+  Text operator()(const auto& /*other*/) const { RaiseMismatch(value, place); }
 };
 
 }  // namespace

@@ -18,13 +18,13 @@ void AddPaths(ClassInfo& info) {
   AddSubject(
       info, "Paths and the folders on them",
       {Operation<&DiskObject::FileName>("FileName", {"full_name"},
-                                        "The text behind the last \"\\\".",
+                                        R"(The text behind the last "\".)",
                                         {{{u"C:\\a\\b.txt"}, u"b.txt"}}),
        Operation<&DiskObject::Pathname>("Pathname", {"full_name"},
-                                        "The text before the last \"\\\".",
+                                        R"(The text before the last "\".)",
                                         {{{u"C:\\a\\b.txt"}, u"C:\\a"}, {{u"b.txt"}, u""}}),
        Operation<&DiskObject::trimPath>("trimPath", {"Path"},
-                                        "A path without the \"\\\" at its end.",
+                                        R"(A path without the "\" at its end.)",
                                         {{{u"C:\\a\\\\"}, u"C:\\a"}}),
        Operation<&DiskObject::ScaleFullPath>(
            "ScaleFullPath", {"inFullPath", Optional("MaxLen", 0)}, "A path shortened for display.",

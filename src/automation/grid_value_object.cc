@@ -1,5 +1,6 @@
 #include <ZQ7Standard/GridValueObject.h>
 
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -25,7 +26,7 @@ class GridEvents final : public GridValueListener {
   explicit GridEvents(std::shared_ptr<EventSink> sink) : sink_(std::move(sink)) {}
 
   void CellDataChange(std::int32_t Row, std::int32_t Col) override {
-    const Value arguments[] = {Row, Col};
+    const std::array<Value, 2> arguments = {Row, Col};
     sink_->Raise(Events()[1], arguments);
   }
 

@@ -34,7 +34,7 @@ void AddTexts(ClassInfo& info) {
               Operation<&PrintObject::GETPaperBinText>("GETPaperBinText", {"PaperBin"},
                                                        "The name of a bin.", {{{1}, u"Upper Bin"}}),
               Operation<&PrintObject::GETPaperOrientationText>(
-                  "GETPaperOrientationText", {"Orientation"}, "\"Landscape\" or \"Portrait\".",
+                  "GETPaperOrientationText", {"Orientation"}, R"("Landscape" or "Portrait".)",
                   {{{2}, u"Landscape"}, {{99}, u"Portrait"}})});
 }
 

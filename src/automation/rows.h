@@ -63,7 +63,8 @@ OperationInfo Described(std::string_view name, std::span<const ParameterRow> par
                         std::span<const ExampleRow> examples);
 
 template <typename... Parameters>
-std::array<TypeInfo, sizeof...(Parameters)> TypesOf(std::tuple<Parameters...>*) {
+std::array<TypeInfo, sizeof...(Parameters)> TypesOf(
+    const std::tuple<Parameters...>* /*signature*/) {
   return {TypeInfoOf<Parameters>()...};
 }
 
@@ -80,7 +81,8 @@ OperationInfo Operation(std::string_view name, std::span<const ParameterRow> par
 
 /// The same with its parameters in braces, as many as the member has.
 template <auto Member, std::size_t N>
-OperationInfo Operation(std::string_view name, const ParameterRow (&parameters)[N],
+OperationInfo Operation(std::string_view name,
+                        const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
                         std::string_view help, std::initializer_list<ExampleRow> examples) {
   static_assert(N == kParameterCount<Member>, "a name for each parameter");
   return Operation<Member>(name, std::span<const ParameterRow>(parameters), help, examples);

@@ -20,7 +20,7 @@ void AddEra(ClassInfo& info) {
            "GetDateFormat", "The code of the system's date layout, 1 to 4.", {{{}, 4}}),
        Operation<&StandardObject::GetDateFormatString>(
            "GetDateFormatString", {ByRef("DateFormat")},
-           "The date layout of a code, \"m/d/yyyy\" or \"d/m/yyyy\".", {{{4}, u"d/m/yyyy"}}),
+           R"(The date layout of a code, "m/d/yyyy" or "d/m/yyyy".)", {{{4}, u"d/m/yyyy"}}),
        Operation<&StandardObject::GETBlankDate>("GETBlankDate",
                                                 "The date that stands for no date, 3333-03-03.",
                                                 {{{}, Date(3333, 3, 3)}}),
@@ -36,14 +36,14 @@ void AddEra(ClassInfo& info) {
 void AddDayTime(ClassInfo& info) {
   AddSubject(info, "Spans of days, hours and minutes",
              {Operation<&StandardObject::DAYTIME2DAY>("DAYTIME2DAY", {"iDDHHMMText"},
-                                                      "Reads \"D:H:M\" as a number of days.",
+                                                      R"(Reads "D:H:M" as a number of days.)",
                                                       {{{u"1:12:00"}, 1.5}}),
               Operation<&StandardObject::DAY2DAYTIME>("DAY2DAYTIME", {"iDay"},
-                                                      "Writes a number of days as \"D:HH:MM\".",
+                                                      R"(Writes a number of days as "D:HH:MM".)",
                                                       {{{1.5}, u"1:12:00"}}),
               Operation<&StandardObject::isDayTime>(
                   "isDayTime", {"IDayTimeText", Optional("AcceptZeroValue", false)},
-                  "Whether a \"D:H:M\" text amounts to anything but zero.",
+                  R"(Whether a "D:H:M" text amounts to anything but zero.)",
                   {{{u"0:8:30"}, true}, {{u"0:0:0"}, false}, {{u"0:0:0", true}, true}})});
 }
 
@@ -69,7 +69,7 @@ void AddParsing(ClassInfo& info) {
                                                "Whether a text is a date, a time or both.",
                                                {{{u"15 ม.ค. 2567 9:30"}, true}, {{u"9"}, false}}),
        Operation<&StandardObject::isMounthYear>(
-           "isMounthYear", {"inMMYYYY"}, "Whether a text is a month and a year, \"MM/YYYY\".",
+           "isMounthYear", {"inMMYYYY"}, R"(Whether a text is a month and a year, "MM/YYYY".)",
            {{{u"01/2567"}, true}, {{u"13/2567"}, false}}),
        Operation<&StandardObject::GETDateFromTextYYYYMMDD>(
            "GETDateFromTextYYYYMMDD", {"iDateYYYY_MM_DD"},
@@ -86,23 +86,23 @@ void AddParsing(ClassInfo& info) {
 void AddTimeParsing(ClassInfo& info) {
   AddSubject(info, "Times typed by users",
              {Operation<&StandardObject::CTTime>("CTTime", {"ITimeText"},
-                                                 "The time of day of four digits \"HHMM\".",
+                                                 R"(The time of day of four digits "HHMM".)",
                                                  {{{u"0600"}, 0.25}, {{u"6:00"}, 0}}),
               Operation<&StandardObject::isTTime>("isTTime", {"ITimeText"},
-                                                  "Whether a text is four digits \"HHMM\".",
+                                                  R"(Whether a text is four digits "HHMM".)",
                                                   {{{u"2359"}, true}, {{u"2400"}, false}}),
               Operation<&StandardObject::Str2AddDay>(
                   "Str2AddDay", {"InTime", ByRef(Optional("StartValue", 0))},
                   "The day that a clock time past midnight carries over to.",
                   {{{u"25:30"}, 1}, {{u"09:30"}, 0}}),
               Operation<&StandardObject::Str2TIME>(
-                  "Str2TIME", {"InTime"}, "Reads a clock time such as \"9:30\" or \"9:30 PM\".",
+                  "Str2TIME", {"InTime"}, R"(Reads a clock time such as "9:30" or "9:30 PM".)",
                   {{{u"6:00"}, 0.25}, {{u"6:00 PM"}, 0.75}, {{u"soon"}, 0}}),
-              Operation<&StandardObject::CTHour>("CTHour", {"ITimeText"}, "Reads \"H:M\" as hours.",
-                                                 {{{u"7:30"}, 7.5}}),
+              Operation<&StandardObject::CTHour>("CTHour", {"ITimeText"},
+                                                 R"(Reads "H:M" as hours.)", {{{u"7:30"}, 7.5}}),
               Operation<&StandardObject::isHour>(
                   "isHour", {"IHourText", Optional("AcceptZeroValue", false)},
-                  "Whether an \"H:M\" text amounts to anything but zero.",
+                  R"(Whether an "H:M" text amounts to anything but zero.)",
                   {{{u"7:30"}, true}, {{u"0:00"}, false}})});
 }
 
@@ -139,7 +139,7 @@ void AddFormatting(ClassInfo& info) {
                    {{Date(2024, 1, 5), ZQ7Detect, true}, u"05/01/2567"},
                    {{Date(2024, 1, 15), ZQ7D_D_M_M_B_B_B_B}, u"1 5 0 1 2 5 6 7"}}),
               Operation<&StandardObject::FormatTime>("FormatTime", {"InDate"},
-                                                     "Writes the time of day as \"HH:MM\".",
+                                                     R"(Writes the time of day as "HH:MM".)",
                                                      {{{Date(2024, 1, 15, 9, 30)}, u"09:30"}})});
 }
 
