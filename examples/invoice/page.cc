@@ -4,6 +4,7 @@
 #include <ZQ7Standard/Types.h>
 #include <ZQ7Standard/platform/print_picture.h>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <filesystem>
@@ -40,13 +41,13 @@ constexpr TextView kFamily = u"Laksaman";
 enum Alignment : std::int32_t { kStart, kCentre, kEnd };
 
 struct Style {
-  double size = 13;  ///< points
+  double size = 12;  ///< points
   bool bold = false;
   bool italic = false;
 };
 
-constexpr Style kSmall = {.size = 11};
-constexpr Style kStrong = {.size = 13, .bold = true};
+constexpr Style kSmall = {.size = 10};
+constexpr Style kStrong = {.size = 12, .bold = true};
 
 // A PNG of one black dot, and one of a light grey dot.
 constexpr auto kBlackDot =
@@ -146,7 +147,7 @@ void DrawDateBoxes(Sheet& sheet, const StandardObject& standard, OleDate date, s
   for (const char16_t digit : standard.FormatTDate2(date, ZQ7Standard::ZQ7D_D_M_M_B_B_B_B)) {
     if (digit == u' ') continue;
     sheet.Frame(x, y, kWidth, kHeight);
-    sheet.Write(TextView(&digit, 1), x + 3, y, kCentre, {.size = 14});
+    sheet.Write(TextView(&digit, 1), x + 1, y - 1, kStart, {.size = 14});
     x += kWidth + (box == 1 || box == 3 ? kGap : 0);
     ++box;
   }
@@ -154,7 +155,7 @@ void DrawDateBoxes(Sheet& sheet, const StandardObject& standard, OleDate date, s
 
 void DrawCustomer(Sheet& sheet, const StandardObject& standard, const Invoice& invoice,
                   OleDate due) {
-  constexpr std::int32_t kLabels = 128;
+  constexpr std::int32_t kLabels = 120;
   sheet.Write(u"ลูกค้า / Customer", kLeft, 43, kStart, kSmall);
   sheet.Write(invoice.customer, kLeft, 49, kStart, {.size = 15, .bold = true}, 105);
   sheet.Write(u"รหัสลูกค้า / Code  " + invoice.customer_code, kLeft, 58, kStart, {}, 105);
@@ -175,30 +176,30 @@ struct TableColumn {
 };
 
 constexpr std::array<TableColumn, 6> kTable = {{
-    {u"ลำดับ", u"No.", 20, kCentre},
-    {u"รหัสสินค้า", u"Barcode", 27, kStart},
-    {u"รายการ", u"Description", 57, kStart},
-    {u"จำนวน", u"Quantity", 129, kEnd},
-    {u"ราคาต่อหน่วย", u"Unit price", 160, kEnd},
+    {u"ลำดับ", u"No.", 21, kCentre},
+    {u"รหัสสินค้า", u"Barcode", 28, kStart},
+    {u"รายการ", u"Description", 56, kStart},
+    {u"จำนวน", u"Quantity", 126, kEnd},
+    {u"ราคาต่อหน่วย", u"Unit price", 158, kEnd},
     {u"จำนวนเงิน (บาท)", u"Amount", 193, kEnd},
 }};
 
-constexpr std::array<std::int32_t, 7> kTableRules = {kLeft, 25, 55, 112, 131, 162, kRight};
+constexpr std::array<std::int32_t, 7> kTableRules = {kLeft, 26, 54, 108, 128, 160, kRight};
 constexpr std::int32_t kTableTop = 72;
 constexpr std::int32_t kHeadHeight = 14;
 constexpr std::int32_t kRowHeight = 8;
 constexpr std::int32_t kTableBottom =
     kTableTop + kHeadHeight + static_cast<std::int32_t>(kMostLines) * kRowHeight;
-constexpr double kItemWidth = 54;
+constexpr Style kTableHead = {.size = 11, .bold = true};
+constexpr double kItemWidth = 51;
 
-/// Numbers are never cut: a long one is written smaller.
-Style StyleOfNumber(TextView number) {
+/// Numbers are never cut: a long one is written smaller, on the same base line.
+void WriteNumber(Sheet& sheet, const TableColumn& column, TextView number, std::int32_t y,
+                 bool bold = false) {
   constexpr std::size_t kFitting = 14;
-  return number.size() > kFitting ? Style{.size = 10} : Style{};
-}
-
-void WriteNumber(Sheet& sheet, const TableColumn& column, TextView number, std::int32_t y) {
-  sheet.Write(number, column.x, y, column.alignment, StyleOfNumber(number));
+  const bool is_long = number.size() > kFitting;
+  sheet.Write(number, column.x, is_long ? y + 1 : y, column.alignment,
+              {.size = is_long ? 8.5 : 12.0, .bold = bold});
 }
 
 Text Number(const StandardObject& standard, double value) {
@@ -213,7 +214,7 @@ Text Price(const StandardObject& standard, double price) {
 void DrawTableHead(Sheet& sheet) {
   sheet.Shade(kLeft, kTableTop, kRight - kLeft, kHeadHeight);
   for (const TableColumn& column : kTable) {
-    sheet.Write(column.thai, column.x, kTableTop, column.alignment, kStrong);
+    sheet.Write(column.thai, column.x, kTableTop, column.alignment, kTableHead);
     sheet.Write(column.english, column.x, kTableTop + 7, column.alignment, kSmall);
   }
   sheet.RuleAcross(kLeft, kTableTop, kRight - kLeft);
@@ -228,7 +229,7 @@ void DrawTable(Sheet& sheet, const StandardObject& standard, const Invoice& invo
   for (std::size_t i = 0; i < invoice.lines.size(); ++i, y += kRowHeight) {
     const InvoiceLine& line = invoice.lines[i];
     WriteNumber(sheet, kTable[0], FromUtf8(std::to_string(i + 1)), y);
-    sheet.Write(line.barcode, kTable[1].x, y, kStart, kSmall);
+    sheet.Write(line.barcode, kTable[1].x, y + 1, kStart, kSmall);
     sheet.Write(line.item.empty() ? u"สินค้าตามรหัส" : line.item, kTable[2].x, y, kStart, {},
                 kItemWidth);
     WriteNumber(sheet, kTable[3], Number(standard, line.quantity), y);
@@ -238,18 +239,17 @@ void DrawTable(Sheet& sheet, const StandardObject& standard, const Invoice& invo
 }
 
 void DrawTotals(Sheet& sheet, const StandardObject& standard, const Invoice& invoice) {
-  const Text amount = FormatAmount(invoice.amount);
   std::int32_t y = kTableBottom + 1;
-  sheet.Write(u"รวมทั้งสิ้น / Total", 160, y, kEnd, kStrong);
-  sheet.Write(amount, 193, y, kEnd, {.size = StyleOfNumber(amount).size, .bold = true});
-  sheet.RuleAcross(162, y + 8, kRight - 162, kBold);
+  sheet.Write(u"รวมทั้งสิ้น / Total", kTable[4].x, y, kEnd, kStrong);
+  WriteNumber(sheet, kTable[5], FormatAmount(invoice.amount), y, true);
+  sheet.RuleAcross(kTableRules[5], y + 8, kRight - kTableRules[5], kBold);
   const double discount = DiscountOf(standard, invoice);
   if (discount == 0) return;
   y += 9;
   const Text days = Number(standard, invoice.discount_days);
   sheet.Write(u"ส่วนลดเมื่อชำระภายใน " + days + u" วัน / Discount if paid within " + days + u" days",
-              160, y, kEnd, kSmall);
-  sheet.Write(FormatAmount(discount), 193, y, kEnd, kSmall);
+              kTable[4].x, y, kEnd, kSmall);
+  sheet.Write(FormatAmount(discount), kTable[5].x, y, kEnd, kSmall);
 }
 
 struct Halves {
@@ -259,7 +259,7 @@ struct Halves {
 
 /// A text that is too long for a line in two, at a blank.
 Halves InTwo(const Text& text) {
-  constexpr std::size_t kFitting = 95;
+  constexpr std::size_t kFitting = 84;
   const std::size_t blank = text.rfind(u' ', kFitting);
   if (text.size() <= kFitting || blank == Text::npos) return {text, {}};
   return {text.substr(0, blank), text.substr(blank + 1)};
@@ -267,15 +267,19 @@ Halves InTwo(const Text& text) {
 
 void DrawWords(Sheet& sheet, const Invoice& invoice) {
   constexpr std::int32_t kTop = kTableBottom + 19;
-  constexpr int kFitting = 80;
+  constexpr std::int32_t kMiddle = (kLeft + kRight) / 2;
+  constexpr int kFitting = 60;
+  constexpr double kSize = 14;
+  constexpr Style kEnglish = {.size = 10.5};
   BahtStringObject baht;
-  const Text thai = u"(" + baht.BahtString(invoice.amount) + u")";
+  const Text words = baht.BahtString(invoice.amount);
+  const Text thai = u"(" + words + u")";
   const Halves english = InTwo(baht.BahtString(invoice.amount, false, true));
-  sheet.Shade(kLeft, kTop, kRight - kLeft, 24);
-  const Style style = {.size = TerminalWidth(thai) > kFitting ? 11.0 : 14.0, .bold = true};
-  sheet.Write(thai, (kLeft + kRight) / 2, kTop + 1, kCentre, style);
-  sheet.Write(english.first, (kLeft + kRight) / 2, kTop + 10, kCentre);
-  sheet.Write(english.second, (kLeft + kRight) / 2, kTop + 16, kCentre);
+  const double shrinkage = std::min(1.0, 1.0 * kFitting / TerminalWidth(thai));
+  sheet.Shade(kLeft, kTop, kRight - kLeft, 21);
+  sheet.Write(thai, kMiddle, kTop + 1, kCentre, {.size = kSize * shrinkage, .bold = true});
+  sheet.Write(english.first, kMiddle, kTop + (english.second.empty() ? 11 : 9), kCentre, kEnglish);
+  sheet.Write(english.second, kMiddle, kTop + 14, kCentre, kEnglish);
 }
 
 void DrawPayment(Sheet& sheet, const StandardObject& standard, const Company& sender,
@@ -283,10 +287,15 @@ void DrawPayment(Sheet& sheet, const StandardObject& standard, const Company& se
   const Text term = standard.FormatCondition2(
       static_cast<float>(invoice.discount_percent), invoice.discount_days, invoice.condition_type,
       ZQ7Standard::ZQ7ConditionOutputTypeFull, invoice.net_days);
-  sheet.Write(u"เงื่อนไขการชำระเงิน / Payment term  " + term, kLeft, 229);
-  sheet.Write(u"เช็คสั่งจ่าย / Cheque payable to  " + sender.name, kLeft, 238, kStart, {}, 115);
-  sheet.Write(u"ลงวันที่ / Date", kRight - 48, 238, kEnd);
-  DrawDateBoxes(sheet, standard, due, kRight - 44, 238);
+  constexpr std::int32_t kValues = 80;
+  sheet.Write(u"เงื่อนไขการชำระเงิน / Payment term", kLeft, 226);
+  sheet.Write(term, kValues, 226);
+  if (!sender.name.empty()) {
+    sheet.Write(u"เช็คสั่งจ่าย / Cheque payable to", kLeft, 234);
+    sheet.Write(sender.name, kValues, 234, kStart, kStrong, kRight - kValues);
+  }
+  sheet.Write(u"เช็คลงวันที่ / Cheque date", kLeft, 243);
+  DrawDateBoxes(sheet, standard, due, kValues, 243);
 }
 
 void DrawSignatures(Sheet& sheet) {
