@@ -189,7 +189,7 @@ constexpr std::int32_t kTableTop = 72;
 constexpr std::int32_t kHeadHeight = 14;
 constexpr std::int32_t kRowHeight = 8;
 constexpr std::int32_t kTableBottom =
-    kTableTop + kHeadHeight + static_cast<std::int32_t>(kMostLines) * kRowHeight;
+    kTableTop + kHeadHeight + static_cast<std::int32_t>(kMostLines) * kRowHeight + 1;
 constexpr Style kTableHead = {.size = 11, .bold = true};
 constexpr double kItemWidth = 51;
 
@@ -225,7 +225,7 @@ void DrawTableHead(Sheet& sheet) {
 
 void DrawTable(Sheet& sheet, const StandardObject& standard, const Invoice& invoice) {
   DrawTableHead(sheet);
-  std::int32_t y = kTableTop + kHeadHeight;
+  std::int32_t y = kTableTop + kHeadHeight + 1;
   for (std::size_t i = 0; i < invoice.lines.size(); ++i, y += kRowHeight) {
     const InvoiceLine& line = invoice.lines[i];
     WriteNumber(sheet, kTable[0], FromUtf8(std::to_string(i + 1)), y);
@@ -287,7 +287,7 @@ void DrawPayment(Sheet& sheet, const StandardObject& standard, const Company& se
   const Text term = standard.FormatCondition2(
       static_cast<float>(invoice.discount_percent), invoice.discount_days, invoice.condition_type,
       ZQ7Standard::ZQ7ConditionOutputTypeFull, invoice.net_days);
-  constexpr std::int32_t kValues = 80;
+  constexpr std::int32_t kValues = 86;
   sheet.Write(u"เงื่อนไขการชำระเงิน / Payment term", kLeft, 226);
   sheet.Write(term, kValues, 226);
   if (!sender.name.empty()) {
