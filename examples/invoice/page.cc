@@ -28,7 +28,6 @@ using ZQ7Standard::PrintPicture;
 using ZQ7Standard::StandardObject;
 using ZQ7Standard::Text;
 using ZQ7Standard::TextView;
-using ZQ7Standard::Utf8;
 
 // All places and lengths are millimetres.
 constexpr std::int32_t kLeft = 15;

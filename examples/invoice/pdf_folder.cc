@@ -49,7 +49,8 @@ fs::path FileName(const Invoice& invoice) {
 
 }  // namespace
 
-PdfFolder::PdfFolder(const fs::path& folder) : folder_(folder), new_files_(folder / ".new") {
+PdfFolder::PdfFolder(const fs::path& folder)
+    : folder_(folder), new_files_(folder / ".invoice-page") {
   auto printers = PdfPrinter(new_files_);
   fs::remove_all(new_files_);
   fs::create_directories(new_files_);
