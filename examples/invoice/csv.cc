@@ -63,20 +63,18 @@ Text TakeField(TextView& rest) {
 }
 
 /// Takes the fields of a row and the end of its line.
-std::vector<Text> TakeFields(TextView& rest) {
-  std::vector<Text> fields;
+void TakeFields(TextView& rest, std::vector<Text>& fields) {
   do {
     fields.push_back(TakeField(rest));
   } while (TakeIf(rest, u','));
   TakeIf(rest, u'\n');
-  return fields;
 }
 
 CsvRow TakeRow(TextView& rest) {
   TextView next_line = rest;
   CsvRow row;
   try {
-    row.fields = TakeFields(rest);
+    TakeFields(rest, row.fields);
   } catch (const QuoteError& error) {
     row.mistake = error.what();
     TakeUntil(next_line, u"\n");

@@ -11,7 +11,7 @@ namespace InvoiceDemo {
 /// One row of a table of comma-separated fields.
 struct CsvRow {
   int line = 0;                           ///< the line of the file it begins on, from 1
-  std::vector<ZQ7Standard::Text> fields;  ///< empty when the row has a mistake
+  std::vector<ZQ7Standard::Text> fields;  ///< those before the mistake when it has one
   std::string mistake;                    ///< why the row could not be read, else empty
 };
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <limits>
+#include <span>
 
 #include "amount_text.h"
 #include "terminal_text.h"
@@ -34,12 +35,18 @@ enum Column : std::size_t {
   kDiscountDays,
   kBarcode,
   kAmount,
+  kItem,
+  kQuantity,
+  kPrice,
   kColumnCount,
 };
 
+constexpr std::size_t kColumnsWithoutItem = kItem;
+
 constexpr std::array<const char*, kColumnCount> kColumnNames = {
-    "number",   "customer code",    "customer",      "date",    "condition type", "delivery days",
-    "net days", "discount percent", "discount days", "barcode", "amount"};
+    "number",        "customer code", "customer",         "date",          "condition type",
+    "delivery days", "net days",      "discount percent", "discount days", "barcode",
+    "amount",        "item",          "quantity",         "price"};
 
 constexpr double kLastConditionType = ZQ7Standard::ZQ7AfterEndOfSPTMonth;
 constexpr double kMostDays = std::numeric_limits<std::int16_t>::max();
@@ -59,12 +66,14 @@ class RowReader {
   RowReader(const StandardObject& standard, const std::vector<Text>& fields)
       : standard_(standard), fields_(fields) {}
 
+  void CheckColumnCount() const;
   Text ReadText(Column column) const;
   Text ReadCode(Column column) const;
   Text ReadBarcode(Column column) const;
   OleDate ReadDate(Column column) const;
   double ReadNumber(Column column, Digits digits, double largest) const;
   std::int16_t ReadDays(Column column) const;
+  InvoiceLine ReadLine() const;
 
  private:
   [[noreturn]] void Fail(Column column, const std::string& reason) const;
@@ -155,20 +164,51 @@ std::int16_t RowReader::ReadDays(Column column) const {
   return static_cast<std::int16_t>(ReadNumber(column, Digits::kWhole, kMostDays));
 }
 
+void RowReader::CheckColumnCount() const {
+  if (fields_.size() == kColumnCount || fields_.size() == kColumnsWithoutItem) return;
+  throw FieldError("row", "has " + std::to_string(fields_.size()) + " fields instead of " +
+                              std::to_string(kColumnsWithoutItem) + " or " +
+                              std::to_string(kColumnCount));
+}
+
+/// The words and the figures are both made from the one rounded amount.
+InvoiceLine RowReader::ReadLine() const {
+  InvoiceLine line;
+  line.barcode = ReadBarcode(kBarcode);
+  line.amount = standard_.FixNumber(ReadNumber(kAmount, Digits::kDecimal, kLargestAmount), 2);
+  line.price = line.amount;
+  const bool has_item = fields_.size() == kColumnCount &&
+                        !(fields_[kItem] + fields_[kQuantity] + fields_[kPrice]).empty();
+  if (!has_item) return line;
+  line.item = ReadText(kItem);
+  line.quantity = ReadNumber(kQuantity, Digits::kDecimal, kLargestAmount);
+  line.price = ReadNumber(kPrice, Digits::kDecimal, kLargestAmount);
+  if (standard_.FixNumber(line.quantity * line.price, 2) != line.amount) {
+    Fail(kAmount, "is not " + Utf8(fields_[kQuantity]) + " times " + Utf8(fields_[kPrice]));
+  }
+  return line;
+}
+
 }  // namespace
 
 bool IsHeader(const StandardObject& standard, const std::vector<Text>& fields) {
   return fields.size() > kDate && standard.Numb(fields[kDate]).empty();
 }
 
-Invoice ReadInvoice(const StandardObject& standard, const std::vector<Text>& fields) {
-  if (fields.size() != kColumnCount) {
-    throw FieldError("row", "has " + std::to_string(fields.size()) + " fields instead of " +
-                                std::to_string(kColumnCount));
-  }
+bool IsFurtherLine(const std::vector<Text>& fields) {
+  return fields.size() >= kBarcode &&
+         std::ranges::all_of(std::span(fields).first(kBarcode), &Text::empty);
+}
+
+Invoice ReadInvoice(const StandardObject& standard, const std::vector<Text>& typed_fields,
+                    const InvoiceDefaults& defaults) {
+  std::vector<Text> fields = typed_fields;
   const RowReader row(standard, fields);
-  return {
-      .number = row.ReadText(kNumber),
+  row.CheckColumnCount();
+  if (fields[kNetDays].empty()) fields[kNetDays] = defaults.net_days;
+  const bool lacks_number = defaults.may_lack_number && fields[kNumber].empty();
+  Invoice invoice = {
+      .number = lacks_number ? Text() : row.ReadText(kNumber),
       .customer_code = row.ReadCode(kCustomerCode),
       .customer = row.ReadText(kCustomer),
       .date = row.ReadDate(kDate),
@@ -178,10 +218,27 @@ Invoice ReadInvoice(const StandardObject& standard, const std::vector<Text>& fie
       .net_days = row.ReadDays(kNetDays),
       .discount_percent = row.ReadNumber(kDiscountPercent, Digits::kDecimal, kFullPercent),
       .discount_days = row.ReadDays(kDiscountDays),
-      .barcode = row.ReadBarcode(kBarcode),
-      // The words and the figures are both made from this one rounded amount.
-      .amount = standard.FixNumber(row.ReadNumber(kAmount, Digits::kDecimal, kLargestAmount), 2),
+      .lines = {row.ReadLine()},
+      .amount = 0,
   };
+  invoice.amount = invoice.lines.front().amount;
+  return invoice;
+}
+
+void ReadFurtherLine(const StandardObject& standard, const std::vector<Text>& fields,
+                     Invoice& invoice) {
+  const RowReader row(standard, fields);
+  row.CheckColumnCount();
+  if (invoice.lines.size() == kMostLines) {
+    throw FieldError(
+        "row", "is one line more than an invoice has room for, " + std::to_string(kMostLines));
+  }
+  invoice.lines.push_back(row.ReadLine());
+  invoice.amount = standard.FixNumber(invoice.amount + invoice.lines.back().amount, 2);
+  if (invoice.amount > kLargestAmount) {
+    throw FieldError("amount",
+                     "all lines come to more than " + Utf8(standard.d2Str(kLargestAmount)));
+  }
 }
 
 }  // namespace InvoiceDemo

@@ -1,5 +1,6 @@
 // Reads invoices as a Thai office types them and prints what goes on paper: the
-// dates, the payment term, the amount in words, and what all of them come to.
+// dates, the payment term, the amount in words, and what all of them come to. With
+// settings beside the data it counts the documents and logs them.
 
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/Types.h>
@@ -7,31 +8,37 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <exception>
 #include <fstream>
 #include <iostream>
 #include <optional>
-#include <span>
 #include <string>
 #include <system_error>
 #include <vector>
 
 #include "csv.h"
-#include "invoice.h"
+#include "drawer.h"
+#include "invoice_list.h"
+#include "issue.h"
+#include "office.h"
 #include "report.h"
+#include "terminal_text.h"
 #include "totals.h"
 
 namespace InvoiceDemo {
 namespace {
 
+using ZQ7Standard::FromUtf8;
 using ZQ7Standard::StandardObject;
 using ZQ7Standard::Utf8;
 
 enum ExitStatus : int { kAllPrinted = 0, kSomeRowsBad = 1, kNotRun = 2 };
 
-/// The invoices of a table, and a line of text for each row that is none.
-struct InvoiceList {
-  std::vector<Invoice> invoices;
-  std::vector<std::string> mistakes;
+struct Options {
+  bool verbose = false;
+  bool drawer = false;
+  std::string pdf_folder;  ///< empty for no PDF files
+  std::string file;        ///< "-" is standard input
 };
 
 std::optional<std::string> ReadAll(std::istream& in) {
@@ -51,47 +58,91 @@ std::optional<std::string> ReadFile(const std::string& name) {
   return ReadAll(file);
 }
 
-InvoiceList ReadInvoices(const StandardObject& standard, std::span<const CsvRow> rows) {
-  InvoiceList list;
-  const bool has_header = !rows.empty() && IsHeader(standard, rows.front().fields);
-  for (const CsvRow& row : rows.subspan(has_header ? 1 : 0)) {
-    try {
-      if (!row.mistake.empty()) throw FieldError("row", row.mistake);
-      list.invoices.push_back(ReadInvoice(standard, row.fields));
-    } catch (const FieldError& error) {
-      list.mistakes.push_back("line " + std::to_string(row.line) + ", " + error.Field() + ": " +
-                              error.what());
-    }
-  }
-  return list;
-}
-
 int Complain(const std::string& what) {
   std::cerr << "invoice: " << what << '\n';
   return kNotRun;
 }
 
-int Run(const std::string& name, bool verbose) {
-  const std::string shown_name = name == "-" ? "standard input" : name;
-  errno = 0;
-  const auto bytes = ReadFile(name);
-  if (!bytes) {
-    return Complain("cannot read " + shown_name + ": " + std::generic_category().message(errno));
+Outlets MakeOutlets(const Options& options) {
+  Outlets outlets;
+  if (options.file != "-") outlets.office = Office::Beside(options.file);
+  if (!options.pdf_folder.empty()) outlets.pdf = std::make_unique<PdfFolder>(options.pdf_folder);
+  return outlets;
+}
+
+void LogRead(Office& office, const std::string& name, const InvoiceList& list) {
+  const std::string counts = ": " + std::to_string(list.invoices.size()) + " invoices, " +
+                             std::to_string(list.mistakes.size()) + " mistakes";
+  office.Log(u"Read", u"OK", FromUtf8(name + counts));
+}
+
+/// Who sends the invoices, and on what paper.
+void PrintSender(const Company& sender) {
+  if (!sender.name.empty()) std::cout << "  " << Utf8(OneLine(sender.name)) << '\n';
+  if (sender.logo) {
+    const auto& [file, width, height] = *sender.logo;
+    std::cout << "  " << file.filename().string() << ' ' << width << " x " << height << " pixels\n";
   }
+  std::cout << '\n';
+}
+
+/// Issues and prints the invoices of a file that was read to `bytes`.
+int Process(const Options& options, const std::string& shown_name, const std::string& bytes) {
   const StandardObject standard;
-  const InvoiceList list = ReadInvoices(standard, ReadCsv(ZQ7Standard::FromUtf8(*bytes)));
+  const Outlets outlets = MakeOutlets(options);
+  InvoiceDefaults defaults;
+  if (outlets.office) defaults = {true, outlets.office->DefaultNetDays()};
+  InvoiceList list = ReadInvoices(standard, ReadCsv(FromUtf8(bytes)), defaults);
+  if (outlets.office) LogRead(*outlets.office, shown_name, list);
 
   Totals totals;
-  if (verbose) totals.Follow(std::cerr);
-  for (const Invoice& invoice : list.invoices) totals.Add(standard, invoice);
-
-  std::cout << Utf8(Report(standard, list.invoices, totals)) << std::flush;
-  const bool printed = std::cout.good();
+  if (options.verbose) totals.Follow(std::cerr);
+  const std::string failure = IssueAll(standard, outlets, list, totals);
+  if (outlets.office && !list.invoices.empty()) PrintSender(outlets.office->Sender());
+  std::cout << Utf8(Report(standard, list.invoices, totals));
+  const bool printed = std::cout.flush().good();
   for (const std::string& mistake : list.mistakes) {
     std::cerr << shown_name << ", " << mistake << '\n';
   }
   if (!printed) return Complain("cannot write the invoices to standard output");
+  if (!failure.empty()) return Complain(failure);
+  if (options.drawer) std::cout << "  Drawer      " << KickDrawer() << std::endl;
   return list.mistakes.empty() ? kAllPrinted : kSomeRowsBad;
+}
+
+int Run(const Options& options) {
+  const std::string shown_name = options.file == "-" ? "standard input" : options.file;
+  errno = 0;
+  const auto bytes = ReadFile(options.file);
+  if (!bytes) {
+    return Complain("cannot read " + shown_name + ": " + std::generic_category().message(errno));
+  }
+  try {
+    return Process(options, shown_name, *bytes);
+  } catch (const std::exception& error) {
+    return Complain(error.what());
+  }
+}
+
+/// Nothing when the arguments are not those of the usage.
+std::optional<Options> ReadOptions(const std::vector<std::string>& arguments) {
+  Options options;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    if (argument == "--verbose") {
+      options.verbose = true;
+    } else if (argument == "--drawer") {
+      options.drawer = true;
+    } else if (argument == "--pdf" && i + 1 < arguments.size()) {
+      options.pdf_folder = arguments[++i];
+    } else if (options.file.empty() && (argument == "-" || !argument.starts_with('-'))) {
+      options.file = argument;
+    } else {
+      return std::nullopt;
+    }
+  }
+  if (options.file.empty()) return std::nullopt;
+  return options;
 }
 
 }  // namespace
@@ -100,12 +151,10 @@ int Run(const std::string& name, bool verbose) {
 int main(int argc, char** argv) {
   // Without buffers shared with C, a failed read of standard input is told from its end.
   std::ios::sync_with_stdio(false);
-  std::vector<std::string> arguments(argv + 1, argv + argc);
-  const bool verbose = std::erase(arguments, "--verbose") > 0;
-  const std::string name = arguments.empty() ? INVOICES_FILE : arguments.front();
-  if (arguments.size() > 1 || (name.starts_with('-') && name != "-")) {
-    std::cerr << "usage: invoice [--verbose] [FILE | -]\n";
+  const auto options = InvoiceDemo::ReadOptions({argv + 1, argv + argc});
+  if (!options) {
+    std::cerr << "usage: invoice [--verbose] [--drawer] [--pdf FOLDER] FILE | -\n";
     return InvoiceDemo::kNotRun;
   }
-  return InvoiceDemo::Run(name, verbose);
+  return InvoiceDemo::Run(*options);
 }

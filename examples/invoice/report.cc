@@ -8,6 +8,7 @@
 #include <span>
 
 #include "amount_text.h"
+#include "next_number.h"
 #include "terminal_text.h"
 
 namespace InvoiceDemo {
@@ -20,7 +21,6 @@ using ZQ7Standard::Text;
 using ZQ7Standard::TextView;
 
 constexpr auto kIndent = u"  ";
-constexpr std::size_t kMostCountedDigits = 14;  // `IncreaseString` writes 15 of them
 
 using Columns = std::array<Text, 5>;
 using Widths = std::array<int, 5>;
@@ -63,19 +63,13 @@ Text AlignColumns(const Columns& row, const Widths& widths) {
 /// The lines of an invoice on paper, the last with the digest of those above it.
 Text Document(const StandardObject& standard, const Invoice& invoice, const Text& columns) {
   BahtStringObject baht;
-  const Text heading = invoice.number + u"  " + invoice.customer_code + u"  " + invoice.barcode +
-                       u"  " + invoice.customer;
+  Text heading = invoice.number + u"  " + invoice.customer_code + u"  ";
+  for (const InvoiceLine& line : invoice.lines) heading += line.barcode + u"  ";
+  heading += invoice.customer;
   Text lines = OneLine(heading) + u"\n" + columns + u"\n";
   lines += kIndent + baht.BahtString(invoice.amount) + u"\n";
   lines += kIndent + baht.BahtString(invoice.amount, false, true) + u"\n";
   return lines + kIndent + u"MD5 " + standard.CalculateMD5(lines) + u"\n";
-}
-
-/// Empty when the number at the end cannot be counted up digit by digit.
-Text NextNumber(const StandardObject& standard, TextView number) {
-  const TextView digits = number.substr(number.find_last_not_of(u"0123456789") + 1);
-  if (digits.size() > kMostCountedDigits || standard.StrVal(digits) == 0) return {};
-  return standard.IncreaseString(number);
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 
 namespace InvoiceDemo {
 
-/// Writes each invoice as a block of lines: number, customer code, barcode and
+/// Writes each invoice as a block of lines: number, customer code, barcodes and
 /// customer; date, date in words, due date, payment term and amount in aligned
 /// columns; the amount in Thai words, and in English words; the MD5 digest of
 /// these lines, line ends included, in Windows-874.

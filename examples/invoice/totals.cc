@@ -33,14 +33,12 @@ class RunningTotal final : public GridValueListener {
   std::ostream& out_;
 };
 
-/// The discount that the payment term grants: none to those who pay at once, and
-/// none without days to earn it in.
+}  // namespace
+
 double DiscountOf(const StandardObject& standard, const Invoice& invoice) {
   if (invoice.net_days == 0 || invoice.discount_days == 0) return 0;
   return standard.FixNumber(invoice.amount * invoice.discount_percent / 100, 2);
 }
-
-}  // namespace
 
 Totals::Totals() {
   grid_.SetCols(kColumnCount);

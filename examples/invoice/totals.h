@@ -11,6 +11,10 @@
 
 namespace InvoiceDemo {
 
+/// The discount in baht that the payment term grants: none to those who pay at once,
+/// and none without days to earn it in.
+double DiscountOf(const ZQ7Standard::StandardObject& standard, const Invoice& invoice);
+
 /// What all invoices come to, from a grid with a row for each.
 class Totals {
  public:
