@@ -89,22 +89,23 @@ BatchSession::BatchSession(const Settings& settings)
     : journal_(std::make_shared<Journal>()), services_(ServicesFor(settings, journal_)) {}
 
 std::string BatchSession::Answer(std::string_view line) {
-  Json reply = Json::object();
+  std::string answer = "{";
+  Json outcome = Json::object();
   try {
     const Json request = ReadJson(line);
     if (!request.is_object()) throw JsonError("not a JSON object");
-    if (request.contains("id")) reply["id"] = request["id"];
+    if (request.contains("id")) answer.append("\"id\":").append(MemberText(line, "id")) += ',';
     CheckKeys(request);
     const Value result = Perform(request);
-    reply["result"] = JsonOfValue(result, objects_);
+    outcome["result"] = JsonOfValue(result, objects_);
   } catch (const RunTimeError& error) {
-    reply["error"] = {{"number", error.Number()}};
-    reply["error"].update(ErrorOf(error.what()));
+    outcome["error"] = {{"number", error.Number()}};
+    outcome["error"].update(ErrorOf(error.what()));
   } catch (const std::exception& error) {
-    reply["error"] = ErrorOf(error.what());
+    outcome["error"] = ErrorOf(error.what());
   }
-  journal_->MoveTo(reply);
-  return WriteJson(reply);
+  journal_->MoveTo(outcome);
+  return answer += WriteJson(outcome).substr(1);
 }
 
 Value BatchSession::Perform(const Json& request) {

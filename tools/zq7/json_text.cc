@@ -1,6 +1,6 @@
 #include "json_text.h"
 
-#include <memory>
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <utility>
 #include <vector>
@@ -70,6 +70,47 @@ class TreeBuilder final : public Json::json_sax_t {
   std::string key_;
 };
 
+/// Walks over JSON that is known to be well formed.
+class Cursor {
+ public:
+  explicit Cursor(std::string_view json) : rest_(json) {}
+
+  /// Takes what stands between keys and values, and tells whether an object goes on.
+  bool SkipToNext() {
+    rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t\r:,"), rest_.size()));
+    return !rest_.starts_with('}');
+  }
+
+  std::string_view TakeValue() {
+    const std::string_view begin = rest_;
+    int depth = 0;
+    do {
+      const char c = rest_.front();
+      if (c == '"') {
+        SkipString();
+      } else if (c == '{' || c == '[') {
+        ++depth;
+        rest_.remove_prefix(1);
+      } else if (c == '}' || c == ']') {
+        --depth;
+        rest_.remove_prefix(1);
+      } else {
+        rest_.remove_prefix(std::min(rest_.find_first_of("\"{}[], \t\r", 1), rest_.size()));
+      }
+    } while (depth > 0);
+    return begin.substr(0, begin.size() - rest_.size());
+  }
+
+ private:
+  void SkipString() {
+    std::size_t end = rest_.find_first_of("\"\\", 1);
+    while (rest_[end] == '\\') end = rest_.find_first_of("\"\\", end + 2);
+    rest_.remove_prefix(end + 1);
+  }
+
+  std::string_view rest_;
+};
+
 }  // namespace
 
 Json ReadJson(std::string_view text) {
@@ -82,6 +123,17 @@ Json ReadJson(std::string_view text) {
 
 std::string WriteJson(const Json& json) {
   return JsonWithoutStandIns(json.dump());
+}
+
+std::string_view MemberText(std::string_view object, std::string_view name) {
+  Cursor cursor(object.substr(object.find('{') + 1));
+  while (cursor.SkipToNext()) {
+    const std::string_view key = cursor.TakeValue();
+    cursor.SkipToNext();
+    const std::string_view value = cursor.TakeValue();
+    if (ReadJson(key) == name) return value;
+  }
+  return {};
 }
 
 ZQ7Standard::Text TextOfJson(const std::string& string) {

@@ -32,6 +32,10 @@ Json ReadJson(std::string_view text);
 /// The JSON text in one line of UTF-8, which `ReadJson` reads as the same.
 std::string WriteJson(const Json& json);
 
+/// The text of a member of `object`, an object that `ReadJson` has read, as it stands
+/// there; empty for none.
+std::string_view MemberText(std::string_view object, std::string_view name);
+
 /// The UTF-16 text that a string of a `Json` stands for, and the other way round.
 ZQ7Standard::Text TextOfJson(const std::string& string);
 std::string JsonOfText(ZQ7Standard::TextView text);

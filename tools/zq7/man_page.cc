@@ -58,10 +58,10 @@ std::string OptionParagraphs(const CLI::App& app) {
   std::string paragraphs;
   for (const CLI::Option* option : app.get_options()) {
     const bool value = option->get_items_expected_max() > 0;
-    const std::string name =
-        option->get_positional()
-            ? Italic(option->get_name(true))
-            : Bold(option->get_name(false, true)) + (value ? " " + Italic(option->get_type_name()) : "");
+    const std::string name = option->get_positional()
+                                 ? Italic(option->get_name(true))
+                                 : Bold(option->get_name(false, true)) +
+                                       (value ? " " + Italic(option->get_type_name()) : "");
     if (option != app.get_help_ptr() || app.get_parent() == nullptr) {
       paragraphs += Paragraph(name, option->get_description());
     }
