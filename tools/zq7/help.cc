@@ -22,7 +22,8 @@ std::string Joined(const std::vector<std::string>& pieces) {
 }
 
 std::string Section(std::string_view title, const std::string& lines) {
-  return lines.empty() ? "" : "\n" + std::string(title) + "\n" + lines;
+  if (lines.empty()) return "";
+  return std::string("\n").append(title).append("\n").append(lines);
 }
 
 std::string PropertyRows(const ClassInfo& owner, std::size_t width) {
