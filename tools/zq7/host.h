@@ -11,8 +11,8 @@ namespace ZQ7Tool {
 
 /// What a command line sets in place of the machine.
 struct Settings {
-  std::optional<ZQ7Standard::OleDate> now;
-  std::optional<ZQ7Standard::DateConvention> convention;
+  std::optional<ZQ7Standard::OleDate> now = std::nullopt;
+  std::optional<ZQ7Standard::DateConvention> convention = std::nullopt;
   bool example = false;  ///< the services of the catalogue's examples
 };
 
