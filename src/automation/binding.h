@@ -28,31 +28,31 @@ concept EnumerationType = std::is_enum_v<T>;
 template <typename T>
 constexpr Type kTypeOf = Type::kNothing;
 template <>
-constexpr Type kTypeOf<Text> = Type::kText;
+inline constexpr Type kTypeOf<Text> = Type::kText;
 template <>
-constexpr Type kTypeOf<TextView> = Type::kText;
+inline constexpr Type kTypeOf<TextView> = Type::kText;
 template <>
-constexpr Type kTypeOf<std::uint8_t> = Type::kByte;
+inline constexpr Type kTypeOf<std::uint8_t> = Type::kByte;
 template <>
-constexpr Type kTypeOf<std::int16_t> = Type::kInteger;
+inline constexpr Type kTypeOf<std::int16_t> = Type::kInteger;
 template <>
-constexpr Type kTypeOf<std::int32_t> = Type::kLong;
+inline constexpr Type kTypeOf<std::int32_t> = Type::kLong;
 template <EnumerationType T>
 constexpr Type kTypeOf<T> = Type::kLong;
 template <>
-constexpr Type kTypeOf<float> = Type::kSingle;
+inline constexpr Type kTypeOf<float> = Type::kSingle;
 template <>
-constexpr Type kTypeOf<double> = Type::kDouble;
+inline constexpr Type kTypeOf<double> = Type::kDouble;
 template <>
-constexpr Type kTypeOf<std::optional<double>> = Type::kDouble;
+inline constexpr Type kTypeOf<std::optional<double>> = Type::kDouble;
 template <>
-constexpr Type kTypeOf<bool> = Type::kBoolean;
+inline constexpr Type kTypeOf<bool> = Type::kBoolean;
 template <>
-constexpr Type kTypeOf<OleDate> = Type::kDate;
+inline constexpr Type kTypeOf<OleDate> = Type::kDate;
 template <>
-constexpr Type kTypeOf<Currency> = Type::kCurrency;
+inline constexpr Type kTypeOf<Currency> = Type::kCurrency;
 template <>
-constexpr Type kTypeOf<TextList> = Type::kTextList;
+inline constexpr Type kTypeOf<TextList> = Type::kTextList;
 
 template <typename T>
 constexpr Type kTypeOf<std::shared_ptr<T>> = Type::kObject;

@@ -37,7 +37,7 @@ bool IsSafe(const std::string& line) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
-  BatchSession session(Settings{.example = true});
+  BatchSession session(Settings{.now = ZQ7Standard::OleDate(45306.5)});
   session.Answer(R"({"class":"StandardObject","object":"it"})");
   std::string line(data + 1, data + size);
   if (data[0] != '{') line = CallOf(line, data[0]);

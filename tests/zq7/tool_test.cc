@@ -74,7 +74,7 @@ TEST(Tool, StreamsAndStatus) {
       {{}, 2, "", "A subcommand is required."},
       {{"lst"}, 2, "", "Did you mean list?"},
       {{"list", "Grid"}, 2, "", "Did you mean GridValueObject?"},
-      {{"list"}, 0, "BahtStringObject  Money amounts in Thai or English words.\n...", ""},
+      {{"list"}, 0, "ASCIIObject  ...", ""},
       {{"list", "gridvalueobject"}, 0, "GridValueObject: The numbers behind a grid...", ""},
       {{"help", "GridValueObject.rows"},
        0,

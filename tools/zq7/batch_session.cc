@@ -86,7 +86,7 @@ void CheckKeys(const Json& request) {
 }  // namespace
 
 BatchSession::BatchSession(const Settings& settings)
-    : journal_(std::make_shared<Journal>()), services_(ServicesFor(settings, journal_)) {}
+    : journal_(std::make_shared<Journal>()), host_(settings, journal_) {}
 
 std::string BatchSession::Answer(std::string_view line) {
   std::string answer = "{";
@@ -129,16 +129,17 @@ Object BatchSession::ObjectFor(const Json& request) {
     return found->second;
   }
   const std::string class_name = StringAt(request, "class");
-  if (!request.contains("object")) return Create(class_name, services_);
+  if (!request.contains("object")) return Create(class_name, host_.Services());
   const std::string name = StringAt(request, "object");
-  return objects_.insert_or_assign(name, Create(class_name, services_)).first->second;
+  return objects_.insert_or_assign(name, Create(class_name, host_.Services())).first->second;
 }
 
 Value BatchSession::CallOperation(const Object& object, const Json& request) const {
   const std::string operation = StringAt(request, "call");
   std::vector<Value> positional;
   std::vector<NamedArgument> named;
-  const Json arguments = request.contains("args") ? request["args"] : Json::array();
+  const Json none = Json::array();
+  const Json& arguments = request.contains("args") ? request["args"] : none;
   if (arguments.is_array()) {
     for (const Json& value : arguments) positional.push_back(ValueOfJson(value, objects_));
   } else if (arguments.is_object()) {

@@ -31,7 +31,7 @@ class BatchSession {
                                                const Json& request) const;
 
   std::shared_ptr<Journal> journal_;  // hears the events and messages of a line
-  ZQ7Standard::Automation::HostServices services_;
+  Host host_;
   NamedObjects objects_;
 };
 

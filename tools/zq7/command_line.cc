@@ -51,9 +51,8 @@ void ShowHelp(const Commands& commands, const Streams& streams) {
 }
 
 void Call(const Commands& commands, const Streams& streams) {
-  const auto services =
-      ServicesFor(commands.GetSettings(), std::make_shared<PrintedMessages>(streams.err));
-  const Value result = CallByWords(commands.Call(), services);
+  const Host host(commands.GetSettings(), std::make_shared<PrintedMessages>(streams.err));
+  const Value result = CallByWords(commands.Call(), host.Services());
   streams.out << (commands.Json() ? WriteJson(JsonOfValue(result)) + "\n" : PlainLines(result));
 }
 

@@ -26,12 +26,18 @@ std::string Section(std::string_view title, const std::string& lines) {
   return std::string("\n").append(title).append("\n").append(lines);
 }
 
+/// What a property is for, where it is not for both.
+std::string_view Access(const PropertyInfo& property) {
+  if (property.write == nullptr) return ", only read";
+  return property.read == nullptr ? ", only set" : "";
+}
+
 std::string PropertyRows(const ClassInfo& owner, std::size_t width) {
   std::vector<Row> rows;
   for (const PropertyInfo& property : owner.properties) {
-    const std::string_view access = property.write == nullptr ? " Only read." : "";
-    rows.push_back({std::string(property.name) + " As " + TypeName(property.type),
-                    std::string(property.help).append(access)});
+    rows.push_back(
+        {std::string(property.name) + " As " + TypeName(property.type).append(Access(property)),
+         std::string(property.help)});
   }
   return Columns(rows, kIndent, width);
 }
@@ -130,9 +136,8 @@ std::string OperationHelp(const std::string& name, const ClassInfo& owner,
 }
 
 std::string PropertyHelp(const std::string& name, const PropertyInfo& property, std::size_t width) {
-  const std::string access = property.write == nullptr ? ", only read" : "";
-  const std::string declaration =
-      std::string(kIndent, ' ') + name + " As " + TypeName(property.type) + access + "\n";
+  const std::string declaration = std::string(kIndent, ' ') + name + " As " +
+                                  TypeName(property.type).append(Access(property)) + "\n";
   return Documentation(name, property.help, declaration, property.details, width);
 }
 

@@ -52,7 +52,7 @@ std::string Declared(const ParameterInfo& parameter) {
 
 std::string TypeName(const TypeInfo& type) {
   if (type.enumeration != nullptr) return std::string(type.enumeration->name);
-  if (type.object_class != nullptr) return std::string(type.object_class->name);
+  if (!type.object_class.empty()) return std::string(type.object_class);
   return std::string(PlainTypeName(type.type));
 }
 
