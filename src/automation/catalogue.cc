@@ -37,7 +37,7 @@ ClassInfo Documented(ClassInfo owner) {
   }
   for (auto& property : owner.properties) {
     property.details = Docstring(prefix + std::string(property.name));
-    if (!property.details.empty()) continue;
+    if (!property.details.empty() || property.write == nullptr) continue;
     property.details = Docstring(prefix + "Set" + std::string(property.name));
   }
   return owner;

@@ -1,0 +1,159 @@
+#include "batch_session.h"
+
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <utility>
+#include <vector>
+
+#include "names.h"
+
+namespace ZQ7Tool {
+
+using namespace ZQ7Standard;
+using namespace ZQ7Standard::Automation;
+
+/// What happens on the side while a line is answered.
+class BatchSession::Journal final : public EventSink, public MessageBox {
+ public:
+  void Raise(const EventInfo& event, std::span<const Value> arguments) override {
+    Json values = Json::array();
+    for (const Value& argument : arguments) values.push_back(JsonOfValue(argument));
+    events_.push_back({{"event", event.name}, {"args", std::move(values)}});
+  }
+
+  void Show(const Message& message) override {
+    messages_.push_back(Json::array({JsonOfText(message.title), JsonOfText(message.text)}));
+  }
+
+  void MoveTo(Json& reply) {
+    if (!events_.empty()) reply["events"] = std::exchange(events_, Json::array());
+    if (!messages_.empty()) reply["messages"] = std::exchange(messages_, Json::array());
+  }
+
+ private:
+  Json events_ = Json::array();
+  Json messages_ = Json::array();
+};
+
+namespace {
+
+const std::vector<std::string> kKeys = {"id",  "class", "object", "call",
+                                        "get", "set",   "args",   "value"};
+
+Json ErrorOf(const char* what) {
+  // The text may quote what somebody else wrote.
+  return {{"message", Utf8(FromUtf8(what))}};
+}
+
+std::string StringAt(const Json& request, const char* key) {
+  const Json& value = request[key];
+  if (!value.is_string()) throw JsonError("\"" + std::string(key) + "\" is no string");
+  return value.get<std::string>();
+}
+
+/// Whether `key` is there, which it may be only beside `other`.
+bool HasBeside(const Json& request, const char* key, const char* other) {
+  if (!request.contains(key)) return false;
+  if (!request.contains(other)) {
+    throw JsonError("\"" + std::string(key) + "\" without \"" + other + "\"");
+  }
+  return true;
+}
+
+/// Refuses a line whose keys ask for no call, or for more than one.
+void CheckKeys(const Json& request) {
+  for (const auto& [key, value] : request.items()) {
+    if (std::ranges::find(kKeys, key) != kKeys.end()) continue;
+    throw JsonError("unknown key \"" + key + "\"." + Hint(key, kKeys));
+  }
+  const auto has = [&](const char* key) { return request.contains(key); };
+  const int verbs =
+      static_cast<int>(has("call")) + static_cast<int>(has("get")) + static_cast<int>(has("set"));
+  if (verbs > 1) throw JsonError(R"(more than one of "call", "get" and "set")");
+  if (!has("class") && !has("object")) throw JsonError(R"(neither "class" nor "object")");
+  // A class and the name of an object are enough to make it.
+  if (verbs == 0 && !(has("class") && has("object"))) {
+    throw JsonError(R"(none of "call", "get" and "set")");
+  }
+  HasBeside(request, "args", "call");
+  if (!HasBeside(request, "value", "set") && has("set")) {
+    throw JsonError(R"("set" without "value")");
+  }
+}
+
+}  // namespace
+
+BatchSession::BatchSession(const Settings& settings)
+    : journal_(std::make_shared<Journal>()), host_(settings, journal_) {}
+
+std::string BatchSession::Answer(std::string_view line) {
+  std::string answer = "{";
+  Json outcome = Json::object();
+  try {
+    const Json request = ReadJson(line);
+    if (!request.is_object()) throw JsonError("not a JSON object");
+    if (request.contains("id")) answer.append("\"id\":").append(MemberText(line, "id")) += ',';
+    CheckKeys(request);
+    const Value result = Perform(request);
+    outcome["result"] = JsonOfValue(result, objects_);
+  } catch (const RunTimeError& error) {
+    outcome["error"] = {{"number", error.Number()}};
+    outcome["error"].update(ErrorOf(error.what()));
+  } catch (const std::exception& error) {
+    outcome["error"] = ErrorOf(error.what());
+  }
+  journal_->MoveTo(outcome);
+  return answer += WriteJson(outcome).substr(1);
+}
+
+Value BatchSession::Perform(const Json& request) {
+  const Object object = ObjectFor(request);
+  const auto subscription = Subscribe(object, journal_);
+  if (request.contains("call")) return CallOperation(object, request);
+  if (request.contains("get")) return GetProperty(object, StringAt(request, "get"));
+  if (request.contains("set")) {
+    SetProperty(object, StringAt(request, "set"), ValueOfJson(request["value"], objects_));
+  }
+  return Omitted{};
+}
+
+/// The object that a line is about: a new one where it names a class, which lives on
+/// where it also names the object.
+Object BatchSession::ObjectFor(const Json& request) {
+  if (!request.contains("class")) {
+    const std::string name = StringAt(request, "object");
+    const auto found = objects_.find(name);
+    if (found == objects_.end()) throw JsonError("there is no object \"" + name + "\"");
+    return found->second;
+  }
+  const std::string class_name = StringAt(request, "class");
+  if (!request.contains("object")) return Create(class_name, host_.Services());
+  const std::string name = StringAt(request, "object");
+  return objects_.insert_or_assign(name, Create(class_name, host_.Services())).first->second;
+}
+
+Value BatchSession::CallOperation(const Object& object, const Json& request) const {
+  const std::string operation = StringAt(request, "call");
+  std::vector<Value> positional;
+  std::vector<NamedArgument> named;
+  const Json none = Json::array();
+  const Json& arguments = request.contains("args") ? request["args"] : none;
+  if (arguments.is_array()) {
+    for (const Json& value : arguments) positional.push_back(ValueOfJson(value, objects_));
+  } else if (arguments.is_object()) {
+    for (const auto& [name, value] : arguments.items()) {
+      named.push_back({name, ValueOfJson(value, objects_)});
+    }
+  } else {
+    throw JsonError(R"("args" is no list and no object)");
+  }
+  return Invoke(object, operation, {positional, named});
+}
+
+std::string ErrorLine(const std::string& message) {
+  return WriteJson({{"error", ErrorOf(message.c_str())}});
+}
+
+}  // namespace ZQ7Tool

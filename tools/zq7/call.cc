@@ -1,0 +1,128 @@
+#include "call.h"
+
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <algorithm>
+#include <array>
+
+#include "call_words.h"
+#include "layout.h"
+#include "members.h"
+#include "names.h"
+#include "signature.h"
+#include "wrong_use.h"
+
+namespace ZQ7Tool {
+namespace {
+
+using namespace ZQ7Standard;
+using namespace ZQ7Standard::Automation;
+
+constexpr int kArgumentNotOptional = 449;
+constexpr int kWrongNumberOfArguments = 450;
+
+Member FindOperationNamed(std::string_view name) {
+  const Member member = FindMember(name);
+  if (member.operation != nullptr) return member;
+  if (member.property != nullptr) {
+    throw WrongUse("\"" + std::string(name) +
+                   "\" is a property. \"zq7 batch\" gets and sets properties.");
+  }
+  throw WrongUse("\"" + std::string(name) + "\" is no operation. \"zq7 list " +
+                 std::string(member.owner->name) + "\" shows the operations.");
+}
+
+Text TextOfWord(const std::string& word) {
+  Text text = FromUtf8(word);
+  if (Utf8(text) != word) throw WrongUse("An argument is not UTF-8: \"" + Utf8(text) + "\".");
+  return text;
+}
+
+/// The member of an enumeration by its name. Any other word that looks like a name
+/// would be no number either.
+Value EnumeratorOf(const EnumerationInfo& enumeration, const std::string& word) {
+  std::vector<std::string> names;
+  for (const EnumeratorInfo& member : enumeration.members) {
+    if (SameName(member.name, word)) return member.value;
+    names.emplace_back(member.name);
+  }
+  throw WrongUse("\"" + word + "\" is no " + std::string(enumeration.name) + "." +
+                 Hint(word, names));
+}
+
+Value ValueOfWord(const std::string& word, const TypeInfo& type) {
+  const bool member = type.enumeration != nullptr && IsIdentifier(word);
+  return member ? EnumeratorOf(*type.enumeration, word) : Value(TextOfWord(word));
+}
+
+/// The arguments of a call, taken from its words one by one.
+class WordArguments {
+ public:
+  explicit WordArguments(const OperationInfo& operation) : operation_(operation) {}
+
+  void Take(const std::string& word) {
+    const std::string_view name = ArgumentName(word);
+    if (name.empty()) {
+      TakePositional(word);
+    } else {
+      const ParameterInfo& parameter = ParameterNamed(name);
+      named_.push_back({parameter.name, ValueOfWord(word.substr(name.size() + 1), parameter.type)});
+    }
+  }
+
+  void TakePositional(const std::string& word) {
+    const std::size_t place = positional_.size();
+    const auto& parameters = operation_.parameters;
+    // One too many is told by the call.
+    const TypeInfo type = place < parameters.size() ? parameters[place].type : TypeInfo();
+    positional_.push_back(ValueOfWord(word, type));
+  }
+
+  Arguments Get() const { return {positional_, named_}; }
+
+ private:
+  const ParameterInfo& ParameterNamed(std::string_view name) const {
+    std::vector<std::string> names;
+    for (const ParameterInfo& parameter : operation_.parameters) {
+      if (SameName(parameter.name, name)) return parameter;
+      names.emplace_back(parameter.name);
+    }
+    throw WrongUse("\"" + std::string(name) + "\" is no parameter of " +
+                   std::string(operation_.name) + "." + Hint(name, names) +
+                   " A text with \"=\" in it goes behind \"--\" or its parameter's name.");
+  }
+
+  const OperationInfo& operation_;
+  std::vector<Value> positional_;
+  std::vector<NamedArgument> named_;
+};
+
+std::string SignatureLine(const Member& member) {
+  const std::string name =
+      std::string(member.owner->name).append(".").append(member.operation->name);
+  std::string line;
+  for (const std::string& piece :
+       Signature(name, member.operation->parameters, member.operation->result)) {
+    line.append(line.empty() ? "" : " ").append(piece);
+  }
+  return line;
+}
+
+}  // namespace
+
+Value CallByWords(const CallWords& words, const HostServices& services) {
+  const Member member = FindOperationNamed(words.operation);
+  WordArguments arguments(*member.operation);
+  for (const std::string& word : words.arguments) arguments.Take(word);
+  for (const std::string& word : words.verbatim) arguments.TakePositional(word);
+  const Object object = Create(member.owner->name, services);
+  try {
+    return Invoke(object, member.operation->name, arguments.Get());
+  } catch (const RunTimeError& error) {
+    constexpr std::array kWrongWords = {kArgumentNotOptional, kWrongNumberOfArguments};
+    if (std::ranges::find(kWrongWords, error.Number()) == kWrongWords.end()) throw;
+    throw WrongUse(std::string(error.what()) + "\nusage: " + SignatureLine(member));
+  }
+}
+
+}  // namespace ZQ7Tool

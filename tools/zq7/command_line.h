@@ -1,0 +1,31 @@
+#ifndef ZQ7STANDARD_TOOLS_ZQ7_COMMAND_LINE_H_
+#define ZQ7STANDARD_TOOLS_ZQ7_COMMAND_LINE_H_
+
+#include <cstddef>
+#include <istream>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace ZQ7Tool {
+
+enum ExitStatus : int {
+  kDone = 0,
+  kFailed = 1,    ///< a run-time error, or the output cannot be written
+  kWrongUse = 2,  ///< nothing was called, or the input cannot be read
+};
+
+/// What the tool reads and writes, and the columns that lines of help may take.
+struct Streams {
+  std::istream& in;
+  std::ostream& out;
+  std::ostream& err;
+  std::size_t width = 80;
+};
+
+/// Carries out the words behind the name of the program; returns the exit status.
+int Run(const std::vector<std::string>& words, const Streams& streams);
+
+}  // namespace ZQ7Tool
+
+#endif  // ZQ7STANDARD_TOOLS_ZQ7_COMMAND_LINE_H_

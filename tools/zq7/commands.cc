@@ -1,0 +1,169 @@
+#include "commands.h"
+
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "call_words.h"
+#include "iso_date.h"
+#include "names.h"
+#include "wrong_use.h"
+
+namespace ZQ7Tool {
+namespace {
+
+using namespace ZQ7Standard;
+
+struct ConventionRow {
+  std::string_view name;
+  DateConvention convention;
+};
+
+constexpr std::array<ConventionRow, 4> kConventions = {{
+    {"mdy", {FieldOrder::kMonthFirst, Era::kGregorian}},
+    {"dmy", {FieldOrder::kDayFirst, Era::kGregorian}},
+    {"mdy-buddhist", {FieldOrder::kMonthFirst, Era::kBuddhist}},
+    {"dmy-buddhist", {FieldOrder::kDayFirst, Era::kBuddhist}},
+}};
+
+const std::string kMoreHelp = " \"zq7 --help\" shows what the tool takes.";
+
+OleDate Moment(const std::string& text) {
+  if (const auto now = ReadIsoDate(text)) return *now;
+  throw WrongUse("--now \"" + text + "\" is no date such as \"2024-01-15 09:30:00\".");
+}
+
+DateConvention ConventionNamed(const std::string& name) {
+  const auto row = std::ranges::find(kConventions, name, &ConventionRow::name);
+  if (row != kConventions.end()) return row->convention;
+  throw WrongUse("--convention \"" + name +
+                 "\" is none of mdy, dmy, mdy-buddhist and dmy-buddhist.");
+}
+
+void AddOptionNames(std::vector<std::string>& names, const CLI::App& app) {
+  for (const CLI::Option* option : app.get_options()) {
+    if (!option->get_positional()) names.push_back(option->get_name());
+  }
+}
+
+/// The option that a word is.
+const CLI::Option& OptionOf(const std::string& word, const CLI::App& root,
+                            const CLI::App* subcommand) {
+  const std::string name = word.substr(0, word.find('='));
+  std::vector<std::string> names;
+  for (const CLI::App* app : {&root, subcommand}) {
+    if (app == nullptr) continue;
+    if (const CLI::Option* option = app->get_option_no_throw(name)) return *option;
+    AddOptionNames(names, *app);
+  }
+  throw WrongUse("There is no option \"" + word + "\"." + Hint(name, names) +
+                 " Arguments that begin with \"--\" go behind a \"--\".");
+}
+
+CLI::Option* AddName(CLI::App* subcommand, const char* name, std::string& value,
+                     const char* description) {
+  return subcommand->add_option(name, value, description)->type_name("");
+}
+
+const CLI::App& SubcommandNamed(const std::string& word, const CLI::App& root) {
+  std::vector<std::string> names;
+  for (const CLI::App* known : root.get_subcommands({})) {
+    if (known->get_name() == word) return *known;
+    names.push_back(known->get_name());
+  }
+  throw WrongUse("There is no subcommand \"" + word + "\"." + Hint(word, names) + kMoreHelp);
+}
+
+}  // namespace
+
+Commands::Commands() : app_("Calls the operations of the ZQ7Standard library by name.", "zq7") {
+  app_.get_formatter()->column_width(22);
+  app_.set_version_flag("--version", "zq7 " ZQ7_VERSION, "Print the version.");
+  app_.set_help_flag("-h,--help", "Print what the tool, or a subcommand, takes.");
+  app_.require_subcommand(1);
+  app_.fallthrough();
+  AddSettings();
+
+  CLI::App* list = app_.add_subcommand("list", "List the classes, or the members of one.");
+  AddName(list, "CLASS", name_, "A class; the case of letters does not count.");
+
+  CLI::App* help = app_.add_subcommand("help", "Print the documentation of a class or a member.");
+  AddName(help, "CLASS[.MEMBER]", name_, "A class, or one of its members.");
+
+  CLI::App* call = app_.add_subcommand("call", "Call an operation of a new object.");
+  AddName(call, "CLASS.OPERATION", call_.operation, "What to call.")->required();
+  call->add_option("ARG", call_.arguments,
+                   "A value by its place, or NAME=VALUE. Behind \"--\"\nalways by its place.")
+      ->type_name("");
+  call->add_flag("--json", json_, "Print the result as a batch does.");
+
+  CLI::App* batch = app_.add_subcommand("batch", "Answer calls written as lines of JSON.");
+  AddName(batch, "FILE", file_, "The lines; \"-\" or none for standard input.");
+
+  for (CLI::App* subcommand : {list, help, call, batch}) {
+    subcommand->footer("The options of \"zq7 --help\" stand anywhere.");
+  }
+}
+
+void Commands::AddSettings() {
+  app_.add_option_function<std::string>(
+          "--now", [this](const std::string& text) { settings_.now = Moment(text); },
+          "Set the clock: \"2024-01-15 09:30:00\".")
+      ->type_name("TIME");
+  app_.add_option_function<std::string>(
+          "--convention",
+          [this](const std::string& name) { settings_.convention = ConventionNamed(name); },
+          "Set how dates are typed: mdy, dmy, mdy-buddhist\nor dmy-buddhist.")
+      ->type_name("NAME");
+  app_.add_flag("--example", settings_.example,
+                "Run as the examples in the help: at 2024-01-15 09:30,\n"
+                "with dmy-buddhist, a drive C: and a registry of their\n"
+                "own, and no block cipher.");
+}
+
+void Commands::Parse(const std::vector<std::string>& words) {
+  std::vector<std::string> rest = WithoutArguments(words);
+  std::ranges::reverse(rest);  // as the parser wants them
+  try {
+    app_.parse(std::move(rest));
+  } catch (const CLI::Success&) {
+    throw;
+  } catch (const CLI::ParseError& error) {
+    throw WrongUse(std::string(error.what()) + "." + kMoreHelp);
+  }
+}
+
+/// The words without the arguments of a call, which go to `call_`: to the parser some
+/// of them would be options, lists or empty.
+std::vector<std::string> Commands::WithoutArguments(const std::vector<std::string>& words) {
+  std::vector<std::string> rest;
+  const CLI::App* subcommand = nullptr;
+  bool has_target = false;  // the first word behind the subcommand
+  bool verbatim = false;
+  for (auto word = words.begin(); word != words.end(); ++word) {
+    if (!verbatim && IsOption(*word)) {
+      const CLI::Option& option = OptionOf(*word, app_, subcommand);
+      rest.push_back(*word);
+      const bool has_value =
+          option.get_items_expected_max() > 0 && word->find('=') == std::string::npos;
+      if (has_value && word + 1 != words.end()) rest.push_back(*++word);
+    } else if (subcommand == nullptr) {
+      subcommand = &SubcommandNamed(*word, app_);
+      rest.push_back(*word);
+    } else if (subcommand->get_name() != "call") {
+      rest.push_back(*word);
+    } else if (!verbatim && *word == kEndOfOptions) {
+      verbatim = true;
+    } else if (!std::exchange(has_target, true)) {
+      rest.push_back(*word);
+    } else {
+      (verbatim ? call_.verbatim : call_.arguments).push_back(*word);
+    }
+  }
+  return rest;
+}
+
+}  // namespace ZQ7Tool

@@ -1,0 +1,73 @@
+#include <ZQ7Standard/automation/catalogue.h>
+
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include "commands.h"
+#include "names.h"
+#include "pages.h"
+
+namespace ZQ7Tool {
+namespace {
+
+using namespace ZQ7Standard::Automation;
+
+std::string Lines(const std::vector<std::string>& words) {
+  std::string lines = "\n";
+  for (const std::string& word : words) lines.append("  ").append(word).append("\n");
+  return lines;
+}
+
+std::string Qualified(const ClassInfo& owner, std::string_view member) {
+  return std::string(owner.name).append(".").append(member);
+}
+
+/// The lines of a `case` for each operation that takes an enumeration.
+std::string MemberCases() {
+  std::string cases;
+  for (const ClassInfo& owner : Classes()) {
+    for (const OperationInfo& operation : owner.operations) {
+      std::set<std::string> members;
+      for (const ParameterInfo& parameter : operation.parameters) {
+        if (parameter.type.enumeration == nullptr) continue;
+        for (const auto& member : parameter.type.enumeration->members) members.emplace(member.name);
+      }
+      if (members.empty()) continue;
+      std::string pattern = Qualified(owner, operation.name);
+      for (char& c : pattern) c = Lower(c);
+      cases += "    " + pattern + ") echo";
+      for (const std::string& member : members) cases += " " + member;
+      cases += " ;;\n";
+    }
+  }
+  return cases;
+}
+
+}  // namespace
+
+Fields CompletionFields() {
+  const Commands commands;
+  std::vector<std::string> options;
+  std::vector<std::string> subcommands;
+  std::vector<std::string> classes;
+  std::vector<std::string> operations;
+  std::vector<std::string> others;
+  for (const CLI::Option* option : commands.App().get_options()) {
+    options.push_back(option->get_name());
+  }
+  for (const CLI::App* subcommand : commands.App().get_subcommands({})) {
+    subcommands.push_back(subcommand->get_name());
+  }
+  for (const ClassInfo& owner : Classes()) {
+    classes.emplace_back(owner.name);
+    for (const auto& entry : owner.operations) operations.push_back(Qualified(owner, entry.name));
+    for (const auto& entry : owner.properties) others.push_back(Qualified(owner, entry.name));
+    for (const auto& entry : owner.events) others.push_back(Qualified(owner, entry.name));
+  }
+  return {{"OPTIONS", Lines(options)}, {"SUBCOMMANDS", Lines(subcommands)},
+          {"CLASSES", Lines(classes)}, {"OPERATIONS", Lines(operations)},
+          {"OTHERS", Lines(others)},   {"MEMBERS", MemberCases()}};
+}
+
+}  // namespace ZQ7Tool

@@ -1,0 +1,41 @@
+#ifndef ZQ7STANDARD_TOOLS_ZQ7_HOST_H_
+#define ZQ7STANDARD_TOOLS_ZQ7_HOST_H_
+
+#include <ZQ7Standard/automation/invoke.h>
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+namespace ZQ7Tool {
+
+/// What a command line sets in place of the machine.
+struct Settings {
+  std::optional<ZQ7Standard::OleDate> now = std::nullopt;
+  std::optional<ZQ7Standard::DateConvention> convention = std::nullopt;
+  bool example = false;  ///< run as the catalogue's examples do
+};
+
+/// The services that the tool gives to the classes. For examples drive C: is a temporary
+/// folder with a folder "shop" in it, which goes with the host.
+class Host {
+ public:
+  /// `message_box` hears the messages of the classes.
+  Host(const Settings& settings, std::shared_ptr<ZQ7Standard::MessageBox> message_box);
+  ~Host();
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+
+  const ZQ7Standard::Automation::HostServices& Services() const { return services_; }
+
+ private:
+  ZQ7Standard::Automation::HostServices services_;
+  std::filesystem::path example_drive_;  // empty for none
+};
+
+/// The block cipher that the library was built with; empty for none.
+ZQ7Standard::BlockCipherFactory BuiltInBlockCipher();
+
+}  // namespace ZQ7Tool
+
+#endif  // ZQ7STANDARD_TOOLS_ZQ7_HOST_H_

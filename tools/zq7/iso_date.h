@@ -1,0 +1,24 @@
+#ifndef ZQ7STANDARD_TOOLS_ZQ7_ISO_DATE_H_
+#define ZQ7STANDARD_TOOLS_ZQ7_ISO_DATE_H_
+
+#include <ZQ7Standard/Types.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ZQ7Tool {
+
+/// "2024-01-15 09:30:00": a Gregorian year, whatever the date convention.
+std::string IsoDateTime(ZQ7Standard::OleDate date);
+
+/// The same, and the day alone for a date without a time of day.
+std::string IsoDate(ZQ7Standard::OleDate date);
+
+/// Reads "2024-01-15", "2024-01-15 09:30" and "2024-01-15 09:30:00", a blank or "T"
+/// between; nothing for any other text and for what is no date.
+std::optional<ZQ7Standard::OleDate> ReadIsoDate(std::string_view text);
+
+}  // namespace ZQ7Tool
+
+#endif  // ZQ7STANDARD_TOOLS_ZQ7_ISO_DATE_H_

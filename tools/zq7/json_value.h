@@ -1,0 +1,36 @@
+#ifndef ZQ7STANDARD_TOOLS_ZQ7_JSON_VALUE_H_
+#define ZQ7STANDARD_TOOLS_ZQ7_JSON_VALUE_H_
+
+#include <ZQ7Standard/automation/value.h>
+
+#include <functional>
+#include <map>
+#include <string>
+
+#include "json_text.h"
+
+/// Values as JSON, both ways:
+///
+///     left out             null
+///     text                 "ก"
+///     16- and 32-bit       7; a whole number beyond 32 bits is read as a double
+///     single, double       7.5; {"double":"NaN"}, "Infinity", "-Infinity"
+///     Boolean              true
+///     date                 {"date":"2024-01-15 09:30:00","days":45306.395833333336},
+///                          one of the two being enough
+///     currency             {"currency":"10.3000"}
+///     list of texts        ["a","b"]
+///     object               {"object":"grid1"}, by its name
+namespace ZQ7Tool {
+
+using NamedObjects = std::map<std::string, ZQ7Standard::Automation::Object, std::less<>>;
+
+/// `JsonError` for what is none of these.
+ZQ7Standard::Automation::Value ValueOfJson(const Json& json, const NamedObjects& objects = {});
+
+/// The name of an object without one is null.
+Json JsonOfValue(const ZQ7Standard::Automation::Value& value, const NamedObjects& objects = {});
+
+}  // namespace ZQ7Tool
+
+#endif  // ZQ7STANDARD_TOOLS_ZQ7_JSON_VALUE_H_

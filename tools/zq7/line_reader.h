@@ -1,0 +1,39 @@
+#ifndef ZQ7STANDARD_TOOLS_ZQ7_LINE_READER_H_
+#define ZQ7STANDARD_TOOLS_ZQ7_LINE_READER_H_
+
+#include <cstddef>
+#include <functional>
+#include <streambuf>
+#include <string>
+#include <string_view>
+
+namespace ZQ7Tool {
+
+/// Reads lines of up to `kMaxLine` bytes one at a time; of a longer one no more is held
+/// than that.
+class LineReader {
+ public:
+  static constexpr std::size_t kMaxLine = std::size_t{16} << 20;
+
+  /// `before_wait` is called before a read that may have to wait for more input.
+  LineReader(std::streambuf& source, std::function<void()> before_wait);
+
+  enum class Found { kLine, kTooLong, kEnd };
+
+  /// The next line without its end, valid until the next call. What the source throws
+  /// reaches the caller.
+  Found Next(std::string_view& line);
+
+ private:
+  bool Fill();
+  std::string_view Take(std::size_t size);
+
+  std::streambuf& source_;
+  std::function<void()> before_wait_;
+  std::string buffer_;
+  std::size_t start_ = 0;  // of what is not taken yet
+};
+
+}  // namespace ZQ7Tool
+
+#endif  // ZQ7STANDARD_TOOLS_ZQ7_LINE_READER_H_

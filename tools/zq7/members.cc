@@ -1,0 +1,64 @@
+#include "members.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "names.h"
+#include "wrong_use.h"
+
+namespace ZQ7Tool {
+namespace {
+
+using namespace ZQ7Standard::Automation;
+
+std::string Qualified(std::string_view owner, std::string_view member) {
+  return std::string(owner).append(".").append(member);
+}
+
+std::string ClassHint(std::string_view name) {
+  std::vector<std::string> names;
+  for (const ClassInfo& owner : Classes()) {
+    // The name of an operation alone lacks its class.
+    if (const auto* operation = FindOperation(owner, name)) {
+      return " Did you mean " + Qualified(owner.name, operation->name) + "?";
+    }
+    names.emplace_back(owner.name);
+  }
+  const std::string hint = Hint(name, names);
+  return hint.empty() ? " \"zq7 list\" shows the classes." : hint;
+}
+
+std::string MemberHint(const ClassInfo& owner, std::string_view name) {
+  std::vector<std::string> names;
+  for (const auto& operation : owner.operations) names.emplace_back(operation.name);
+  for (const auto& property : owner.properties) names.emplace_back(property.name);
+  for (const auto& event : owner.events) names.emplace_back(event.name);
+  const std::string hint = Hint(name, names);
+  return hint.empty() ? " \"zq7 list " + std::string(owner.name) + "\" shows its members." : hint;
+}
+
+}  // namespace
+
+Member FindMember(std::string_view name) {
+  const std::size_t point = std::min(name.find('.'), name.size());
+  const std::string class_name(name.substr(0, point));
+  Member found = {.owner = FindClass(class_name)};
+  if (found.owner == nullptr) {
+    throw WrongUse("There is no class \"" + class_name + "\"." + ClassHint(class_name));
+  }
+  if (point == name.size()) return found;
+  const std::string_view member = name.substr(point + 1);
+  found.operation = FindOperation(*found.owner, member);
+  found.property = FindProperty(*found.owner, member);
+  const auto event = std::ranges::find_if(
+      found.owner->events, [&](const EventInfo& info) { return SameName(info.name, member); });
+  if (event != found.owner->events.end()) found.event = &*event;
+  if (found.operation == nullptr && found.property == nullptr && found.event == nullptr) {
+    throw WrongUse("There is no \"" + Qualified(found.owner->name, member) + "\"." +
+                   MemberHint(*found.owner, member));
+  }
+  return found;
+}
+
+}  // namespace ZQ7Tool

@@ -1,0 +1,22 @@
+#ifndef ZQ7STANDARD_TOOLS_ZQ7_PAGES_H_
+#define ZQ7STANDARD_TOOLS_ZQ7_PAGES_H_
+
+#include <map>
+#include <string>
+
+/// What is installed beside the tool: zq7.1.in and zq7.bash.in, each "@NAME@" in them
+/// filled from the catalogue and the command line when the tool is built.
+namespace ZQ7Tool {
+
+/// The text for each "@NAME@", in lines.
+using Fields = std::map<std::string, std::string>;
+
+/// Of the manual page zq7(1).
+Fields ManPageFields();
+
+/// Of the completion for bash.
+Fields CompletionFields();
+
+}  // namespace ZQ7Tool
+
+#endif  // ZQ7STANDARD_TOOLS_ZQ7_PAGES_H_
