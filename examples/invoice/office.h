@@ -34,7 +34,7 @@ struct Company {
 };
 
 /// What an office keeps beside its data: settings.txt, with the last document number
-/// among them, and invoices.log, a line for each document. A copy of the last number
+/// among them, and invoices.log, a line for each document, both in Windows-874. A copy of the last number
 /// is in the registry, for settings that have none.
 ///
 /// One run at a time: two at once can give the same number. Whatever cannot be read

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -42,7 +43,6 @@ enum Alignment : std::int32_t { kStart, kCentre, kEnd };
 struct Style {
   double size = 12;  ///< points
   bool bold = false;
-  bool italic = false;
 };
 
 constexpr Style kSmall = {.size = 10};
@@ -106,8 +106,7 @@ class Sheet {
  private:
   void Put(TextView text, std::int32_t x, std::int32_t y, Alignment alignment, Style style,
            double width) {
-    printer_.PrintGraphicText(text, x, y, 1, alignment, width, kFamily, style.size, style.bold,
-                              style.italic);
+    printer_.PrintGraphicText(text, x, y, 1, alignment, width, kFamily, style.size, style.bold);
   }
 
   PrintObject& printer_;

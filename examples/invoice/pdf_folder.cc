@@ -3,10 +3,12 @@
 #include <ZQ7Standard/Types.h>
 #include <ZQ7Standard/platform/printers.h>
 
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "page.h"
 #include "terminal_text.h"
@@ -52,8 +54,13 @@ fs::path FileName(const Invoice& invoice) {
 PdfFolder::PdfFolder(const fs::path& folder)
     : folder_(folder), new_files_(folder / ".invoice-page") {
   auto printers = PdfPrinter(new_files_);
-  fs::remove_all(new_files_);
-  fs::create_directories(new_files_);
+  std::error_code failure;
+  fs::remove_all(new_files_, failure);
+  fs::create_directories(new_files_, failure);
+  if (failure) {
+    throw std::runtime_error("cannot make the folder " + folder.string() + ": " +
+                             failure.message());
+  }
   printer_ = std::make_unique<ZQ7Standard::PrintObject>(
       ZQ7Standard::PrintServices{.printers = std::move(printers)});
 }
