@@ -64,9 +64,9 @@ constexpr std::string_view kClassNameOf = {};
 template <typename T>
 constexpr std::string_view kClassNameOf<std::shared_ptr<T>> = kClassNameOf<T>;
 template <>
-constexpr std::string_view kClassNameOf<PrintPicture> = "PrintPicture";
+inline constexpr std::string_view kClassNameOf<PrintPicture> = "PrintPicture";
 template <>
-constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
+inline constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
 
 template <typename T>
 TypeInfo TypeInfoOf() {
