@@ -120,8 +120,8 @@ void Commands::AddSettings() {
       ->type_name("NAME");
   app_.add_flag("--example", settings_.example,
                 "Run as the examples in the help: at 2024-01-15 09:30,\n"
-                "with dmy-buddhist, a drive C: and a registry of their\n"
-                "own, and no block cipher.");
+                "with dmy-buddhist; drive C:, registry and printer of\n"
+                "their own; no block cipher.");
 }
 
 void Commands::Parse(const std::vector<std::string>& words) {

@@ -5,6 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include "example_printer.h"
+
 namespace ZQ7Tool {
 namespace {
 
@@ -40,6 +42,7 @@ Host::Host(const Settings& settings, std::shared_ptr<MessageBox> message_box)
   example_drive_ = NewFolder();
   std::filesystem::create_directory(example_drive_ / "shop");
   services_.drives = {{'C', example_drive_}};
+  services_.printers = ExamplePrinters();
 }
 
 Host::~Host() {

@@ -16,8 +16,8 @@ struct Settings {
   bool example = false;  ///< run as the catalogue's examples do
 };
 
-/// The services that the tool gives to the classes. For examples drive C: is a temporary
-/// folder with a folder "shop" in it, which goes with the host.
+/// The services that the tool gives to the classes. Examples print nothing, and drive C:
+/// is to them a temporary folder with a folder "shop" in it, which goes with the host.
 class Host {
  public:
   /// `message_box` hears the messages of the classes.
