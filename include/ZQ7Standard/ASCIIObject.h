@@ -89,10 +89,10 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   /// day and Gregorian year of the clock, the locale's time text, and the fields as
   /// they are, also with a ";" in them. A file that is not there is made.
   ///
-  /// Messages, with nothing written: "Not found specified folder.", also for a path
-  /// without "\"; "Specified folder or no permission to updated." for a read-only
-  /// folder, also when the file is there; "Not found specified folder or no permission
-  /// to write.".
+  /// Messages: "Not found specified folder.", also for a path without "\"; "Specified
+  /// folder or no permission to updated." for a read-only folder, also when the file is
+  /// there; "Not found specified folder or no permission to write.". A full disk can
+  /// leave a part of the line.
   void AddLog(TextView iTextFile, TextView iOwner, TextView iType, TextView iSuccess,
               TextView iDescription) const;
 
@@ -117,11 +117,11 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   void SaveStringToTextFile(TextView iTextFile, TextView iValue) const;
 
   /// The same, or with `UseAppendMode` adds `iValue` at the end of a file that is
-  /// there.
+  /// there, where a full disk can leave a part of it.
   ///
-  /// Messages, with the file as it was: "Not found specified folder."; "Specified
-  /// folder can not write." for a new file in a read-only folder, unless the folder's
-  /// name is Desktop; "Not found specified folder or no permission to write.".
+  /// Messages: "Not found specified folder."; "Specified folder can not write." for a
+  /// new file in a read-only folder, unless the folder's name is Desktop; "Not found
+  /// specified folder or no permission to write.".
   void SaveStringToTextFile2(TextView iTextFile, TextView iValue, bool UseAppendMode = false) const;
 
  private:
