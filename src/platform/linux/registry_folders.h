@@ -8,7 +8,7 @@
 namespace ZQ7Standard {
 
 /// The folder of the registry of the user who runs the process, below the folder for
-/// data of the XDG Base Directory Specification; empty when the environment names none.
+/// data of the XDG base directories; empty when the environment names none.
 std::filesystem::path UserRegistryFolder();
 
 /// The folder of the registry of the machine.

@@ -58,11 +58,8 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, int flags)
   const int result = sqlite3_open_v2(file.c_str(), &db_, flags | SQLITE_OPEN_NOMUTEX, nullptr);
   // A file without the right to write would be opened for reading.
   const bool writable = result == SQLITE_OK && sqlite3_db_readonly(db_, "main") == 0;
-  if (writable) {
-    sqlite3_busy_timeout(db_, kBusyMilliseconds);
-  } else {
-    Close();
-  }
+  if (!writable) Close();
+  if (writable) sqlite3_busy_timeout(db_, kBusyMilliseconds);
 }
 
 SqliteConnection::~SqliteConnection() {
@@ -110,7 +107,7 @@ sqlite3_stmt* SqliteConnection::Prepare(const char* sql) {
   return statement;
 }
 
-/// Whether the process may open databases.
+/// Whether the process may open databases now. The caller holds the mutex.
 bool SqliteConnection::LetGoOfInherited() {
   Process& process = ThisProcess();
   for (SqliteConnection* const connection : process.connections) {
