@@ -49,7 +49,7 @@ Json ErrorOf(const char* what) {
 
 std::string StringAt(const Json& request, const char* key) {
   const Json& value = request[key];
-  if (!value.is_string()) throw JsonError("\"" + std::string(key) + "\" is no string");
+  if (!value.is_string()) throw JsonError(Quoted(key) + " is no string");
   return value.get<std::string>();
 }
 
@@ -57,7 +57,7 @@ std::string StringAt(const Json& request, const char* key) {
 bool HasBeside(const Json& request, const char* key, const char* other) {
   if (!request.contains(key)) return false;
   if (!request.contains(other)) {
-    throw JsonError("\"" + std::string(key) + "\" without \"" + other + "\"");
+    throw JsonError(Quoted(key) + " without " + Quoted(other));
   }
   return true;
 }
@@ -66,7 +66,7 @@ bool HasBeside(const Json& request, const char* key, const char* other) {
 void CheckKeys(const Json& request) {
   for (const auto& [key, value] : request.items()) {
     if (std::ranges::find(kKeys, key) != kKeys.end()) continue;
-    throw JsonError("unknown key \"" + key + "\"." + Hint(key, kKeys));
+    throw JsonError("unknown key " + Quoted(key) + "." + Hint(key, kKeys));
   }
   const auto has = [&](const char* key) { return request.contains(key); };
   const int verbs =
@@ -125,7 +125,7 @@ Object BatchSession::ObjectFor(const Json& request) {
   if (!request.contains("class")) {
     const std::string name = StringAt(request, "object");
     const auto found = objects_.find(name);
-    if (found == objects_.end()) throw JsonError("there is no object \"" + name + "\"");
+    if (found == objects_.end()) throw JsonError("there is no object " + Quoted(name));
     return found->second;
   }
   const std::string class_name = StringAt(request, "class");

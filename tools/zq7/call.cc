@@ -25,16 +25,15 @@ Member FindOperationNamed(std::string_view name) {
   const Member member = FindMember(name);
   if (member.operation != nullptr) return member;
   if (member.property != nullptr) {
-    throw WrongUse("\"" + std::string(name) +
-                   "\" is a property. \"zq7 batch\" gets and sets properties.");
+    throw WrongUse(Quoted(name) + " is a property. A batch gets and sets properties.");
   }
-  throw WrongUse("\"" + std::string(name) + "\" is no operation. \"zq7 list " +
-                 std::string(member.owner->name) + "\" shows the operations.");
+  const std::string list = "zq7 list " + std::string(member.owner->name);
+  throw WrongUse(Quoted(name) + " is no operation. " + Quoted(list) + " shows the operations.");
 }
 
 Text TextOfWord(const std::string& word) {
   Text text = FromUtf8(word);
-  if (Utf8(text) != word) throw WrongUse("An argument is not UTF-8: \"" + Utf8(text) + "\".");
+  if (Utf8(text) != word) throw WrongUse("An argument is not UTF-8: " + Quoted(Utf8(text)) + ".");
   return text;
 }
 
@@ -46,7 +45,7 @@ Value EnumeratorOf(const EnumerationInfo& enumeration, const std::string& word) 
     if (SameName(member.name, word)) return member.value;
     names.emplace_back(member.name);
   }
-  throw WrongUse("\"" + word + "\" is no " + std::string(enumeration.name) + "." +
+  throw WrongUse(Quoted(word) + " is no " + std::string(enumeration.name) + "." +
                  Hint(word, names));
 }
 
@@ -87,9 +86,9 @@ class WordArguments {
       if (SameName(parameter.name, name)) return parameter;
       names.emplace_back(parameter.name);
     }
-    throw WrongUse("\"" + std::string(name) + "\" is no parameter of " +
-                   std::string(operation_.name) + "." + Hint(name, names) +
-                   " A text with \"=\" in it goes behind \"--\" or its parameter's name.");
+    throw WrongUse(Quoted(name) + " is no parameter of " + std::string(operation_.name) + "." +
+                   Hint(name, names) +
+                   R"( A text with "=" in it goes behind "--" or its parameter's name.)");
   }
 
   const OperationInfo& operation_;

@@ -2,6 +2,7 @@
 
 #include <ZQ7Standard/RunTimeError.h>
 
+#include <array>
 #include <cerrno>
 #include <fstream>
 #include <nlohmann/json.hpp>
@@ -77,8 +78,8 @@ struct Subcommand {
   void (*carry_out)(const Commands& commands, const Streams& streams);
 };
 
-constexpr Subcommand kSubcommands[] = {
-    {"list", List}, {"help", ShowHelp}, {"call", Call}, {"batch", Batch}};
+constexpr std::array<Subcommand, 4> kSubcommands = {
+    {{"list", List}, {"help", ShowHelp}, {"call", Call}, {"batch", Batch}}};
 
 int CarryOut(const std::vector<std::string>& words, const Streams& streams) {
   Commands commands;

@@ -29,18 +29,18 @@ constexpr std::array<ConventionRow, 4> kConventions = {{
     {"dmy-buddhist", {FieldOrder::kDayFirst, Era::kBuddhist}},
 }};
 
-const std::string kMoreHelp = " \"zq7 --help\" shows what the tool takes.";
+constexpr const char* kMoreHelp = R"( "zq7 --help" shows what the tool takes.)";
 
 OleDate Moment(const std::string& text) {
   if (const auto now = ReadIsoDate(text)) return *now;
-  throw WrongUse("--now \"" + text + "\" is no date such as \"2024-01-15 09:30:00\".");
+  throw WrongUse("--now " + Quoted(text) + R"( is no date such as "2024-01-15 09:30:00".)");
 }
 
 DateConvention ConventionNamed(const std::string& name) {
   const auto row = std::ranges::find(kConventions, name, &ConventionRow::name);
   if (row != kConventions.end()) return row->convention;
-  throw WrongUse("--convention \"" + name +
-                 "\" is none of mdy, dmy, mdy-buddhist and dmy-buddhist.");
+  throw WrongUse("--convention " + Quoted(name) +
+                 " is none of mdy, dmy, mdy-buddhist and dmy-buddhist.");
 }
 
 void AddOptionNames(std::vector<std::string>& names, const CLI::App& app) {
@@ -59,8 +59,8 @@ const CLI::Option& OptionOf(const std::string& word, const CLI::App& root,
     if (const CLI::Option* option = app->get_option_no_throw(name)) return *option;
     AddOptionNames(names, *app);
   }
-  throw WrongUse("There is no option \"" + word + "\"." + Hint(name, names) +
-                 " Arguments that begin with \"--\" go behind a \"--\".");
+  throw WrongUse("There is no option " + Quoted(word) + "." + Hint(name, names) +
+                 R"( Arguments that begin with "--" go behind a "--".)");
 }
 
 CLI::Option* AddName(CLI::App* subcommand, const char* name, std::string& value,
@@ -74,7 +74,7 @@ const CLI::App& SubcommandNamed(const std::string& word, const CLI::App& root) {
     if (known->get_name() == word) return *known;
     names.push_back(known->get_name());
   }
-  throw WrongUse("There is no subcommand \"" + word + "\"." + Hint(word, names) + kMoreHelp);
+  throw WrongUse("There is no subcommand " + Quoted(word) + "." + Hint(word, names) + kMoreHelp);
 }
 
 }  // namespace
@@ -104,7 +104,7 @@ Commands::Commands() : app_("Calls the operations of the ZQ7Standard library by 
   AddName(batch, "FILE", file_, "The lines; \"-\" or none for standard input.");
 
   for (CLI::App* subcommand : {list, help, call, batch}) {
-    subcommand->footer("The options of \"zq7 --help\" stand anywhere.");
+    subcommand->footer(R"(The options of "zq7 --help" stand anywhere.)");
   }
 }
 
@@ -153,11 +153,9 @@ std::vector<std::string> Commands::WithoutArguments(const std::vector<std::strin
     } else if (subcommand == nullptr) {
       subcommand = &SubcommandNamed(*word, app_);
       rest.push_back(*word);
-    } else if (subcommand->get_name() != "call") {
-      rest.push_back(*word);
     } else if (!verbatim && *word == kEndOfOptions) {
       verbatim = true;
-    } else if (!std::exchange(has_target, true)) {
+    } else if (subcommand->get_name() != "call" || !std::exchange(has_target, true)) {
       rest.push_back(*word);
     } else {
       (verbatim ? call_.verbatim : call_.arguments).push_back(*word);

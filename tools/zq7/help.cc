@@ -79,6 +79,7 @@ std::string ParameterText(const ParameterInfo& parameter) {
 
 std::string ParameterRows(const std::vector<ParameterInfo>& parameters, std::size_t width) {
   std::vector<Row> rows;
+  rows.reserve(parameters.size());
   for (const ParameterInfo& parameter : parameters) {
     rows.push_back({std::string(parameter.name), ParameterText(parameter)});
   }
@@ -87,6 +88,7 @@ std::string ParameterRows(const std::vector<ParameterInfo>& parameters, std::siz
 
 std::string EnumeratorRows(const EnumerationInfo& enumeration, std::size_t width) {
   std::vector<Row> rows;
+  rows.reserve(enumeration.members.size());
   for (const EnumeratorInfo& member : enumeration.members) {
     rows.push_back({std::string(member.name), std::to_string(member.value)});
   }

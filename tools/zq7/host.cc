@@ -18,7 +18,7 @@ std::filesystem::path NewFolder() {
   const std::filesystem::path parent = std::filesystem::temp_directory_path();
   std::random_device random;
   for (;;) {
-    const std::filesystem::path folder = parent / ("zq7-" + std::to_string(random()));
+    std::filesystem::path folder = parent / ("zq7-" + std::to_string(random()));
     if (!std::filesystem::create_directory(folder)) continue;
     std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
     return folder;

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "names.h"
 #include "surrogates.h"
 
 namespace ZQ7Tool {
@@ -13,6 +14,8 @@ namespace {
 /// Builds a tree of what the parser finds, within the limits.
 class TreeBuilder final : public Json::json_sax_t {
  public:
+  explicit TreeBuilder(Json& root) : root_(root) {}
+
   bool null() override { return Add(nullptr); }
   bool boolean(bool value) override { return Add(value); }
   bool number_integer(number_integer_t value) override { return Add(value); }
@@ -27,7 +30,7 @@ class TreeBuilder final : public Json::json_sax_t {
 
   bool key(string_t& name) override {
     const Json& object = *open_.back();
-    if (object.contains(name)) throw JsonError("\"" + name + "\" stands there twice");
+    if (object.contains(name)) throw JsonError(Quoted(name) + " stands there twice");
     if (object.size() == kMaxJsonMembers) throw JsonError("an object has too many members");
     key_ = std::move(name);
     return true;
@@ -37,8 +40,6 @@ class TreeBuilder final : public Json::json_sax_t {
                    const nlohmann::detail::exception& /*error*/) override {
     throw JsonError("not JSON at byte " + std::to_string(position));
   }
-
-  Json Take() { return std::move(root_); }
 
  private:
   Json& Put(Json value) {
@@ -65,7 +66,7 @@ class TreeBuilder final : public Json::json_sax_t {
     return true;
   }
 
-  Json root_;
+  Json& root_;
   std::vector<Json*> open_;  // from the root to what is being filled
   std::string key_;
 };
@@ -116,9 +117,10 @@ class Cursor {
 Json ReadJson(std::string_view text) {
   // The parser takes a NUL for the end.
   if (text.find('\0') != std::string_view::npos) throw JsonError("a NUL byte in the line");
-  TreeBuilder builder;
+  Json root;
+  TreeBuilder builder(root);
   Json::sax_parse(JsonWithStandIns(text), &builder);
-  return builder.Take();
+  return root;
 }
 
 std::string WriteJson(const Json& json) {

@@ -120,17 +120,17 @@ TextList ListOf(const Json& json) {
 /// A single as the double that its shortest text is read as, so that it is written by
 /// that text.
 double AsPrinted(float number) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, number);
+  std::array<char, 32> text;
+  const auto end = std::to_chars(text.begin(), text.end(), number);
   double printed = 0;
-  std::from_chars(text, end.ptr, printed);
+  std::from_chars(text.begin(), end.ptr, printed);
   return printed;
 }
 
 struct JsonVisitor {
   const NamedObjects& objects;
 
-  Json operator()(Omitted) const { return nullptr; }
+  Json operator()(Omitted /*none*/) const { return nullptr; }
   Json operator()(const Text& text) const { return JsonOfText(text); }
   Json operator()(bool flag) const { return flag; }
   Json operator()(std::integral auto number) const { return number; }

@@ -26,7 +26,7 @@ std::string ClassHint(std::string_view name) {
     names.emplace_back(owner.name);
   }
   const std::string hint = Hint(name, names);
-  return hint.empty() ? " \"zq7 list\" shows the classes." : hint;
+  return hint.empty() ? R"( "zq7 list" shows the classes.)" : hint;
 }
 
 std::string MemberHint(const ClassInfo& owner, std::string_view name) {
@@ -35,7 +35,8 @@ std::string MemberHint(const ClassInfo& owner, std::string_view name) {
   for (const auto& property : owner.properties) names.emplace_back(property.name);
   for (const auto& event : owner.events) names.emplace_back(event.name);
   const std::string hint = Hint(name, names);
-  return hint.empty() ? " \"zq7 list " + std::string(owner.name) + "\" shows its members." : hint;
+  const std::string list = "zq7 list " + std::string(owner.name);
+  return hint.empty() ? " " + Quoted(list) + " shows its members." : hint;
 }
 
 }  // namespace
@@ -45,7 +46,7 @@ Member FindMember(std::string_view name) {
   const std::string class_name(name.substr(0, point));
   Member found = {.owner = FindClass(class_name)};
   if (found.owner == nullptr) {
-    throw WrongUse("There is no class \"" + class_name + "\"." + ClassHint(class_name));
+    throw WrongUse("There is no class " + Quoted(class_name) + "." + ClassHint(class_name));
   }
   if (point == name.size()) return found;
   const std::string_view member = name.substr(point + 1);
@@ -55,7 +56,7 @@ Member FindMember(std::string_view name) {
       found.owner->events, [&](const EventInfo& info) { return SameName(info.name, member); });
   if (event != found.owner->events.end()) found.event = &*event;
   if (found.operation == nullptr && found.property == nullptr && found.event == nullptr) {
-    throw WrongUse("There is no \"" + Qualified(found.owner->name, member) + "\"." +
+    throw WrongUse("There is no " + Quoted(Qualified(found.owner->name, member)) + "." +
                    MemberHint(*found.owner, member));
   }
   return found;

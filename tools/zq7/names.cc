@@ -34,6 +34,10 @@ std::size_t DistanceFrom(std::string_view name, std::string_view candidate) {
 
 }  // namespace
 
+std::string Quoted(std::string_view text) {
+  return std::string("\"").append(text).append("\"");
+}
+
 bool IsIdentifier(std::string_view word) {
   return !word.empty() && std::ranges::all_of(word, IsIdentifierCharacter) &&
          !(word.front() >= '0' && word.front() <= '9');

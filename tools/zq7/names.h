@@ -17,6 +17,9 @@ constexpr bool SameName(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, Lower, Lower);
 }
 
+/// `text` between quotation marks, for a message.
+std::string Quoted(std::string_view text);
+
 /// Whether `word` is letters, digits and "_" and begins with no digit.
 bool IsIdentifier(std::string_view word);
 

@@ -2,6 +2,7 @@
 
 #include <ZQ7Standard/automation/catalogue.h>
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <concepts>
@@ -21,12 +22,12 @@ std::string FloatingText(std::floating_point auto number) {
   const auto size = std::abs(number);
   const bool ordinary = size == 0 || (size >= 1e-5 && size < 1e15);
   const auto format = ordinary ? std::chars_format::fixed : std::chars_format::scientific;
-  char text[64];
-  return {text, std::to_chars(text, text + sizeof text, number, format).ptr};
+  std::array<char, 64> text;
+  return {text.begin(), std::to_chars(text.begin(), text.end(), number, format).ptr};
 }
 
 struct PlainVisitor {
-  std::string operator()(Omitted) const { return ""; }
+  std::string operator()(Omitted /*none*/) const { return ""; }
   std::string operator()(const Text& text) const { return Utf8(text); }
   std::string operator()(bool flag) const { return flag ? "True" : "False"; }
   std::string operator()(std::integral auto number) const { return std::to_string(number); }
