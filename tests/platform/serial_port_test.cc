@@ -55,7 +55,7 @@ TEST_F(SerialLine, RefusesWhatIsNotThereOrCannotBe) {
   ExpectRows<std::int16_t>([&](auto number) { return Send(u"x", u"9600,N,8,1", number); },
                            {{0, "8002"}, {8, "8002", "no line"}});
   const bool is_there = std::filesystem::exists(kReadOnly);  // sysfs may not be mounted
-  EXPECT_EQ(Send(u"x", u"9600,N,8,1", 9), is_there ? "70" : "8002");
+  EXPECT_EQ(Send(u"x", u"9600,N,8,1", 9), is_there ? 70 : 8002);
   EXPECT_EQ(State(), found);
   EXPECT_EQ(ErrorOf([&] { port->SetSettings(u"9600,S,5,1.5"); }), 0);
   EXPECT_EQ(ErrorOf([&] { port->SetOutput(u"x"); }), 8018);
