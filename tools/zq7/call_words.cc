@@ -15,6 +15,26 @@ bool IsPlainInShell(char c) {
   return !ascii || digit || letter || kPlain.find(c) != std::string_view::npos;
 }
 
+bool IsControl(char c) {
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+}
+
+/// A word with control characters, which a terminal would act on: $'\x1bp0'.
+std::string EscapedWord(std::string_view word) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string escaped = "$'";
+  for (const char c : word) {
+    if (IsControl(c)) {
+      const auto code = static_cast<unsigned char>(c);
+      escaped.append("\\x").append({kDigits[code / 16U], kDigits[code % 16U]});
+    } else {
+      if (c == '\'' || c == '\\') escaped += '\\';
+      escaped += c;
+    }
+  }
+  return escaped += "'";
+}
+
 }  // namespace
 
 bool IsOption(std::string_view word) {
@@ -28,6 +48,7 @@ std::string_view ArgumentName(std::string_view word) {
 
 std::string ShellWord(std::string_view word) {
   if (!word.empty() && std::ranges::all_of(word, IsPlainInShell)) return std::string(word);
+  if (std::ranges::any_of(word, IsControl)) return EscapedWord(word);
   std::string quoted = "'";
   for (const char c : word) {
     if (c == '\'') {
