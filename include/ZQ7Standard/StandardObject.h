@@ -63,7 +63,7 @@ enum ZQ7FixUnit : std::int32_t {
   ZQ7FixUnitAllDown = 3,  ///< toward zero
 };
 
-/// How `Instr2` compares. Any other value counts as binary.
+/// How `Instr2` compares, searching forward.
 enum ZQ7CompareMethod : std::int32_t {
   ZQ7CompareBinary = 0,  ///< code unit by code unit
   ZQ7CompareText = 1,    ///< without regard to case, in every script and locale
@@ -173,7 +173,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// Reads any date that `IsTDateTime` recognises and adds the era difference
   /// to its year: on a Buddhist system the result carries the Buddhist year as
   /// its own (29 February moves to the 28th where that year has none). Other
-  /// text gives the blank date. Raises 5 when the year would pass 9999.
+  /// text gives the blank date, and so does a year that leaves the range of dates.
   OleDate CDATE2000(TextView iText) const;
 
   /// `CTDATE` of a text that `IsTDateTime` recognises; today's date for any
@@ -364,9 +364,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
   // --- Numbers from text: src/numbers/reading.cc ---
 
   /// Reads the number at the front of a typed text; blanks, "," and "%" are
-  /// skipped wherever they stand. "1,234.50" is 1234.5, "12.5%" is 0.125, "abc"
-  /// is 0. An exponent (E or D) needs a digit. Never fails: a number too large
-  /// for a double gives 0.
+  /// skipped wherever they stand, tabs and line breaks, which pasted cells bring,
+  /// in front. "1,234.50" is 1234.5, "12.5%" is 0.125, "abc" is 0. An exponent (E
+  /// or D) needs a digit. Never fails: a number too large for a double gives 0.
   double StrVal(TextView istr) const;
 
   /// `StrVal`, rounded as `FixNumber` does to `DecimalDigit` decimals; -1 does
@@ -475,7 +475,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// The position of `SearchString` in `MainString`, from 1 in UTF-16 code units,
   /// the first at or after `start`; 0 for none and for a `start` beyond the end.
-  /// An empty `SearchString` is found at `start`. Raises 5 for a `start` below 1.
+  /// An empty `SearchString` is found at `start`. Raises 5 for a `start` below 1 and for a
+  /// `Compare` that is not a member of its enumeration.
   ///
   /// With `SearchFromBack` the position of the last one in the whole text;
   /// `start` and `Compare` have no effect, and an empty `SearchString` gives 0.

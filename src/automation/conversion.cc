@@ -56,6 +56,10 @@ std::string Described(const Value& value, const Place& place) {
 }
 
 [[noreturn]] void RaiseMismatch(const Value& value, const Place& place) {
+  if (std::holds_alternative<Omitted>(value)) {
+    const std::string name = place.call.parameters.empty() ? "value" : ParameterName(place);
+    throw RunTimeError::ArgumentNotOptional(place.call.member, name);
+  }
   throw RunTimeError::TypeMismatch(place.call.member, Described(value, place));
 }
 
@@ -150,6 +154,7 @@ struct TextVisitor {
   const Place& place;
 
   Text operator()(const Text& text) const { return text; }
+  Text operator()(Omitted /*missing*/) const { return {}; }
   Text operator()(bool flag) const { return flag ? u"True" : u"False"; }
   Text operator()(OleDate date) const {
     return DateText(date, place.call.services.date_convention->Current());

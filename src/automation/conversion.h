@@ -28,7 +28,8 @@ struct Place {
   std::size_t parameter = 0;
 };
 
-// The value as the type wanted. Raise 449 for an omitted one, 13 and 6 as `Invoke` has it.
+// The value as the type wanted; an omitted one is the empty text where a text is wanted.
+// Raise 449 for any other omitted one, 13 and 6 as `Invoke` has it.
 
 double ToDouble(const Value& value, const Place& place);
 float ToSingle(const Value& value, const Place& place);

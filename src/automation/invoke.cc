@@ -25,6 +25,10 @@ std::string Qualified(const ClassInfo& owner, std::string_view member) {
   return std::string(owner.name).append(".").append(member);
 }
 
+bool IsOmitted(const Value& value) {
+  return std::holds_alternative<Omitted>(value);
+}
+
 /// One value for each parameter of an operation.
 class Values {
  public:
@@ -45,9 +49,7 @@ class Values {
                                                  std::to_string(arguments.size()) + " for " +
                                                      std::to_string(operation_.parameters.size()));
     }
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-      if (!std::holds_alternative<Omitted>(arguments[i])) values_[i] = &arguments[i];
-    }
+    for (std::size_t i = 0; i < arguments.size(); ++i) Take(i, arguments[i]);
   }
 
   void TakeNamed(const NamedArgument& argument) {
@@ -58,12 +60,19 @@ class Values {
     if (named == parameters.end()) {
       throw RunTimeError::NamedArgumentNotFound(operation_.name, argument.name);
     }
-    const Value*& value = values_[static_cast<std::size_t>(named - parameters.begin())];
-    if (value != nullptr) {
+    const auto place = static_cast<std::size_t>(named - parameters.begin());
+    if (values_[place] != nullptr && !IsOmitted(*values_[place])) {
       throw RunTimeError::WrongNumberOfArguments(operation_.name,
                                                  std::string(argument.name) + " twice");
     }
-    if (!std::holds_alternative<Omitted>(argument.value)) value = &argument.value;
+    Take(place, argument.value);
+  }
+
+  /// An argument that is passed as missing takes the default of its parameter. Without one
+  /// it goes to the conversion, to which a missing text is the empty text.
+  void Take(std::size_t place, const Value& argument) {
+    if (IsOmitted(argument) && operation_.parameters[place].optional) return;
+    values_[place] = &argument;
   }
 
   void TakeDefaults() {

@@ -238,6 +238,8 @@ class FieldReader {
   /// that makes a date and the year is plain to see.
   std::optional<OleDate> ReadNumeric() const {
     if (!IsMark(b_, kNumericMarks) || !IsMark(c_, kNumericMarks)) return std::nullopt;
+    // "15/3 2560" is a day and month with something after them, not a date.
+    if ((b_.mark == u'/') != (c_.mark == u'/')) return std::nullopt;
     if (IsYear(b_.number)) return std::nullopt;
     if (IsYear(a_.number)) return Date(a_.number, b_.number.value, c_.number);
     const bool day_first = convention_.order == FieldOrder::kDayFirst;

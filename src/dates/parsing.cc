@@ -104,9 +104,7 @@ bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/)
 OleDate StandardObject::CDATE2000(TextView iText) const {
   const auto date = ReadDate(iText);
   if (!date) return GETBlankDate();
-  const auto shifted = AddYears(*date, GetEraDif());
-  if (!shifted) throw RunTimeError::InvalidArgument("CDATE2000", Quoted(iText));
-  return *shifted;
+  return AddYears(*date, GetEraDif()).value_or(GETBlankDate());
 }
 
 OleDate StandardObject::GETValidDate(TextView DateString) const {

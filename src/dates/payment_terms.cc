@@ -1,6 +1,7 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
@@ -41,20 +42,16 @@ const Condition* FindCondition(ZQ7ConditionType type) {
   return &kConditions[static_cast<std::size_t>(type)];
 }
 
-/// The shortest decimal digits that read back as the float, without exponent.
-std::string ShortestDigits(float value) {
-  std::array<char, 64> digits;
-  const auto end =
-      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed);
-  return {digits.data(), end.ptr};
-}
-
-/// The float rounded as it prints: 2.35 is 2.35, not the 2.3499999 it holds.
-Text FormatFloat(float value, int decimals) {
-  const std::string digits = ShortestDigits(value);
+/// The number that a float prints as, the shortest that reads back as the float: 2.35 is
+/// 2.35, not the 2.3499999 it holds, and 123456789 is 123456790.
+Decimal ShortestDecimal(float value) {
+  std::array<char, 16> digits;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                 std::chars_format::scientific)
+                       .ptr;
   double printed = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), printed);
-  return FormatDecimal(*ToDecimal(printed), decimals, Grouping::kThousands);
+  std::from_chars(digits.data(), end, printed);
+  return WithoutEndingZeros(*ToDecimal(printed));
 }
 
 bool IsPositive(float value) {
@@ -95,11 +92,11 @@ Text StandardObject::FormatCondition2(float Condition1, std::int16_t ConditionDa
   Text text;
   text.reserve(48);
   if (IsPositive(Condition1) && ConditionDay1 > 0) {
-    text.append(FormatFloat(Condition1, 1)).append(u"/");
+    text.append(FormatDecimal(ShortestDecimal(Condition1), 1, Grouping::kThousands)).append(u"/");
     text.append(FormatDecimal(*ToDecimal(ConditionDay1), 0, Grouping::kThousands)).append(u", ");
   }
-  const std::string days = ShortestDigits(ConditionDay);
-  text.append(u"N/").append(days.begin(), days.end());
+  const Decimal days = ShortestDecimal(ConditionDay);
+  text.append(u"N/").append(FormatDecimal(days, std::max(0, -days.exponent), Grouping::kNone));
   const Condition* const known = FindCondition(ConditionType);
   const Condition& condition = known ? *known : kConditions.front();
   const bool full = OutputType == ZQ7ConditionOutputTypeFull;

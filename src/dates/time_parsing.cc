@@ -6,30 +6,28 @@
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
 #include "text/ascii.h"
+#include "text/replace.h"
 
 namespace ZQ7Standard {
 namespace {
 
 constexpr int kHoursPerDay = 24;
 constexpr int kMinutesPerHour = 60;
+constexpr int kMinutesPerDay = kHoursPerDay * kMinutesPerHour;
 
-/// The four digits "HHMM" as a number, 930 for "0930"; nothing for other text.
-std::optional<int> FourDigits(TextView text) {
-  return text.size() == 4 ? ReadShortNumber(text) : std::nullopt;
-}
+struct ClockTime {
+  int hour = 0;
+  int minute = 0;
 
-/// The time of day of 930 (9:30) as a fraction of a day; nothing when it is no
-/// time from 0:00 to 23:59.
-std::optional<double> TimeOfDay(int hour_minute) {
-  const int hour = hour_minute / 100;
-  const int minute = hour_minute % 100;
-  if (hour >= kHoursPerDay || minute >= kMinutesPerHour) return std::nullopt;
-  return (hour * kMinutesPerHour + minute) / static_cast<double>(kHoursPerDay * kMinutesPerHour);
-}
+  bool IsValid() const { return hour < kHoursPerDay && minute < kMinutesPerHour; }
+};
 
-std::optional<double> ReadFourDigitTime(TextView text) {
-  const auto digits = FourDigits(text);
-  return digits ? TimeOfDay(*digits) : std::nullopt;
+/// The hour and minute of four digits "HHMM", which need not be a time of day; nullopt for
+/// other text.
+std::optional<ClockTime> ReadFourDigits(TextView text) {
+  const auto digits = text.size() == 4 ? ReadShortNumber(text) : std::nullopt;
+  if (!digits) return std::nullopt;
+  return ClockTime{*digits / 100, *digits % 100};
 }
 
 Text Without(TextView text, TextView characters) {
@@ -38,10 +36,6 @@ Text Without(TextView text, TextView characters) {
     if (characters.find(c) == TextView::npos) rest.push_back(c);
   }
   return rest;
-}
-
-void RemoveAll(Text& text, TextView part) {
-  for (std::size_t at = 0; (at = text.find(part, at)) != Text::npos;) text.erase(at, part.size());
 }
 
 /// The last `count` characters of `text` after enough zeros.
@@ -53,11 +47,15 @@ Text LastPadded(const Text& text, std::size_t count) {
 }  // namespace
 
 OleDate StandardObject::CTTime(TextView ITimeText) const {
-  return OleDate(ReadFourDigitTime(ITimeText).value_or(0));
+  const auto time = ReadFourDigits(ITimeText);
+  if (!time || !time->IsValid()) return {};
+  // In this order, to the last bit: hosts compare dates for equality.
+  return OleDate(h2d(time->hour + static_cast<double>(time->minute) / kMinutesPerHour));
 }
 
 bool StandardObject::isTTime(TextView ITimeText) const {
-  return ReadFourDigitTime(ITimeText).has_value();
+  const auto time = ReadFourDigits(ITimeText);
+  return time && time->IsValid();
 }
 
 OleDate StandardObject::Str2AddDay(TextView InTime, std::int16_t StartValue) const {
@@ -72,13 +70,14 @@ OleDate StandardObject::Str2TIME(TextView InTime) const {
   std::ranges::transform(upper, upper.begin(), AsciiUpper);
   const bool afternoon = upper.find(u"PM") != Text::npos;
   Text digits = Without(upper, u" :.");
-  RemoveAll(digits, u"AM");
-  RemoveAll(digits, u"PM");
+  for (const TextView mark : {u"AM", u"PM"}) ReplaceAll(digits, mark, {});
   // With seconds the hour and minute are the first four of six digits.
   const Text hour_minute = LastPadded(digits, colons > 1 ? 6 : 4).substr(0, 4);
-  const auto number = FourDigits(hour_minute);
-  if (!number) return {};
-  return OleDate(TimeOfDay((*number + (afternoon ? 1200 : 0)) % 2400).value_or(0));
+  const auto typed = ReadFourDigits(hour_minute);
+  if (!typed) return {};
+  const ClockTime time = {(typed->hour + (afternoon ? 12 : 0)) % kHoursPerDay, typed->minute};
+  const int minutes = time.hour * kMinutesPerHour + time.minute;
+  return OleDate(time.IsValid() ? minutes / static_cast<double>(kMinutesPerDay) : 0);
 }
 
 double StandardObject::CTHour(TextView ITimeText) const {

@@ -134,6 +134,10 @@ constexpr bool IsNothing(char16_t /*c*/) {
 constexpr bool IsNumberMark(char16_t c) {
   return c == u' ' || c == u',' || c == u'%';
 }
+/// What a cell pasted from a table brings in front of its number.
+constexpr bool IsCellMark(char16_t c) {
+  return c == u'\t' || c == u'\r' || c == u'\n';
+}
 
 constexpr std::int64_t kExponentLimit = 1'000'000;
 
@@ -247,6 +251,15 @@ Decimal CutDecimals(Decimal number, int decimals) {
   return {number.digits / PowerOfTen(drop), -decimals, number.negative};
 }
 
+Decimal WithoutEndingZeros(Decimal number) {
+  if (number.digits == 0) return {};
+  while (number.digits % 10 == 0) {
+    number.digits /= 10;
+    ++number.exponent;
+  }
+  return number;
+}
+
 double ToDouble(Decimal number) {
   if (number.digits == 0) return 0;
   double value = 0;
@@ -294,10 +307,7 @@ Text FormatDecimal(Decimal number, int decimals, Grouping grouping) {
 
 Text ShortestText(Decimal number) {
   if (number.digits == 0) return u"0";
-  while (number.digits % 10 == 0) {
-    number.digits /= 10;
-    ++number.exponent;
-  }
+  number = WithoutEndingZeros(number);
   const DecimalDigits digits(number);
   const int last_power = number.exponent;
   int top = last_power;
@@ -336,8 +346,11 @@ bool IsNumberText(TextView text) {
 }
 
 double ReadTypedNumber(TextView text) {
-  const double value = ReadNumber(Characters<IsNumberMark>(text));
-  return std::isinf(value) ? 0 : value;
+  Characters<IsNumberMark> source(text);
+  while (IsCellMark(source.Front())) source.Advance();
+  const double value = ReadNumber(source);
+  if (std::isinf(value)) return 0;
+  return text.ends_with(u'%') ? value / 100 : value;
 }
 
 template <typename Integer>

@@ -29,6 +29,9 @@ Decimal RoundDecimals(Decimal number, int decimals);
 /// `number` cut toward zero to `decimals` (from 0) decimals.
 Decimal CutDecimals(Decimal number, int decimals);
 
+/// The same number with the fewest digits; its decimals are `-exponent` when that is above 0.
+Decimal WithoutEndingZeros(Decimal number);
+
 /// The double nearest to `number`; an infinity beyond the doubles.
 double ToDouble(Decimal number);
 
@@ -73,8 +76,10 @@ std::optional<double> ReadLeadingNumber(TextView text);
 /// blanks may stand around it.
 bool IsNumberText(TextView text);
 
-/// `ReadLeadingNumber` with every blank, "," and "%" left out first; 0 when the number is
-/// too large for a double.
+/// The value of a number as a user types it, which is what `StandardObject::StrVal`
+/// returns: `ReadLeadingNumber` with every blank, "," and "%" left out and tabs and line
+/// breaks in front passed over; a hundredth of that when the text ends in "%". 0 when the
+/// number is too large for a double.
 double ReadTypedNumber(TextView text);
 
 /// The whole number nearest to `value`, a half going to even; nothing outside

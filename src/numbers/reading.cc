@@ -26,8 +26,7 @@ double StandardObject::StrVal(TextView istr) const {
 }
 
 double StandardObject::StrVal2(TextView istr, std::int32_t DecimalDigit) const {
-  const double number = ReadTypedNumber(istr);
-  const double value = istr.ends_with(u'%') ? number / 100 : number;
+  const double value = ReadTypedNumber(istr);
   if (DecimalDigit == -1) return value;
   if (DecimalDigit < 0 || DecimalDigit > std::numeric_limits<std::int16_t>::max()) return 0;
   return FixNumber(value, static_cast<std::int16_t>(DecimalDigit));
@@ -42,11 +41,9 @@ std::int32_t StandardObject::StrLng(TextView istr, std::int32_t DecimalDigit) co
 }
 
 float StandardObject::StrSng(TextView istr, std::int32_t DecimalDigit) const {
-  const double value = StrVal2(istr, DecimalDigit);
-  if (std::abs(value) > std::numeric_limits<float>::max()) {
-    throw RunTimeError::Overflow("StrSng", Quoted(istr));
-  }
-  return static_cast<float>(value);
+  const auto value = static_cast<float>(StrVal2(istr, DecimalDigit));
+  if (std::isinf(value)) throw RunTimeError::Overflow("StrSng", Quoted(istr));
+  return value;
 }
 
 double StandardObject::Null2Zero(std::optional<double> InputValue) const {

@@ -8,6 +8,7 @@
 #include "numbers/number_text.h"
 #include "text/pieces.h"
 #include "text/replace.h"
+#include "text/search.h"
 #include "text/unicode.h"
 
 namespace ZQ7Standard {
@@ -69,7 +70,7 @@ Text StandardObject::AddList(TextView iList, TextView iAdd, TextView SeparateCha
   marked.append(iAdd).append(kMarker);
   // The added item, enclosed by the marker that ends the list and its own.
   const TextView item = TextView(marked).substr(end - kMarker.size());
-  const bool listed = TextView(marked).substr(0, end).find(item) != TextView::npos;
+  const bool listed = FindFirst(TextView(marked).substr(0, end), item) != TextView::npos;
   if (listed) marked.resize(end);
   const TextView inside =
       TextView(marked).substr(kMarker.size(), marked.size() - 2 * kMarker.size());

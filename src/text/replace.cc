@@ -1,13 +1,16 @@
 #include "text/replace.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace ZQ7Standard {
 
 void ReplaceAll(Text& text, TextView from, TextView to) {
-  for (std::size_t at = text.find(from); at != Text::npos; at = text.find(from, at + to.size())) {
-    text.replace(at, from.size(), to);
-  }
+  if (text.find(from) == Text::npos) return;
+  Text result;
+  result.reserve(text.size());
+  AppendReplaced(result, text, from, to);
+  text = std::move(result);
 }
 
 void AppendReplaced(Text& result, TextView text, TextView from, TextView to) {

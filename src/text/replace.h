@@ -5,12 +5,14 @@
 
 namespace ZQ7Standard {
 
+// Each takes time in proportion to the lengths, however many there are to replace.
+
 /// Replaces each `from` (not empty) in `text` by `to`, from the left; what was
 /// put in is not looked at again.
 void ReplaceAll(Text& text, TextView from, TextView to);
 
 /// Appends `text` to `result` with each `from` (not empty) replaced by `to`,
-/// from the left. In proportion to the lengths, however many there are.
+/// from the left.
 void AppendReplaced(Text& result, TextView text, TextView from, TextView to);
 
 }  // namespace ZQ7Standard

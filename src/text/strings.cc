@@ -11,6 +11,7 @@
 #include "text/ascii.h"
 #include "text/case_mapping.h"
 #include "text/pieces.h"
+#include "text/search.h"
 #include "text/unicode.h"
 
 namespace ZQ7Standard {
@@ -40,11 +41,25 @@ TextView DigitTail(TextView key) {
   return tail;
 }
 
+/// Whether `c` in front of `number`, which reads as a number above 0, leaves its value as
+/// it is: what a reader passes over does, and a "0" before a digit or a point. Such
+/// characters are the only ones of which there is no end.
+bool KeepsValue(char16_t c, TextView number) {
+  constexpr TextView kPassedOver = u" ,%\t\r\n";
+  if (c != u'0') return kPassedOver.find(c) != TextView::npos;
+  const char16_t next = TrimFront(number, u" ,%").front();
+  return IsAsciiDigit(next) || next == u'.';
+}
+
 /// The end of `text` that reads as a number above 0 with each character that is
 /// taken to it; a "0" at the end therefore leaves none.
 TextView NumericSuffix(TextView text) {
   std::size_t start = text.size();
-  while (start > 0 && IsPositiveNumber(text.substr(start - 1))) --start;
+  for (; start > 0; --start) {
+    const TextView number = text.substr(start);
+    const bool same = !number.empty() && KeepsValue(text[start - 1], number);
+    if (!same && !IsPositiveNumber(text.substr(start - 1))) break;
+  }
   return text.substr(start);
 }
 
@@ -114,15 +129,17 @@ Text StandardObject::FormatTextSort(TextView InputString, std::int16_t Length) c
 
 std::int32_t StandardObject::Instr2(std::int32_t start, TextView MainString, TextView SearchString,
                                     ZQ7CompareMethod Compare, bool SearchFromBack) const {
-  if (SearchFromBack) return SearchString.empty() ? 0 : Position(MainString.rfind(SearchString));
+  if (SearchFromBack)
+    return SearchString.empty() ? 0 : Position(FindLast(MainString, SearchString));
   if (start < 1) throw RunTimeError::InvalidArgument("Instr2", std::to_string(start));
+  if (Compare != ZQ7CompareBinary && Compare != ZQ7CompareText) {
+    throw RunTimeError::InvalidArgument("Instr2", "Compare " + std::to_string(Compare));
+  }
   const auto first = static_cast<std::size_t>(start) - 1;
   if (first >= MainString.size()) return 0;
-  if (Compare != ZQ7CompareText) return Position(MainString.find(SearchString, first));
-  const auto at = std::search(MainString.begin() + start - 1, MainString.end(),
-                              SearchString.begin(), SearchString.end(), EqualInUpperCase) -
-                  MainString.begin();
-  return at == std::ssize(MainString) ? 0 : Position(static_cast<std::size_t>(at));
+  return Position(Compare == ZQ7CompareText
+                      ? FindFirst(MainString, SearchString, first, EqualInUpperCase)
+                      : FindFirst(MainString, SearchString, first));
 }
 
 std::int32_t StandardObject::Random(std::int32_t Low, std::int32_t High) const {

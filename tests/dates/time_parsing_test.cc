@@ -14,6 +14,18 @@ TEST(TypedTimes, CTTimeAndIsTTimeTakeFourDigits) {
       {"00:00 no", {u"2360", u"2400", u"9:30", u"09:30", u"abcd", u"2359 ", u""}}});
 }
 
+// To the last bit, as hosts compare them: the one divides the hours, the other the minutes.
+TEST(TypedTimesBreadth, BitsOfEveryMinute) {
+  EXPECT_EQ(kObject.CTTime(u"0009").Days(), 0.0062499999999999995);
+  EXPECT_EQ(kObject.Str2TIME(u"0009").Days(), 0.00625);
+  for (int minute = 0; minute < 1440; ++minute) {
+    const Text typed = kObject.FormatTime(OleDate(minute / 1440.0));
+    const Text digits = typed.substr(0, 2) + typed.substr(3);
+    ASSERT_EQ(kObject.CTTime(digits).Days(), kObject.h2d(minute / 60 + minute % 60 / 60.0));
+    ASSERT_EQ(kObject.Str2TIME(digits).Days(), minute / 1440.0) << minute;
+  }
+}
+
 // Noon and after wrap round when PM is added.
 TEST(TypedTimes, Str2TIMEAndStr2AddDay) {
   ExpectTexts([](TextView text) { return kObject.FormatTime(kObject.Str2TIME(text)); }, {
@@ -41,6 +53,8 @@ TEST(Spans, DaysAndHours) {
       {u"9:1:12:30", "1.5208333333333333 12.5 yes yes", "fourth field"},
       {u"0:2.5:0", "0.08333333333333333 2 yes yes", "half to even"},
       {u"3:0:0", "3 0 yes no"}, {u"-1:0:0", "-1 0 yes no"}, {u"0:0", "0 0 no no"},
+      {u"50%:0:0", "0 0 no no", "half a day to even"}, {u"0:50%", "0 0 no no"},
+      {u"1:50%", "0.041666666666666664 1 yes yes"}, {u"5%0%", "0.5 0.5 no no"},
       {u"a:b", "0 0 no no"}, {u"", "0 0 no no"}, {u"0130", "130 130 yes yes", "four digits"},
       {u"0000", "0 0 no no"}, {u"99999999999:0:0", "99999999999 0 yes no"}});
 }

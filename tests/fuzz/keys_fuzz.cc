@@ -63,6 +63,24 @@ Text IncreasedByStep(const Text& key, const Text& step) {
   return key.substr(0, start) + zeros + number;
 }
 
+/// The number at the end of a key, each of its ends read anew.
+Text SortSuffixByStep(const Text& text) {
+  std::size_t start = text.size();
+  while (start > 0 && kObject.StrVal(TextView(text).substr(start - 1)) > 0) --start;
+  return text.substr(start);
+}
+
+Text SortedByStep(const Text& text, std::int16_t length) {
+  const Text suffix = SortSuffixByStep(text);
+  const std::size_t prefix = text.size() - suffix.size();
+  const auto room = static_cast<std::size_t>(length) - prefix;
+  const Text filled =
+      Text(static_cast<std::size_t>(length), u'0') + (suffix.empty() ? u"1" : suffix);
+  Text key = text.substr(0, prefix) + filled.substr(filled.size() - room);
+  if (!suffix.empty()) std::ranges::transform(key, key.begin(), ToUpper);
+  return key;
+}
+
 template <typename Operation>
 Text OrError(Operation operation) {
   try {
@@ -91,7 +109,7 @@ void CheckTexts(const Text& text) {
   Check(kObject.ReverseList(kObject.ReverseList(text)) == items);
   for (std::int16_t length = 0; length < 40; length += 13) {
     const Text sorted = OrError([&] { return kObject.FormatTextSort(text, length); });
-    Check(sorted == u"\5" || sorted.size() == static_cast<std::size_t>(length));
+    Check(sorted == u"\5" || sorted == SortedByStep(text, length));
   }
 }
 
@@ -111,6 +129,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Check(list == ListByStep(first, second, separator));
   Check(OrError([&] { return kObject.IncreaseString(first, second); }) ==
         OrError([&] { return IncreasedByStep(first, second); }));
+  Check(static_cast<std::size_t>(kObject.Instr2(1, first, second, ZQ7CompareBinary, true)) ==
+        (second.empty() ? 0 : first.rfind(second) + 1));
   for (std::int16_t field = 1; field < 4; ++field) {
     const Text number = OrError([&] { return kObject.TrimN(first, field); });
     if (number.size() > 1) Check(kObject.TrimN(number + u",0", 1) == number);

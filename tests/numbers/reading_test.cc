@@ -9,7 +9,8 @@ static const StandardObject kObject = ObjectWith(kMdy);
 // clang-format off
 TEST(Reading, StrValForgivesWhatUsersType) {
   ExpectTexts([](TextView text) { return kObject.StrVal(text); }, {
-      {"0", {u"", u"   ", u"%", u"abc", u"1e999", u"1e999%", u"\t5", u"๕"}},
+      {"0", {u"", u"   ", u"%", u"abc", u"1e999", u"1e999%", u"-\t5", u"๕", u"\t"}},
+      {"5", {u"\t5", u" \r\n 5", u"\t,\t5", u"5\t5"}}, {"0.5", {u"\t50%"}},
       {"1234.5", {u"1,234.50"}}, {"123", {u"1 2 3"}}, {"0.5", {u"50%"}}, {"0.125", {u"12.5%"}},
       {"50", {u"50% ", u"%50"}}, {"12", {u"12abc"}}, {"-5", {u"- 5"}},
       {"100", {u"1 E 2", u"1E,2"}}, {"15.55", {u"1,5.5,5"}}});
@@ -26,7 +27,8 @@ TEST(Reading, IntegersGoHalfToEvenAndOverflow) {
   ExpectRows<TextView>([](TextView text) { return kObject.StrLng(text); }, {
       {u"-2,147,483,648", "-2147483648"}, {u"2147483648", "error 6"}});
   ExpectTexts([](TextView text) { return kObject.StrSng(text); }, {
-      {"0.1", {u"0.1"}}, {"error 6", {u"1e39"}}});
+      {"0.1", {u"0.1"}}, {"3.4028235e+38", {u"3.4028235E38"}},
+      {"error 6", {u"1e39", u"-3.4028236E38"}}});
 }
 
 TEST(Reading, SmallOnes) {

@@ -55,7 +55,8 @@ TEST(SystemDateConvention, JudgesInstalledAndOtherLocalesAlike) {
     }, {{"th_TH.UTF-8", "4"}, {"en_US.UTF-8", "1"}, {"en_GB.UTF-8", "2"}, {"de_DE.UTF-8", "2"},
         {"sv_SE.UTF-8", "1"}, {"ja_JP.UTF-8", "1"}, {"C", "1"}, {"POSIX", "1"}, {"C.UTF-8", "1"},
         {"th_TH.NOSUCH", "4"}, {"th", "4"}, {"en_PH.NOSUCH", "1"}, {"xx_YY.UTF-8", "2"},
-        {"xx", "2"}});
+        {"xx", "2"}, {"th-TH", "4"}, {"TH_TH", "4"}, {"en-us", "1"}, {"DE-at", "1"},
+        {"posix", "1"}});
     // clang-format on
   }
 }

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "tests/support/fakes.h"
+#include "text/search.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -65,6 +66,8 @@ TEST(FormatTextSort, FillsToALength) {
       {"0 at the end is no number", u"a10", 5, u"a1001"}, {"zeros", u"a007", 6, u"A00007"},
       {"a point and blanks too", u"a1. 5", 6, u"A01. 5"}, {"a plus sign", u"a+5", 6, u"A000+5"},
       {"a minus sign ends it", u"a-5", 6, u"A-0005"}, {"no length", u"12", 0, u""},
+      {"a zero before a sign is none", u"0+5", 6, u"0000+5"}, {"a pasted tab", u"a\t5", 5, u"A00\t5"},
+      {"zeros among marks", u"a0 ,0%.5", 9, u"A00 ,0%.5"},
       {"upper case of any script", u"กé7", 5, u"กÉ007"}, {"empty", u"", 5, u"00001"},
   };
   // clang-format on
@@ -82,11 +85,10 @@ TEST(FormatTextSort, FillsToALength) {
 
 TEST(Instr2, SearchesFromEitherEnd) {
   const auto binary = ZQ7CompareBinary, text = ZQ7CompareText;
-  const auto other = static_cast<ZQ7CompareMethod>(2);
   // The last two are the position found and the one found from the back.
   const std::tuple<int, TextView, TextView, ZQ7CompareMethod, int, int> cases[] = {
       {2, u"abcabc", u"bc", binary, 2, 5}, {3, u"abcabc", u"bc", binary, 5, 5},
-      {1, u"abc", u"B", binary, 0, 0},     {1, u"abc", u"B", other, 0, 0},
+      {1, u"abc", u"B", binary, 0, 0},     {1, u"abc", u"bc", binary, 2, 2},
       {2, u"abcABC", u"Bc", text, 2, 0},   {3, u"éÉé", u"É", text, 3, 2},
       {1, u"ας", u"Σ", text, 2, 0},        {1, u"abc", u"abd", text, 0, 0},
       {2, u"abc", u"", binary, 2, 0},      {3, u"abc", u"", text, 3, 0},
@@ -97,6 +99,34 @@ TEST(Instr2, SearchesFromEitherEnd) {
     EXPECT_EQ(kObject.Instr2(-1, main, search, compare, true), from_back) << Utf8(search);
   }
   EXPECT_EQ(ErrorOf([] { kObject.Instr2(0, u"", u"", ZQ7CompareText); }), 5);
+  for (const int other : {-1, 2, 7}) {
+    const auto compare = static_cast<ZQ7CompareMethod>(other);
+    EXPECT_EQ(ErrorOf([&] { kObject.Instr2(1, u"abc", u"b", compare); }), 5) << other;
+    EXPECT_EQ(kObject.Instr2(1, u"abc", u"b", compare, true), 2) << other;
+  }
+}
+
+// Every text and part of two letters that are short, and long ones that nearly repeat.
+TEST(SearchBreadth, AgreesWithThePlainSearch) {
+  const auto letters = [](std::size_t bits, std::size_t size) {
+    Text text(size, u'a');
+    for (std::size_t i = 0; i < size; ++i) text[i] += static_cast<char16_t>((bits >> i) & 1U);
+    return text;
+  };
+  const auto same = [](char16_t a, char16_t b) { return a == b; };
+  const auto check = [&](const Text& text, const Text& part) {
+    for (std::size_t from = 0; from <= text.size(); from += 3) {
+      ASSERT_EQ(FindFirst(text, part, from, same), text.find(part, from)) << Utf8(text);
+      ASSERT_EQ(FindFirst(text, part, from), text.find(part, from)) << Utf8(text);
+    }
+    ASSERT_EQ(FindLast(text, part), text.rfind(part)) << Utf8(text) << ' ' << Utf8(part);
+  };
+  for (std::size_t bits = 0; bits < 256 * 32; ++bits) {
+    const Text part = letters(bits / 256, 1 + bits % 5);
+    check(letters(bits % 256, 8), part);
+    const Text longer = part + part + part + part + u"ab" + part + part;
+    check(letters(bits % 256, 8) + longer + longer + part, longer.substr(bits % 4) + part);
+  }
 }
 
 constexpr float kLargest = 0x1.FFFFFEp-1F;

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "enumerators.h"
 #include "names.h"
 
 namespace ZQ7Tool {
@@ -83,6 +84,37 @@ void CheckKeys(const Json& request) {
   }
 }
 
+/// Reads a text where a member of an enumeration is wanted; a number as text is left to the
+/// call.
+void ReadMember(const OperationInfo& operation, const ParameterInfo& parameter, Value& value) {
+  const EnumerationInfo* const enumeration = parameter.type.enumeration;
+  const auto* const text = std::get_if<Text>(&value);
+  if (enumeration == nullptr || text == nullptr) return;
+  const std::string name = Utf8(*text);
+  if (!IsIdentifier(name)) return;
+  const auto member = ValueOfEnumerator(*enumeration, name);
+  if (!member) {
+    throw RunTimeError::TypeMismatch(operation.name, std::string(parameter.name) + ": " +
+                                                         Quoted(name) + "." +
+                                                         EnumeratorHint(*enumeration, name));
+  }
+  value = *member;
+}
+
+/// Reads the members of enumerations among the arguments of a call. An argument of which
+/// there is no parameter is left to the call.
+void ReadMembers(const OperationInfo& operation, std::vector<Value>& positional,
+                 std::vector<NamedArgument>& named) {
+  const auto& parameters = operation.parameters;
+  const std::size_t count = std::min(positional.size(), parameters.size());
+  for (std::size_t i = 0; i < count; ++i) ReadMember(operation, parameters[i], positional[i]);
+  for (auto& [name, value] : named) {
+    for (const ParameterInfo& parameter : parameters) {
+      if (SameName(parameter.name, name)) ReadMember(operation, parameter, value);
+    }
+  }
+}
+
 }  // namespace
 
 BatchSession::BatchSession(const Settings& settings)
@@ -148,6 +180,9 @@ Value BatchSession::CallOperation(const Object& object, const Json& request) con
     }
   } else {
     throw JsonError(R"("args" is no list and no object)");
+  }
+  if (const OperationInfo* const found = FindOperation(object.Class(), operation)) {
+    ReadMembers(*found, positional, named);
   }
   return Invoke(object, operation, {positional, named});
 }

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "call_words.h"
+#include "enumerators.h"
 #include "layout.h"
 #include "members.h"
 #include "names.h"
@@ -40,13 +41,9 @@ Text TextOfWord(const std::string& word) {
 /// The member of an enumeration by its name. Any other word that looks like a name
 /// would be no number either.
 Value EnumeratorOf(const EnumerationInfo& enumeration, const std::string& word) {
-  std::vector<std::string> names;
-  for (const EnumeratorInfo& member : enumeration.members) {
-    if (SameName(member.name, word)) return member.value;
-    names.emplace_back(member.name);
-  }
+  if (const auto value = ValueOfEnumerator(enumeration, word)) return *value;
   throw WrongUse(Quoted(word) + " is no " + std::string(enumeration.name) + "." +
-                 Hint(word, names));
+                 EnumeratorHint(enumeration, word));
 }
 
 Value ValueOfWord(const std::string& word, const TypeInfo& type) {

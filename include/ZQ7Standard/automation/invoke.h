@@ -43,8 +43,8 @@ struct NamedArgument {
   Value value;
 };
 
-/// The arguments of a call: first those given by position, of which an `Omitted`
-/// leaves its place out, then those given by name.
+/// The arguments of a call: first those given by position, then those given by name. An
+/// `Omitted` leaves its parameter out.
 struct Arguments {
   std::span<const Value> positional = {};
   std::span<const NamedArgument> named = {};
@@ -67,7 +67,8 @@ ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices
 /// the operation raises, and
 /// - 438 for a name that is no operation of the class,
 /// - 448 for an argument name that is no parameter,
-/// - 449 for an argument that is missing and not optional,
+/// - 449 for an argument that is missing and not optional; passed as `Omitted` where a
+///   text is wanted, it is the empty text instead,
 /// - 450 for too many arguments, or two for one parameter,
 /// - 13 for a text that is no number (no date, no Boolean) where one is wanted, and
 ///   for a list or an object where none is wanted,

@@ -1,0 +1,178 @@
+// Feeds every operation that takes a text 64 KiB and then 1 MiB of texts that are hard on
+// it, and fails when an operation's CPU time grows more than 64 times: what is linear grows
+// 16 times, what is quadratic 256 times. It measures by hand, because a benchmark that runs
+// until its time is stable would never end where one of these texts is quadratic.
+
+#include <ZQ7Standard/automation/invoke.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <ctime>
+#include <exception>
+#include <filesystem>
+#include <iomanip>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "host.h"
+#include "tests/support/temp_folder.h"
+
+namespace {
+
+using namespace ZQ7Standard;
+using namespace ZQ7Standard::Automation;
+
+constexpr std::size_t kSmall = 64 * 1024 / sizeof(char16_t);
+constexpr std::size_t kLarge = 1024 * 1024 / sizeof(char16_t);
+constexpr double kLimit = 64;
+// Below this the time is that of the allocator and the caches, and no quadratic operation
+// is done by then.
+constexpr double kTooShortToTell = 0.005;
+// At four times its square, 1 MiB would take minutes.
+constexpr double kTooLongToGoOn = 0.5;
+constexpr int kRepetitions = 3;
+
+// What is repeated: digits, blanks and marks that readers pass over, separators, what
+// operations remove or replace, and characters that case or code page must look up.
+constexpr auto kPatterns = std::to_array<TextView>(
+    {u"a",   u"0",   u"9",       u" ",      u"\t", u"\r\n", u",",      u";",  u"%",
+     u"/",   u":",   u".",       u"-",      u"+",  u"\\",   u"'",      u"=",  u"1.",
+     u"1+",  u"0 ",  u"0,0.",    u"1,",     u"a ", u"AM",   u"PM",     u"E1", u";;",
+     u"$#$", u"a;",  u"..\\",    u"[a]=",   u"กำ", u"baht", u"satang", u"é",  u"บาทเอ็ดสตางค์",
+     u"15/", u"Jan", u"C:\\a\\", u"\xD83D", u"เอ็ด"});
+
+// What follows, so that a reader from the back has something to find.
+constexpr auto kEndings = std::to_array<TextView>({u"", u"5", u"z"});
+
+Text Repeated(TextView pattern, std::size_t size, TextView ending) {
+  Text text;
+  while (text.size() < size) text.append(pattern);
+  return text.append(ending);
+}
+
+/// One way to make an operation work hard: the texts of its parameters.
+struct Probe {
+  const ClassInfo& owner;
+  const OperationInfo& operation;
+  std::size_t parameter;  ///< the one with the long text; the number of parameters: all of them
+  TextView pattern;
+  TextView ending;
+
+  std::vector<Value> Arguments(std::size_t size) const {
+    std::vector<Value> arguments = operation.examples.front().arguments;
+    arguments.resize(operation.parameters.size());
+    bool first = true;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+      if (operation.parameters[i].type.type != Type::kText) continue;
+      // Texts that are searched for nearly match the one that they are searched in.
+      if (i == parameter) arguments[i] = Repeated(pattern, size, ending);
+      if (parameter == arguments.size()) {
+        arguments[i] = first ? Repeated(pattern, size, {}) : Repeated(pattern, size / 2, ending);
+      }
+      first = false;
+    }
+    return arguments;
+  }
+};
+
+/// The CPU time of one call in seconds; the least of a few, as the machine is never idle.
+double Seconds(const Probe& probe, std::size_t size, const HostServices& services) {
+  const std::vector<Value> arguments = probe.Arguments(size);
+  double least = 0;
+  for (int i = 0; i < kRepetitions; ++i) {
+    const Object object = Create(probe.owner.name, services);
+    for (const Call& call : probe.operation.examples.front().before) {
+      Invoke(object, call.operation, {call.arguments});
+    }
+    const std::clock_t start = std::clock();
+    try {
+      Invoke(object, probe.operation.name, {arguments});
+    } catch (const std::exception&) {
+      // A text that is refused is answered too.
+    }
+    const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    least = i == 0 ? seconds : std::min(least, seconds);
+    if (least > kTooLongToGoOn) break;
+  }
+  return least;
+}
+
+struct Growth {
+  double small = 0;
+  double large = 0;
+  TextView pattern;
+  TextView ending;
+
+  double Ratio() const {
+    if (small > kTooLongToGoOn) return 4 * kLimit;
+    return large < kTooShortToTell ? 0 : large / std::max(small, 1e-6);
+  }
+};
+
+Growth Measure(const Probe& probe, const HostServices& services) {
+  Growth growth = {.pattern = probe.pattern, .ending = probe.ending};
+  growth.small = Seconds(probe, kSmall, services);
+  if (growth.small <= kTooLongToGoOn) growth.large = Seconds(probe, kLarge, services);
+  return growth;
+}
+
+/// The parameters to try: each text by itself, and all texts where there are several.
+std::vector<std::size_t> ParametersToTry(const OperationInfo& operation) {
+  std::vector<std::size_t> tried;
+  for (std::size_t i = 0; i < operation.parameters.size(); ++i) {
+    if (operation.parameters[i].type.type == Type::kText) tried.push_back(i);
+  }
+  if (tried.size() > 1) tried.push_back(operation.parameters.size());
+  return tried;
+}
+
+/// The pattern that made the operation's time grow most, or take longest.
+Growth Worst(const ClassInfo& owner, const OperationInfo& operation, const HostServices& services) {
+  Growth worst;
+  for (const std::size_t parameter : ParametersToTry(operation)) {
+    for (const TextView pattern : kPatterns) {
+      for (const TextView ending : kEndings) {
+        const Growth growth = Measure({owner, operation, parameter, pattern, ending}, services);
+        const auto rank = [](const Growth& g) { return std::pair(g.Ratio(), g.large); };
+        if (rank(growth) > rank(worst)) worst = growth;
+      }
+    }
+  }
+  return worst;
+}
+
+bool TakesText(const OperationInfo& operation) {
+  return !operation.examples.empty() && !ParametersToTry(operation).empty();
+}
+
+}  // namespace
+
+/// With arguments, the operations whose names they are part of.
+int main(int argc, char** argv) {
+  // Paths that the patterns happen to name lie here.
+  const TempFolder folder;
+  std::filesystem::current_path(folder.Native());
+  const ZQ7Tool::Host host({.example = true}, nullptr);
+  const std::vector<std::string> wanted(argv + 1, argv + argc);
+  bool passed = true;
+  std::cout
+      << "| Operation | 64 KiB, ms | 1 MiB, ms | Times | Worst text |\n|---|--:|--:|--:|---|\n";
+  for (const ClassInfo& owner : Classes()) {
+    for (const OperationInfo& operation : owner.operations) {
+      const std::string name = std::string(owner.name) + "." + std::string(operation.name);
+      const auto in_name = [&](const std::string& part) { return name.find(part) != name.npos; };
+      if (!TakesText(operation)) continue;
+      if (!wanted.empty() && std::ranges::none_of(wanted, in_name)) continue;
+      const Growth worst = Worst(owner, operation, host.Services());
+      const bool failed = worst.Ratio() > kLimit;
+      passed = passed && !failed;
+      std::cout << "| " << name << " | " << std::fixed << std::setprecision(2) << worst.small * 1e3
+                << " | " << worst.large * 1e3 << " | " << std::setprecision(0) << worst.Ratio()
+                << (failed ? " TOO MANY" : "") << " | `" << Utf8(worst.pattern) << "`…`"
+                << Utf8(worst.ending) << "` |" << std::endl;
+    }
+  }
+  return passed ? 0 : 1;
+}
