@@ -54,6 +54,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
 
   /// Problems are shown in a message box titled "Warning" from level 1 up. At 0, the
   /// level of a new object, every operation is silent: the name says the opposite.
+  /// docs/surprises.md shows a host that records them.
   std::int16_t DisableMsgLevel() const;
   void SetDisableMsgLevel(std::int16_t DisableMsgLevel);
 
@@ -72,7 +73,8 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   Text GetValue(TextView iTextFile, TextView IKey) const;
 
   /// Sets every line of the key to `[IKEY]=iValue`, with the key in upper case, and
-  /// appends such a line when there is none. A new file gets the key as it is typed.
+  /// appends such a line when there is none. A new file gets the key as it is typed. A
+  /// line break in `iValue` makes further lines (docs/surprises.md).
   ///
   /// A failure leaves the file as it was and shows a message: "Not found specified
   /// folder.", "Specified folder can not write." (a new file in a read-only folder) or

@@ -32,7 +32,8 @@ class ZQ7STANDARD_EXPORT BahtStringObject {
   /// 0 is "ศูนย์บาทถ้วน" whatever the unit and "Zerobaht" in English, both
   /// without "=". A Thai amount below 1 carries no unit word, so a negative one
   /// is only its digits and "ถ้วน": -5.25 is "ห้าถ้วน". Any fraction brings the
-  /// sub-unit, also one that rounds away: 5.001 is "ห้าบาทสตางค์".
+  /// sub-unit, also one that rounds away: 5.001 is "ห้าบาทสตางค์". So round a
+  /// computed amount first (docs/surprises.md).
   Text MoneyText(double inDouble, bool useBreak = false, bool useEnglish = false,
                  TextView NewUnit = {}, TextView NewSubUnit = {});
 
@@ -48,7 +49,8 @@ class ZQ7STANDARD_EXPORT BahtStringObject {
 
   /// The amount in English words with "baht" and "satang". No bound on the
   /// amount; groups from 10^15 up have " ?" for their scale. 0 is "Zero baht";
-  /// 0.56 is " baht and fifty six satang", which begins with a blank.
+  /// 0.56 is " baht and fifty six satang", which begins with a blank
+  /// (docs/surprises.md).
   Text MoneyTextE(double inDouble);
   /// The same as `MoneyTextE`.
   Text BahtStringE(double inDouble);

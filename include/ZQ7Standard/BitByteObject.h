@@ -93,7 +93,7 @@ class ZQ7STANDARD_EXPORT BitByteObject {
   /// `DecNumber` with the bit set where `NewValue` is exactly 1, and cleared for
   /// any other value: the -1 of `BitRead` clears, as callers that copy a bit
   /// with it know. 0 for a position that the number's `Dec2Bin` does not have:
-  /// `BitWrite(5, 4, 1)` is 0. Raises 6 where the result is negative or above
+  /// `BitWrite(5, 4, 1)` is 0 (docs/surprises.md). Raises 6 where the result is negative or above
   /// 13815, as `Bin2Dec` does.
   std::int16_t BitWrite(std::int16_t DecNumber, std::uint8_t BitDigitFormBack,
                         std::int16_t NewValue) const;

@@ -57,7 +57,7 @@ class ZQ7STANDARD_EXPORT GridValueObject {
 
   /// Sets the number of rows when it is above 0 and above `FixedRows`, else does
   /// nothing. Columns not yet set are 0 from then on, for good: hosts set
-  /// columns first.
+  /// columns first (docs/surprises.md).
   void SetRows(std::int32_t Rows);
 
   /// Sets the columns when they are not set yet and `Cols` is above 0, else does

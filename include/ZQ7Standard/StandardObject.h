@@ -139,7 +139,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// Reads "D:H:M", "H:M" or a bare number of days. Fields are whole numbers,
   /// halves to even; minutes above 60 count as 60, hours above 24 as 24, so
   /// "0:23:60" is one day. What is no number reads as 0; fields further left
-  /// are ignored.
+  /// are ignored. "0130" is 130 days (docs/surprises.md).
   double DAYTIME2DAY(TextView iDDHHMMText) const;
 
   /// Writes a number of days as "D:HH:MM", the sign dropped: 1.5 and -1.5 are
@@ -149,7 +149,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Whether a "D:H:M" text, or four characters "HHMM", amounts to anything but
   /// zero; with `AcceptZeroValue` always true. The ranges of hours and minutes
-  /// are not looked at, and a bare number is no such text.
+  /// are not looked at, and a bare number of other than four characters is not such
+  /// a text. `DAYTIME2DAY` does not read "HHMM" (docs/surprises.md).
   bool isDayTime(TextView IDayTimeText, bool AcceptZeroValue = false) const;
 
   // --- Dates typed by users: src/dates/parsing.cc ---
@@ -162,22 +163,26 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// The empty text is the zero date, and a missing year is year 0. Raises 13
   /// for a month outside 1 to 12 or a day that the month does not have, 9 for a
   /// single field, 6 for a field beyond 16 bits. The flag is ignored: it stays
-  /// for callers of the older two-argument form.
+  /// for callers of the older two-argument form. docs/surprises.md tells what to
+  /// ask before.
   OleDate CTDATE(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
 
   /// Whether `iText` is a date of exactly three fields with "/" between, the
   /// year of four characters from 643 to 9999, in the system's field order and
-  /// era. Signs are dropped ("-15/1/2567" is one). The flag is ignored.
+  /// era. Signs are dropped ("-15/1/2567" is one), so `CTDATE` need not read what
+  /// this takes (docs/surprises.md). The flag is ignored.
   bool IsTDate(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
 
   /// Reads any date that `IsTDateTime` recognises and adds the era difference
   /// to its year: on a Buddhist system the result carries the Buddhist year as
-  /// its own (29 February moves to the 28th where that year has none). Other
-  /// text gives the blank date, and so does a year that leaves the range of dates.
+  /// its own (29 February moves to the 28th where that year has none;
+  /// docs/surprises.md). Other text gives the blank date, and so does a year that
+  /// leaves the range of dates.
   OleDate CDATE2000(TextView iText) const;
 
   /// `CTDATE` of a text that `IsTDateTime` recognises; today's date for any
-  /// other, and where `CTDATE` would fail.
+  /// other, and where `CTDATE` would fail, as for a date without "/"
+  /// (docs/surprises.md).
   OleDate GETValidDate(TextView DateString) const;
 
   /// Whether `iText` is a date, a time or both: "15/1/2567 9:30",
@@ -210,7 +215,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
   // --- Times typed by users: src/dates/time_parsing.cc ---
 
   /// The time of day of four digits "HHMM", on day 0; any other text, "9:30"
-  /// and "2400" included, gives 00:00.
+  /// and "2400" included, gives 00:00, which is the blank date
+  /// (docs/surprises.md).
   OleDate CTTime(TextView ITimeText) const;
 
   /// Whether `ITimeText` is four digits from "0000" to "2359".
@@ -269,9 +275,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Month arithmetic: src/dates/months.cc ---
 
-  /// `InDate` moved by single months, at 00:00; 0 counts as 1. A day that a
-  /// month does not have is cut back to its last and stays cut back: 31 January
-  /// plus 2 months is 28 March (29 in a leap year).
+  /// `InDate` moved by single months, at 00:00; 0 counts as 1 (docs/surprises.md).
+  /// A day that a month does not have is cut back to its last and stays cut back:
+  /// 31 January plus 2 months is 28 March (29 in a leap year).
   ///
   /// Raises 5 beyond December 9999, and before January 100 on a Buddhist
   /// system; on a Gregorian one the month before January 100 is read as
@@ -304,7 +310,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
   ///
   /// The end-of-month date is `GETLastDayOfMonthYear` with the year given as the
   /// month and the month as the year, at 00:00: for March 2024 it is 2171-08-31.
-  /// Stored documents hold due dates made so. Raises 5 beyond the range of dates.
+  /// Stored documents hold due dates made so; docs/surprises.md shows how to get the
+  /// end of the invoice's month, and what becomes of a blank date. Raises 5 beyond
+  /// the range of dates.
   OleDate GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionType ConditionType,
                               std::int16_t NetDay, std::int16_t DeliveryDay) const;
 
@@ -358,7 +366,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
   ///
   /// `CelingList`, a list of satang steps such as "25;50;75", has no effect: each
   /// step is rounded to 0 or 1 unit before it is compared, and both ends of the
-  /// scale are always in the list. Printed totals depend on the whole units.
+  /// scale are always in the list. Printed totals depend on the whole units
+  /// (docs/surprises.md).
   Currency FixMoneyDecimal(Currency iValue, bool IncreaseToCeiling, TextView CelingList = {}) const;
 
   // --- Numbers from text: src/numbers/reading.cc ---

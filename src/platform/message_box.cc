@@ -1,6 +1,7 @@
 #include <ZQ7Standard/platform/message_box.h>
 
 #include <iostream>
+#include <utility>
 
 namespace ZQ7Standard {
 namespace {
@@ -16,6 +17,14 @@ class StreamMessageBox final : public MessageBox {
 }  // namespace
 
 MessageBox::~MessageBox() = default;
+
+void RecordingMessageBox::Show(const Message& message) {
+  messages_.push_back(message);
+}
+
+std::vector<Message> RecordingMessageBox::Take() {
+  return std::exchange(messages_, {});
+}
 
 std::shared_ptr<MessageBox> ErrorStreamMessageBox() {
   return std::make_shared<StreamMessageBox>();

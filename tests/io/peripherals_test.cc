@@ -18,9 +18,10 @@ std::string Kick(const std::string& failing, const auto& raised) {
   const std::string calls = std::exchange(port->calls, "");
   EXPECT_EQ(object.OpenDraw(port, u"kick", 2), 1);
   EXPECT_EQ(port->calls, calls) << "the default settings are those of the drawer";
-  if (box->shown.empty()) return calls + " -> " + std::to_string(number);
-  EXPECT_EQ(box->shown.at(0).icon, MessageIcon::kCritical);
-  return calls + " -> " + std::to_string(number) + " " + Utf8(box->shown.at(0).text);
+  const std::vector<Message> shown = box->Take();
+  if (shown.empty()) return calls + " -> " + std::to_string(number);
+  EXPECT_EQ(shown.at(0).icon, MessageIcon::kCritical);
+  return calls + " -> " + std::to_string(number) + " " + Utf8(shown.at(0).text);
 }
 
 TEST(PeripheralObject, StopsAtAFailedStepAndMakesANumberOfWhatItRaised) {

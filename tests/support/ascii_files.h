@@ -30,7 +30,7 @@ class AsciiFiles {
   Text Path() const { return PathText(File()); }
   std::string TakeShown() {
     std::string texts;
-    for (const Message& message : std::exchange(box_->shown, {})) {
+    for (const Message& message : box_->Take()) {
       texts += Utf8(message.title + u": " + message.text);
     }
     return texts;

@@ -45,11 +45,6 @@ class FakeRandomSource final : public RandomSource {
 /// text without "#", and decrypt nothing that ends in "wrong".
 BlockCipherFactory FakeBlockCipher(std::string& calls);
 
-struct RecordingMessageBox final : MessageBox {
-  void Show(const Message& message) override { shown.push_back(message); }
-  std::vector<Message> shown;
-};
-
 /// Writes what is set to `calls`, then gives them to `on_call`.
 struct RecordingSerialPort final : SerialPort {
   void SetCommPort(std::int16_t port) override { Record(" port " + std::to_string(port)); }

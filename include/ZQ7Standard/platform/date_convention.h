@@ -37,7 +37,7 @@ class ZQ7STANDARD_EXPORT DateConventionSource {
 /// An installed locale decides by its own short date; one that is named but not
 /// installed is judged by its language and territory (th is day first and
 /// Buddhist, US month first, most others day first). No locale, "C" and "POSIX"
-/// are month first and Gregorian. The last answer is kept in the object and
+/// are month first and Gregorian, also in a container (docs/surprises.md). The last answer is kept in the object and
 /// used while the names stay the same: an object belongs to one thread.
 ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> SystemDateConvention();
 

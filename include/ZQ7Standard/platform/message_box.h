@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace ZQ7Standard {
 
@@ -36,6 +37,19 @@ class ZQ7STANDARD_EXPORT MessageBox {
   virtual ~MessageBox();
 
   virtual void Show(const Message& message) = 0;
+};
+
+/// Keeps each message for the host, which takes them after the operation: how a program
+/// without a screen learns of the problems that no operation returns.
+class ZQ7STANDARD_EXPORT RecordingMessageBox final : public MessageBox {
+ public:
+  void Show(const Message& message) override;
+
+  /// Returns the messages since the last call, the oldest first.
+  std::vector<Message> Take();
+
+ private:
+  std::vector<Message> messages_;
 };
 
 /// Writes each message to the error stream as `title: text` in UTF-8, or the text
