@@ -30,14 +30,15 @@ struct PrintServices {
 ///     printer.PrintOut();
 ///
 /// Made, the object remembers the device name and the settings of the current
-/// printer, or an empty name where none is installed. Operations that say so first
-/// make the remembered printer current: when the current one has another name, case
-/// aside, the last installed printer of that name; the current one stays where there
-/// is none.
+/// printer, its name alone where the settings cannot be read, or an empty name where
+/// none is installed. Operations that say so first make the remembered printer
+/// current: when the current one has another name, case aside, the last installed
+/// printer of that name; the current one stays where there is none.
 ///
 /// What a printer fails to do raises 482 with what the print system said, unless an
-/// operation says otherwise. An instance belongs to one thread at a time; distinct
-/// instances are independent unless they are given the same printers.
+/// operation says otherwise; a `RunTimeError` of a host's own printer keeps its number.
+/// An instance belongs to one thread at a time; distinct instances are independent
+/// unless they are given the same printers.
 class ZQ7STANDARD_EXPORT PrintObject {
  public:
   /// With the services of the machine.

@@ -1,8 +1,8 @@
 #include <ZQ7Standard/ASCIIObject.h>
 
-#include <exception>
 #include <utility>
 
+#include "io/failures.h"
 #include "io/path_parts.h"
 
 namespace ZQ7Standard {
@@ -27,20 +27,17 @@ void ASCIIObject::SetDisableMsgLevel(std::int16_t DisableMsgLevel) {
   disable_msg_level_ = DisableMsgLevel;
 }
 
+/// Shows `problem`. No operation fails for want of a message box.
 void ASCIIObject::Warn(TextView problem) const {
   if (disable_msg_level_ < 1) return;
-  services_.message_box->Show({.title = u"Warning", .text = Text(problem)});
+  Try([&] { services_.message_box->Show({.title = u"Warning", .text = Text(problem)}); });
 }
 
 /// Does what `find_problem` does, and shows the problem that it gives or, when it
 /// fails, the problem that there is then.
 void ASCIIObject::Attempt(const std::function<TextView()>& find_problem) const {
-  TextView problem;
-  try {
-    problem = find_problem();
-  } catch (const std::exception&) {
-    problem = u"Not found specified folder or no permission to write.";
-  }
+  TextView problem = u"Not found specified folder or no permission to write.";
+  Try([&] { problem = find_problem(); });
   if (!problem.empty()) Warn(problem);
 }
 

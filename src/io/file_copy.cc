@@ -6,21 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "io/failures.h"
 #include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {
-
-/// Whether `step` raises nothing.
-template <typename Step>
-bool Succeeds(const Step& step) {
-  try {
-    step();
-  } catch (const RunTimeError&) {
-    return false;
-  }
-  return true;
-}
 
 Text AsFolder(TextView path) {
   Text folder(path);
@@ -67,11 +57,11 @@ std::int16_t DiskObject::CopyFileCheck(TextView FromFile, TextView ToFile, bool 
   if (!from || from->is_folder) return 0;
   const auto to = StatusOf(ToFile);
   if (to && !to->is_folder) {
-    if (to->read_only) Succeeds([&] { services_.status->ClearReadOnly(ToFile); });
+    if (to->read_only) Try([&] { services_.status->ClearReadOnly(ToFile); });
     if (to->last_modified == from->last_modified) return 0;
   }
   const auto existing = OverwriteFile ? ExistingTarget::kReplace : ExistingTarget::kRefuse;
-  Succeeds([&] { services_.copier->Copy(FromFile, ToFile, existing); });
+  Try([&] { services_.copier->Copy(FromFile, ToFile, existing); });
   return 1;
 }
 
@@ -81,7 +71,7 @@ std::int32_t DiskObject::XCopyFile(TextView from_file, TextView to_file) const {
   const Text to = AsFolder(to_file);
   // Into itself, a copy would go on until no path could hold it: the same error.
   if (IsInside(to, from)) throw RunTimeError::PathFileAccess("XCopyFile", Quoted(to_file));
-  const bool is_target_there = Succeeds([&] {
+  const bool is_target_there = Try([&] {
     if (!IsFolder(to)) services_.folders->Create(to);
   });
   return (is_target_there ? 1 : 0) + CopyEntries(services_, from, to);

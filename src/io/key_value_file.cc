@@ -1,7 +1,6 @@
 #include <ZQ7Standard/ASCIIObject.h>
 
-#include <exception>
-
+#include "io/failures.h"
 #include "io/key_value_text.h"
 #include "io/rewrite.h"
 #include "text/code_page.h"
@@ -9,13 +8,13 @@
 namespace ZQ7Standard {
 
 Text ASCIIObject::GetValue(TextView iTextFile, TextView IKey) const {
-  try {
+  Text value;
+  const bool is_read = Try([&] {
     const auto contents = services_.file_reader->ReadAll(iTextFile);
-    return contents ? FromCodePage(FindValue(*contents, IKey)) : Text();
-  } catch (const std::exception&) {
-    Warn(u"Not found specified file");
-    return {};
-  }
+    if (contents) value = FromCodePage(FindValue(*contents, IKey));
+  });
+  if (!is_read) Warn(u"Not found specified file");
+  return value;
 }
 
 void ASCIIObject::Setvalue(TextView iTextFile, TextView IKey, TextView iValue) const {

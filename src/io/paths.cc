@@ -1,9 +1,9 @@
 #include <ZQ7Standard/DiskObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
 #include <utility>
 
+#include "io/failures.h"
 #include "io/path_parts.h"
 #include "text/pieces.h"
 
@@ -70,11 +70,9 @@ std::int16_t DiskObject::CreateFullPath(TextView FullPathName) const {
 }
 
 std::optional<FileStatus> DiskObject::StatusOf(TextView path) const {
-  try {
-    return services_.status->StatusOf(path);
-  } catch (const RunTimeError&) {
-    return std::nullopt;
-  }
+  std::optional<FileStatus> status;
+  Try([&] { status = services_.status->StatusOf(path); });
+  return status;
 }
 
 bool DiskObject::IsFolder(TextView path) const {

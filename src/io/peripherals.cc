@@ -1,10 +1,10 @@
 #include <ZQ7Standard/PeripheralObject.h>
 #include <ZQ7Standard/RunTimeError.h>
 
-#include <exception>
 #include <string>
-#include <string_view>
 #include <utility>
+
+#include "io/failures.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -13,17 +13,12 @@ constexpr TextView kDrawerSettings = u"9600,N,8,1";
 constexpr int kObjectNotSet = 91;
 constexpr int kAutomationError = 440;
 
-/// What stopped a sending; the number is 0 when nothing did.
-struct Failure {
-  std::int16_t number = 0;
-  std::string description;
-};
-
-/// Numbers wider than 16 bits carry the run-time error number in the lower half. One
-/// that has nothing there may not pass for success.
-Failure FailureOf(int number, std::string_view description) {
-  const auto low = static_cast<std::int16_t>(number);
-  return {low != 0 ? low : std::int16_t{kAutomationError}, std::string(description)};
+/// The result for `failure`, 0 for none. Numbers wider than 16 bits carry the run-time
+/// error number in the lower half. One that has nothing there may not pass for success.
+std::int16_t ResultOf(const std::optional<Failure>& failure) {
+  if (!failure) return 0;
+  const auto low = static_cast<std::int16_t>(failure->number.value_or(kAutomationError));
+  return low != 0 ? low : std::int16_t{kAutomationError};
 }
 
 void Transmit(SerialPort* control, TextView code, std::int16_t port, TextView settings) {
@@ -38,20 +33,6 @@ void Transmit(SerialPort* control, TextView code, std::int16_t port, TextView se
   control->SetPortOpen(false);
 }
 
-/// `Transmit` with whatever a host's control may raise made into a result.
-Failure TryTransmit(SerialPort* control, TextView code, std::int16_t port, TextView settings) {
-  try {
-    Transmit(control, code, port, settings);
-    return {};
-  } catch (const RunTimeError& error) {
-    return FailureOf(error.Number(), error.what());
-  } catch (const std::exception& error) {
-    return FailureOf(kAutomationError, error.what());
-  } catch (...) {
-    return FailureOf(kAutomationError, "SendCommMsg: automation error (error 440): iControl");
-  }
-}
-
 }  // namespace
 
 PeripheralObject::PeripheralObject() : PeripheralObject(PeripheralServices{}) {}
@@ -63,16 +44,19 @@ PeripheralObject::PeripheralObject(PeripheralServices services) : services_(std:
 std::int16_t PeripheralObject::SendCommMsg(const std::shared_ptr<SerialPort>& iControl,
                                            TextView iCode, std::int16_t iPort,
                                            TextView Setting) const {
-  return TryTransmit(iControl.get(), iCode, iPort, Setting).number;
+  return ResultOf(FailureOf([&] { Transmit(iControl.get(), iCode, iPort, Setting); }));
 }
 
 std::int16_t PeripheralObject::OpenDraw(const std::shared_ptr<SerialPort>& iControl, TextView iCode,
                                         std::int16_t iPort) const {
-  const auto [number, description] = TryTransmit(iControl.get(), iCode, iPort, kDrawerSettings);
-  if (number != 0) {
-    const std::string text = "Error! : " + std::to_string(number) + "\r\n" + description;
-    services_.message_box->Show(
-        {.title = u"", .text = FromUtf8(text), .icon = MessageIcon::kCritical});
+  const auto failure = FailureOf([&] { Transmit(iControl.get(), iCode, iPort, kDrawerSettings); });
+  if (failure) {
+    const std::string text =
+        "Error! : " + std::to_string(ResultOf(failure)) + "\r\n" + failure->text;
+    Try([&] {
+      services_.message_box->Show(
+          {.title = u"", .text = FromUtf8(text), .icon = MessageIcon::kCritical});
+    });
   }
   return 1;
 }

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "io/printer_failures.h"
+#include "io/failures.h"
 #include "text/case_mapping.h"
 
 namespace ZQ7Standard {
@@ -15,6 +15,12 @@ constexpr std::int16_t kDefaultBin = 7;
 
 bool SameName(TextView a, TextView b) {
   return std::ranges::equal(a, b, {}, ToUpper, ToUpper);
+}
+
+/// The settings of `printer`, which the list of a host may have left empty.
+PrinterSettings& SettingsOf(const Printer& printer) {
+  if (!printer.settings) throw PrinterFailure("the printer has no settings");
+  return *printer.settings;
 }
 
 /// Whether the environment variable "OS", or what the host put in its place, names
@@ -31,12 +37,17 @@ PrintObject::PrintObject() : PrintObject(PrintServices{}) {}
 
 PrintObject::PrintObject(PrintServices services) : services_(std::move(services)) {
   if (!services_.printers) services_.printers = SystemPrinters();
-  // The texts of papers are there on a machine without a printer too.
-  Trapped([this] { setup_ = SetupOf(services_.printers->Current()); });
+  // The texts of papers are there on a machine without a printer too, and a printer
+  // whose settings cannot be read is still the one to print on.
+  Try([this] {
+    const Printer printer = services_.printers->Current();
+    setup_.device_name = printer.device_name;
+    setup_ = SetupOf(printer);
+  });
 }
 
 PrintObject::Setup PrintObject::SetupOf(const Printer& printer) {
-  PrinterSettings& settings = *printer.settings;
+  PrinterSettings& settings = SettingsOf(printer);
   return {printer.device_name, settings.Get(PrinterSetting::kOrientation),
           settings.Get(PrinterSetting::kPaperSize), settings.Get(PrinterSetting::kPaperBin),
           settings.Get(PrinterSetting::kPrintQuality)};
@@ -65,23 +76,25 @@ std::int16_t PrintObject::SelectPrinter2(TextView DeviceName, std::int16_t Orien
 
 std::int16_t PrintObject::CheckPaperSize(std::int16_t StartSize) {
   std::int16_t in_force = 0;
-  Trapped([&] {
+  Try([&] {
     const Printer printer = MakeRememberedCurrent();
-    in_force = printer.settings->Get(PrinterSetting::kPaperSize);
+    PrinterSettings& settings = SettingsOf(printer);
+    in_force = settings.Get(PrinterSetting::kPaperSize);
     const bool refused = StartSize >= kUserDefinedPaper && IsWindowsNt(services_.os);
     if (StartSize >= 1 && !refused) in_force = StartSize;
-    printer.settings->Set(PrinterSetting::kPaperSize, in_force);
+    settings.Set(PrinterSetting::kPaperSize, in_force);
   });
   return in_force;
 }
 
 std::int16_t PrintObject::CheckPaperBin(std::int16_t StartBin) {
   std::int16_t in_force = 0;
-  Trapped([&] {
+  Try([&] {
     const Printer printer = MakeRememberedCurrent();
-    in_force = printer.settings->Get(PrinterSetting::kPaperBin);
+    PrinterSettings& settings = SettingsOf(printer);
+    in_force = settings.Get(PrinterSetting::kPaperBin);
     if (StartBin >= 1 && StartBin != kDefaultBin) in_force = StartBin;
-    printer.settings->Set(PrinterSetting::kPaperBin, in_force);
+    settings.Set(PrinterSetting::kPaperBin, in_force);
   });
   return in_force;
 }

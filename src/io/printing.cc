@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "io/failures.h"
 #include "io/fitting_text.h"
-#include "io/printer_failures.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
@@ -23,6 +23,12 @@ constexpr std::uint8_t kThaiCharset = 222;
 // family of emoji becomes one.
 constexpr double kShrinkage = 4;
 constexpr double kMillimetresPerPoint = 25.4 / 72;
+
+/// The document of `printer`, which the list of a host may have left empty.
+std::shared_ptr<PrintDocument> DocumentOf(const Printer& printer) {
+  if (!printer.document) throw PrinterFailure("the printer has no document");
+  return printer.document;
+}
 
 std::int32_t Rounded(std::string_view operation, double position) {
   const auto whole = RoundToInteger<std::int32_t>(position);
@@ -74,30 +80,30 @@ void ChangeFont(PrintDocument& document, TextView name, double size, bool bold, 
 
 std::int16_t PrintObject::PrintStart() {
   Reported("PrintStart", [this] {
-    const Printer printer = services_.printers->Current();
-    printer.document->UseMillimetres();
-    printer.document->MoveTo({1, 1});
+    const auto document = DocumentOf(services_.printers->Current());
+    document->UseMillimetres();
+    document->MoveTo({1, 1});
   });
   return 0;
 }
 
 std::int16_t PrintObject::PrintSet(float Row, float Col, std::uint8_t /*FSize*/, TextView message) {
-  Trapped([&] {
-    const auto document = services_.printers->Current().document;
-    Trapped([&] { document->SetFont(ThaiFont()); });
-    Trapped([&] { SwitchBoldOff(*document); });
-    Trapped([&] { document->MoveTo({Row, Col}); });
+  Try([&] {
+    const auto document = DocumentOf(services_.printers->Current());
+    Try([&] { document->SetFont(ThaiFont()); });
+    Try([&] { SwitchBoldOff(*document); });
+    Try([&] { document->MoveTo({Row, Col}); });
     document->PrintLine(message);
   });
   return 0;
 }
 
 std::shared_ptr<PrintDocument> PrintObject::DocumentToPlaceIn() {
-  const Printer printer = MakeRememberedCurrent();
-  const PagePosition position = printer.document->Position();
+  auto document = DocumentOf(MakeRememberedCurrent());
+  const PagePosition position = document->Position();
   if (last_.x == 0) last_.x = position.x;
   if (last_.y == 0) last_.y = position.y;
-  return printer.document;
+  return document;
 }
 
 std::int16_t PrintObject::PrintGraphicText(TextView sMsg, std::int32_t x, std::int32_t y,
@@ -136,12 +142,12 @@ std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>
 }
 
 std::int16_t PrintObject::PrintOut() {
-  Reported("PrintOut", [this] { services_.printers->Current().document->End(); });
+  Reported("PrintOut", [this] { DocumentOf(services_.printers->Current())->End(); });
   return 0;
 }
 
 std::int16_t PrintObject::PrintCancel() {
-  Reported("PrintCancel", [this] { services_.printers->Current().document->Abort(); });
+  Reported("PrintCancel", [this] { DocumentOf(services_.printers->Current())->Abort(); });
   return 0;
 }
 

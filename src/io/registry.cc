@@ -1,10 +1,10 @@
 #include <ZQ7Standard/RegistryObject.h>
 
 #include <array>
-#include <exception>
 #include <string>
 #include <utility>
 
+#include "io/failures.h"
 #include "text/code_page.h"
 
 namespace ZQ7Standard {
@@ -47,25 +47,23 @@ Text Crossing(TextView name) {
 /// registry of a host may throw, and may say that it wrote more than there is room.
 std::optional<QueriedValue> Read(Registry& registry, std::int32_t root, TextView keyname,
                                  TextView subkeyname, std::span<char> buffer) {
-  try {
+  std::optional<QueriedValue> value;
+  Try([&] {
     const auto key = registry.Open(root, Crossing(keyname), kKeyAllAccess);
-    if (!key) return std::nullopt;
-    const auto value = key->Query(Crossing(subkeyname), buffer);
-    return value && value->size <= buffer.size() ? value : std::nullopt;
-  } catch (const std::exception&) {
-    return std::nullopt;
-  }
+    if (key) value = key->Query(Crossing(subkeyname), buffer);
+  });
+  return value && value->size <= buffer.size() ? value : std::nullopt;
 }
 
 /// Whether the value could NOT be written.
 bool WriteFails(Registry& registry, std::int32_t root, TextView keyname, TextView subkeyname,
                 std::uint32_t type, std::string_view data) {
-  try {
+  bool written = false;
+  Try([&] {
     const auto key = registry.Create(root, Crossing(keyname), kCreation);
-    return !key || !key->Set(Crossing(subkeyname), type, data);
-  } catch (const std::exception&) {
-    return true;
-  }
+    written = key && key->Set(Crossing(subkeyname), type, data);
+  });
+  return !written;
 }
 
 }  // namespace

@@ -116,6 +116,16 @@ TEST(PrinterSelection, MakesTheRememberedPrinterCurrent) {
                               {{u"laser"}, "use Laser", "back to the first"}});
 }
 
+TEST(PrinterSelection, RemembersTheNameOfAPrinterWhoseSettingsCannotBeRead) {
+  PrintRecord record;
+  record.refused = "Get";
+  const auto printers = Recorded(record, {u"Laser", u"PDF"});
+  PrintObject object({.printers = printers});
+  printers->MakeCurrent(printers->Installed().back());
+  object.PrintGraphicText(u"a");
+  EXPECT_EQ(record.log, "use PDF use Laser a@2,4");
+}
+
 TEST(PrinterSelection, ChecksPaperAndBin) {
   PrintRecord record;
   const auto paper = [&](const char* refused, const char* os, std::int16_t start) {

@@ -11,6 +11,7 @@
 #include <fstream>
 
 #include "platform/linux/printer_names.h"
+#include "tests/support/ipp_server.h"
 #include "tests/support/rows.h"
 
 namespace ZQ7Standard {
@@ -195,6 +196,16 @@ TEST_F(Server, PrintsAndCancels) {
       "/out/options | grep -o -E 'PageSize=A5|InputSlot=Lower' | sort | xargs";
   EXPECT_EQ(OutputOf("cat " + folder.path.string() + options), "InputSlot=Lower PageSize=A5\n");
   EXPECT_EQ(Jobs(), "Laser-1\n");
+}
+
+TEST(OddServer, TellsWordsWhereNumbersBelong) {
+  const IppServer server;
+  UseServer(server.Address());
+  PrintObject printer;
+  EXPECT_EQ(printer.CheckPaperSize(), 11);
+  printer.PrintGraphicText(u"a");
+  EXPECT_EQ(ErrorOf([&] { printer.PrintOut(); }), 0);
+  EXPECT_EQ(server.JobAttributes(), "media ");
 }
 
 TEST_F(Server, MayDieInADocument) {

@@ -4,6 +4,7 @@
 #include <ZQ7Standard/platform/print_picture.h>
 #include <ZQ7Standard/platform/printers.h>
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -11,14 +12,16 @@
 
 namespace ZQ7Standard {
 
-/// What came of recording printers, and the one operation that they do not do.
+/// What came of recording printers, the one operation that they do not do, and what
+/// they throw instead.
 struct PrintRecord {
   std::string log;  ///< such as "mm a@1,1 end"
   std::string refused;
+  std::function<void()> raise = [this] { throw PrinterFailure("no " + refused); };
 
   void Add(const std::string& entry) { log += (log.empty() ? "" : " ") + entry; }
   void Do(const std::string& operation) const {
-    if (refused == operation) throw PrinterFailure("no " + operation);
+    if (refused == operation) raise();
   }
 };
 
@@ -81,6 +84,7 @@ class RecordingPrinters final : public PrinterList {
 
   std::vector<Printer> Installed() override { return printers_; }
   Printer Current() override {
+    record_.Do("Current");
     if (!current_.document) throw PrinterFailure("no printer is installed");
     return current_;
   }

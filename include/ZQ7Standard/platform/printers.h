@@ -14,13 +14,14 @@
 namespace ZQ7Standard {
 
 /// What a printer could not do; `what()` is what the print system said, in UTF-8.
-/// `PrintObject` raises 482 of it.
+/// `PrintObject` raises 482 of it, as it does of any other exception without a number.
 class ZQ7STANDARD_EXPORT PrinterFailure : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// An installed printer.
+/// An installed printer. A host's own list must set all fields: `PrintObject` raises 482
+/// where it needs the settings or the document and there are none.
 struct Printer {
   Text device_name;
   std::shared_ptr<PrinterSettings> settings;

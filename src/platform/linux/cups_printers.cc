@@ -87,6 +87,8 @@ std::string DefaultName(ipp_t* printer, const SettingNames& setting) {
   const std::string name = setting.attribute + std::string("-default");
   ipp_attribute_t* const attribute = ippFindAttribute(printer, name.c_str(), IPP_TAG_ZERO);
   if (IsNumber(ippGetValueTag(attribute))) return std::to_string(ippGetInteger(attribute, 0));
+  // Some printers answer with a word where a number is wanted, and so tell nothing.
+  if (setting.kind == NameKind::kNumber) return "";
   if (attribute != nullptr) return TextOf(attribute);
   ipp_attribute_t* const media = ippFindAttribute(printer, "media-col-default", IPP_TAG_ZERO);
   return TextOf(ippFindAttribute(ippGetCollection(media, 0), setting.attribute, IPP_TAG_ZERO));

@@ -90,20 +90,28 @@ inline constexpr auto kPaperNames = std::to_array<CodeName>({
     {41, "na_foolscap_8.5x13in"},
 });
 
+/// What the names of a setting are in CUPS.
+enum class NameKind : std::uint8_t {
+  kNumber,  ///< decimal digits alone
+  kWord,
+};
+
 /// A setting as CUPS has it.
 struct SettingNames {
   PrinterSetting setting;
   const char* attribute;  ///< of IPP, without "-default" and "-supported"
+  NameKind kind;
   std::span<const CodeName> names;
   std::int16_t other;  ///< the code of a name that has none
 };
 
 /// In the order of the settings.
 inline constexpr auto kSettings = std::to_array<SettingNames>({
-    {PrinterSetting::kOrientation, "orientation-requested", kOrientationNames, 1},
-    {PrinterSetting::kPaperSize, "media", kPaperNames, 256},
-    {PrinterSetting::kPaperBin, "media-source", kBinNames, 7},
-    {PrinterSetting::kPrintQuality, "print-quality", kQualityNames, -3},
+    {PrinterSetting::kOrientation, "orientation-requested", NameKind::kNumber, kOrientationNames,
+     1},
+    {PrinterSetting::kPaperSize, "media", NameKind::kWord, kPaperNames, 256},
+    {PrinterSetting::kPaperBin, "media-source", NameKind::kWord, kBinNames, 7},
+    {PrinterSetting::kPrintQuality, "print-quality", NameKind::kNumber, kQualityNames, -3},
 });
 
 /// Whether each name stands beside a text of the same code.

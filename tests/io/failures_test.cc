@@ -1,0 +1,129 @@
+#include "io/failures.h"
+
+#include <ZQ7Standard/ASCIIObject.h>
+#include <ZQ7Standard/DiskObject.h>
+#include <ZQ7Standard/PeripheralObject.h>
+#include <ZQ7Standard/PrintObject.h>
+#include <ZQ7Standard/RegistryObject.h>
+
+#include "tests/support/printers.h"
+#include "tests/support/rows.h"
+
+namespace ZQ7Standard {
+namespace {
+
+using Raise = std::function<void()>;
+
+// What services throw: the library's own error, a standard one, and no exception at all.
+const Raise kRaises[] = {[] { throw RunTimeError(57, "x"); }, [] { throw std::logic_error("x"); },
+                         [] { throw 5; }};
+
+/// Services of which no call succeeds.
+struct Thrower final : FileStatusSource, FileReader, FileCopier, MessageBox, Registry, SerialPort {
+  explicit Thrower(Raise thrown) : raise(std::move(thrown)) {}
+
+  std::optional<FileStatus> StatusOf(TextView /*path*/) override { return raise(), std::nullopt; }
+  void ClearReadOnly(TextView /*path*/) override { raise(); }
+  std::optional<std::string> ReadAll(TextView /*path*/) override { return raise(), ""; }
+  std::size_t ReadStart(TextView /*path*/, std::span<char> /*buffer*/) override {
+    return raise(), 0;
+  }
+  void Copy(TextView /*from*/, TextView /*to*/, ExistingTarget /*existing*/) override { raise(); }
+  void Show(const Message& /*message*/) override { raise(); }
+  std::unique_ptr<RegistryKey> Open(std::int32_t /*root*/, TextView /*path*/,
+                                    std::uint32_t /*access*/) override {
+    return raise(), nullptr;
+  }
+  std::unique_ptr<RegistryKey> Create(std::int32_t /*root*/, TextView /*path*/,
+                                      const KeyCreation& /*creation*/) override {
+    return raise(), nullptr;
+  }
+  void SetCommPort(std::int16_t /*port*/) override { raise(); }
+  void SetSettings(TextView /*settings*/) override { raise(); }
+  void SetInputLen(std::int16_t /*length*/) override { raise(); }
+  void SetPortOpen(bool /*open*/) override { raise(); }
+  void SetOutput(TextView /*text*/) override { raise(); }
+  bool PortOpen() const override { return raise(), false; }
+
+  Raise raise;
+};
+
+/// What `call` returns, or "thrown".
+std::string OutcomeOf(const auto& call) {
+  try {
+    return Shown(call());
+  } catch (...) {
+    return "thrown";
+  }
+}
+
+TEST(Failures, OfServicesStayInsideOperationsThatRaiseNothing) {
+  const Text file = u"C:\\proc\\version";
+  const Text none = u"C:\\none\\x";
+  for (const Raise& raise : kRaises) {
+    const auto thrower = std::make_shared<Thrower>(raise);
+    ASCIIObject texts({.file_status = thrower, .file_reader = thrower, .message_box = thrower});
+    texts.SetDisableMsgLevel(1);
+    const DiskObject blind({.status = thrower, .copier = thrower});
+    const DiskObject files({.copier = thrower});
+    const RegistryObject values({.registry = thrower});
+    const PeripheralObject devices({.message_box = thrower});
+    const std::tuple<const char*, std::function<int()>, const char*> rows[] = {
+        {"GetValue", [&] { return texts.GetValue(file, u"K").size(); }, "0"},
+        {"Setvalue", [&] { return texts.Setvalue(file, u"K", u"v"), 1; }, "1"},
+        {"AddLog", [&] { return texts.AddLog(file, u"", u"", u"", u""), 1; }, "1"},
+        {"SaveString", [&] { return texts.SaveStringToTextFile(file, u""), 1; }, "1"},
+        {"CopyFileCheck, status", [&] { return blind.CopyFileCheck(file, none); }, "0"},
+        {"CopyFileCheck, copy", [&] { return files.CopyFileCheck(file, none); }, "1"},
+        {"GetKeyValueLong", [&] { return values.GetKeyValueLong(1, u"K", u"V"); }, "0"},
+        {"GetKeyValueString", [&] { return values.GetKeyValueString(1, u"K", u"V").size(); }, "0"},
+        {"UpdateKeyValueLong", [&] { return values.UpdateKeyValueLong(1, u"K", u"V", 1); }, "1"},
+        {"UpdateKeyValueString", [&] { return values.UpdateKeyValueString(1, u"", u"", u""); },
+         "1"},
+        {"OpenDraw", [&] { return devices.OpenDraw(thrower, u"", 1); }, "1"},
+    };
+    for (const auto& [name, call, expected] : rows) EXPECT_EQ(OutcomeOf(call), expected) << name;
+  }
+}
+
+TEST(Failures, OfPrintersStayInsideOrBecomePrinterErrors) {
+  for (const Raise& raise : kRaises) {
+    const auto outcomes = [&](const std::string& refused) {
+      PrintRecord record{"", refused, raise};
+      return OutcomeOf([&] {
+        PrintObject printer({.printers = Recorded(record)});
+        const std::string checked = Shown(printer.CheckPaperSize(8)) +
+                                    Shown(printer.CheckPaperBin(1)) +
+                                    Shown(printer.PrintSet(1, 1, 0, u"a"));
+        return checked + ResultOf([&] { return printer.PrintOut(); });
+      });
+    };
+    ExpectRows<std::string>(outcomes,
+                            {{{"Get"}, "0000"}, {{"Set"}, "8100"}, {{"PrintLine"}, "8100"}});
+    const std::string number = &raise == kRaises ? "57" : "482";
+    EXPECT_EQ(outcomes("Current"), "000error " + number);
+    EXPECT_EQ(outcomes("End"), "810error " + number);
+  }
+}
+
+/// A list whose one printer has no settings and no document.
+struct BarePrinters final : PrinterList {
+  std::vector<Printer> Installed() override { return {Current()}; }
+  Printer Current() override { return {u"Bare", nullptr, nullptr}; }
+  void MakeCurrent(const Printer& /*printer*/) override {}
+};
+
+TEST(Failures, OfAHostsListToSetAFieldArePrinterErrors) {
+  PrintObject printer({.printers = std::make_shared<BarePrinters>()});
+  EXPECT_EQ(printer.CheckPaperSize(9), 0);
+  EXPECT_EQ(printer.CheckPaperBin(1), 0);
+  EXPECT_EQ(printer.PrintSet(1, 1, 0, u"a"), 0);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintStart(); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintGraphicText(u"a"); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintGraphicObject(std::make_shared<PlainPicture>()); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintOut(); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintCancel(); }), 482);
+}
+
+}  // namespace
+}  // namespace ZQ7Standard
