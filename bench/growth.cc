@@ -3,16 +3,16 @@
 // 16 times, what is quadratic 256 times. It measures by hand, because a benchmark that runs
 // until its time is stable would never end where one of these texts is quadratic.
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/automation/invoke.h>
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <ctime>
-#include <exception>
 #include <filesystem>
 #include <iomanip>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,10 +27,11 @@ using namespace ZQ7Standard::Automation;
 constexpr std::size_t kSmall = 64 * 1024 / sizeof(char16_t);
 constexpr std::size_t kLarge = 1024 * 1024 / sizeof(char16_t);
 constexpr double kLimit = 64;
-// Below this the time is that of the allocator and the caches, and no quadratic operation
-// is done by then.
+// No operation takes less for 64 KiB when it looks at each character more than once.
+constexpr double kTooShortToGoOn = 20e-6;
+// Below this 1 MiB takes the time of the allocator and the caches.
 constexpr double kTooShortToTell = 0.005;
-// At four times its square, 1 MiB would take minutes.
+// 1 MiB would take 256 times as long.
 constexpr double kTooLongToGoOn = 0.5;
 constexpr int kRepetitions = 3;
 
@@ -44,7 +45,7 @@ constexpr auto kPatterns = std::to_array<TextView>(
      u"15/", u"Jan", u"C:\\a\\", u"\xD83D", u"เอ็ด"});
 
 // What follows, so that a reader from the back has something to find.
-constexpr auto kEndings = std::to_array<TextView>({u"", u"5", u"z"});
+constexpr auto kEndings = std::to_array<TextView>({u"", u"z5"});
 
 Text Repeated(TextView pattern, std::size_t size, TextView ending) {
   Text text;
@@ -77,26 +78,21 @@ struct Probe {
   }
 };
 
-/// The CPU time of one call in seconds; the least of a few, as the machine is never idle.
-double Seconds(const Probe& probe, std::size_t size, const HostServices& services) {
-  const std::vector<Value> arguments = probe.Arguments(size);
-  double least = 0;
-  for (int i = 0; i < kRepetitions; ++i) {
-    const Object object = Create(probe.owner.name, services);
-    for (const Call& call : probe.operation.examples.front().before) {
-      Invoke(object, call.operation, {call.arguments});
-    }
-    const std::clock_t start = std::clock();
-    try {
-      Invoke(object, probe.operation.name, {arguments});
-    } catch (const std::exception&) {
-      // A text that is refused is answered too.
-    }
-    const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-    least = i == 0 ? seconds : std::min(least, seconds);
-    if (least > kTooLongToGoOn) break;
+/// The CPU time of one call in seconds, on a new object of a new machine, so that no text
+/// stays in a file or in the registry. A text that is refused is answered too.
+double Seconds(const Probe& probe, std::size_t size) {
+  const ZQ7Tool::Host host({.example = true}, std::make_shared<RecordingMessageBox>());
+  const Object object = Create(probe.owner.name, host.Services());
+  for (const Call& call : probe.operation.examples.front().before) {
+    Invoke(object, call.operation, {call.arguments});
   }
-  return least;
+  const std::vector<Value> arguments = probe.Arguments(size);
+  const std::clock_t start = std::clock();
+  try {
+    Invoke(object, probe.operation.name, {arguments});
+  } catch (const RunTimeError&) {
+  }
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 struct Growth {
@@ -107,15 +103,27 @@ struct Growth {
 
   double Ratio() const {
     if (small > kTooLongToGoOn) return 4 * kLimit;
-    return large < kTooShortToTell ? 0 : large / std::max(small, 1e-6);
+    return large < kTooShortToTell ? 0 : large / small;
   }
 };
 
-Growth Measure(const Probe& probe, const HostServices& services) {
+Growth MeasureOnce(const Probe& probe) {
   Growth growth = {.pattern = probe.pattern, .ending = probe.ending};
-  growth.small = Seconds(probe, kSmall, services);
-  if (growth.small <= kTooLongToGoOn) growth.large = Seconds(probe, kLarge, services);
+  growth.small = Seconds(probe, kSmall);
+  const bool goes_on = growth.small >= kTooShortToGoOn && growth.small <= kTooLongToGoOn;
+  if (goes_on) growth.large = Seconds(probe, kLarge);
   return growth;
+}
+
+/// The least growth of a few measurements where the first is too large: the machine is
+/// never idle.
+Growth Measure(const Probe& probe) {
+  Growth least = MeasureOnce(probe);
+  for (int i = 1; i < kRepetitions && least.Ratio() > kLimit; ++i) {
+    const Growth again = MeasureOnce(probe);
+    if (again.Ratio() < least.Ratio()) least = again;
+  }
+  return least;
 }
 
 /// The parameters to try: each text by itself, and all texts where there are several.
@@ -129,18 +137,33 @@ std::vector<std::size_t> ParametersToTry(const OperationInfo& operation) {
 }
 
 /// The pattern that made the operation's time grow most, or take longest.
-Growth Worst(const ClassInfo& owner, const OperationInfo& operation, const HostServices& services) {
+Growth Worst(const ClassInfo& owner, const OperationInfo& operation) {
   Growth worst;
   for (const std::size_t parameter : ParametersToTry(operation)) {
     for (const TextView pattern : kPatterns) {
       for (const TextView ending : kEndings) {
-        const Growth growth = Measure({owner, operation, parameter, pattern, ending}, services);
+        const Growth growth = Measure({owner, operation, parameter, pattern, ending});
         const auto rank = [](const Growth& g) { return std::pair(g.Ratio(), g.large); };
         if (rank(growth) > rank(worst)) worst = growth;
       }
     }
   }
   return worst;
+}
+
+/// A pattern as a table can show it.
+std::string Shown(TextView pattern) {
+  std::string shown;
+  for (const char c : Utf8(pattern)) {
+    constexpr std::string_view kLetters = "trn";
+    const std::size_t control = std::string_view("\t\r\n").find(c);
+    if (control == std::string_view::npos) {
+      shown += c;
+    } else {
+      shown.append("\\").append(1, kLetters[control]);
+    }
+  }
+  return shown;
 }
 
 bool TakesText(const OperationInfo& operation) {
@@ -154,7 +177,6 @@ int main(int argc, char** argv) {
   // Paths that the patterns happen to name lie here.
   const TempFolder folder;
   std::filesystem::current_path(folder.Native());
-  const ZQ7Tool::Host host({.example = true}, nullptr);
   const std::vector<std::string> wanted(argv + 1, argv + argc);
   bool passed = true;
   std::cout
@@ -165,13 +187,13 @@ int main(int argc, char** argv) {
       const auto in_name = [&](const std::string& part) { return name.find(part) != name.npos; };
       if (!TakesText(operation)) continue;
       if (!wanted.empty() && std::ranges::none_of(wanted, in_name)) continue;
-      const Growth worst = Worst(owner, operation, host.Services());
+      const Growth worst = Worst(owner, operation);
       const bool failed = worst.Ratio() > kLimit;
       passed = passed && !failed;
       std::cout << "| " << name << " | " << std::fixed << std::setprecision(2) << worst.small * 1e3
                 << " | " << worst.large * 1e3 << " | " << std::setprecision(0) << worst.Ratio()
-                << (failed ? " TOO MANY" : "") << " | `" << Utf8(worst.pattern) << "`…`"
-                << Utf8(worst.ending) << "` |" << std::endl;
+                << (failed ? " TOO MANY" : "") << " | `" << Shown(worst.pattern) << "`…`"
+                << Shown(worst.ending) << "` |" << std::endl;
     }
   }
   return passed ? 0 : 1;
