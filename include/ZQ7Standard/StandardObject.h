@@ -399,6 +399,38 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// infinities and NaN.
   Text d2Str(double iValue) const;
 
+  // --- Cost prices in letters: src/numbers/cost_codes.cc ---
+
+  /// Writes a cost price in letters that only staff can read, for a price tag. The
+  /// ten units of `CodeWord` stand for the digits 1 to 9 and 0: with "BLACKHORSE",
+  /// 125.50 is "BLK.KE" and 0 is "E".
+  ///
+  /// `Price` is rounded to two decimals as `FixNumber` does, and a ".00" is left out.
+  /// Raises 5 for a word that is not ten different UTF-16 units (A to Z in either
+  /// case are the same) or holds a digit, ".", "-", a blank or a surrogate. Raises 6
+  /// for more than 15 digits before the ".", and for infinities and NaN.
+  Text FormatCostCode(double Price, TextView CodeWord) const;
+
+  /// `FormatCostCode` with `RepeatCharacter` for each digit that is the same as the one
+  /// before it, the "." not counted: with "BLACKHORSE" and "X", 5000 is "KEXX" and
+  /// 55.50 is "KX.XE".
+  ///
+  /// Raises 5 for a `RepeatCharacter` that is not one unit, is in the word, or could
+  /// not be in any word; also where no digit is repeated.
+  Text FormatCostCode2(double Price, TextView CodeWord, TextView RepeatCharacter) const;
+
+  /// Reads the price that `FormatCostCode` wrote, A to Z in either case. The empty
+  /// code and one of blanks alone are 0; a code may have more digits than any price,
+  /// and the result is the nearest double.
+  ///
+  /// Raises 13 for a text that is not a code, with the place of the first unit that
+  /// does not belong, from 1; 6 beyond the doubles; 5 as `FormatCostCode` does.
+  double DeFormatCostCode(TextView CostCode, TextView CodeWord) const;
+
+  /// The same for `FormatCostCode2`. A digit may also be written out where it is
+  /// repeated: "KEX" and "KEE" are both 500.
+  double DeFormatCostCode2(TextView CostCode, TextView CodeWord, TextView RepeatCharacter) const;
+
   // --- Lists in one text, arrays from arguments: src/text/lists.cc ---
 
   /// Adds `iAdd` to a list unless it holds exactly that item: "a;b" and "c" give
