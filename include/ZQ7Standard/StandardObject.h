@@ -293,6 +293,28 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// are 2000 to 2029, 30 to 99 are 1930 to 1999. Raises 5 outside 100 to 9999.
   OleDate GETLastDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
 
+  // --- Weekdays and weeks: src/dates/calendar.cc ---
+
+  /// The first Monday on or after `GETFirstDayOfMonthYear`, which says how the month
+  /// and the year are read and what is raised. In all operations here a date has the
+  /// weekday of the Gregorian day that it means: a year of 2400 or more, other than
+  /// 3333 and 8888, is less 543. So the first Monday of January 2567 is
+  /// 2567-01-01, as that of 2024 is 2024-01-01.
+  OleDate GETFirstMondayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
+  /// The first Saturday in the same way.
+  OleDate GETFirstSaturdayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
+
+  /// The week of the month that `InDate` is in, 1 to 6: weeks begin on Sunday, and the
+  /// first of the month is in week 1. A blank date gives 0.
+  std::int16_t GETWeekOfMonth(OleDate InDate) const;
+
+  /// The pay period of the month: 1 for the days 1 to 15, 2 from the 16th on. A blank
+  /// date gives 0.
+  std::int16_t GETPeriodOfMonth(OleDate InDate) const;
+
+  /// Whether `InDate` is a Saturday or a Sunday. A blank date is not.
+  bool ISWeekHoliday(OleDate InDate) const;
+
   // --- Payment terms: src/dates/payment_terms.cc ---
 
   /// The due date of an invoice.

@@ -165,6 +165,28 @@ void AddMonths(ClassInfo& info) {
            "The last day of a month of a Gregorian year.", {{{2, 2024}, Date(2024, 2, 29)}})});
 }
 
+void AddCalendar(ClassInfo& info) {
+  AddSubject(
+      info, "Weekdays and weeks",
+      {Operation<&StandardObject::GETFirstMondayOfMonthYear>(
+           "GETFirstMondayOfMonthYear", {"iMonth", "iYear2000"},
+           "The first Monday of a month of a Gregorian year.",
+           {{{2, 2024}, Date(2024, 2, 5)}, {{0, 2024}, Raises(13)}}),
+       Operation<&StandardObject::GETFirstSaturdayOfMonthYear>(
+           "GETFirstSaturdayOfMonthYear", {"iMonth", "iYear2000"},
+           "The first Saturday of a month of a Gregorian year.",
+           {{{2, 2024}, Date(2024, 2, 3)}, {{6, 2024}, Date(2024, 6, 1)}}),
+       Operation<&StandardObject::GETWeekOfMonth>(
+           "GETWeekOfMonth", {"InDate"}, "The week of the month that a date is in, 1 to 6.",
+           {{{Date(2024, 1, 6)}, 1}, {{Date(2024, 1, 7)}, 2}, {{Date(3333, 3, 3)}, 0}}),
+       Operation<&StandardObject::GETPeriodOfMonth>(
+           "GETPeriodOfMonth", {"InDate"}, "The pay period of the month that a date is in, 1 or 2.",
+           {{{Date(2024, 1, 15)}, 1}, {{Date(2024, 1, 16)}, 2}}),
+       Operation<&StandardObject::ISWeekHoliday>(
+           "ISWeekHoliday", {"InDate"}, "Whether a date is a Saturday or a Sunday.",
+           {{{Date(2024, 1, 14)}, true}, {{Date(2024, 1, 15)}, false}})});
+}
+
 void AddPaymentTerms(ClassInfo& info) {
   AddSubject(
       info, "Payment terms",
@@ -191,7 +213,7 @@ void AddPaymentTerms(ClassInfo& info) {
 
 void AddDateOperations(ClassInfo& owner) {
   for (const auto add : {AddEra, AddDayTime, AddParsing, AddTimeParsing, AddNames, AddFormatting,
-                         AddMonths, AddPaymentTerms}) {
+                         AddMonths, AddCalendar, AddPaymentTerms}) {
     add(owner);
   }
 }
