@@ -315,6 +315,26 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// Whether `InDate` is a Saturday or a Sunday. A blank date is not.
   bool ISWeekHoliday(OleDate InDate) const;
 
+  // --- Time left of long work: src/dates/time_left.cc ---
+
+  /// Estimates the time that work started at `StartDate` still takes from what is done
+  /// by now: elapsed × (total − done) ÷ done, a span in days of at most 2958465. 0 when
+  /// nothing or everything is done, and for a start in the future.
+  OleDate TimeLeftDateTime(OleDate StartDate, double DoneCount, double TotalCount) const;
+
+  /// Writes a span of days, rounded to the second, as its two largest units that are
+  /// not 0, the rest cut off: "1 day 2 hours", "1 day 5 minutes", "3 minutes 5 seconds",
+  /// "0 seconds", or "1 วัน 2 ชั่วโมง". Thai when `UseThai` is True, and on a Buddhist
+  /// system when it is left out.
+  ///
+  /// A negative span is "0 seconds". Raises 6 when `TimeLeft` is infinite or no number.
+  Text FormatTimeleft(double TimeLeft, std::optional<bool> UseThai = std::nullopt) const;
+
+  /// `FormatTimeleft` of `TimeLeftDateTime`; the empty text while nothing is done and
+  /// something is left, when no estimate can be made.
+  Text TimeLeftText(OleDate StartDate, double DoneCount, double TotalCount,
+                    std::optional<bool> UseThai = std::nullopt) const;
+
   // --- Payment terms: src/dates/payment_terms.cc ---
 
   /// The due date of an invoice.

@@ -187,6 +187,24 @@ void AddCalendar(ClassInfo& info) {
            {{{Date(2024, 1, 14)}, true}, {{Date(2024, 1, 15)}, false}})});
 }
 
+void AddTimeLeft(ClassInfo& info) {
+  const auto language = Optional("UseThai");
+  AddSubject(info, "Time left of long work",
+             {Operation<&StandardObject::TimeLeftDateTime>(
+                  "TimeLeftDateTime", {"StartDate", "DoneCount", "TotalCount"},
+                  "Estimates the days that work still takes from what is done by now.",
+                  {{{Date(2024, 1, 15, 3, 30), 1, 4}, 0.75}, {{Date(2024, 1, 15), 4, 4}, 0}}),
+              Operation<&StandardObject::FormatTimeleft>(
+                  "FormatTimeleft", {"TimeLeft", language},
+                  "Writes a span of days as its two largest units.",
+                  {{{1.25, false}, u"1 day 6 hours"}, {{1.25}, u"1 วัน 6 ชั่วโมง"}}),
+              Operation<&StandardObject::TimeLeftText>(
+                  "TimeLeftText", {"StartDate", "DoneCount", "TotalCount", language},
+                  "The text of the time that work still takes.",
+                  {{{Date(2024, 1, 15, 9, 0), 3, 10, false}, u"1 hour 10 minutes"},
+                   {{Date(2024, 1, 15, 9, 0), 0, 10}, u""}})});
+}
+
 void AddPaymentTerms(ClassInfo& info) {
   AddSubject(
       info, "Payment terms",
@@ -213,7 +231,7 @@ void AddPaymentTerms(ClassInfo& info) {
 
 void AddDateOperations(ClassInfo& owner) {
   for (const auto add : {AddEra, AddDayTime, AddParsing, AddTimeParsing, AddNames, AddFormatting,
-                         AddMonths, AddCalendar, AddPaymentTerms}) {
+                         AddMonths, AddCalendar, AddTimeLeft, AddPaymentTerms}) {
     add(owner);
   }
 }

@@ -14,7 +14,6 @@ using std::chrono::year_month_day;
 constexpr int kFirstYear = 100;
 constexpr int kLastYear = 9999;
 constexpr double kFirstDay = -657434;  // 0100-01-01
-constexpr double kLastDay = 2958465;   // 9999-12-31
 
 bool HasYear(int year) {
   return year >= kFirstYear && year <= kLastYear;

@@ -17,6 +17,9 @@ inline constexpr int kBuddhistOffset = 543;
 /// already, so that no year is shifted twice.
 inline constexpr int kFirstBuddhistYear = 2400;
 
+/// The day count of the last date, 9999-12-31.
+inline constexpr double kLastDay = 2958465;
+
 /// The system's year less the Gregorian year.
 constexpr int EraDifference(Era era) {
   return era == Era::kBuddhist ? kBuddhistOffset : 0;
