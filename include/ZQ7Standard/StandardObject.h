@@ -295,24 +295,27 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Weekdays and weeks: src/dates/calendar.cc ---
 
-  /// The first Monday on or after `GETFirstDayOfMonthYear`, which says how the month
-  /// and the year are read and what is raised. In all operations here a date has the
-  /// weekday of the Gregorian day that it means: a year of 2400 or more, other than
-  /// 3333 and 8888, is less 543. So the first Monday of January 2567 is
-  /// 2567-01-01, as that of 2024 is 2024-01-01.
+  /// The first Monday on or after `GETFirstDayOfMonthYear(iMonth, iYear2000)`, which
+  /// also says what is raised. A year of 2400 or more, but for 3333 and 8888, has the
+  /// weekdays of the Gregorian year that it means: for January 2567 the result is
+  /// 2567-01-01, because 2024-01-01 is a Monday.
   OleDate GETFirstMondayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
   /// The first Saturday in the same way.
   OleDate GETFirstSaturdayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
 
   /// The week of the month that `InDate` is in, 1 to 6: weeks begin on Sunday, and the
-  /// first of the month is in week 1. A blank date gives 0.
+  /// 1st is in week 1. A blank date gives 0.
+  ///
+  /// A year of 2400 or more, but for 3333 and 8888, has the weekdays of the Gregorian
+  /// year that it means. A 29 February that this year does not have counts as the 28th.
   std::int16_t GETWeekOfMonth(OleDate InDate) const;
 
-  /// The pay period of the month: 1 for the days 1 to 15, 2 from the 16th on. A blank
-  /// date gives 0.
+  /// The pay period of the month that `InDate` is in: 1 for the days 1 to 15, 2 from the
+  /// 16th on. A blank date gives 0.
   std::int16_t GETPeriodOfMonth(OleDate InDate) const;
 
-  /// Whether `InDate` is a Saturday or a Sunday. A blank date is not.
+  /// Whether `InDate` is a Saturday or a Sunday, with the weekdays of
+  /// `GETWeekOfMonth`. A blank date is not.
   bool ISWeekHoliday(OleDate InDate) const;
 
   // --- Time left of long work: src/dates/time_left.cc ---
@@ -461,16 +464,19 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// not be in any word; also where no digit is repeated.
   Text FormatCostCode2(double Price, TextView CodeWord, TextView RepeatCharacter) const;
 
-  /// Reads the price that `FormatCostCode` wrote, A to Z in either case. The empty
-  /// code and one of blanks alone are 0; a code may have more digits than any price,
-  /// and the result is the nearest double.
+  /// Reads the price that `FormatCostCode` wrote: "-" where it is negative, letters of
+  /// the word in either case of A to Z, perhaps "." and more letters, with blanks
+  /// before and after only. The empty code and blanks alone are 0. A code longer than
+  /// that of any price gives the nearest double.
   ///
-  /// Raises 13 for a text that is not a code, with the place of the first unit that
-  /// does not belong, from 1; 6 beyond the doubles; 5 as `FormatCostCode` does.
+  /// Raises 13 for any other text; the message tells the place of the first unit that
+  /// does not belong, from 1, one past the end where a letter is missing. Raises 6
+  /// beyond the doubles, and 5 for a word as `FormatCostCode` does.
   double DeFormatCostCode(TextView CostCode, TextView CodeWord) const;
 
-  /// The same for `FormatCostCode2`. A digit may also be written out where it is
-  /// repeated: "KEX" and "KEE" are both 500.
+  /// `DeFormatCostCode` for codes of `FormatCostCode2`. A repeated letter may stand for
+  /// itself: "KEX" and "KEE" are both 500. Raises 13 also for a `RepeatCharacter` with
+  /// no letter before it, and 5 for one that `FormatCostCode2` does not take.
   double DeFormatCostCode2(TextView CostCode, TextView CodeWord, TextView RepeatCharacter) const;
 
   // --- Lists in one text, arrays from arguments: src/text/lists.cc ---
