@@ -32,6 +32,13 @@ int DateSerialYear(int year) {
 
 }  // namespace
 
+year_month_day MeantDay(OleDate date) {
+  const year_month_day own = YearMonthDay(date);
+  const std::chrono::year year(MeantYear(static_cast<int>(own.year())));
+  const year_month_day meant = year / own.month() / own.day();
+  return meant.ok() ? meant : year / std::chrono::February / 28;
+}
+
 year_month_day YearMonthDay(OleDate date) {
   return year_month_day(date.Civil());
 }

@@ -22,6 +22,21 @@ constexpr int EraDifference(Era era) {
   return era == Era::kBuddhist ? kBuddhistOffset : 0;
 }
 
+/// Whether `year` is the own year of a date that stands for no date, 3333-03-03
+/// or 8888-08-08; such a year is the same in both eras.
+constexpr bool IsSentinelYear(int year) {
+  return year == 3333 || year == 8888;
+}
+
+/// The Gregorian year that a date with the own year `year` means.
+constexpr int MeantYear(int year) {
+  return year < kFirstBuddhistYear || IsSentinelYear(year) ? year : year - kBuddhistOffset;
+}
+
+/// The Gregorian day that `date` means: in `MeantYear`, 29 February as the 28th
+/// where that year has none.
+std::chrono::year_month_day MeantDay(OleDate date);
+
 /// The calendar day of `date`.
 std::chrono::year_month_day YearMonthDay(OleDate date);
 
