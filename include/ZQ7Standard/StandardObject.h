@@ -147,6 +147,12 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// minute. Raises 6 when `iDay` is infinite or no number.
   Text DAY2DAYTIME(double iDay) const;
 
+  /// Writes a number of hours as "H:MM", rounded to the minute as the number of
+  /// minutes prints (to 15 significant digits, a half away from zero): 7.5 is
+  /// "7:30", 2.675 "2:41", -1.5 "-1:30", -0.001 "0:00". `CTHour` reads it back.
+  /// Raises 6 from 1E+15 hours on and for infinities and NaN.
+  Text FormatHour(double iHour) const;
+
   /// Whether a "D:H:M" text, or four characters "HHMM", amounts to anything but
   /// zero; with `AcceptZeroValue` always true. The ranges of hours and minutes
   /// are not looked at, and a bare number is no such text.
@@ -225,8 +231,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// any hour and the day wraps at 24, so "12:30 PM" is 00:30.
   OleDate Str2TIME(TextView InTime) const;
 
-  /// Reads "H:M" as hours, minutes above 60 counting as 60; a text without ":"
-  /// is a bare number of hours.
+  /// Reads "H:M" as hours, minutes above 60 counting as 60; a "-" in front is the
+  /// sign of the whole text, so "-1:30" is -1.5. A text without ":" is a bare
+  /// number of hours.
   double CTHour(TextView ITimeText) const;
 
   /// Whether an "H:M" text, or four characters "HHMM", amounts to anything but
@@ -255,6 +262,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Dates and times as text: src/dates/formatting.cc ---
 
+  /// `FormatTDate2` with the system's own layout: "15/1/2567".
+  Text FormatTDate(OleDate InDate, bool ZeroLeader = false) const;
+
   /// Writes `InDate` in the layout `DateType`; a value that names no layout
   /// counts as `ZQ7Detect`. `ZeroLeader` writes day and month with two digits.
   ///
@@ -264,8 +274,66 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// have at least four digits.
   Text FormatTDate2(OleDate InDate, CTDateType DateType, bool ZeroLeader = false) const;
 
+  /// `FormatTDate`, a blank and the time of day: "15/1/2567 09:30". Empty for a
+  /// blank date.
+  Text FormatTDateTime(OleDate InDate, bool ZeroLeader = false) const;
+
+  /// Writes `InDate` by a pattern, "yyyy" and "bbbb" both as the year that
+  /// `Year2000` returns, names in Thai on a Buddhist system and in English on
+  /// others: "15/1/2567" there, "15/1/2024" here. An empty pattern counts as left
+  /// out.
+  ///
+  /// In a pattern d, m, y, b, h, n and s stand for day, month, Gregorian and
+  /// Buddhist year, hour, minute and second, AM/PM makes 12 hours, and text in
+  /// double quotes or after "\" stands as it is; docs/dates.md has the table. "m"
+  /// and "mm" are minutes next after "h" or next before "s".
+  ///
+  /// A blank date gives the empty text. Raises 5 for a pattern that ends inside
+  /// quotes or in a single "\", for a blank date too.
+  Text Format2000(OleDate InDate, TextView FormatText = u"d/m/yyyy") const;
+
+  /// Writes `InDate` by a pattern as `Format2000` does, with Thai names and the
+  /// Buddhist year for "yyyy" and "bbbb": "15 มกราคม 2567". Years are numbered as
+  /// in `FormatTDate2`.
+  Text FormatThai(OleDate InDate, TextView FormatText = u"d mmmm bbbb") const;
+
+  /// The Thai date reversed, for sorting: "2567/01/15". Empty for a blank date.
+  /// `GETDateFromTextYYYYMMDD` reads it back.
+  Text FormatThaiRevere(OleDate InDate) const;
+
+  /// Writes `InDate` by a pattern as `Format2000` does, with English names and the
+  /// Gregorian year for "yyyy" and "bbbb": "15 January 2024". Years are numbered
+  /// as in `FormatTDate2`.
+  Text FormatEnglish(OleDate InDate, TextView FormatText = u"d mmmm yyyy") const;
+
+  /// The Gregorian day for a database query, the same in every convention:
+  /// "2024-01-15"; NULL for a blank date. The quotes are the host's, and none go
+  /// around NULL:
+  ///
+  ///     const Text day = standard.FormatQuery(date);
+  ///     query += day == u"NULL" ? day : u"'" + day + u"'";
+  ///
+  /// A Buddhist 29 February whose Gregorian year has none is the 28th.
+  Text FormatQuery(OleDate InDate) const;
+
+  /// `FormatQuery` with the time of day: "2024-01-15 09:30:00"; NULL for a blank
+  /// date.
+  Text FormatQueryTime(OleDate InDate) const;
+
   /// The time of day of `InDate` as "HH:MM".
   Text FormatTime(OleDate InDate) const;
+
+  /// Writes the time of day by a pattern: "09:30:00". Letters of the date write it
+  /// as `Format2000` does. No date is blank here: midnight of any day is
+  /// "00:00:00". Raises 5 as `Format2000` does.
+  Text FormatTime2(OleDate InDate, TextView FormatText = u"hh:nn:ss") const;
+
+  /// The month of `InDate`, year first, as `CTPeriod` reads it: "2567/01". The
+  /// year is the one that `FormatTDate` shows. Empty for a blank date.
+  Text FormatPeriod(OleDate InDate) const;
+
+  /// The same, month first, as `isMounthYear` accepts it: "01/2567".
+  Text FormatTPeriod(OleDate InDate) const;
 
   // --- Month arithmetic: src/dates/months.cc ---
 

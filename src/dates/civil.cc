@@ -1,5 +1,6 @@
 #include "dates/civil.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -90,6 +91,12 @@ bool IsInRange(double days) {
 OleDate AtTime(OleDate day, double time_of_day) {
   const double midnight = day.Days();
   return OleDate(midnight < 0 ? midnight - time_of_day : midnight + time_of_day);
+}
+
+int MillisecondsOfDay(OleDate date) {
+  constexpr int kMillisecondsPerDay = 86'400'000;
+  const double milliseconds = std::round(date.TimeOfDay() * kMillisecondsPerDay);
+  return std::min(static_cast<int>(milliseconds), kMillisecondsPerDay - 1);
 }
 
 }  // namespace ZQ7Standard

@@ -36,6 +36,13 @@ constexpr int MeantYear(int year) {
   return year < kFirstBuddhistYear || IsSentinelYear(year) ? year : year - kBuddhistOffset;
 }
 
+/// The year in the era `era` that stands for the own year `year` of a date; 2247
+/// and 1704 are 3333 after one and two conversions down by an era.
+constexpr int YearInEra(int year, Era era) {
+  if (year == 2247 || year == 1704) return 3333;
+  return year < kFirstBuddhistYear ? year + EraDifference(era) : year;
+}
+
 /// The Gregorian day that `date` means: in `MeantYear`, 29 February as the 28th
 /// where that year has none.
 std::chrono::year_month_day MeantDay(OleDate date);
@@ -67,6 +74,10 @@ bool IsInRange(double days);
 
 /// `day` at the time of day `time_of_day`, a fraction of a day.
 OleDate AtTime(OleDate day, double time_of_day);
+
+/// Milliseconds since midnight, rounded but never as many as a day has: a moment
+/// belongs to the day of its whole part, however close to the next midnight.
+int MillisecondsOfDay(OleDate date);
 
 }  // namespace ZQ7Standard
 
