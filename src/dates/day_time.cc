@@ -38,13 +38,7 @@ double StandardObject::DAYTIME2DAY(TextView iDDHHMMText) const {
 Text StandardObject::DAY2DAYTIME(double iDay) const {
   constexpr double kMillisecondsPerMinute = 60 * 1000;
   constexpr double kMillisecondsPerDay = 24 * 60 * kMillisecondsPerMinute;
-  const double span = std::abs(iDay);
-  double days = std::floor(span);
-  double milliseconds = std::round((span - days) * kMillisecondsPerDay);
-  if (milliseconds == kMillisecondsPerDay) {
-    days += 1;
-    milliseconds = 0;
-  }
+  const auto [days, milliseconds] = SplitDays(std::abs(iDay), kMillisecondsPerDay);
   const auto number = ToDecimal(days);
   if (!number) throw RunTimeError::Overflow("DAY2DAYTIME", std::to_string(iDay));
   const int minutes = static_cast<int>(milliseconds / kMillisecondsPerMinute);

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "dates/civil.h"
+#include "dates/day_time_text.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
@@ -36,12 +37,7 @@ using Counts = std::array<double, kUnits>;
 
 /// The units of a span of 0 or more days, rounded to the second.
 Counts UnitsOf(double span) {
-  double days = std::floor(span);
-  double seconds = std::round((span - days) * kSecondsPerDay);
-  if (seconds == kSecondsPerDay) {
-    days += 1;
-    seconds = 0;
-  }
+  const auto [days, seconds] = SplitDays(span, kSecondsPerDay);
   const double minutes = std::floor(seconds / 60);
   const double hours = std::floor(minutes / 60);
   return {days, hours, minutes - hours * 60, seconds - minutes * 60};
