@@ -38,15 +38,17 @@ enum Column : std::size_t {
   kItem,
   kQuantity,
   kPrice,
+  kCost,
   kColumnCount,
 };
 
 constexpr std::size_t kColumnsWithoutItem = kItem;
+constexpr std::size_t kColumnsWithoutCost = kCost;
 
 constexpr std::array<const char*, kColumnCount> kColumnNames = {
     "number",        "customer code", "customer",         "date",          "condition type",
     "delivery days", "net days",      "discount percent", "discount days", "barcode",
-    "amount",        "item",          "quantity",         "price"};
+    "amount",        "item",          "quantity",         "price",         "cost"};
 
 constexpr double kLastConditionType = ZQ7Standard::ZQ7AfterEndOfSPTMonth;
 constexpr double kMostDays = std::numeric_limits<std::int16_t>::max();
@@ -165,9 +167,11 @@ std::int16_t RowReader::ReadDays(Column column) const {
 }
 
 void RowReader::CheckColumnCount() const {
-  if (fields_.size() == kColumnCount || fields_.size() == kColumnsWithoutItem) return;
-  throw FieldError("row", "has " + std::to_string(fields_.size()) + " fields instead of " +
-                              std::to_string(kColumnsWithoutItem) + " or " +
+  const std::size_t count = fields_.size();
+  if (count == kColumnCount || count == kColumnsWithoutCost || count == kColumnsWithoutItem) return;
+  throw FieldError("row", "has " + std::to_string(count) + " fields instead of " +
+                              std::to_string(kColumnsWithoutItem) + ", " +
+                              std::to_string(kColumnsWithoutCost) + " or " +
                               std::to_string(kColumnCount));
 }
 
@@ -177,8 +181,11 @@ InvoiceLine RowReader::ReadLine() const {
   line.barcode = ReadBarcode(kBarcode);
   line.amount = standard_.FixNumber(ReadNumber(kAmount, Digits::kDecimal, kLargestAmount), 2);
   line.price = line.amount;
-  const bool has_item = fields_.size() == kColumnCount &&
-                        !(fields_[kItem] + fields_[kQuantity] + fields_[kPrice]).empty();
+  if (fields_.size() > kCost && !fields_[kCost].empty()) {
+    line.cost = ReadNumber(kCost, Digits::kDecimal, kLargestAmount);
+  }
+  const bool has_item =
+      fields_.size() > kPrice && !(fields_[kItem] + fields_[kQuantity] + fields_[kPrice]).empty();
   if (!has_item) return line;
   line.item = ReadText(kItem);
   line.quantity = ReadNumber(kQuantity, Digits::kDecimal, kLargestAmount);

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -17,8 +18,9 @@ struct InvoiceLine {
   ZQ7Standard::Text barcode;  ///< EAN-13
   ZQ7Standard::Text item;     ///< empty when it was not typed
   double quantity = 1;
-  double price = 0;   ///< baht for one
-  double amount = 0;  ///< baht, rounded to satang
+  double price = 0;            ///< baht for one
+  double amount = 0;           ///< baht, rounded to satang
+  std::optional<double> cost;  ///< baht for one, what the seller paid
 };
 
 struct Invoice {
@@ -67,7 +69,8 @@ bool IsFurtherLine(const std::vector<ZQ7Standard::Text>& fields);
 /// Reads an invoice with its first line from a row of typed fields: number, customer
 /// code, customer, date, condition type, delivery days, net days, discount percent,
 /// discount days, barcode, amount, and perhaps item, quantity and price, which must
-/// come to the amount. Throws a `FieldError` for the first field that cannot be taken.
+/// come to the amount, and a cost. Throws a `FieldError` for the first field that cannot
+/// be taken.
 ///
 /// The library's readers take what they can from a text, as screens want it
 /// while a user types: "12x" is 12, "abc" is 0. An invoice must not be guessed,

@@ -45,6 +45,7 @@ Office::Office(const std::filesystem::path& folder)
               .english_name = Setting(u"COMPANY EN"),
               .address = Setting(u"ADDRESS"),
               .tax_id = Setting(u"TAX ID"),
+              .code_word = Setting(u"CODE WORD"),
               .logo = ReadLogo()};
   default_net_days_ = Setting(u"DEFAULT TERM");
 }

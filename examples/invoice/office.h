@@ -30,6 +30,7 @@ struct Company {
   ZQ7Standard::Text english_name;
   ZQ7Standard::Text address;
   ZQ7Standard::Text tax_id;
+  ZQ7Standard::Text code_word;  ///< the letters of cost prices
   std::optional<Logo> logo;
 };
 

@@ -163,7 +163,7 @@ void DrawCustomer(Sheet& sheet, const StandardObject& standard, const Invoice& i
   sheet.Write(u"วันที่ / Date", kLabels, 51);
   DrawDateBoxes(sheet, standard, invoice.date, kRight - 44, 51);
   sheet.Write(u"ครบกำหนด / Due", kLabels, 60);
-  sheet.Write(standard.FormatTDate2(due, ZQ7Standard::ZQ7DMMMBBBB), kRight, 60, kEnd);
+  sheet.Write(standard.FormatThai(due), kRight, 60, kEnd);
 }
 
 struct TableColumn {
@@ -190,6 +190,8 @@ constexpr std::int32_t kTableBottom =
     kTableTop + kHeadHeight + static_cast<std::int32_t>(kMostLines) * kRowHeight + 1;
 constexpr Style kTableHead = {.size = 11, .bold = true};
 constexpr double kItemWidth = 51;
+constexpr Style kCostCode = {.size = 9};
+constexpr double kCostLetterWidth = 1.8;
 
 /// Numbers are never cut: a long one is written smaller, on the same base line.
 void WriteNumber(Sheet& sheet, const TableColumn& column, TextView number, std::int32_t y,
@@ -221,15 +223,29 @@ void DrawTableHead(Sheet& sheet) {
   for (const std::int32_t x : kTableRules) sheet.RuleDown(x, kTableTop, kTableBottom - kTableTop);
 }
 
-void DrawTable(Sheet& sheet, const StandardObject& standard, const Invoice& invoice) {
+/// What one of a line cost, in the letters that staff can read.
+Text CostCode(const StandardObject& standard, const Company& sender, const InvoiceLine& line) {
+  if (!line.cost || sender.code_word.empty()) return {};
+  return standard.FormatCostCode(*line.cost, sender.code_word);
+}
+
+/// The item, and its cost code at the end of the column.
+void WriteItem(Sheet& sheet, TextView item, TextView cost_code, std::int32_t y) {
+  const double code_width = kCostLetterWidth * static_cast<double>(cost_code.size());
+  sheet.Write(item, kTable[2].x, y, kStart, {}, kItemWidth - code_width);
+  sheet.Write(cost_code, kTableRules[3] - 1, y + 1, kEnd, kCostCode);
+}
+
+void DrawTable(Sheet& sheet, const StandardObject& standard, const Company& sender,
+               const Invoice& invoice) {
   DrawTableHead(sheet);
   std::int32_t y = kTableTop + kHeadHeight + 1;
   for (std::size_t i = 0; i < invoice.lines.size(); ++i, y += kRowHeight) {
     const InvoiceLine& line = invoice.lines[i];
     WriteNumber(sheet, kTable[0], FromUtf8(std::to_string(i + 1)), y);
     sheet.Write(line.barcode, kTable[1].x, y + 1, kStart, kSmall);
-    sheet.Write(line.item.empty() ? u"สินค้าตามรหัส" : line.item, kTable[2].x, y, kStart, {},
-                kItemWidth);
+    WriteItem(sheet, line.item.empty() ? u"สินค้าตามรหัส" : line.item,
+              CostCode(standard, sender, line), y);
     WriteNumber(sheet, kTable[3], Number(standard, line.quantity), y);
     WriteNumber(sheet, kTable[4], Price(standard, line.price), y);
     WriteNumber(sheet, kTable[5], FormatAmount(line.amount), y);
@@ -315,7 +331,7 @@ void DrawPage(PrintObject& printer, const StandardObject& standard, const Compan
   Sheet sheet(printer);
   DrawSender(sheet, sender);
   DrawCustomer(sheet, standard, invoice, due);
-  DrawTable(sheet, standard, invoice);
+  DrawTable(sheet, standard, sender, invoice);
   DrawTotals(sheet, standard, invoice);
   DrawWords(sheet, invoice);
   DrawPayment(sheet, standard, sender, invoice, due);

@@ -147,6 +147,12 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// minute. Raises 6 when `iDay` is infinite or no number.
   Text DAY2DAYTIME(double iDay) const;
 
+  /// Writes a number of hours as "H:MM", rounded to the minute as the number of
+  /// minutes prints (to 15 significant digits, a half away from zero): 7.5 is
+  /// "7:30", 2.675 "2:41", -1.5 "-1:30", -0.001 "0:00". `CTHour` reads it back.
+  /// Raises 6 from 1E+15 hours on and for infinities and NaN.
+  Text FormatHour(double iHour) const;
+
   /// Whether a "D:H:M" text, or four characters "HHMM", amounts to anything but
   /// zero; with `AcceptZeroValue` always true. The ranges of hours and minutes
   /// are not looked at, and a bare number of other than four characters is not such
@@ -231,8 +237,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// any hour and the day wraps at 24, so "12:30 PM" is 00:30.
   OleDate Str2TIME(TextView InTime) const;
 
-  /// Reads "H:M" as hours, minutes above 60 counting as 60; a text without ":"
-  /// is a bare number of hours.
+  /// Reads "H:M" as hours, minutes above 60 counting as 60; a "-" in front is the
+  /// sign of the whole text, so "-1:30" is -1.5. A text without ":" is a bare
+  /// number of hours.
   double CTHour(TextView ITimeText) const;
 
   /// Whether an "H:M" text, or four characters "HHMM", amounts to anything but
@@ -261,6 +268,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Dates and times as text: src/dates/formatting.cc ---
 
+  /// `FormatTDate2` with the system's own layout: "15/1/2567".
+  Text FormatTDate(OleDate InDate, bool ZeroLeader = false) const;
+
   /// Writes `InDate` in the layout `DateType`; a value that names no layout
   /// counts as `ZQ7Detect`. `ZeroLeader` writes day and month with two digits.
   ///
@@ -270,8 +280,66 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// have at least four digits.
   Text FormatTDate2(OleDate InDate, CTDateType DateType, bool ZeroLeader = false) const;
 
+  /// `FormatTDate`, a blank and the time of day: "15/1/2567 09:30". Empty for a
+  /// blank date.
+  Text FormatTDateTime(OleDate InDate, bool ZeroLeader = false) const;
+
+  /// Writes `InDate` by a pattern, "yyyy" and "bbbb" both as the year that
+  /// `Year2000` returns, names in Thai on a Buddhist system and in English on
+  /// others: "15/1/2567" there, "15/1/2024" here. An empty pattern counts as left
+  /// out.
+  ///
+  /// In a pattern d, m, y, b, h, n and s stand for day, month, Gregorian and
+  /// Buddhist year, hour, minute and second, AM/PM makes 12 hours, and text in
+  /// double quotes or after "\" stands as it is; docs/dates.md has the table. "m"
+  /// and "mm" are minutes next after "h" or next before "s".
+  ///
+  /// A blank date gives the empty text. Raises 5 for a pattern that ends inside
+  /// quotes or in a single "\", for a blank date too.
+  Text Format2000(OleDate InDate, TextView FormatText = u"d/m/yyyy") const;
+
+  /// Writes `InDate` by a pattern as `Format2000` does, with Thai names and the
+  /// Buddhist year for "yyyy" and "bbbb": "15 มกราคม 2567". Years are numbered as
+  /// in `FormatTDate2`.
+  Text FormatThai(OleDate InDate, TextView FormatText = u"d mmmm bbbb") const;
+
+  /// The Thai date reversed, for sorting: "2567/01/15". Empty for a blank date.
+  /// `GETDateFromTextYYYYMMDD` reads it back.
+  Text FormatThaiRevere(OleDate InDate) const;
+
+  /// Writes `InDate` by a pattern as `Format2000` does, with English names and the
+  /// Gregorian year for "yyyy" and "bbbb": "15 January 2024". Years are numbered
+  /// as in `FormatTDate2`.
+  Text FormatEnglish(OleDate InDate, TextView FormatText = u"d mmmm yyyy") const;
+
+  /// The Gregorian day for a database query, the same in every convention:
+  /// "2024-01-15"; NULL for a blank date. The quotes are the host's, and none go
+  /// around NULL:
+  ///
+  ///     const Text day = standard.FormatQuery(date);
+  ///     query += day == u"NULL" ? day : u"'" + day + u"'";
+  ///
+  /// A Buddhist 29 February whose Gregorian year has none is the 28th.
+  Text FormatQuery(OleDate InDate) const;
+
+  /// `FormatQuery` with the time of day: "2024-01-15 09:30:00"; NULL for a blank
+  /// date.
+  Text FormatQueryTime(OleDate InDate) const;
+
   /// The time of day of `InDate` as "HH:MM".
   Text FormatTime(OleDate InDate) const;
+
+  /// Writes the time of day by a pattern: "09:30:00". Letters of the date write it
+  /// as `Format2000` does. No date is blank here: midnight of any day is
+  /// "00:00:00". Raises 5 as `Format2000` does.
+  Text FormatTime2(OleDate InDate, TextView FormatText = u"hh:nn:ss") const;
+
+  /// The month of `InDate`, year first, as `CTPeriod` reads it: "2567/01". The
+  /// year is the one that `FormatTDate` shows. Empty for a blank date.
+  Text FormatPeriod(OleDate InDate) const;
+
+  /// The same, month first, as `isMounthYear` accepts it: "01/2567".
+  Text FormatTPeriod(OleDate InDate) const;
 
   // --- Month arithmetic: src/dates/months.cc ---
 
@@ -298,6 +366,51 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// carries into other years (13 is January of the next one); years 0 to 29
   /// are 2000 to 2029, 30 to 99 are 1930 to 1999. Raises 5 outside 100 to 9999.
   OleDate GETLastDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
+
+  // --- Weekdays and weeks: src/dates/calendar.cc ---
+
+  /// The first Monday on or after `GETFirstDayOfMonthYear(iMonth, iYear2000)`, which
+  /// also says what is raised. A year of 2400 or more, but for 3333 and 8888, has the
+  /// weekdays of the Gregorian year that it means: for January 2567 the result is
+  /// 2567-01-01, because 2024-01-01 is a Monday.
+  OleDate GETFirstMondayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
+  /// The first Saturday in the same way.
+  OleDate GETFirstSaturdayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
+
+  /// The week of the month that `InDate` is in, 1 to 6: weeks begin on Sunday, and the
+  /// 1st is in week 1. A blank date gives 0.
+  ///
+  /// A year of 2400 or more, but for 3333 and 8888, has the weekdays of the Gregorian
+  /// year that it means. A 29 February that this year does not have counts as the 28th.
+  std::int16_t GETWeekOfMonth(OleDate InDate) const;
+
+  /// The pay period of the month that `InDate` is in: 1 for the days 1 to 15, 2 from the
+  /// 16th on. A blank date gives 0.
+  std::int16_t GETPeriodOfMonth(OleDate InDate) const;
+
+  /// Whether `InDate` is a Saturday or a Sunday, with the weekdays of
+  /// `GETWeekOfMonth`. A blank date is not.
+  bool ISWeekHoliday(OleDate InDate) const;
+
+  // --- Time left of long work: src/dates/time_left.cc ---
+
+  /// Estimates the time that work started at `StartDate` still takes from what is done
+  /// by now: elapsed × (total − done) ÷ done, a span in days of at most 2958465. 0 when
+  /// nothing or everything is done, and for a start in the future.
+  OleDate TimeLeftDateTime(OleDate StartDate, double DoneCount, double TotalCount) const;
+
+  /// Writes a span of days, rounded to the second, as its two largest units that are
+  /// not 0, the rest cut off: "1 day 2 hours", "1 day 5 minutes", "3 minutes 5 seconds",
+  /// "0 seconds", or "1 วัน 2 ชั่วโมง". Thai when `UseThai` is True, and on a Buddhist
+  /// system when it is left out.
+  ///
+  /// A negative span is "0 seconds". Raises 6 when `TimeLeft` is infinite or no number.
+  Text FormatTimeleft(double TimeLeft, std::optional<bool> UseThai = std::nullopt) const;
+
+  /// `FormatTimeleft` of `TimeLeftDateTime`; the empty text while nothing is done and
+  /// something is left, when no estimate can be made.
+  Text TimeLeftText(OleDate StartDate, double DoneCount, double TotalCount,
+                    std::optional<bool> UseThai = std::nullopt) const;
 
   // --- Payment terms: src/dates/payment_terms.cc ---
 
@@ -407,6 +520,41 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// an exponent from 1E+15 up and below 1E-04: "1234.5", "1E+15". Raises 6 for
   /// infinities and NaN.
   Text d2Str(double iValue) const;
+
+  // --- Cost prices in letters: src/numbers/cost_codes.cc ---
+
+  /// Writes a cost price in letters that only staff can read, for a price tag. The
+  /// ten units of `CodeWord` stand for the digits 1 to 9 and 0: with "BLACKHORSE",
+  /// 125.50 is "BLK.KE" and 0 is "E".
+  ///
+  /// `Price` is rounded to two decimals as `FixNumber` does, and a ".00" is left out.
+  /// Raises 5 for a word that is not ten different UTF-16 units (A to Z in either
+  /// case are the same) or holds a digit, ".", "-", a blank or a surrogate. Raises 6
+  /// for more than 15 digits before the ".", and for infinities and NaN.
+  Text FormatCostCode(double Price, TextView CodeWord) const;
+
+  /// `FormatCostCode` with `RepeatCharacter` for each digit that is the same as the one
+  /// before it, the "." not counted: with "BLACKHORSE" and "X", 5000 is "KEXX" and
+  /// 55.50 is "KX.XE".
+  ///
+  /// Raises 5 for a `RepeatCharacter` that is not one unit, is in the word, or could
+  /// not be in any word; also where no digit is repeated.
+  Text FormatCostCode2(double Price, TextView CodeWord, TextView RepeatCharacter) const;
+
+  /// Reads the price that `FormatCostCode` wrote: "-" where it is negative, letters of
+  /// the word in either case of A to Z, perhaps "." and more letters, with blanks
+  /// before and after only. The empty code and blanks alone are 0. A code longer than
+  /// that of any price gives the nearest double.
+  ///
+  /// Raises 13 for any other text; the message tells the place of the first unit that
+  /// does not belong, from 1, one past the end where a letter is missing. Raises 6
+  /// beyond the doubles, and 5 for a word as `FormatCostCode` does.
+  double DeFormatCostCode(TextView CostCode, TextView CodeWord) const;
+
+  /// `DeFormatCostCode` for codes of `FormatCostCode2`. A repeated letter may stand for
+  /// itself: "KEX" and "KEE" are both 500. Raises 13 also for a `RepeatCharacter` with
+  /// no letter before it, and 5 for one that `FormatCostCode2` does not take.
+  double DeFormatCostCode2(TextView CostCode, TextView CodeWord, TextView RepeatCharacter) const;
 
   // --- Lists in one text, arrays from arguments: src/text/lists.cc ---
 

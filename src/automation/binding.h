@@ -44,8 +44,6 @@ inline constexpr Type kTypeOf<float> = Type::kSingle;
 template <>
 inline constexpr Type kTypeOf<double> = Type::kDouble;
 template <>
-inline constexpr Type kTypeOf<std::optional<double>> = Type::kDouble;
-template <>
 inline constexpr Type kTypeOf<bool> = Type::kBoolean;
 template <>
 inline constexpr Type kTypeOf<OleDate> = Type::kDate;
@@ -54,6 +52,8 @@ inline constexpr Type kTypeOf<Currency> = Type::kCurrency;
 template <>
 inline constexpr Type kTypeOf<TextList> = Type::kTextList;
 
+template <typename T>
+inline constexpr Type kTypeOf<std::optional<T>> = kTypeOf<T>;
 template <typename T>
 inline constexpr Type kTypeOf<std::shared_ptr<T>> = Type::kObject;
 
@@ -145,19 +145,19 @@ class Argument<std::shared_ptr<T>> {
   std::shared_ptr<T> object_;
 };
 
-/// A number that the operation itself finds missing.
-template <>
-class Argument<std::optional<double>> {
+/// An argument that the operation itself finds missing.
+template <typename T>
+class Argument<std::optional<T>> {
  public:
   explicit Argument(const Source& source) {
     if (!std::holds_alternative<Omitted>(source.value)) {
-      value_ = ToDouble(source.value, source.place);
+      value_ = ToParameter<T>(source.value, source.place);
     }
   }
-  std::optional<double> Get() const { return value_; }
+  std::optional<T> Get() const { return value_; }
 
  private:
-  std::optional<double> value_;
+  std::optional<T> value_;
 };
 
 /// The result of an operation as a value.

@@ -41,6 +41,9 @@ void AddDayTime(ClassInfo& info) {
               Operation<&StandardObject::DAY2DAYTIME>("DAY2DAYTIME", {"iDay"},
                                                       R"(Writes a number of days as "D:HH:MM".)",
                                                       {{{1.5}, u"1:12:00"}}),
+              Operation<&StandardObject::FormatHour>(
+                  "FormatHour", {"iHour"}, R"(Writes a number of hours as "H:MM".)",
+                  {{{7.5}, u"7:30"}, {{2.675}, u"2:41"}, {{-1.5}, u"-1:30"}, {{1e15}, Raises(6)}}),
               Operation<&StandardObject::isDayTime>(
                   "isDayTime", {"IDayTimeText", Optional("AcceptZeroValue", false)},
                   R"(Whether a "D:H:M" text amounts to anything but zero.)",
@@ -84,26 +87,27 @@ void AddParsing(ClassInfo& info) {
 }
 
 void AddTimeParsing(ClassInfo& info) {
-  AddSubject(info, "Times typed by users",
-             {Operation<&StandardObject::CTTime>("CTTime", {"ITimeText"},
-                                                 R"(The time of day of four digits "HHMM".)",
-                                                 {{{u"0600"}, 0.25}, {{u"6:00"}, 0}}),
-              Operation<&StandardObject::isTTime>("isTTime", {"ITimeText"},
-                                                  R"(Whether a text is four digits "HHMM".)",
-                                                  {{{u"2359"}, true}, {{u"2400"}, false}}),
-              Operation<&StandardObject::Str2AddDay>(
-                  "Str2AddDay", {"InTime", ByRef(Optional("StartValue", 0))},
-                  "The day that a clock time past midnight carries over to.",
-                  {{{u"25:30"}, 1}, {{u"09:30"}, 0}}),
-              Operation<&StandardObject::Str2TIME>(
-                  "Str2TIME", {"InTime"}, R"(Reads a clock time such as "9:30" or "9:30 PM".)",
-                  {{{u"6:00"}, 0.25}, {{u"6:00 PM"}, 0.75}, {{u"soon"}, 0}}),
-              Operation<&StandardObject::CTHour>("CTHour", {"ITimeText"},
-                                                 R"(Reads "H:M" as hours.)", {{{u"7:30"}, 7.5}}),
-              Operation<&StandardObject::isHour>(
-                  "isHour", {"IHourText", Optional("AcceptZeroValue", false)},
-                  R"(Whether an "H:M" text amounts to anything but zero.)",
-                  {{{u"7:30"}, true}, {{u"0:00"}, false}})});
+  AddSubject(
+      info, "Times typed by users",
+      {Operation<&StandardObject::CTTime>("CTTime", {"ITimeText"},
+                                          R"(The time of day of four digits "HHMM".)",
+                                          {{{u"0600"}, 0.25}, {{u"6:00"}, 0}}),
+       Operation<&StandardObject::isTTime>("isTTime", {"ITimeText"},
+                                           R"(Whether a text is four digits "HHMM".)",
+                                           {{{u"2359"}, true}, {{u"2400"}, false}}),
+       Operation<&StandardObject::Str2AddDay>(
+           "Str2AddDay", {"InTime", ByRef(Optional("StartValue", 0))},
+           "The day that a clock time past midnight carries over to.",
+           {{{u"25:30"}, 1}, {{u"09:30"}, 0}}),
+       Operation<&StandardObject::Str2TIME>(
+           "Str2TIME", {"InTime"}, R"(Reads a clock time such as "9:30" or "9:30 PM".)",
+           {{{u"6:00"}, 0.25}, {{u"6:00 PM"}, 0.75}, {{u"soon"}, 0}}),
+       Operation<&StandardObject::CTHour>("CTHour", {"ITimeText"}, R"(Reads "H:M" as hours.)",
+                                          {{{u"7:30"}, 7.5}, {{u"-1:30"}, -1.5}}),
+       Operation<&StandardObject::isHour>("isHour",
+                                          {"IHourText", Optional("AcceptZeroValue", false)},
+                                          R"(Whether an "H:M" text amounts to anything but zero.)",
+                                          {{{u"7:30"}, true}, {{u"0:00"}, false}})});
 }
 
 void AddNames(ClassInfo& info) {
@@ -131,16 +135,64 @@ void AddNames(ClassInfo& info) {
 }
 
 void AddFormatting(ClassInfo& info) {
-  AddSubject(info, "Dates and times as text",
-             {Operation<&StandardObject::FormatTDate2>(
-                  "FormatTDate2", {"InDate", "DateType", Optional("ZeroLeader", false)},
-                  "Writes a date in one of fifteen layouts.",
-                  {{{Date(2024, 1, 15), ZQ7DMMBBBB}, u"15 ม.ค. 2567"},
-                   {{Date(2024, 1, 5), ZQ7Detect, true}, u"05/01/2567"},
-                   {{Date(2024, 1, 15), ZQ7D_D_M_M_B_B_B_B}, u"1 5 0 1 2 5 6 7"}}),
-              Operation<&StandardObject::FormatTime>("FormatTime", {"InDate"},
-                                                     R"(Writes the time of day as "HH:MM".)",
-                                                     {{{Date(2024, 1, 15, 9, 30)}, u"09:30"}})});
+  const auto zero_leader = Optional("ZeroLeader", false);
+  AddSubject(
+      info, "Dates and times as text",
+      {Operation<&StandardObject::FormatTDate>("FormatTDate", {"InDate", zero_leader},
+                                               "Writes a date in the system's own layout.",
+                                               {{{Date(2024, 1, 5)}, u"5/1/2567"},
+                                                {{Date(2024, 1, 5), true}, u"05/01/2567"},
+                                                {{Date(3333, 3, 3)}, u""}}),
+       Operation<&StandardObject::FormatTDate2>(
+           "FormatTDate2", {"InDate", "DateType", zero_leader},
+           "Writes a date in one of fifteen layouts, or in the system's own of them.",
+           {{{Date(2024, 1, 15), ZQ7DMMBBBB}, u"15 ม.ค. 2567"},
+            {{Date(2024, 1, 5), ZQ7Detect, true}, u"05/01/2567"},
+            {{Date(2024, 1, 15), ZQ7D_D_M_M_B_B_B_B}, u"1 5 0 1 2 5 6 7"}}),
+       Operation<&StandardObject::FormatTDateTime>(
+           "FormatTDateTime", {"InDate", zero_leader},
+           "Writes a date in the system's own layout and the time of day.",
+           {{{Date(2024, 1, 15, 9, 30)}, u"15/1/2567 09:30"}}),
+       Operation<&StandardObject::Format2000>(
+           "Format2000", {"InDate", Optional("FormatText", u"d/m/yyyy")},
+           "Writes a date by a pattern, in the system's era and language.",
+           {{{Date(2024, 1, 15)}, u"15/1/2567"},
+            {{Date(2024, 1, 15, 13, 5), u"ddd d mmm yy h:mm AM/PM"}, u"จ. 15 ม.ค. 67 1:05 PM"},
+            {{Date(2024, 1, 15), u"\"due"}, Raises(5)}}),
+       Operation<&StandardObject::FormatThai>(
+           "FormatThai", {"InDate", Optional("FormatText", u"d mmmm bbbb")},
+           "Writes a date by a pattern, with Thai names and Buddhist years.",
+           {{{Date(2024, 1, 15)}, u"15 มกราคม 2567"},
+            {{Date(2024, 1, 15), u"dddd\"ที่\" d mmmm yyyy"}, u"จันทร์ที่ 15 มกราคม 2567"}}),
+       Operation<&StandardObject::FormatThaiRevere>("FormatThaiRevere", {"InDate"},
+                                                    "Writes the Thai date reversed, for sorting.",
+                                                    {{{Date(2024, 1, 15)}, u"2567/01/15"}}),
+       Operation<&StandardObject::FormatEnglish>(
+           "FormatEnglish", {"InDate", Optional("FormatText", u"d mmmm yyyy")},
+           "Writes a date by a pattern, with English names and Gregorian years.",
+           {{{Date(2024, 1, 15)}, u"15 January 2024"},
+            {{Date(2567, 1, 15), u"ddd, mmm d, bbbb"}, u"Mon, Jan 15, 2024"}}),
+       Operation<&StandardObject::FormatQuery>(
+           "FormatQuery", {"InDate"}, "Writes a date for a database query; NULL for a blank date.",
+           {{{Date(2024, 1, 15)}, u"2024-01-15"}, {{Date(3333, 3, 3)}, u"NULL"}}),
+       Operation<&StandardObject::FormatQueryTime>(
+           "FormatQueryTime", {"InDate"},
+           "Writes a date and its time for a database query; NULL for a blank date.",
+           {{{Date(2024, 1, 15, 9, 30)}, u"2024-01-15 09:30:00"}}),
+       Operation<&StandardObject::FormatTime>("FormatTime", {"InDate"},
+                                              R"(Writes the time of day as "HH:MM".)",
+                                              {{{Date(2024, 1, 15, 9, 30)}, u"09:30"}}),
+       Operation<&StandardObject::FormatTime2>(
+           "FormatTime2", {"InDate", Optional("FormatText", u"hh:nn:ss")},
+           "Writes the time of day by a pattern.",
+           {{{Date(2024, 1, 15, 9, 30)}, u"09:30:00"},
+            {{Date(2024, 1, 15, 21, 30), u"h:mm am/pm"}, u"9:30 pm"}}),
+       Operation<&StandardObject::FormatPeriod>("FormatPeriod", {"InDate"},
+                                                "Writes the month of a date, the year first.",
+                                                {{{Date(2024, 1, 15)}, u"2567/01"}}),
+       Operation<&StandardObject::FormatTPeriod>("FormatTPeriod", {"InDate"},
+                                                 "Writes the month of a date, the month first.",
+                                                 {{{Date(2024, 1, 15)}, u"01/2567"}})});
 }
 
 void AddMonths(ClassInfo& info) {
@@ -163,6 +215,46 @@ void AddMonths(ClassInfo& info) {
        Operation<&StandardObject::GETLastDayOfMonthYear>(
            "GETLastDayOfMonthYear", {"iMonth", "iYear2000"},
            "The last day of a month of a Gregorian year.", {{{2, 2024}, Date(2024, 2, 29)}})});
+}
+
+void AddCalendar(ClassInfo& info) {
+  AddSubject(
+      info, "Weekdays and weeks",
+      {Operation<&StandardObject::GETFirstMondayOfMonthYear>(
+           "GETFirstMondayOfMonthYear", {"iMonth", "iYear2000"},
+           "The first Monday of a month of a Gregorian year.",
+           {{{2, 2024}, Date(2024, 2, 5)}, {{0, 2024}, Raises(13)}}),
+       Operation<&StandardObject::GETFirstSaturdayOfMonthYear>(
+           "GETFirstSaturdayOfMonthYear", {"iMonth", "iYear2000"},
+           "The first Saturday of a month of a Gregorian year.",
+           {{{2, 2024}, Date(2024, 2, 3)}, {{6, 2024}, Date(2024, 6, 1)}}),
+       Operation<&StandardObject::GETWeekOfMonth>(
+           "GETWeekOfMonth", {"InDate"}, "The week of the month that a date is in, 1 to 6.",
+           {{{Date(2024, 1, 6)}, 1}, {{Date(2024, 1, 7)}, 2}, {{Date(3333, 3, 3)}, 0}}),
+       Operation<&StandardObject::GETPeriodOfMonth>(
+           "GETPeriodOfMonth", {"InDate"}, "The pay period of the month that a date is in, 1 or 2.",
+           {{{Date(2024, 1, 15)}, 1}, {{Date(2024, 1, 16)}, 2}}),
+       Operation<&StandardObject::ISWeekHoliday>(
+           "ISWeekHoliday", {"InDate"}, "Whether a date is a Saturday or a Sunday.",
+           {{{Date(2024, 1, 14)}, true}, {{Date(2024, 1, 15)}, false}})});
+}
+
+void AddTimeLeft(ClassInfo& info) {
+  const auto language = Optional("UseThai");
+  AddSubject(info, "Time left of long work",
+             {Operation<&StandardObject::TimeLeftDateTime>(
+                  "TimeLeftDateTime", {"StartDate", "DoneCount", "TotalCount"},
+                  "Estimates the days that work still takes from what is done by now.",
+                  {{{Date(2024, 1, 15, 3, 30), 1, 4}, 0.75}, {{Date(2024, 1, 15), 4, 4}, 0}}),
+              Operation<&StandardObject::FormatTimeleft>(
+                  "FormatTimeleft", {"TimeLeft", language},
+                  "Writes a span of days as its two largest units.",
+                  {{{1.25, false}, u"1 day 6 hours"}, {{1.25}, u"1 วัน 6 ชั่วโมง"}}),
+              Operation<&StandardObject::TimeLeftText>(
+                  "TimeLeftText", {"StartDate", "DoneCount", "TotalCount", language},
+                  "The text of the time that work still takes.",
+                  {{{Date(2024, 1, 15, 9, 0), 3, 10, false}, u"1 hour 10 minutes"},
+                   {{Date(2024, 1, 15, 9, 0), 0, 10}, u""}})});
 }
 
 void AddPaymentTerms(ClassInfo& info) {
@@ -191,7 +283,7 @@ void AddPaymentTerms(ClassInfo& info) {
 
 void AddDateOperations(ClassInfo& owner) {
   for (const auto add : {AddEra, AddDayTime, AddParsing, AddTimeParsing, AddNames, AddFormatting,
-                         AddMonths, AddPaymentTerms}) {
+                         AddMonths, AddCalendar, AddTimeLeft, AddPaymentTerms}) {
     add(owner);
   }
 }

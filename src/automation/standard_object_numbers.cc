@@ -69,11 +69,33 @@ void AddReading(ClassInfo& info) {
                                          {{{1234.5}, u"1234.5"}, {{1e15}, u"1E+15"}})});
 }
 
+void AddCostCodes(ClassInfo& info) {
+  AddSubject(
+      info, "Cost prices in letters",
+      {Operation<&StandardObject::FormatCostCode>(
+           "FormatCostCode", {"Price", "CodeWord"},
+           "Writes a cost price in the letters of a code word.",
+           {{{125.5, u"BLACKHORSE"}, u"BLK.KE"}, {{125.5, u"BLACK"}, Raises(5)}}),
+       Operation<&StandardObject::FormatCostCode2>(
+           "FormatCostCode2", {"Price", "CodeWord", "RepeatCharacter"},
+           "The same with a character for each repeated digit.",
+           {{{5000, u"BLACKHORSE", u"X"}, u"KEXX"}, {{55.5, u"BLACKHORSE", u"X"}, u"KX.XE"}}),
+       Operation<&StandardObject::DeFormatCostCode>(
+           "DeFormatCostCode", {"CostCode", "CodeWord"},
+           "Reads the price that `FormatCostCode` wrote.",
+           {{{u"BLK.KE", u"BLACKHORSE"}, 125.5}, {{u"BLK-", u"BLACKHORSE"}, Raises(13)}}),
+       Operation<&StandardObject::DeFormatCostCode2>(
+           "DeFormatCostCode2", {"CostCode", "CodeWord", "RepeatCharacter"},
+           "Reads the price that `FormatCostCode2` wrote.",
+           {{{u"KEXX", u"BLACKHORSE", u"X"}, 5000}})});
+}
+
 }  // namespace
 
 void AddNumberOperations(ClassInfo& owner) {
   AddRounding(owner);
   AddReading(owner);
+  AddCostCodes(owner);
 }
 
 }  // namespace ZQ7Standard::Automation

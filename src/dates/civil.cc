@@ -1,5 +1,6 @@
 #include "dates/civil.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -14,7 +15,6 @@ using std::chrono::year_month_day;
 constexpr int kFirstYear = 100;
 constexpr int kLastYear = 9999;
 constexpr double kFirstDay = -657434;  // 0100-01-01
-constexpr double kLastDay = 2958465;   // 9999-12-31
 
 bool HasYear(int year) {
   return year >= kFirstYear && year <= kLastYear;
@@ -31,6 +31,13 @@ int DateSerialYear(int year) {
 }
 
 }  // namespace
+
+year_month_day MeantDay(OleDate date) {
+  const year_month_day own = YearMonthDay(date);
+  const std::chrono::year year(MeantYear(static_cast<int>(own.year())));
+  const year_month_day meant = year / own.month() / own.day();
+  return meant.ok() ? meant : year / std::chrono::February / 28;
+}
 
 year_month_day YearMonthDay(OleDate date) {
   return year_month_day(date.Civil());
@@ -84,6 +91,12 @@ bool IsInRange(double days) {
 OleDate AtTime(OleDate day, double time_of_day) {
   const double midnight = day.Days();
   return OleDate(midnight < 0 ? midnight - time_of_day : midnight + time_of_day);
+}
+
+int MillisecondsOfDay(OleDate date) {
+  constexpr int kMillisecondsPerDay = 86'400'000;
+  const double milliseconds = std::round(date.TimeOfDay() * kMillisecondsPerDay);
+  return std::min(static_cast<int>(milliseconds), kMillisecondsPerDay - 1);
 }
 
 }  // namespace ZQ7Standard

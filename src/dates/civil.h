@@ -17,10 +17,35 @@ inline constexpr int kBuddhistOffset = 543;
 /// already, so that no year is shifted twice.
 inline constexpr int kFirstBuddhistYear = 2400;
 
+/// The day count of the last date, 9999-12-31.
+inline constexpr double kLastDay = 2958465;
+
 /// The system's year less the Gregorian year.
 constexpr int EraDifference(Era era) {
   return era == Era::kBuddhist ? kBuddhistOffset : 0;
 }
+
+/// Whether `year` is the own year of a date that stands for no date, 3333-03-03
+/// or 8888-08-08; such a year is the same in both eras.
+constexpr bool IsSentinelYear(int year) {
+  return year == 3333 || year == 8888;
+}
+
+/// The Gregorian year that a date with the own year `year` means.
+constexpr int MeantYear(int year) {
+  return year < kFirstBuddhistYear || IsSentinelYear(year) ? year : year - kBuddhistOffset;
+}
+
+/// The year in the era `era` that stands for the own year `year` of a date; 2247
+/// and 1704 are 3333 after one and two conversions down by an era.
+constexpr int YearInEra(int year, Era era) {
+  if (year == 2247 || year == 1704) return 3333;
+  return year < kFirstBuddhistYear ? year + EraDifference(era) : year;
+}
+
+/// The Gregorian day that `date` means: in `MeantYear`, 29 February as the 28th
+/// where that year has none.
+std::chrono::year_month_day MeantDay(OleDate date);
 
 /// The calendar day of `date`.
 std::chrono::year_month_day YearMonthDay(OleDate date);
@@ -49,6 +74,10 @@ bool IsInRange(double days);
 
 /// `day` at the time of day `time_of_day`, a fraction of a day.
 OleDate AtTime(OleDate day, double time_of_day);
+
+/// Milliseconds since midnight, rounded but never as many as a day has: a moment
+/// belongs to the day of its whole part, however close to the next midnight.
+int MillisecondsOfDay(OleDate date);
 
 }  // namespace ZQ7Standard
 

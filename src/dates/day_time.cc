@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <string>
 
 #include "dates/day_time_text.h"
@@ -10,6 +11,21 @@
 #include "text/ascii.h"
 
 namespace ZQ7Standard {
+namespace {
+
+constexpr double kFirstOf16Digits = 1e15;
+
+/// Hours (below 1E+15) as whole minutes, rounded as the number of minutes prints.
+std::int64_t WholeMinutes(double hours) {
+  const double minutes = hours * 60;
+  if (minutes < kFirstOf16Digits) {
+    return static_cast<std::int64_t>(ToDouble(RoundDecimals(*ToDecimal(minutes), 0)));
+  }
+  const double whole = std::floor(hours);  // the minutes would not print to the last digit
+  return static_cast<std::int64_t>(whole) * 60 + std::llround((hours - whole) * 60);
+}
+
+}  // namespace
 
 double StandardObject::DAYTIME2DAY(TextView iDDHHMMText) const {
   const auto span = ReadDayTime(iDDHHMMText);
@@ -22,13 +38,7 @@ double StandardObject::DAYTIME2DAY(TextView iDDHHMMText) const {
 Text StandardObject::DAY2DAYTIME(double iDay) const {
   constexpr double kMillisecondsPerMinute = 60 * 1000;
   constexpr double kMillisecondsPerDay = 24 * 60 * kMillisecondsPerMinute;
-  const double span = std::abs(iDay);
-  double days = std::floor(span);
-  double milliseconds = std::round((span - days) * kMillisecondsPerDay);
-  if (milliseconds == kMillisecondsPerDay) {
-    days += 1;
-    milliseconds = 0;
-  }
+  const auto [days, milliseconds] = SplitDays(std::abs(iDay), kMillisecondsPerDay);
   const auto number = ToDecimal(days);
   if (!number) throw RunTimeError::Overflow("DAY2DAYTIME", std::to_string(iDay));
   const int minutes = static_cast<int>(milliseconds / kMillisecondsPerMinute);
@@ -37,6 +47,20 @@ Text StandardObject::DAY2DAYTIME(double iDay) const {
   AppendNumber(text, minutes / 60, 2);
   text.push_back(u':');
   AppendNumber(text, minutes % 60, 2);
+  return text;
+}
+
+Text StandardObject::FormatHour(double iHour) const {
+  const double hours = std::abs(iHour);
+  if (!(hours < kFirstOf16Digits)) {
+    throw RunTimeError::Overflow("FormatHour", std::to_string(iHour));
+  }
+  const std::int64_t minutes = WholeMinutes(hours);
+  Text text = iHour < 0 && minutes > 0 ? u"-" : u"";
+  const Decimal whole{static_cast<std::uint64_t>(minutes / 60)};
+  text += FormatDecimal(whole, 0, Grouping::kNone);
+  text.push_back(u':');
+  AppendNumber(text, static_cast<int>(minutes % 60), 2);
   return text;
 }
 

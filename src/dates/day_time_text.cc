@@ -15,6 +15,12 @@ double WholeNumber(TextView text) {
 
 }  // namespace
 
+DaysAndRest SplitDays(double span, double units_per_day) {
+  const double days = std::floor(span);
+  const double rest = std::round((span - days) * units_per_day);
+  return rest == units_per_day ? DaysAndRest{days + 1, 0} : DaysAndRest{days, rest};
+}
+
 std::optional<DayTime> ReadDayTime(TextView text) {
   if (text.find(u':') == TextView::npos) return std::nullopt;
   std::array<double, 3> from_right = {0, 0, 0};

@@ -15,6 +15,16 @@ struct DayTime {
   double minutes = 0;
 };
 
+/// Whole days and the rest, whole too, in a unit of its own.
+struct DaysAndRest {
+  double days = 0;
+  double rest = 0;
+};
+
+/// A span of 0 or more days, the rest rounded to units of which a day has
+/// `units_per_day`; a full day of them is carried.
+DaysAndRest SplitDays(double span, double units_per_day);
+
 /// Reads a text with a ":"; nothing for a text without one.
 std::optional<DayTime> ReadDayTime(TextView text);
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #include "dates/civil.h"
 
@@ -20,14 +19,6 @@ constexpr std::array<local_days, 6> kBlankDays = {
     local_days(year(8888) / 8 / 8), local_days(year(2790) / 3 / 3),
     local_days(year(8345) / 8 / 8), local_days(year(1899) / 12 / 30)};
 
-/// The year that a sentinel date shows; 2247 and 1704 are 3333 after one and
-/// two conversions down by an era.
-std::optional<std::int16_t> SentinelYear(int year) {
-  if (year == 3333 || year == 2247 || year == 1704) return 3333;
-  if (year == 8888) return 8888;
-  return std::nullopt;
-}
-
 }  // namespace
 
 std::int16_t StandardObject::GetEraDif() const {
@@ -39,9 +30,7 @@ std::int16_t StandardObject::CTYEAR() const {
 }
 
 std::int16_t StandardObject::Year2000(OleDate InDate) const {
-  const int year = InDate.Year();
-  if (const auto sentinel = SentinelYear(year)) return *sentinel;
-  return static_cast<std::int16_t>(year < kFirstBuddhistYear ? year + GetEraDif() : year);
+  return static_cast<std::int16_t>(YearInEra(InDate.Year(), Convention().era));
 }
 
 std::int16_t StandardObject::GetDateFormat() const {

@@ -1,75 +1,100 @@
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <array>
 #include <cstddef>
+#include <functional>
+#include <utility>
 
 #include "dates/civil.h"
-#include "dates/name_tables.h"
+#include "dates/date_pattern.h"
 #include "text/ascii.h"
+#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {
 
-constexpr std::size_t kFirstBoxLayout = ZQ7D_D_M_M_Y_Y_Y_Y;
+/// A layout of `CTDateType` as patterns: plain, and day and month with zeros.
+struct Layout {
+  TextView plain;
+  TextView with_zeros;
+  Language language = Language::kEnglish;
+};
 
 /// The layouts by `CTDateType`; `ZQ7Detect` becomes one of 1 to 4 before the
-/// table is asked. The letters are read by `AppendPart`, any other character is
-/// written as it stands.
-constexpr std::array<TextView, 16> kLayouts = {
-    u"",      u"m/d/y", u"d/m/y", u"m/d/b", u"d/m/b",  u"y/m/d", u"b/m/d", u"d t b",
-    u"d T b", u"d n y", u"d N y", u"y-M-D", u"N d, y", u"N y",   u"DMy",   u"DMb"};
+/// table is asked.
+constexpr std::array<Layout, 16> kLayouts = {{
+    {u"", u""},
+    {u"m/d/yyyy", u"mm/dd/yyyy"},
+    {u"d/m/yyyy", u"dd/mm/yyyy"},
+    {u"m/d/bbbb", u"mm/dd/bbbb"},
+    {u"d/m/bbbb", u"dd/mm/bbbb"},
+    {u"yyyy/m/d", u"yyyy/mm/dd"},
+    {u"bbbb/m/d", u"bbbb/mm/dd"},
+    {u"d mmm bbbb", u"dd mmm bbbb", Language::kThai},
+    {u"d mmmm bbbb", u"dd mmmm bbbb", Language::kThai},
+    {u"d mmm yyyy", u"dd mmm yyyy"},
+    {u"d mmmm yyyy", u"dd mmmm yyyy"},
+    {u"yyyy-mm-dd", u"yyyy-mm-dd"},
+    {u"mmmm d, yyyy", u"mmmm dd, yyyy"},
+    {u"mmmm yyyy", u"mmmm yyyy"},
+    {u"ddmmyyyy", u"ddmmyyyy"},
+    {u"ddmmbbbb", u"ddmmbbbb"},
+}};
+constexpr std::size_t kFirstBoxLayout = ZQ7D_D_M_M_Y_Y_Y_Y;
 
-/// The years that a date shows in the two eras.
-struct Years {
-  int gregorian;
-  int buddhist;
-};
-
-Years YearsOf(int year) {
-  if (year == 3333 || year == 8888) return {year, year};  // of the sentinel dates
-  if (year < kFirstBuddhistYear) return {year, year + kBuddhistOffset};
-  return {year - kBuddhistOffset, year};
+Language LanguageOf(Era era) {
+  return era == Era::kBuddhist ? Language::kThai : Language::kEnglish;
 }
 
-/// What a layout shows of a date.
-struct Parts {
-  int day;
-  int month;
-  Years years;
-  int width;  // of day and month, in digits
-};
+/// The year of an era that a date with the own year `own_year` shows.
+int ShownYear(int own_year, Era era) {
+  const int year = MeantYear(own_year);
+  return IsSentinelYear(own_year) ? year : year + EraDifference(era);
+}
 
-/// Appends what one letter of a layout stands for.
-void AppendPart(Text& text, char16_t letter, const Parts& parts) {
-  const auto month = static_cast<std::size_t>(parts.month);
-  switch (letter) {
-    case u'd':  // the day
-      return AppendNumber(text, parts.day, parts.width);
-    case u'D':  // the day with two digits
-      return AppendNumber(text, parts.day, 2);
-    case u'm':  // the month
-      return AppendNumber(text, parts.month, parts.width);
-    case u'M':  // the month with two digits
-      return AppendNumber(text, parts.month, 2);
-    case u'n':  // its short English name
-      text.append(kEnglishShortMonths[month]);
-      return;
-    case u'N':  // its full English name
-      text.append(kEnglishMonths[month]);
-      return;
-    case u't':  // its short Thai name
-      text.append(kThaiShortMonths[month]);
-      return;
-    case u'T':  // its full Thai name
-      text.append(kThaiMonths[month]);
-      return;
-    case u'y':  // the Gregorian year
-      return AppendNumber(text, parts.years.gregorian, 4);
-    case u'b':  // the Buddhist year
-      return AppendNumber(text, parts.years.buddhist, 4);
-    default:
-      text.push_back(letter);
-  }
+/// A day with the year of each era.
+PatternDay DayInBothEras(OleDate date, Language language) {
+  const auto day = YearMonthDay(date);
+  const int own_year = static_cast<int>(day.year());
+  return {day, ShownYear(own_year, Era::kGregorian), ShownYear(own_year, Era::kBuddhist), language};
+}
+
+/// A day with the year of one era for both.
+PatternDay DayInEra(OleDate date, Era era) {
+  const auto day = YearMonthDay(date);
+  const int year = ShownYear(static_cast<int>(day.year()), era);
+  return {day, year, year, LanguageOf(era)};
+}
+
+/// A day with the year that `Year2000` returns.
+PatternDay Day2000(OleDate date, Era era) {
+  const auto day = YearMonthDay(date);
+  const int year = YearInEra(static_cast<int>(day.year()), era);
+  return {day, year, year, LanguageOf(era)};
+}
+
+/// The Gregorian day that a date means.
+PatternDay QueryDay(OleDate date) {
+  const auto day = MeantDay(date);
+  const int year = static_cast<int>(day.year());
+  return {day, year, year, Language::kEnglish};
+}
+
+using DaySource = std::function<PatternDay()>;
+
+/// Writes a date by a pattern of the caller's.
+Text ByPattern(const char* operation, OleDate date, TextView pattern, const DaySource& day) {
+  auto text = FormatPattern(date, pattern, day);
+  if (!text) throw RunTimeError::InvalidArgument(operation, Quoted(pattern));
+  return *std::move(text);
+}
+
+/// Appends the time of day as "HH:MM".
+void AppendTime(Text& text, OleDate date) {
+  AppendNumber(text, date.Hour(), 2);
+  text.push_back(u':');
+  AppendNumber(text, date.Minute(), 2);
 }
 
 /// Puts a blank between any two characters: one for each box of a form.
@@ -85,26 +110,85 @@ Text Boxed(const Text& digits) {
 
 }  // namespace
 
+Text StandardObject::FormatTDate(OleDate InDate, bool ZeroLeader) const {
+  return FormatTDate2(InDate, ZQ7Detect, ZeroLeader);
+}
+
 Text StandardObject::FormatTDate2(OleDate InDate, CTDateType DateType, bool ZeroLeader) const {
   if (isBlankDate(InDate)) return {};
   const bool named = DateType > ZQ7Detect && DateType <= ZQ7D_D_M_M_B_B_B_B;
-  const auto layout = static_cast<std::size_t>(named ? std::int32_t{DateType} : GetDateFormat());
-  const auto civil = YearMonthDay(InDate);
-  const Parts parts = {static_cast<int>(static_cast<unsigned>(civil.day())),
-                       static_cast<int>(static_cast<unsigned>(civil.month())),
-                       YearsOf(static_cast<int>(civil.year())), ZeroLeader ? 2 : 1};
-  Text text;
-  text.reserve(20);
-  for (const char16_t letter : kLayouts[layout]) AppendPart(text, letter, parts);
-  return layout >= kFirstBoxLayout ? Boxed(text) : text;
+  const auto index = static_cast<std::size_t>(named ? std::int32_t{DateType} : GetDateFormat());
+  const Layout& layout = kLayouts[index];
+  const Text text =
+      *FormatPattern(InDate, ZeroLeader ? layout.with_zeros : layout.plain,
+                     [InDate, &layout] { return DayInBothEras(InDate, layout.language); });
+  return index >= kFirstBoxLayout ? Boxed(text) : text;
+}
+
+Text StandardObject::FormatTDateTime(OleDate InDate, bool ZeroLeader) const {
+  Text text = FormatTDate(InDate, ZeroLeader);
+  if (text.empty()) return text;
+  text.push_back(u' ');
+  AppendTime(text, InDate);
+  return text;
+}
+
+Text StandardObject::Format2000(OleDate InDate, TextView FormatText) const {
+  Text text = ByPattern("Format2000", InDate, FormatText.empty() ? u"d/m/yyyy" : FormatText,
+                        [this, InDate] { return Day2000(InDate, Convention().era); });
+  if (isBlankDate(InDate)) return {};
+  return text;
+}
+
+Text StandardObject::FormatThai(OleDate InDate, TextView FormatText) const {
+  Text text = ByPattern("FormatThai", InDate, FormatText.empty() ? u"d mmmm bbbb" : FormatText,
+                        [InDate] { return DayInEra(InDate, Era::kBuddhist); });
+  if (isBlankDate(InDate)) return {};
+  return text;
+}
+
+Text StandardObject::FormatThaiRevere(OleDate InDate) const {
+  return FormatThai(InDate, u"bbbb/mm/dd");
+}
+
+Text StandardObject::FormatEnglish(OleDate InDate, TextView FormatText) const {
+  Text text = ByPattern("FormatEnglish", InDate, FormatText.empty() ? u"d mmmm yyyy" : FormatText,
+                        [InDate] { return DayInEra(InDate, Era::kGregorian); });
+  if (isBlankDate(InDate)) return {};
+  return text;
+}
+
+Text StandardObject::FormatQuery(OleDate InDate) const {
+  if (isBlankDate(InDate)) return u"NULL";
+  return *FormatPattern(InDate, u"yyyy-mm-dd", [InDate] { return QueryDay(InDate); });
+}
+
+Text StandardObject::FormatQueryTime(OleDate InDate) const {
+  if (isBlankDate(InDate)) return u"NULL";
+  return *FormatPattern(InDate, u"yyyy-mm-dd hh:nn:ss", [InDate] { return QueryDay(InDate); });
 }
 
 Text StandardObject::FormatTime(OleDate InDate) const {
   Text text;
-  AppendNumber(text, InDate.Hour(), 2);
-  text.push_back(u':');
-  AppendNumber(text, InDate.Minute(), 2);
+  AppendTime(text, InDate);
   return text;
+}
+
+Text StandardObject::FormatTime2(OleDate InDate, TextView FormatText) const {
+  return ByPattern("FormatTime2", InDate, FormatText.empty() ? u"hh:nn:ss" : FormatText,
+                   [this, InDate] { return Day2000(InDate, Convention().era); });
+}
+
+Text StandardObject::FormatPeriod(OleDate InDate) const {
+  if (isBlankDate(InDate)) return {};
+  const Era era = Convention().era;
+  return *FormatPattern(InDate, u"yyyy/mm", [InDate, era] { return DayInEra(InDate, era); });
+}
+
+Text StandardObject::FormatTPeriod(OleDate InDate) const {
+  if (isBlankDate(InDate)) return {};
+  const Era era = Convention().era;
+  return *FormatPattern(InDate, u"mm/yyyy", [InDate, era] { return DayInEra(InDate, era); });
 }
 
 }  // namespace ZQ7Standard

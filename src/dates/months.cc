@@ -1,3 +1,5 @@
+#include "dates/months.h"
+
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
@@ -20,6 +22,19 @@ std::string Describe(OleDate date, int months) {
 }
 
 }  // namespace
+
+OleDate FirstDayOfMonth(std::string_view operation, std::int16_t month, std::int16_t year,
+                        Era era) {
+  const int typed_year = year + EraDifference(era);
+  const std::string input = std::to_string(month) + ", " + std::to_string(year);
+  if (typed_year > std::numeric_limits<std::int16_t>::max()) {
+    throw RunTimeError::Overflow(operation, input);
+  }
+  const int named_month = month < 0 ? 1 : std::min<int>(month, kMonthsPerYear);
+  const auto date = ReadNamedMonthDate(named_month, 1, typed_year, era);
+  if (!date) throw RunTimeError::TypeMismatch(operation, input);
+  return *date;
+}
 
 OleDate StandardObject::AddMonth(OleDate InDate, std::int16_t NumberOfMonth) const {
   const int months = NumberOfMonth == 0 ? 1 : NumberOfMonth;
@@ -53,16 +68,7 @@ OleDate StandardObject::AddYear(OleDate InDate, std::int16_t NumberOfYear) const
 }
 
 OleDate StandardObject::GETFirstDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const {
-  const Era era = Convention().era;
-  const int year = iYear2000 + EraDifference(era);
-  const std::string input = std::to_string(iMonth) + ", " + std::to_string(iYear2000);
-  if (year > std::numeric_limits<std::int16_t>::max()) {
-    throw RunTimeError::Overflow("GETFirstDayOfMonthYear", input);
-  }
-  const int month = iMonth < 0 ? 1 : std::min<int>(iMonth, kMonthsPerYear);
-  const auto date = ReadNamedMonthDate(month, 1, year, era);
-  if (!date) throw RunTimeError::TypeMismatch("GETFirstDayOfMonthYear", input);
-  return *date;
+  return FirstDayOfMonth("GETFirstDayOfMonthYear", iMonth, iYear2000, Convention().era);
 }
 
 OleDate StandardObject::GETLastDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const {

@@ -11,6 +11,8 @@ namespace ZQ7Standard {
 using MonthNames = std::array<TextView, 13>;
 using DayNames = std::array<TextView, 8>;
 
+enum class Language { kEnglish, kThai };
+
 // The texts are those that the hosts print and store; "Febuary", "Thusday",
 // "กรกฏาคม" and the short Sunday without a "." are among them and stay.
 inline constexpr MonthNames kThaiMonths = {
@@ -33,6 +35,16 @@ inline constexpr DayNames kEnglishDays = {u"",          u"Sunday",  u"Monday", u
                                           u"Wednesday", u"Thusday", u"Friday", u"Saturday"};
 inline constexpr DayNames kEnglishShortDays = {u"",    u"Sun", u"Mon", u"Tue",
                                                u"Wed", u"Thu", u"Fri", u"Sat"};
+
+constexpr const MonthNames& MonthNamesIn(Language language, bool full) {
+  if (language == Language::kThai) return full ? kThaiMonths : kThaiShortMonths;
+  return full ? kEnglishMonths : kEnglishShortMonths;
+}
+
+constexpr const DayNames& DayNamesIn(Language language, bool full) {
+  if (language == Language::kThai) return full ? kThaiDays : kThaiShortDays;
+  return full ? kEnglishDays : kEnglishShortDays;
+}
 
 }  // namespace ZQ7Standard
 

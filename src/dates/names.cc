@@ -8,35 +8,30 @@
 namespace ZQ7Standard {
 namespace {
 
-const MonthNames& Months(bool full, bool thai) {
-  if (thai) return full ? kThaiMonths : kThaiShortMonths;
-  return full ? kEnglishMonths : kEnglishShortMonths;
-}
-
-const DayNames& Days(bool full, bool thai) {
-  if (thai) return full ? kThaiDays : kThaiShortDays;
-  return full ? kEnglishDays : kEnglishShortDays;
+constexpr Language LanguageOf(bool use_thai) {
+  return use_thai ? Language::kThai : Language::kEnglish;
 }
 
 }  // namespace
 
 std::vector<Text> StandardObject::GETMonthTextArray(bool FullText, bool UseThai) const {
-  const MonthNames& names = Months(FullText, UseThai);
+  const MonthNames& names = MonthNamesIn(LanguageOf(UseThai), FullText);
   return {names.begin(), names.end()};
 }
 
 std::vector<Text> StandardObject::GETDayTextArray(bool FullText, bool UseThai) const {
-  const DayNames& names = Days(FullText, UseThai);
+  const DayNames& names = DayNamesIn(LanguageOf(UseThai), FullText);
   return {names.begin(), names.end()};
 }
 
 Text StandardObject::MonthText(std::int16_t MonthNumber, bool FullText, bool UseThai) const {
   const int month = MonthNumber < 0 ? 1 : std::min<int>(MonthNumber, 12);
-  return Text(Months(FullText, UseThai)[static_cast<std::size_t>(month)]);
+  return Text(MonthNamesIn(LanguageOf(UseThai), FullText)[static_cast<std::size_t>(month)]);
 }
 
 Text StandardObject::DayText(OleDate iDate, bool FullText, bool UseThai) const {
-  return Text(Days(FullText, UseThai)[static_cast<std::size_t>(iDate.Weekday())]);
+  const DayNames& names = DayNamesIn(LanguageOf(UseThai), FullText);
+  return Text(names[static_cast<std::size_t>(iDate.Weekday())]);
 }
 
 Text StandardObject::MonthYearTextFull(OleDate InDate) const {

@@ -15,14 +15,6 @@ using std::chrono::local_days;
 using std::chrono::year_month_day;
 
 constexpr local_days kDayZero{std::chrono::year(1899) / 12 / 30};
-constexpr std::int64_t kMillisecondsPerDay = 86'400'000;
-
-/// Milliseconds since midnight, never as many as a day has: a moment belongs to
-/// the day of its whole part, however close to the next midnight.
-std::int64_t Milliseconds(OleDate date) {
-  const double milliseconds = std::round(date.TimeOfDay() * kMillisecondsPerDay);
-  return std::min(static_cast<std::int64_t>(milliseconds), kMillisecondsPerDay - 1);
-}
 
 }  // namespace
 
@@ -75,15 +67,15 @@ int OleDate::Weekday() const {
 }
 
 int OleDate::Hour() const {
-  return static_cast<int>(Milliseconds(*this) / 3600000);
+  return MillisecondsOfDay(*this) / 3600000;
 }
 
 int OleDate::Minute() const {
-  return static_cast<int>(Milliseconds(*this) / 60000 % 60);
+  return MillisecondsOfDay(*this) / 60000 % 60;
 }
 
 int OleDate::Second() const {
-  return static_cast<int>(Milliseconds(*this) / 1000 % 60);
+  return MillisecondsOfDay(*this) / 1000 % 60;
 }
 
 OleDate OleDate::AddDays(std::int64_t days) const {

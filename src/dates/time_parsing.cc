@@ -6,6 +6,7 @@
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
 #include "text/ascii.h"
+#include "text/pieces.h"
 #include "text/replace.h"
 
 namespace ZQ7Standard {
@@ -81,9 +82,13 @@ OleDate StandardObject::Str2TIME(TextView InTime) const {
 }
 
 double StandardObject::CTHour(TextView ITimeText) const {
-  const auto span = ReadDayTime(ITimeText);
+  TextView digits = TrimFront(ITimeText);
+  const bool negative = digits.starts_with(u'-');
+  if (negative) digits.remove_prefix(1);
+  const auto span = ReadDayTime(digits);
   if (!span) return StrVal(ITimeText);
-  return span->hours + std::min(span->minutes, 60.0) / kMinutesPerHour;
+  const double hours = span->hours + std::min(span->minutes, 60.0) / kMinutesPerHour;
+  return negative ? 0 - hours : hours;
 }
 
 bool StandardObject::isHour(TextView IHourText, bool AcceptZeroValue) const {

@@ -50,7 +50,7 @@ std::string CppType(const TypeInfo& type, bool parameter, bool tells_missing) {
   if (type.enumeration != nullptr && type.enumeration->name != "KetRootType") {
     return std::string(type.enumeration->name);
   }
-  if (tells_missing) return "optional<double>";
+  if (tells_missing) return "optional<" + CppType({.type = type.type}, false, false) + ">";
   if (type.type == Type::kObject) {
     return "const shared_ptr<" + std::string(type.object_class) + ">&";
   }

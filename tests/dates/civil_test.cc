@@ -15,6 +15,15 @@ TEST(DateSerial, CompletesYearsAndCarriesMonthsAndDays) {
       {{32767, 32767, 1}, "none"}});
 }
 
+TEST(MeantDay, IsGregorianWhateverEraTheYearIsIn) {
+  ExpectRows<int, int, int>([](int year, int month, int day) {
+    return OleDate::FromCivil(std::chrono::local_days(MeantDay(OleDate::FromParts(year, month, day))));
+  }, {{{2024, 2, 29}, "2024-02-29"}, {{2399, 12, 31}, "2399-12-31"}, {{2400, 1, 1}, "1857-01-01"},
+      {{2567, 1, 15}, "2024-01-15"}, {{2604, 2, 29}, "2061-02-28", "2061 has no 29 February"},
+      {{2604, 2, 28}, "2061-02-28"}, {{3333, 3, 3}, "3333-03-03"}, {{8888, 8, 8}, "8888-08-08"},
+      {{2247, 3, 3}, "2247-03-03"}, {{9999, 12, 31}, "9456-12-31"}, {{100, 1, 1}, "0100-01-01"}});
+}
+
 // Before day 0 the fraction still counts forward. A time near midnight stays
 // within its day.
 TEST(OleDate, HasTheDayAndTimeOfItsCountOrParts) {

@@ -35,9 +35,80 @@ TEST(FormatTDate2, NumbersTheYearOnceAndKeepsSentinels) {
   EXPECT_EQ(kObject.FormatTDate2(OleDate(), ZQ7YYYYMD), u"");
 }
 
-TEST(FormatTime, WritesHoursAndMinutes) {
-  ExpectRows<double>([](double days) { return kObject.FormatTime(OleDate(days)); }, {
-      {45306 + 32759 / 86400.0, "09:05"}, {-1.25, "06:00"}, {9.0 / 24, "09:00"}});
+// Blank or not, a pattern that ends too early is an error.
+TEST(Patterns, HaveADefaultAndAreCheckedFirst) {
+  const OleDate date = OleDate::FromParts(2024, 1, 5, 9, 30);
+  for (const OleDate day : {date, kObject.GETBlankDate(), OleDate()}) {
+    ExpectRows<TextView>([&](TextView pattern) {
+      return kObject.Format2000(day, pattern) + kObject.FormatThai(day, pattern) +
+             kObject.FormatEnglish(day, pattern);
+    }, {{u"", day == date ? "5/1/25675 มกราคม 25675 January 2024" : ""},
+        {u"\"d\"\\m", day == date ? "dmdmdm" : ""}, {u"d\"", "error 5"}, {u"d\\", "error 5"}});
+    EXPECT_EQ(ResultOf([&] { return kObject.FormatThai(day, u"\""); }), "error 5");
+    EXPECT_EQ(ResultOf([&] { return kObject.FormatEnglish(day, u"\""); }), "error 5");
+    EXPECT_EQ(ResultOf([&] { return kObject.FormatTime2(day, u"\""); }), "error 5");
+  }
+}
+
+TEST(Formats, OfEveryConvention) {
+  const OleDate date = OleDate::FromParts(2024, 1, 5, 9, 30, 15);
+  ExpectRows<DateConvention>([&](DateConvention convention) {
+    const StandardObject object = ObjectWith(convention);
+    return object.FormatTDate(date) + u" | " + object.FormatTDateTime(date, true) + u" | " +
+           object.Format2000(date, u"d mmm yy bb") + u" | " + object.FormatPeriod(date) + u" | " +
+           object.FormatTPeriod(date) + u" | " + object.FormatTime2(date, u"ddd yyyy h:mm");
+  }, {{kMdy, "1/5/2024 | 01/05/2024 09:30 | 5 Jan 24 24 | 2024/01 | 01/2024 | Fri 2024 9:30"},
+      {kDmy, "5/1/2024 | 05/01/2024 09:30 | 5 Jan 24 24 | 2024/01 | 01/2024 | Fri 2024 9:30"},
+      {kMdyBe, "1/5/2567 | 01/05/2567 09:30 | 5 ม.ค. 67 67 | 2567/01 | 01/2567 | ศ. 2567 9:30"},
+      {kDmyBe, "5/1/2567 | 05/01/2567 09:30 | 5 ม.ค. 67 67 | 2567/01 | 01/2567 | ศ. 2567 9:30"}});
+  for (const DateConvention convention : kConventions) {
+    const StandardObject object = ObjectWith(convention);
+    EXPECT_EQ(Utf8(object.FormatThai(date, u"d mmm yyyy bbbb")), "5 ม.ค. 2567 2567");
+    EXPECT_EQ(Utf8(object.FormatEnglish(date, u"d mmm yyyy bbbb")), "5 Jan 2024 2024");
+    EXPECT_EQ(object.FormatThaiRevere(date), u"2567/01/05");
+    EXPECT_EQ(object.FormatQuery(date), u"2024-01-05");
+    EXPECT_EQ(object.FormatQueryTime(date), u"2024-01-05 09:30:15");
+  }
+}
+
+// The year as each kind of format shows it, and the weekday of the Gregorian day meant.
+TEST(Formats, NumberYearsAndWeekdays) {
+  const StandardObject gregorian = ObjectWith(kDmy);
+  ExpectRows<int, int, int>([&](int year, int month, int day) {
+    const OleDate date = OleDate::FromParts(year, month, day, 12);
+    return kObject.FormatThaiRevere(date) + kObject.FormatEnglish(date, u" yyyy/mm/dd ddd ") +
+           kObject.FormatPeriod(date) + gregorian.FormatPeriod(date) +
+           kObject.Format2000(date, u" yyyy") + gregorian.Format2000(date, u" bbbb ") +
+           kObject.FormatQuery(date);
+  }, {{{2024, 2, 29}, "2567/02/29 2024/02/29 Thu 2567/022024/02 2567 2024 2024-02-29"},
+      {{2399, 1, 1}, "2942/01/01 2399/01/01 Fri 2942/012399/01 2942 2399 2399-01-01"},
+      {{2400, 1, 1}, "2400/01/01 1857/01/01 Thu 2400/011857/01 2400 2400 1857-01-01"},
+      {{2567, 1, 15}, "2567/01/15 2024/01/15 Mon 2567/012024/01 2567 2567 2024-01-15"},
+      {{2604, 2, 29}, "2604/02/29 2061/02/29 Mon 2604/022061/02 2604 2604 2061-02-28"},
+      {{3333, 3, 3}, "3333/03/03 3333/03/03 Tue 3333/033333/03 3333 3333 3333-03-03"},
+      {{8888, 8, 8}, "8888/08/08 8888/08/08 Sun 8888/088888/08 8888 8888 8888-08-08"},
+      {{2247, 1, 1}, "2790/01/01 2247/01/01 Fri 2790/012247/01 3333 3333 2247-01-01"},
+      {{1704, 1, 1}, "2247/01/01 1704/01/01 Tue 2247/011704/01 3333 3333 1704-01-01"},
+      {{100, 1, 1}, "0643/01/01 0100/01/01 Fri 0643/010100/01 0643 0100 0100-01-01"}});
+}
+
+TEST(Formats, OfBlankDatesAreEmptyOrNull) {
+  for (const OleDate date : {kObject.GETBlankDate(), OleDate::FromParts(2790, 3, 3), OleDate()}) {
+    EXPECT_EQ(kObject.FormatTDate(date) + kObject.FormatTDateTime(date) + kObject.Format2000(date) +
+              kObject.FormatThai(date) + kObject.FormatThaiRevere(date) +
+              kObject.FormatEnglish(date) + kObject.FormatPeriod(date) +
+              kObject.FormatTPeriod(date), u"");
+    EXPECT_EQ(kObject.FormatQuery(date) + kObject.FormatQueryTime(date), u"NULLNULL");
+    EXPECT_EQ(kObject.FormatTime(date) + kObject.FormatTime2(date), u"00:0000:00:00");
+  }
+}
+
+TEST(FormatTime, RoundsToTheMillisecondAndStaysWithinTheDay) {
+  ExpectRows<double>([](double days) {
+    return kObject.FormatTime(OleDate(days)) + u" " + kObject.FormatTime2(OleDate(days));
+  }, {{45306 + 32759 / 86400.0, "09:05 09:05:59"}, {-1.25, "06:00 06:00:00"},
+      {9.0 / 24, "09:00 09:00:00"}, {45306 + 43199.9996 / 86400, "12:00 12:00:00"},
+      {45306 + 86399.9996 / 86400, "23:59 23:59:59"}});
 }
 
 TEST(Names, FollowTheirTables) {
@@ -55,15 +126,30 @@ TEST(Names, FollowTheirTables) {
 }
 // clang-format on
 
-// Every day of 400 years through its text and back, in both eras and orders.
-TEST(FormatTDate2Breadth, WhatIsWrittenReadsBack) {
+// Every day of 200 years through its texts and back, in both eras and orders.
+TEST(FormatsBreadth, WhatIsWrittenReadsBack) {
   for (const DateConvention convention : kConventions) {
     const StandardObject object = ObjectWith(convention);
-    OleDate date = OleDate::FromParts(1900, 1, 1);
-    for (int i = 0; i < 146097; ++i, date = date.AddDays(1)) {
-      const Text text = object.FormatTDate2(date, ZQ7Detect);
+    const OleDate end = OleDate::FromParts(2101, 1, 1);
+    for (OleDate date = OleDate::FromParts(1900, 1, 1); date < end; date = date.AddDays(1)) {
+      const Text text = object.FormatTDate(date);
       ASSERT_TRUE(object.IsTDate(text)) << Utf8(text);
-      ASSERT_EQ(object.CTDATE(text).Days(), date.Days()) << Utf8(text);
+      ASSERT_EQ(object.CTDATE(text), date) << Utf8(text);
+      ASSERT_EQ(object.GETValidDate(object.FormatTDateTime(date)), date) << Utf8(text);
+      ASSERT_EQ(object.GETDateFromTextYYYYMMDD(object.FormatThaiRevere(date)), date) << Utf8(text);
+      ASSERT_EQ(object.CTPeriod(object.FormatPeriod(date)), date.AddDays(1 - date.Day()));
+      ASSERT_TRUE(object.isMounthYear(object.FormatTPeriod(date))) << Utf8(text);
+      if (convention.era == Era::kBuddhist) continue;  // which reads "2024" as a Buddhist year
+      ASSERT_EQ(object.GETDateFromTextYYYYMMDD(object.FormatQuery(date)), date) << Utf8(text);
     }
+  }
+}
+
+TEST(FormatsBreadth, EveryMinuteOfADayReadsBack) {
+  for (int minute = 0; minute < 1440; ++minute) {
+    const OleDate time(minute / 1440.0);
+    const Text text = kObject.FormatTime(time);
+    ASSERT_EQ(kObject.Str2TIME(text), time) << Utf8(text);
+    ASSERT_EQ(kObject.CTTime(kObject.FormatTime2(time, u"hhnn")), time) << Utf8(text);
   }
 }

@@ -52,6 +52,9 @@ TEST(Spans, DaysAndHours) {
       {u"0:30:90", "1.0416666666666667 31 yes yes", "caps"},
       {u"9:1:12:30", "1.5208333333333333 12.5 yes yes", "fourth field"},
       {u"0:2.5:0", "0.08333333333333333 2 yes yes", "half to even"},
+      {u"-1:30", "-0.020833333333333332 -1.5 yes yes", "the sign of all hours"},
+      {u"-0:45", "0.03125 -0.75 yes yes"}, {u" -2:15", "-0.07291666666666666 -2.25 yes yes"},
+      {u"-0:00", "0 0 no no"}, {u"-1.5", "-1.5 -1.5 yes yes"},
       {u"3:0:0", "3 0 yes no"}, {u"-1:0:0", "-1 0 yes no"}, {u"0:0", "0 0 no no"},
       {u"50%:0:0", "0 0 no no", "half a day to even"}, {u"0:50%", "0 0 no no"},
       {u"1:50%", "0.041666666666666664 1 yes yes"}, {u"5%0%", "0.5 0.5 no no"},
@@ -66,7 +69,25 @@ TEST(Spans, DAY2DAYTIME) {
       {2 - 1e-12, "2:00:00"}, {1e-12, "0:00:00"}, {12345678.5, "12345678:12:00"},
       {kNan, "error 6"}, {kInfinity, "error 6"}});
 }
+TEST(Spans, FormatHour) {
+  ExpectRows<double>([](double hours) { return kObject.FormatHour(hours); }, {
+      {0, "0:00"}, {7.5, "7:30"}, {-1.5, "-1:30"}, {-0.25, "-0:15"}, {2.675, "2:41", "as printed"},
+      {0.5 / 60, "0:01", "half a minute"}, {-0.5 / 60, "-0:01"}, {0.4 / 60, "0:00"},
+      {-0.4 / 60, "0:00", "no minus zero"}, {-0.0, "0:00"}, {1.9999, "2:00", "carries"},
+      {1234567.25, "1234567:15"}, {17e12, "17000000000000:00"},
+      {999999999999999, "999999999999999:00"}, {999999999999999.25, "999999999999999:15"},
+      {-999999999999999.875, "-999999999999999:53"}, {1e15, "error 6"}, {-1e15, "error 6"},
+      {kInfinity, "error 6"}, {-kInfinity, "error 6"}, {kNan, "error 6"}});
+}
 // clang-format on
+
+TEST(SpansBreadth, EveryMinuteOf200HoursGoesThroughTextAndBack) {
+  for (int minute = -6000; minute <= 6000; ++minute) {
+    const Text text = kObject.FormatHour(minute / 60.0);
+    ASSERT_NEAR(kObject.CTHour(text), minute / 60.0, 1e-12) << Utf8(text);
+    ASSERT_EQ(kObject.FormatHour(kObject.CTHour(text)), text);
+  }
+}
 
 TEST(SpansBreadth, EveryMinuteOfADayGoesThroughTextAndBack) {
   for (int minute = 0; minute < 1440; ++minute) {

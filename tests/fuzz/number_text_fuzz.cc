@@ -1,4 +1,7 @@
-// Any text reads as a number, and any number survives its shortest text.
+// Any text reads as a number, and any number survives its shortest text. Any text is a
+// price in letters or is refused, and any price survives its letters.
+
+#include <ZQ7Standard/RunTimeError.h>
 
 #include <charconv>
 #include <cmath>
@@ -9,6 +12,30 @@
 
 using namespace ZQ7Standard;
 
+/// The price behind a code; an infinity for what is refused.
+static double ReadCode(const StandardObject& object, TextView code) {
+  try {
+    return object.DeFormatCostCode2(code, u"BLACKHORSE", u"X");
+  } catch (const RunTimeError& error) {
+    Check(error.Number() == 13 || error.Number() == 6);
+    return HUGE_VAL;
+  }
+}
+
+/// The price in the letters of two words, of which `word` may be none.
+static void CheckPrice(const StandardObject& object, double price, const Text& word) {
+  const double rounded = object.FixNumber(price, 2);
+  if (std::abs(rounded) >= 1e15) return;
+  Check(ReadCode(object, object.FormatCostCode2(price, u"BLACKHORSE", u"X")) == rounded);
+  Check(ReadCode(object, object.FormatCostCode(price, u"BLACKHORSE")) == rounded);
+  try {
+    const Text code = object.FormatCostCode(price, word);
+    Check(object.DeFormatCostCode(code, word) == rounded);
+  } catch (const RunTimeError& error) {
+    Check(error.Number() == 5);
+  }
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static const StandardObject object = ObjectWith(kMdy);
   const Text text = FuzzText(data, size);
@@ -18,6 +45,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Check(ReadLeadingNumber(ShortestText(decimal)) == ToDouble(decimal));
   const double rounded = object.FixNumber(value, 2);
   Check(object.FixNumber(rounded, 2) == rounded);
+  CheckPrice(object, value, text.substr(0, 10));
+  const double price = ReadCode(object, text);
+  if (std::isfinite(price)) CheckPrice(object, price, text);
 
   // Plain ASCII digits read as the standard library reads them.
   const std::string ascii = Utf8(text);

@@ -1,0 +1,18 @@
+#ifndef ZQ7STANDARD_SRC_DATES_MONTHS_H_
+#define ZQ7STANDARD_SRC_DATES_MONTHS_H_
+
+#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/date_convention.h>
+
+#include <cstdint>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// What `GETFirstDayOfMonthYear` returns on a system of that era. Raises what it raises
+/// in the name of `operation`.
+OleDate FirstDayOfMonth(std::string_view operation, std::int16_t month, std::int16_t year, Era era);
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_DATES_MONTHS_H_

@@ -1,0 +1,70 @@
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/StandardObject.h>
+
+#include "tests/support/rows.h"
+
+using namespace ZQ7Standard;
+
+static const StandardObject kObject = ObjectWith(kMdy);
+
+// The second unit is a mark above the first.
+static constexpr TextView kThaiWord = u"กิขคงจฉชซฌ";
+
+// clang-format off
+TEST(CostCodes, WritesPricesWithAndWithoutRepeats) {
+  ExpectRows<double>([](double price) {
+    return Utf8(kObject.FormatCostCode(price, u"BLACKHORSE") + u" " +
+                kObject.FormatCostCode2(price, u"BLACKHORSE", u"X"));
+  }, {{125.5, "BLK.KE BLK.XE"}, {0, "E E"}, {-0.004, "E E", "no sign"}, {0.5, "E.KE E.KE"},
+      {500, "KEE KEX"}, {5000, "KEEE KEXX", "every further digit"},
+      {55.5, "KK.KE KX.XE", "the mark does not interrupt"}, {-1.005, "-B.EB -B.EB", "half away"},
+      {2.5e-300, "E E"}, {1234567890, "BLACKHORSE BLACKHORSE"},
+      {999999999999999, "SSSSSSSSSSSSSSS SXXXXXXXXXXXXXX"},
+      {999999999999999.5, "error 6", "16 digits once it is rounded to 15"},
+      {-1e15, "error 6"}, {kInfinity, "error 6"}, {kNan, "error 6"}});
+  EXPECT_EQ(kObject.FormatCostCode(12.9, u"BlackHorse"), u"Bl.se");
+  EXPECT_EQ(kObject.FormatCostCode2(22.1, kThaiWord, u"์"), u"ิ์.กฌ");
+}
+
+TEST(CostCodes, RefusesWordsAndRepeatCharacters) {
+  ExpectTexts([](TextView word) { return kObject.FormatCostCode(1, word); }, {
+      {"error 5", {u"", u"BLACKHORS", u"BLACKHORSES", u"BLACKHORSB", u"BLACKHORSb", u"BLACKHORS0",
+                   u"BLACKHORS9", u"BLACK.ORSE", u"BLACK-ORSE", u"BLACK ORSE", u"BLACKHOR😀",
+                   u"BLACKHORS\xDC00", u"กิขคงจฉชซิ"}},
+      {"B", {u"BLACKHORSE"}}, {"b", {u"bLACKHORSE"}}, {"/", {u"/:,+*#@![]"}}});
+  ExpectTexts([](TextView repeat) { return kObject.FormatCostCode2(1, u"BLACKHORSE", repeat); }, {
+      {"error 5", {u"", u"XX", u"B", u"e", u"0", u".", u"-", u" ", u"\xD83D"}},
+      {"B", {u"X", u"x", u"ก", u"้"}}});
+  for (const TextView word : {u"BLACKHORS", u"BLACK"}) {
+    EXPECT_EQ(ErrorOf([&] { kObject.DeFormatCostCode(u"", word); }), 5);
+    EXPECT_EQ(ErrorOf([&] { kObject.DeFormatCostCode2(u"", word, u"X"); }), 5);
+  }
+  EXPECT_EQ(ErrorOf([] { kObject.DeFormatCostCode2(u"", u"BLACKHORSE", u"h"); }), 5);
+}
+
+TEST(CostCodes, ReadsCodes) {
+  ExpectTexts([](TextView code) { return kObject.DeFormatCostCode2(code, u"BLACKHORSE", u"X"); }, {
+      {"0", {u"", u"   ", u"E", u"-EXX.X"}}, {"500", {u"KEX", u"KEE", u" kex  ", u"EKEX.EX"}},
+      {"-1.11", {u"-B.XX", u"-B.BX"}}, {"0.123456789", {u"E.BLACKHORS"}},
+      {"1.1111111111111112", {u"B.XXXXXXXXXXXXXXXXXXXXXXXX"}}});
+  EXPECT_EQ(kObject.DeFormatCostCode(u"KeE.kE", u"BLACKHORSE"), 500.5);
+  EXPECT_EQ(kObject.DeFormatCostCode(u"X", u"XLACKHORSE"), 1);
+  EXPECT_EQ(kObject.DeFormatCostCode(Text(309, u'B'), u"BLACKHORSE"), 1.1111111111111111e308);
+  EXPECT_EQ(ErrorOf([] { kObject.DeFormatCostCode(Text(310, u'S'), u"BLACKHORSE"); }), 6);
+}
+
+TEST(CostCodes, TellsWhereACodeBreaksOff) {
+  ExpectRows<TextView>([](TextView code) -> std::string {
+    try {
+      return Shown(kObject.DeFormatCostCode2(code, u"BLACKHORSE", u"X"));
+    } catch (const RunTimeError& error) {
+      return error.what() + sizeof "DeFormatCostCode2: type mismatch (error 13): " - 1;
+    }
+  }, {{u"-", "\"-\", place 2", "one past the end"}, {u" B. ", "\" B. \", place 4"},
+      {u".B", "\".B\", place 1"}, {u"B.L.A", "\"B.L.A\", place 4"}, {u"BL-", "\"BL-\", place 3"},
+      {u"--B", "\"--B\", place 2"}, {u"B L", "\"B L\", place 2"}, {u"- B", "\"- B\", place 2"},
+      {u"X", "\"X\", place 1"}, {u"-X", "\"-X\", place 2"}, {u"BL1", "\"BL1\", place 3"},
+      {u"B,L", "\"B,L\", place 2"}, {u"\tB", "\"\tB\", place 1"}, {u"BL😀", "\"BL😀\", place 3"}});
+  EXPECT_EQ(ErrorOf([] { kObject.DeFormatCostCode(u"KEX", u"BLACKHORSE"); }), 13);
+}
+// clang-format on
