@@ -51,7 +51,8 @@ constexpr const char* kSet = R"(
 
 enum class Content { kNothing, kRegistry, kOther };
 
-/// What a database holds; what cannot be read counts as something other.
+/// What a database holds; what cannot be read counts as something other. The caller is in
+/// a transaction, since another process may make the tables between two of the questions.
 Content ContentOf(SqliteConnection& connection) {
   const std::int64_t application = connection.Number("PRAGMA application_id", -1);
   const std::int64_t version = connection.Number("PRAGMA user_version", -1);
@@ -74,7 +75,9 @@ std::shared_ptr<RegistryDatabase> RegistryDatabase::Open(const std::filesystem::
   auto database = std::make_shared<RegistryDatabase>(file, flags);
   if (!database->IsUsable()) return nullptr;
   SqliteConnection& connection = database->connection_;
+  connection.Execute("BEGIN");
   const Content content = ContentOf(connection);
+  connection.Execute("COMMIT");
   if (content == Content::kOther) return nullptr;
   if (content == Content::kNothing && !(make && database->MakeSchema())) return nullptr;
   const bool ready = connection.Execute("PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON") &&
