@@ -71,8 +71,7 @@ std::string Folded(TextView text) {
 std::shared_ptr<RegistryDatabase> RegistryDatabase::Open(const std::filesystem::path& file,
                                                          WhenMissing when_missing) {
   const bool make = when_missing == WhenMissing::kMake;
-  const int flags = SQLITE_OPEN_READWRITE | (make ? SQLITE_OPEN_CREATE : 0);
-  auto database = std::make_shared<RegistryDatabase>(file, flags);
+  auto database = std::make_shared<RegistryDatabase>(file, when_missing);
   if (!database->IsUsable()) return nullptr;
   SqliteConnection& connection = database->connection_;
   connection.Execute("BEGIN");
