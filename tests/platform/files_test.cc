@@ -13,8 +13,12 @@ TEST(NativePath, DropsTheDriveAndTurnsTheSlashes) {
   const DriveMap drives = {{'D', "/srv/shop"}};
   ExpectRows<TextView>([&](TextView path) { return NativePath(path, drives); }, {
       {u"C:\\srv\\app\\set.ini", "/srv/app/set.ini"}, {u"c:", "/"}, {u"C:\\", "/"},
-      {u"D:\\a", "/srv/shop//a"}, {u"d:a", "/srv/shop/a"}, {u"D:", "/srv/shop/"}, {u"", ""},
+      {u"D:\\a", "/srv/shop/a"}, {u"d:a", "/srv/shop/a"}, {u"D:", "/srv/shop/"}, {u"", ""},
       {u"C:a\\b", "a/b"}, {u"\\\\srv\\share", "//srv/share"}, {u"a:b:c", "b:c"}, {u"1:\\a", "1:/a"},
+      {u"D:\\..", "/srv/shop/"}, {u"d:..\\..\\etc\\passwd", "/srv/shop/etc/passwd"},
+      {u"D:\\a\\..\\..\\b", "/srv/shop/b"}, {u"D:/../..\\b\\", "/srv/shop/b/"},
+      {u"D:\\link\\..\\b", "/srv/shop/b", "a link may lead out of the drive"},
+      {u"D:\\..a\\b..\\...", "/srv/shop/..a/b../..."}, {u"C:\\a\\..\\..\\b", "/a/../../b"},
       {u"ก/\\ข", "ก//ข"}, {TextView(u"a\0b", 3), "a\uFFFD" "b", "never cut short"}});
   ExpectRows<const char*>([](const char* path) { return PathText(path); }, {
       {"/srv/app/set.ini", "C:\\srv\\app\\set.ini"}, {"ก", "C:ก"}, {"/", "C:\\"}});
