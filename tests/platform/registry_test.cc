@@ -212,6 +212,22 @@ TEST(RootRegistry, UsesNoFolderOfAnotherUser) {
   EXPECT_FALSE(CanUpdate(folder.Native()));
 }
 
+TEST(RootRegistry, LetsAGroupHaveTheFolderOfTheMachine) {
+  if (geteuid() != 0) GTEST_SKIP() << "no right to be another user";
+  const TempFolder folder;
+  folder.Run(
+      "chmod 755 .; install -d -m 2770 -g 65534 var/lib/zq7standard; cd var/lib/zq7standard;"
+      ">registry.db; chmod 660 registry.db");
+  const auto update = [&] {
+    if (chroot(folder.Native().c_str()) != 0 || chdir("/") != 0) return 2;
+    if (setregid(kNobody, kNobody) != 0 || setreuid(kNobody, kNobody) != 0) return 2;
+    return RegistryObject().UpdateKeyValueLong(HKEY_LOCAL_MACHINE, u"K", u"V", 1) ? 1 : 0;
+  };
+  EXPECT_EQ(End(Begin(update)), 0);
+  folder.Run("chmod 2750 var/lib/zq7standard");
+  EXPECT_EQ(End(Begin(update)), 1);
+}
+
 TEST_F(SystemRegistryTest, LeavesWhatIsNoRegistryOfItsVersionAsItIs) {
   ASSERT_FALSE(Update(Object(), 1));
   const std::string good = Content(File());
