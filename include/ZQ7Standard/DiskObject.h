@@ -54,8 +54,9 @@ class ZQ7STANDARD_EXPORT DiskObject {
   Text ScaleFullPath(TextView inFullPath, std::int32_t MaxLen = 0) const;
 
   /// Makes each folder of the path that is not there and returns -1; 0 when the path
-  /// is empty or only of "\". Every "\" at its ends is dropped first, so a network
-  /// path counts as relative to the current folder.
+  /// is empty or only of "\". Other processes may make them at the same time. Every "\"
+  /// at its ends is dropped first, so a network path counts as relative to the current
+  /// folder.
   ///
   /// Raises what the file system does where a folder cannot be made: 70 without the
   /// right to, 75 where a file has its name. Those before it stay.
@@ -64,10 +65,11 @@ class ZQ7STANDARD_EXPORT DiskObject {
   // --- Files and folders copied: src/io/file_copy.cc ---
 
   /// Copies `FromFile` to `ToFile` when that is not there or has another last-modified
-  /// time, older or newer, which it then takes over. Returns 1 when it tried to copy,
-  /// 0 when the times are equal or there is no file `FromFile`. It never raises:
-  /// a copy that fails gives 1 as well, and so does every copy onto an existing file
-  /// unless `OverwriteFile`.
+  /// time, older or newer, which it then takes over. Times are compared exactly, or as
+  /// closely as the file system of `ToFile` is known to keep them. Returns 1 when it
+  /// tried to copy, 0 when the times are equal or there is no file `FromFile`. It never
+  /// raises: a copy that fails returns 1 as well, and so does every copy onto an existing
+  /// file unless `OverwriteFile`.
   ///
   /// An existing `ToFile` loses its read-only state either way, so that hosts can
   /// write to it afterwards. `CheckCondition` is ignored: it stays for callers that
@@ -83,13 +85,18 @@ class ZQ7STANDARD_EXPORT DiskObject {
   /// that was copied until then left in place: 75 for a subfolder that the target
   /// has already, so a tree with subfolders is copied once; 70 for a read-only
   /// target file; 76 when `to_file` could not be made and there is something to copy.
-  /// A target inside `from_file` raises 75 at once.
+  /// A target inside `from_file`, whatever it is called there, raises 75 before
+  /// anything is copied; a link in the tree raises 75 when it leads to a folder that it
+  /// or the target is in.
   std::int32_t XCopyFile(TextView from_file, TextView to_file) const;
 
  private:
   // Nothing, and no folder, where the file system cannot tell.
   std::optional<FileStatus> StatusOf(TextView path) const;
   bool IsFolder(TextView path) const;
+  // Another process may make the folder at the same time.
+  void MakeFolder(TextView path) const;
+  bool HasTimeOf(const FileStatus& source, TextView path, const FileStatus& status) const;
 
   DiskServices services_;
 };

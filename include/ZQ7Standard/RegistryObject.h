@@ -31,7 +31,8 @@ class ZQ7STANDARD_EXPORT RegistryObject {
   // `keyroot` is a `KetRootType`, `keyname` the path of a key below it with "\"
   // between the names, `subkeyname` the name of a value in that key. Case does not
   // count in either; characters outside Windows-874 count as "?", and a character 0
-  // ends the name. No failure raises: reads give 0 or no text, updates true.
+  // ends the name. There is no key with a name of more than 255 characters, nor at more
+  // than 512 levels. No failure raises: reads give 0 or no text, updates true.
 
   /// The number that the value holds; 0 when there is none, or it holds anything
   /// but a number, be it a text of digits. A key that the user may read but not

@@ -2,8 +2,6 @@
 #include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <string>
 #include <vector>
 
 #include "io/failures.h"
@@ -18,33 +16,45 @@ Text AsFolder(TextView path) {
   return folder;
 }
 
-/// The path, ending in "/", without detours by "." and "..".
-std::string Straight(const Text& folder) {
-  std::string path = Utf8(folder);
-  std::ranges::replace(path, '\\', '/');
-  return std::filesystem::path(path).lexically_normal();
+using FileTime = decltype(FileStatus::last_modified);
+
+/// The multiple of `step` at or before `time`, also before 1970.
+FileTime CutTo(std::chrono::nanoseconds step, FileTime time) {
+  const auto past = time.time_since_epoch() % step;
+  return time - past - (past.count() < 0 ? step : step.zero());
 }
 
-bool IsInside(const Text& folder, const Text& other) {
-  const std::string inner = Straight(folder);
-  const std::string outer = Straight(other);
-  return inner != outer && inner.starts_with(outer);
+using FolderIdentities = std::vector<FolderIdentity>;
+
+bool Contains(const FolderIdentities& folders, const FolderIdentity& folder) {
+  return std::ranges::find(folders, folder) != folders.end();
+}
+
+[[noreturn]] void RefuseEndlessCopy(const Text& path) {
+  throw RunTimeError::PathFileAccess("XCopyFile", Quoted(path));
 }
 
 /// Copies what the folder `from` holds into the folder `to`, both ending in "\", and
-/// counts it. The subfolders are filled after the files are copied.
-std::int32_t CopyEntries(const DiskServices& services, const Text& from, const Text& to) {
+/// counts it. The subfolders are filled after the files are copied. None of them may be
+/// one of `around`, the folders that `from` and `to` are in: it would hold the copy of
+/// itself.
+std::int32_t CopyEntries(const DiskServices& services, const Text& from, const Text& to,
+                         FolderIdentities& around) {
   const std::vector<FolderEntry> entries = services.folders->List(from);
-  for (const auto& [name, is_folder] : entries) {
-    if (is_folder) {
-      services.folders->Create(to + name);
-    } else {
+  for (const auto& [name, folder] : entries) {
+    if (!folder) {
       services.copier->Copy(from + name, to + name, ExistingTarget::kReplace);
+      continue;
     }
+    if (Contains(around, *folder)) RefuseEndlessCopy(from + name);
+    services.folders->Create(to + name);
   }
   auto count = static_cast<std::int32_t>(entries.size());
-  for (const auto& [name, is_folder] : entries) {
-    if (is_folder) count += CopyEntries(services, from + name + u'\\', to + name + u'\\');
+  for (const auto& [name, folder] : entries) {
+    if (!folder) continue;
+    around.push_back(*folder);
+    count += CopyEntries(services, from + name + u'\\', to + name + u'\\', around);
+    around.pop_back();
   }
   return count;
 }
@@ -58,7 +68,7 @@ std::int16_t DiskObject::CopyFileCheck(TextView FromFile, TextView ToFile, bool 
   const auto to = StatusOf(ToFile);
   if (to && !to->is_folder) {
     if (to->read_only) Try([&] { services_.status->ClearReadOnly(ToFile); });
-    if (to->last_modified == from->last_modified) return 0;
+    if (HasTimeOf(*from, ToFile, *to)) return 0;
   }
   const auto existing = OverwriteFile ? ExistingTarget::kReplace : ExistingTarget::kRefuse;
   Try([&] { services_.copier->Copy(FromFile, ToFile, existing); });
@@ -66,15 +76,25 @@ std::int16_t DiskObject::CopyFileCheck(TextView FromFile, TextView ToFile, bool 
 }
 
 std::int32_t DiskObject::XCopyFile(TextView from_file, TextView to_file) const {
-  if (!IsFolder(from_file)) return 0;
+  const FolderIdentities source = services_.folders->Enclosing(from_file);
+  if (!IsFolder(from_file) || source.empty()) return 0;
   const Text from = AsFolder(from_file);
   const Text to = AsFolder(to_file);
-  // Into itself, a copy would go on until no path could hold it: the same error.
-  if (IsInside(to, from)) throw RunTimeError::PathFileAccess("XCopyFile", Quoted(to_file));
-  const bool is_target_there = Try([&] {
-    if (!IsFolder(to)) services_.folders->Create(to);
-  });
-  return (is_target_there ? 1 : 0) + CopyEntries(services_, from, to);
+  FolderIdentities around = services_.folders->Enclosing(to);
+  const bool is_source = IsFolder(to) && around == source;
+  if (Contains(around, source.front()) && !is_source) RefuseEndlessCopy(Text(to_file));
+  const bool is_target_there = Try([&] { MakeFolder(to); });
+  around = services_.folders->Enclosing(to);
+  around.push_back(source.front());
+  return (is_target_there ? 1 : 0) + CopyEntries(services_, from, to, around);
+}
+
+bool DiskObject::HasTimeOf(const FileStatus& source, TextView path,
+                           const FileStatus& status) const {
+  if (status.last_modified == source.last_modified) return true;
+  auto step = std::chrono::nanoseconds(1);
+  Try([&] { step = services_.status->TimeStep(path); });
+  return step.count() > 0 && status.last_modified == CutTo(step, source.last_modified);
 }
 
 }  // namespace ZQ7Standard

@@ -63,8 +63,7 @@ std::int16_t DiskObject::CreateFullPath(TextView FullPathName) const {
   const TextView path = TrimBack(TrimFront(FullPathName, kSeparator), kSeparator);
   for (std::size_t end = 0; end < path.size(); ++end) {
     end = std::min(path.find(kSeparator, end), path.size());
-    const TextView folder = path.substr(0, end);
-    if (!IsFolder(folder)) services_.folders->Create(folder);
+    MakeFolder(path.substr(0, end));
   }
   return IsFolder(path) ? -1 : 0;
 }
@@ -78,6 +77,15 @@ std::optional<FileStatus> DiskObject::StatusOf(TextView path) const {
 bool DiskObject::IsFolder(TextView path) const {
   const auto status = StatusOf(path);
   return status && status->is_folder;
+}
+
+void DiskObject::MakeFolder(TextView path) const {
+  if (IsFolder(path)) return;
+  try {
+    services_.folders->Create(path);
+  } catch (const RunTimeError&) {
+    if (!IsFolder(path)) throw;
+  }
 }
 
 }  // namespace ZQ7Standard

@@ -1,10 +1,21 @@
 #include "platform/registry_path.h"
 
+#include "text/pieces.h"
+
 namespace ZQ7Standard {
+namespace {
+
+constexpr std::size_t kLongestName = 255;
+constexpr std::size_t kMostLevels = 512;
+
+}  // namespace
 
 std::optional<TextView> KeyPath(TextView path) {
-  const bool empty_name = path.starts_with(u'\\') || path.find(u"\\\\") != TextView::npos;
-  if (empty_name) return std::nullopt;
+  std::size_t levels = 0;
+  for (TextView rest = path; !rest.empty(); ++levels) {
+    const TextView name = TakeField(rest, u'\\');
+    if (name.empty() || name.size() > kLongestName || levels == kMostLevels) return std::nullopt;
+  }
   if (path.ends_with(u'\\')) path.remove_suffix(1);
   return path;
 }

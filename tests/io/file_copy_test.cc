@@ -1,7 +1,10 @@
 #include <ZQ7Standard/DiskObject.h>
+#include <sched.h>
 #include <signal.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 
+#include "tests/support/children.h"
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
@@ -30,6 +33,33 @@ TEST(CopyFileCheck, CopiesWhatHasAnotherTime) {
       {{"touch -d '2001-01-01 00:00:00.123456788' to", true}, "1 =new,600,2001"}});
 }
 
+/// The machine's files, on a file system that keeps times in steps.
+struct SteppedTimes final : FileStatusSource {
+  explicit SteppedTimes(std::chrono::nanoseconds in_steps_of) : step(in_steps_of) {}
+  std::optional<FileStatus> StatusOf(TextView path) override { return real->StatusOf(path); }
+  void ClearReadOnly(TextView path) override { real->ClearReadOnly(path); }
+  std::chrono::nanoseconds TimeStep(TextView) override { return step; }
+
+  std::shared_ptr<FileStatusSource> real = SystemFileStatus();
+  std::chrono::nanoseconds step;
+};
+
+TEST(CopyFileCheck, ComparesTimesAsTheTargetKeepsThem) {
+  ExpectRows<int, std::string, std::string>([](int step, const auto& from, const auto& to) {
+    const TempFolder folder;
+    folder.Run("touch -d @" + from + " from; touch -d @" + to + " to");
+    const auto status = std::make_shared<SteppedTimes>(std::chrono::nanoseconds(step));
+    return DiskObject({.status = status}).CopyFileCheck(folder.Path("from"), folder.Path("to"));
+  }, {
+      {{1, "61.5", "61.5"}, "0"}, {{1, "61.500000001", "61.5"}, "1"},
+      {{2'000'000'000, "61.999999999", "60"}, "0"}, {{2'000'000'000, "62", "60"}, "1"},
+      {{2'000'000'000, "60", "62"}, "1"}, {{2'000'000'000, "61.5", "61.5"}, "0", "not cut yet"},
+      {{100, "61.123456789", "61.1234567"}, "0"}, {{10'000'000, "61.129999999", "61.12"}, "0"},
+      {{100, "61.123456789", "61.123456788"}, "1", "no time of the target's"},
+      {{2'000'000'000, "-0.5", "-2"}, "0", "before 1970"}, {{2'000'000'000, "-2", "-2"}, "0"},
+      {{2'000'000'000, "-0.5", "0"}, "1"}, {{0, "61.5", "61"}, "1", "a step that is none"}});
+}
+
 TEST(XCopyFile, CopiesATreeAndCountsIt) {
   ExpectRows<std::string, std::string>([](const std::string& change, const std::string& to) {
     const TempFolder folder;
@@ -51,6 +81,83 @@ TEST(XCopyFile, CopiesATreeAndCountsIt) {
       {{"rm -r from/c", "from"}, "error 70"}, {{"ln -s gone from/l", "to"}, "error 53"},
       {{"mkfifo from/p", "to"}, "error 75"}, {{"touch 'from/..\\x'", "to"}, "error 75"},
       {{"touch from/$(printf '\\377')", "to"}, "error 75"}});
+}
+
+// What a copy of the folder "t" would fill for ever. "@" is the folder that it is in.
+TEST(XCopyFile, RefusesATargetInTheSourceByWhateverName) {
+  const auto current = std::filesystem::current_path();
+  ExpectRows<std::string, std::string, std::string>([&](const std::string& change,
+                                                        const std::string& from,
+                                                        const std::string& to) {
+    const TempFolder folder;
+    folder.Run("mkdir -p t/c out; printf one >t/a; " + change);
+    std::filesystem::current_path(folder.Native());
+    const auto path = [&](std::string text) {
+      if (const auto at = text.find('@'); at != std::string::npos)
+        text.replace(at, 1, Utf8(folder.Path("")).substr(2));
+      return FromUtf8(text);
+    };
+    const std::string before = folder.Run("find");
+    const DriveMap drives = {{'T', folder.Native() / "t"}};
+    const DiskObject disk(
+        {SystemFileStatus(drives), SystemFolders(drives), SystemFileCopier(drives)});
+    const std::string result = ResultOf([&] { return disk.XCopyFile(path(from), path(to)); });
+    std::filesystem::current_path(current);
+    return result + (folder.Run("find") == before ? "" : " and more");
+  }, {
+      {{"", "C:@t", "C:@t\\x"}, "error 75"}, {{"", "C:@t", "c:@t\\x"}, "error 75"},
+      {{"", "C:@t", "E:@t\\c\\x"}, "error 75"}, {{"", "@t\\", "C:@t\\c"}, "error 75"},
+      {{"", "t", ".\\t\\x"}, "error 75"}, {{"", ".\\t", "C:@t\\x"}, "error 75"},
+      {{"", ".", "x"}, "error 75"}, {{"", "C:@t", "t\\c\\..\\x"}, "error 75"},
+      {{"", "t", "out\\..\\t\\x"}, "error 75"}, {{"", "C:@t", "T:\\x"}, "error 75"},
+      {{"", "t", "t\\no\\none\\x"}, "error 75", "the nearest folder that is there counts"},
+      {{"ln -s t l", "t", "l\\x"}, "error 75"}, {{"ln -s t l", "l", "t\\x"}, "error 75"},
+      {{"ln -s ../t/c out/l", "t", "out\\l\\x"}, "error 75"},
+      {{"", "t", "t"}, "error 75", "its own folder c is there"}, {{"rm -r t/c", "t", "t\\."}, "error 70"},
+      {{"mkdir tt", "t", "tt"}, "3 and more", "no part of a name counts"},
+      {{"ln -s ../out t/l; rm -r t/[ac]", "t", "t\\l"}, "error 75", "a link in it leads there"}});
+}
+
+TEST(XCopyFile, StopsAtALinkThatWouldGoOnForEver) {
+  ExpectRows<std::string>([](const std::string& change) {
+    const TempFolder folder;
+    folder.Run("mkdir -p t/c out/d; " + change);
+    const std::string error =
+        ResultOf([&] { return DiskObject().XCopyFile(folder.Path("t"), folder.Path("to")); });
+    return error + ", " + folder.Run("find to -mindepth 1 | LC_ALL=C sort | tr '\\n' ' '");
+  }, {
+      {{"rmdir t/c; ln -s . t/l"}, "error 75, "}, {{"rmdir t/c; ln -s .. t/l"}, "error 75, "},
+      {{"rmdir t/c; ln -s ../to t/l"}, "error 75, ", "the target itself"},
+      {{"ln -s .. t/c/l"}, "error 75, to/c "}, {{"ln -s .. t/c/l; ln -s .. t/c/m"}, "error 75, to/c "},
+      {{"rmdir t/c; ln -s ../out t/l; ln -s ../../t out/d/m"}, "error 75, to/l to/l/d "},
+      {{"ln -s ../../out t/c/l; ln -s ../../out t/c/m"},
+       "6, to/c to/c/l to/c/l/d to/c/m to/c/m/d ", "one folder twice"}});
+}
+
+// Rows of what to mount, then source and target, which two file systems give one number.
+TEST(RootXCopyFile, TellsTheFoldersOfMountsApart) {
+  constexpr int kNoMounts = 255;
+  const std::tuple<const char*, const char*, const char*, int> rows[] = {
+      {"mount -t tmpfs none a; mount -t tmpfs none b; >a/f", "a", "b/x", 2},
+      {"mkdir a/c; mount --bind a b", "a", "b/x", 75},
+      {"mkdir a/c; mount --bind a/c b", "a", "b/x", 75},
+  };
+  for (const auto& [mounts, from, to, expected] : rows) {
+    const TempFolder folder;
+    folder.Run("mkdir a b");
+    const int result = End(Begin([&, from = from, to = to, mounts = mounts] {
+      if (unshare(CLONE_NEWNS) != 0) return kNoMounts;
+      if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) return kNoMounts;
+      if (folder.Run(std::string(mounts) + " && echo done") != "done\n") return kNoMounts;
+      int count = 0;
+      const auto copy = [&] { count = DiskObject().XCopyFile(folder.Path(from), folder.Path(to)); };
+      const int error = ErrorOf(copy);
+      return error == 0 ? count : error;
+    }));
+    if (result == kNoMounts) GTEST_SKIP() << "no right to mount";
+    EXPECT_EQ(result, expected) << mounts;
+    EXPECT_EQ(folder.Run("find a b -mindepth 3"), "") << mounts;
+  }
 }
 // clang-format on
 

@@ -37,4 +37,23 @@ TEST(CreateFullPath, MakesEachFolderThatIsMissing) {
   EXPECT_EQ(folder.Run("find -mindepth 1 -printf '%P\n' | sort | tr '\n' ' '"),
             "new new/a srv srv/share x x/w x/y x/y/z ");
 }
+
+/// Another process makes each folder of the machine just before.
+struct OvertakenFolders final : Folders {
+  void Create(TextView path) override {
+    real->Create(path);
+    real->Create(path);
+  }
+  std::vector<FolderEntry> List(TextView path) override { return real->List(path); }
+  std::vector<FolderIdentity> Enclosing(TextView path) override { return real->Enclosing(path); }
+
+  std::shared_ptr<Folders> real = SystemFolders();
+};
+
+TEST(CreateFullPath, TakesAFolderThatAnotherProcessMade) {
+  const TempFolder folder;
+  const DiskObject disk({.folders = std::make_shared<OvertakenFolders>()});
+  EXPECT_EQ(disk.CreateFullPath(folder.Path("x/y")), -1);
+  EXPECT_EQ(disk.XCopyFile(folder.Path("x/y"), folder.Path("to")), 1);
+}
 // clang-format on

@@ -3,8 +3,10 @@
 #include <ZQ7Standard/platform/file_status.h>
 
 #include "platform/linux/native_path.h"
+#include "platform/linux/time_step.h"
 #include "tests/support/ascii_files.h"
 #include "tests/support/rows.h"
+#include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;
 
@@ -13,8 +15,12 @@ TEST(NativePath, DropsTheDriveAndTurnsTheSlashes) {
   const DriveMap drives = {{'D', "/srv/shop"}};
   ExpectRows<TextView>([&](TextView path) { return NativePath(path, drives); }, {
       {u"C:\\srv\\app\\set.ini", "/srv/app/set.ini"}, {u"c:", "/"}, {u"C:\\", "/"},
-      {u"D:\\a", "/srv/shop//a"}, {u"d:a", "/srv/shop/a"}, {u"D:", "/srv/shop/"}, {u"", ""},
+      {u"D:\\a", "/srv/shop/a"}, {u"d:a", "/srv/shop/a"}, {u"D:", "/srv/shop/"}, {u"", ""},
       {u"C:a\\b", "a/b"}, {u"\\\\srv\\share", "//srv/share"}, {u"a:b:c", "b:c"}, {u"1:\\a", "1:/a"},
+      {u"D:\\..", "/srv/shop/"}, {u"d:..\\..\\etc\\passwd", "/srv/shop/etc/passwd"},
+      {u"D:\\a\\..\\..\\b", "/srv/shop/b"}, {u"D:/../..\\b\\", "/srv/shop/b/"},
+      {u"D:\\link\\..\\b", "/srv/shop/b", "a link may lead out of the drive"},
+      {u"D:\\..a\\b..\\...", "/srv/shop/..a/b../..."}, {u"C:\\a\\..\\..\\b", "/a/../../b"},
       {u"ก/\\ข", "ก//ข"}, {TextView(u"a\0b", 3), "a\uFFFD" "b", "never cut short"}});
   ExpectRows<const char*>([](const char* path) { return PathText(path); }, {
       {"/srv/app/set.ini", "C:\\srv\\app\\set.ini"}, {"ก", "C:ก"}, {"/", "C:\\"}});
@@ -48,5 +54,14 @@ TEST(FileStatus, TellsFoldersRightsAndTimes) {
   EXPECT_EQ(std::filesystem::status(files.File()).permissions(), std::filesystem::perms(0670));
   EXPECT_EQ(status->StatusOf(u"D:\\set.ini")->last_modified,
             std::chrono::file_clock::to_sys(last_write_time(files.File())));
+}
+
+TEST(TimeStep, IsThatOfTheFileSystem) {
+  ExpectRows<unsigned>([](unsigned type) { return TimeStepOf(type).count(); }, {
+      {0x4D44, "2000000000", "FAT"}, {0x2011BAB0, "10000000", "exFAT"}, {0x517B, "100", "SMB 1"},
+      {0xFF534D42, "100", "CIFS"}, {0xFE534D42, "100", "SMB 2"}, {0xEF53, "1", "ext4"}, {0, "1"}});
+  const TempFolder folder;
+  const auto status = SystemFileStatus();
+  EXPECT_EQ(status->TimeStep(folder.Path("none")), std::chrono::nanoseconds(1));
 }
 // clang-format on

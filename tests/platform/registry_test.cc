@@ -3,7 +3,6 @@
 #include <signal.h>
 #include <sqlite3.h>
 #include <sys/socket.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -11,6 +10,8 @@
 #include <functional>
 #include <iterator>
 
+#include "platform/linux/sqlite_connection.h"
+#include "tests/support/children.h"
 #include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {
@@ -20,7 +21,6 @@ using namespace std::string_literals;
 namespace fs = std::filesystem;
 
 constexpr std::int32_t kUser = HKEY_CURRENT_USER;
-constexpr uid_t kNobody = 65534;
 
 /// A registry in a folder of its own, which every user may enter.
 class SystemRegistryTest : public testing::Test {
@@ -45,18 +45,6 @@ class SystemRegistryTest : public testing::Test {
 
 using SystemRegistryBreadth = SystemRegistryTest;
 
-/// Runs `work` in a child, whose status is the result; `End` waits for it.
-pid_t Begin(const std::function<int()>& work) {
-  const pid_t child = fork();
-  if (child == 0) _exit(work());
-  return child;
-}
-int End(pid_t child) {
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
-
 bool Update(const RegistryObject& object, int number, TextView name = u"V") {
   return object.UpdateKeyValueLong(kUser, u"Software\\App", name, number);
 }
@@ -71,14 +59,28 @@ std::string Content(const fs::path& file) {
 
 TEST_F(SystemRegistryTest, KeepsKeysAsTheOneInMemoryDoes) {
   using Place = std::tuple<std::int32_t, Text, Text>;
+  const Text deep = [] {
+    Text path;
+    for (int level = 0; level < 512; ++level) path += u"L\\";
+    return path;
+  }();
+  const Text long_name(255, u'ก');
   const std::pair<Place, Place> same[] = {
       {{kUser, u"Soft\\ร้าน", u"เลขที่ No"}, {kUser, u"SOFT\\ร้าน\\", u"เลขที่ nO"}},
       {{HKEY_USERS, u"A\\B\\C", u""}, {HKEY_USERS, u"a\\b\\c", u""}},
       {{HKEY_CLASSES_ROOT, u"", u"x"}, {HKEY_CLASSES_ROOT, u"\0y"s, u"X\0"s}},
       {{HKEY_LOCAL_MACHINE, u"日", u"é"}, {HKEY_LOCAL_MACHINE, u"?", u"É"}},
+      {{kUser, long_name + u"\\" + long_name, u"V"}, {kUser, long_name + u"\\" + long_name, u"v"}},
+      {{kUser, deep, u"V"}, {kUser, deep.substr(0, deep.size() - 1), u"v"}},
   };
-  const std::pair<std::int32_t, Text> never[] = {
-      {HKEY_PERFORMANCE_DATA, u"K"}, {0, u"K"}, {kUser, u"K\\\\L"}, {kUser, u"\\K"}};
+  const std::pair<std::int32_t, Text> never[] = {{HKEY_PERFORMANCE_DATA, u"K"},
+                                                 {0, u"K"},
+                                                 {kUser, u"K\\\\L"},
+                                                 {kUser, u"\\K"},
+                                                 {kUser, long_name + u"ก"},
+                                                 {kUser, u"K\\" + long_name + u"ก\\"},
+                                                 {kUser, deep + u"L"},
+                                                 {kUser, Text(300'000, u'x')}};
   for (const RegistryServices& services : {Services(), RegistryServices{MemoryRegistry()}}) {
     const RegistryObject object(services);
     for (const auto& [written, read] : same) {
@@ -92,7 +94,9 @@ TEST_F(SystemRegistryTest, KeepsKeysAsTheOneInMemoryDoes) {
       EXPECT_EQ(object.GetKeyValueString(root, path, name), u"ก5");
     }
     for (const auto& [root, path] : never) {
-      EXPECT_TRUE(object.UpdateKeyValueLong(root, path, u"V", 1)) << root << Utf8(path);
+      EXPECT_TRUE(object.UpdateKeyValueLong(root, path, u"V", 1))
+          << root << Utf8(path.substr(0, 9));
+      EXPECT_EQ(object.GetKeyValueString(root, path, u"V"), u"");
     }
     const auto is_there = [&](std::int32_t root, TextView path) {
       return services.registry->Open(root, path, kKeyAllAccess) != nullptr;
@@ -113,6 +117,9 @@ TEST_F(SystemRegistryTest, MakesNothingBeforeAnUpdate) {
   EXPECT_FALSE(Update(object, 1));
   EXPECT_FALSE(fs::exists(folder_ / "m"));
   EXPECT_EQ(fs::status(File().parent_path()).permissions(), fs::perms{0700});
+  for (const char* name : {"registry.db", "registry.db-wal", "registry.db-shm"}) {
+    EXPECT_EQ(fs::status(File().parent_path() / name).permissions(), fs::perms{0600}) << name;
+  }
   fs::remove_all(File().parent_path());
   EXPECT_FALSE(Update(object, 2)) << "a database that was removed while open is made again";
   EXPECT_EQ(Read(Object()), 2);
@@ -145,6 +152,80 @@ TEST_F(SystemRegistryTest, LiesWhereTheEnvironmentSays) {
     EXPECT_EQ(End(Begin(update)), expected.empty() ? 1 : 0) << data << home;
     EXPECT_TRUE(expected.empty() || fs::exists(folder_ / expected / "registry.db")) << expected;
   }
+}
+
+/// Whether the user's registry, in the folder `home` of the environment, can be updated.
+bool CanUpdate(const fs::path& home) {
+  const auto update = [&] {
+    unsetenv("XDG_DATA_HOME");
+    setenv("HOME", home.c_str(), 1);
+    return Update(RegistryObject(), 7) || Read(RegistryObject()) != 7 ? 1 : 0;
+  };
+  return End(Begin(update)) == 0;
+}
+
+TEST_F(SystemRegistryTest, UsesNoFolderOfTheUsersThatOthersCanWrite) {
+  const fs::path folder = folder_ / ".local/share/zq7standard";
+  EXPECT_TRUE(CanUpdate(folder_));
+  for (const auto& [mode, expected] : {std::pair{0755U, true}, {0720U, false}, {0702U, false}}) {
+    fs::permissions(folder, fs::perms{mode});
+    EXPECT_EQ(CanUpdate(folder_), expected) << std::oct << mode;
+    EXPECT_FALSE(Update(RegistryObject({SystemRegistry({folder, ""})}), 7)) << "a host's word";
+  }
+  fs::permissions(folder, fs::perms{0700});
+  fs::rename(folder, folder_ / "elsewhere");
+  fs::create_directory_symlink(folder_ / "elsewhere", folder);
+  EXPECT_TRUE(CanUpdate(folder_));
+}
+
+TEST_F(SystemRegistryTest, FollowsNoLinkInPlaceOfTheDatabase) {
+  ASSERT_FALSE(Update(Object(), 1));
+  fs::rename(File(), folder_ / "other.db");
+  fs::create_symlink(folder_ / "other.db", File());
+  EXPECT_TRUE(Read(Object()) == 0 && Update(Object(), 2));
+  fs::remove(folder_ / "other.db");
+  EXPECT_TRUE(Update(Object(), 3) && !fs::exists(folder_ / "other.db")) << "a link to nothing";
+}
+
+TEST_F(SystemRegistryTest, RunsNothingThatIsKeptInADatabase) {
+  ASSERT_FALSE(Update(Object(), 1));
+  Run("CREATE TRIGGER t AFTER UPDATE ON entries BEGIN UPDATE entries SET data = x'07000000'; END;"
+      "CREATE VIEW v AS SELECT 7");
+  EXPECT_TRUE(!Update(Object(), 2) && Read(Object()) == 2);
+  {
+    SqliteConnection connection(File(), SqliteConnection::WhenMissing::kFail);
+    EXPECT_EQ(connection.Number("SELECT * FROM v", -1), -1);
+    EXPECT_FALSE(connection.Execute("PRAGMA writable_schema = ON; DELETE FROM sqlite_master"));
+  }
+  Run("ALTER TABLE entries RENAME TO old;"
+      "CREATE TABLE entries(key, folded, name, type, data, depth DEFAULT (rtreedepth(x'0000')),"
+      "                     PRIMARY KEY(key, folded)) WITHOUT ROWID;"
+      "INSERT INTO entries SELECT *, 0 FROM old");
+  EXPECT_TRUE(Read(Object()) == 0 && Update(Object(), 2)) << "a function that is not for this";
+}
+
+TEST(RootRegistry, UsesNoFolderOfAnotherUser) {
+  if (geteuid() != 0) GTEST_SKIP() << "no right to give folders away";
+  const TempFolder folder;
+  ASSERT_TRUE(CanUpdate(folder.Native()));
+  folder.Run("chown 65534 .local/share/zq7standard");
+  EXPECT_FALSE(CanUpdate(folder.Native()));
+}
+
+TEST(RootRegistry, LetsAGroupHaveTheFolderOfTheMachine) {
+  if (geteuid() != 0) GTEST_SKIP() << "no right to be another user";
+  const TempFolder folder;
+  folder.Run(
+      "chmod 755 .; install -d -m 2770 -g 65534 var/lib/zq7standard; cd var/lib/zq7standard;"
+      ">registry.db; chmod 660 registry.db");
+  const auto update = [&] {
+    if (chroot(folder.Native().c_str()) != 0 || chdir("/") != 0) return 2;
+    if (setregid(kNobody, kNobody) != 0 || setreuid(kNobody, kNobody) != 0) return 2;
+    return RegistryObject().UpdateKeyValueLong(HKEY_LOCAL_MACHINE, u"K", u"V", 1) ? 1 : 0;
+  };
+  EXPECT_EQ(End(Begin(update)), 0);
+  folder.Run("chmod 2750 var/lib/zq7standard");
+  EXPECT_EQ(End(Begin(update)), 1);
 }
 
 TEST_F(SystemRegistryTest, LeavesWhatIsNoRegistryOfItsVersionAsItIs) {

@@ -121,7 +121,8 @@ void Commands::AddSettings() {
   app_.add_flag("--example", settings_.example,
                 "Run as the examples in the help: at 2024-01-15 09:30,\n"
                 "with dmy-buddhist; drive C:, registry and printer of\n"
-                "their own; no block cipher.");
+                "their own; no block cipher. Other drives, and paths\n"
+                "without a drive, are the machine's.");
 }
 
 void Commands::Parse(const std::vector<std::string>& words) {

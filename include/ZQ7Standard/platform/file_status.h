@@ -28,11 +28,17 @@ class ZQ7STANDARD_EXPORT FileStatusSource {
   /// cannot tell.
   virtual std::optional<FileStatus> StatusOf(TextView path) = 0;
 
+  /// The step of the last-modified times that the file system of `path` keeps: of any
+  /// other time it keeps the multiple below. 1 ns where it keeps them as they are, or
+  /// cannot tell.
+  virtual std::chrono::nanoseconds TimeStep(TextView path) = 0;
+
   /// Gives the owner of `path` the right to write to it. Raises 53, 70, 75 or 76.
   virtual void ClearReadOnly(TextView path) = 0;
 };
 
-/// The status of the files of the machine.
+/// The status of the files of the machine. Of the file systems with coarse times it knows
+/// FAT (2 s), exFAT (10 ms) and SMB (100 ns).
 ZQ7STANDARD_EXPORT std::shared_ptr<FileStatusSource> SystemFileStatus(DriveMap drives = {});
 
 }  // namespace ZQ7Standard

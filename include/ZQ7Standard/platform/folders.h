@@ -5,15 +5,26 @@
 #include <ZQ7Standard/Types.h>
 #include <ZQ7Standard/platform/path_text.h>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace ZQ7Standard {
 
+/// Tells folders apart that are there at the same time: equal for one folder, whatever
+/// path led to it.
+struct FolderIdentity {
+  std::uint64_t device = 0;
+  std::uint64_t number = 0;  ///< within the device
+
+  friend bool operator==(const FolderIdentity&, const FolderIdentity&) = default;
+};
+
 /// A file or folder in a folder.
 struct FolderEntry {
   Text name;
-  bool is_folder = false;
+  std::optional<FolderIdentity> folder = std::nullopt;  ///< nullopt for a file
 };
 
 /// The folders of a file system. Paths are path texts, which may end in "\". Failures
@@ -28,9 +39,13 @@ class ZQ7STANDARD_EXPORT Folders {
   /// Everything in the folder `path`, hidden entries included, in the order of the
   /// file system; "." and ".." are left out.
   virtual std::vector<FolderEntry> List(TextView path) = 0;
+
+  /// The folder `path` and those that it lies in, from the inside out; those that are
+  /// there when it is not. Raises nothing.
+  virtual std::vector<FolderIdentity> Enclosing(TextView path) = 0;
 };
 
-/// The folders of the machine. A link to a folder counts as a folder. Listing raises
+/// The folders of the machine. A link to a folder counts as the folder. Listing raises
 /// 75 at a name that no path text leads to, with "\" in it or not in UTF-8: it would
 /// be taken for another one.
 ZQ7STANDARD_EXPORT std::shared_ptr<Folders> SystemFolders(DriveMap drives = {});

@@ -72,7 +72,9 @@ class ZQ7STANDARD_EXPORT RegistryKey {
 
 /// The registry behind `RegistryObject`: keys below a few roots, each with named
 /// values. A path has "\" between its names. Paths and names compare without
-/// regard to case. They hold characters of the code page only, and no character 0.
+/// regard to case. They hold characters of the code page only, and no character 0. The
+/// registries of the library have no key with an empty name, a name of more than 255
+/// characters or a path of more than 512 names.
 ///
 /// `root` is any number, mostly a `KetRootType`. An operation that cannot do what
 /// it should answers with nothing. A registry belongs to one thread at a time, and
@@ -102,7 +104,9 @@ struct RegistryFolders {
 /// permissions are the rights to it: who may not write one may not open a key of
 /// it either. An update is on the disk when it returns, and processes may write at
 /// the same time. Nothing is opened before the first call, nothing made before the
-/// first key is. docs/files.md is for who looks after it.
+/// first key is. A database is made for its user alone; none that is a symbolic link is
+/// used, nor one in the user's own place that belongs to or can be written by others.
+/// docs/files.md is for who looks after it.
 ///
 /// A process that forks may use it on both sides. In a library built without
 /// ZQ7STANDARD_WITH_SQLITE no key can be opened or made.

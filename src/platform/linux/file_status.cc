@@ -1,11 +1,13 @@
 #include <ZQ7Standard/platform/file_status.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 
 #include <cerrno>
 #include <utility>
 
 #include "platform/linux/file_errors.h"
 #include "platform/linux/native_path.h"
+#include "platform/linux/time_step.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -25,6 +27,12 @@ class LinuxFileStatus final : public FileStatusSource {
                           std::chrono::nanoseconds(status.st_mtim.tv_nsec);
     return FileStatus{S_ISDIR(status.st_mode), (status.st_mode & S_IWUSR) == 0,
                       std::chrono::sys_time<std::chrono::nanoseconds>(modified)};
+  }
+
+  std::chrono::nanoseconds TimeStep(TextView path) override {
+    struct statfs system {};
+    const bool known = statfs(NativePath(path, drives_).c_str(), &system) == 0;
+    return TimeStepOf(known ? static_cast<std::uint32_t>(system.f_type) : 0);
   }
 
   void ClearReadOnly(TextView path) override {

@@ -4,8 +4,10 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 
 #include "platform/linux/file_errors.h"
@@ -20,10 +22,28 @@ struct CloseFolder {
 };
 using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
 
-bool IsFolder(const OpenFolder& folder, const dirent& entry) {
-  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
+/// Which folder `path` names, from the open folder `start`; nullopt when it names none.
+std::optional<FolderIdentity> IdentityOf(int start, const char* path) {
   struct stat status {};
-  return fstatat(dirfd(folder.get()), entry.d_name, &status, 0) == 0 && S_ISDIR(status.st_mode);
+  if (fstatat(start, path, &status, 0) != 0 || !S_ISDIR(status.st_mode)) return std::nullopt;
+  return FolderIdentity{status.st_dev, status.st_ino};
+}
+
+std::optional<FolderIdentity> IdentityOf(const OpenFolder& folder, const dirent& entry) {
+  const bool is_file =
+      entry.d_type != DT_DIR && entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN;
+  return is_file ? std::nullopt : IdentityOf(dirfd(folder.get()), entry.d_name);
+}
+
+/// The way to `native` from the root, without links, as far as it is there.
+std::filesystem::path WayTo(const std::string& native) {
+  std::error_code error;
+  auto way = std::filesystem::absolute(native, error);
+  for (; way.has_relative_path(); way = way.parent_path()) {
+    const auto there = std::filesystem::canonical(way, error);
+    if (!error) return there;
+  }
+  return "/";
 }
 
 Text NameText(std::string_view name, TextView folder) {
@@ -51,10 +71,20 @@ class LinuxFolders final : public Folders {
     for (errno = 0; const dirent* entry = readdir(folder.get()); errno = 0) {
       const std::string_view name = entry->d_name;
       if (name == "." || name == "..") continue;
-      entries.push_back({NameText(name, path), IsFolder(folder, *entry)});
+      entries.push_back({NameText(name, path), IdentityOf(folder, *entry)});
     }
     if (errno != 0) throw FileError(errno, "list", path, native);
     return entries;
+  }
+
+  std::vector<FolderIdentity> Enclosing(TextView path) override {
+    std::vector<FolderIdentity> enclosing;
+    auto way = WayTo(NativePath(path, drives_));
+    for (bool at_root = false; !at_root; way = way.parent_path()) {
+      if (const auto folder = IdentityOf(AT_FDCWD, way.c_str())) enclosing.push_back(*folder);
+      at_root = !way.has_relative_path();
+    }
+    return enclosing;
   }
 
  private:

@@ -20,13 +20,19 @@ std::string Slashed(TextView path) {
   return native;
 }
 
+/// `path` on a drive, without a name that ".." takes back. ".." in the drive's own folder
+/// stays there, as it does in the root folder.
+std::string OnDrive(const std::string& path) {
+  return std::filesystem::path('/' + path).lexically_normal();
+}
+
 }  // namespace
 
 std::string NativePath(TextView path, const DriveMap& drives) {
   if (!BeginsWithDrive(path)) return Slashed(path);
   const std::string native = Slashed(path.substr(2));
   const auto drive = drives.find(static_cast<char>(AsciiUpper(path[0])));
-  if (drive != drives.end()) return drive->second.native() + '/' + native;
+  if (drive != drives.end()) return drive->second.native() + OnDrive(native);
   return native.empty() ? "/" : native;
 }
 

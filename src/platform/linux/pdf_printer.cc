@@ -2,6 +2,7 @@
 
 #include <ZQ7Standard/platform/clock.h>
 #include <glib.h>
+#include <sys/auxv.h>
 
 #include <array>
 #include <cstdio>
@@ -16,7 +17,10 @@
 namespace ZQ7Standard {
 namespace {
 
+/// GLib asks the environment for it, which a process with more rights than the user who
+/// started it cannot trust.
 std::filesystem::path DocumentsFolder() {
+  if (getauxval(AT_SECURE) != 0) throw PrinterFailure("the program has to name the folder");
   const char* const folder = g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS);
   if (folder != nullptr) return folder;
   return std::filesystem::path(g_get_home_dir()) / "Documents";

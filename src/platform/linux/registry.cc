@@ -52,10 +52,18 @@ class Store {
  private:
   void Open(RegistryDatabase::WhenMissing when_missing) {
     database_ = nullptr;
-    const auto folder = folder_.empty() ? own_place_() : folder_;
-    if (folder.empty()) return;
-    if (when_missing == RegistryDatabase::WhenMissing::kMake && !MakeFolder(folder, mode_)) return;
+    const auto named = folder_.empty() ? own_place_() : folder_;
+    if (named.empty()) return;
+    if (when_missing == RegistryDatabase::WhenMissing::kMake && !MakeFolder(named, mode_)) return;
+    const auto folder = WithoutLinks(named);
+    if (folder.empty() || !IsTrusted(folder)) return;
     database_ = RegistryDatabase::Open(folder / "registry.db", when_missing);
+  }
+
+  /// A folder that the environment named has to be the user's. A host answers for its own,
+  /// and the machine's may belong to a group.
+  bool IsTrusted(const std::filesystem::path& folder) const {
+    return !folder_.empty() || mode_ != kUserOnly || IsForUserAlone(folder);
   }
 
   std::filesystem::path folder_;

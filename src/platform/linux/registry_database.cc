@@ -51,7 +51,8 @@ constexpr const char* kSet = R"(
 
 enum class Content { kNothing, kRegistry, kOther };
 
-/// What a database holds; what cannot be read counts as something other.
+/// What a database holds; what cannot be read counts as something other. The caller is in
+/// a transaction, since another process may make the tables between two of the questions.
 Content ContentOf(SqliteConnection& connection) {
   const std::int64_t application = connection.Number("PRAGMA application_id", -1);
   const std::int64_t version = connection.Number("PRAGMA user_version", -1);
@@ -70,11 +71,12 @@ std::string Folded(TextView text) {
 std::shared_ptr<RegistryDatabase> RegistryDatabase::Open(const std::filesystem::path& file,
                                                          WhenMissing when_missing) {
   const bool make = when_missing == WhenMissing::kMake;
-  const int flags = SQLITE_OPEN_READWRITE | (make ? SQLITE_OPEN_CREATE : 0);
-  auto database = std::make_shared<RegistryDatabase>(file, flags);
+  auto database = std::make_shared<RegistryDatabase>(file, when_missing);
   if (!database->IsUsable()) return nullptr;
   SqliteConnection& connection = database->connection_;
+  connection.Execute("BEGIN");
   const Content content = ContentOf(connection);
+  connection.Execute("COMMIT");
   if (content == Content::kOther) return nullptr;
   if (content == Content::kNothing && !(make && database->MakeSchema())) return nullptr;
   const bool ready = connection.Execute("PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON") &&

@@ -30,10 +30,10 @@ struct KeyPlace {
 /// lower case that it is looked up by.
 class RegistryDatabase {
  public:
-  enum class WhenMissing { kFail, kMake };
+  using WhenMissing = SqliteConnection::WhenMissing;
 
   /// The database in `file`; nothing when there is none (unless it may be made), it
-  /// may not be written, or it is damaged, not a registry or of a later version.
+  /// may not be written, or it is a link, damaged, not a registry or of a later version.
   /// Those are left as they are; an empty file counts as none.
   static std::shared_ptr<RegistryDatabase> Open(const std::filesystem::path& file,
                                                 WhenMissing when_missing);
@@ -51,7 +51,8 @@ class RegistryDatabase {
   bool Set(const KeyPlace& place, TextView name, std::uint32_t type, std::string_view data);
 
   /// For `Open` alone.
-  RegistryDatabase(const std::filesystem::path& file, int flags) : connection_(file, flags) {}
+  RegistryDatabase(const std::filesystem::path& file, WhenMissing when_missing)
+      : connection_(file, when_missing) {}
 
  private:
   bool MakeSchema();

@@ -6,14 +6,16 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <system_error>
 
 namespace ZQ7Standard {
 namespace {
 
-/// The folder that a variable of the environment names; empty when it names none,
-/// or one that depends on the current folder.
+/// The folder that a variable of the environment names; empty when it names none, or one
+/// that depends on the current folder, or the process has more rights than the user who
+/// made the environment.
 std::filesystem::path FolderFromEnvironment(const char* variable) {
-  const char* const value = std::getenv(variable);
+  const char* const value = secure_getenv(variable);
   const std::filesystem::path folder = value == nullptr ? "" : value;
   return folder.is_absolute() ? folder : std::filesystem::path();
 }
@@ -37,6 +39,17 @@ std::filesystem::path UserRegistryFolder() {
 
 std::filesystem::path MachineRegistryFolder() {
   return "/var/lib/zq7standard";
+}
+
+std::filesystem::path WithoutLinks(const std::filesystem::path& folder) {
+  std::error_code error;
+  return std::filesystem::canonical(folder, error);
+}
+
+bool IsForUserAlone(const std::filesystem::path& folder) {
+  struct stat state {};
+  return stat(folder.c_str(), &state) == 0 && state.st_uid == geteuid() &&
+         (state.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
 bool MakeFolder(const std::filesystem::path& folder, mode_t mode) {

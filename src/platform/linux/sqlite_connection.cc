@@ -1,8 +1,12 @@
 #include "platform/linux/sqlite_connection.h"
 
+#include <fcntl.h>
 #include <pthread.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <mutex>
 #include <vector>
 
@@ -11,6 +15,17 @@ namespace {
 
 // Long enough for a queue of writers that wait for a slow disk.
 constexpr int kBusyMilliseconds = 10'000;
+
+struct Setting {
+  int number;
+  int value;
+};
+constexpr std::array<Setting, 4> kProtection = {{
+    {SQLITE_DBCONFIG_DEFENSIVE, 1},
+    {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+    {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+    {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
+}};
 
 /// What a process knows of its connections. It stays to the very end, because
 /// connections may be closed by destructors of static objects.
@@ -46,20 +61,31 @@ void WatchForks() {
   static_cast<void>(watched);
 }
 
+/// Makes the file `file`, empty, where there is none. SQLite itself would let others read
+/// it. To close a file gives up the locks that the process has on it; but of a new one no
+/// connection has any, as long as the caller holds the mutex.
+void MakeFile(const std::filesystem::path& file) {
+  constexpr mode_t kUserOnly = S_IRUSR | S_IWUSR;
+  const int made = open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kUserOnly);
+  if (made >= 0) close(made);
+}
+
 }  // namespace
 
-SqliteConnection::SqliteConnection(const std::filesystem::path& file, int flags) {
+SqliteConnection::SqliteConnection(const std::filesystem::path& file, WhenMissing when_missing) {
   WatchForks();
   Process& process = ThisProcess();
   const std::lock_guard lock(process.mutex);
   forks_ = process.forks;
   process.connections.push_back(this);
   if (!LetGoOfInherited()) return;
-  const int result = sqlite3_open_v2(file.c_str(), &db_, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+  if (when_missing == WhenMissing::kMake) MakeFile(file);
+  constexpr int kFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOFOLLOW | SQLITE_OPEN_NOMUTEX;
+  const int result = sqlite3_open_v2(file.c_str(), &db_, kFlags, nullptr);
   // A file without the right to write would be opened for reading.
   const bool writable = result == SQLITE_OK && sqlite3_db_readonly(db_, "main") == 0;
-  if (!writable) Close();
-  if (writable) sqlite3_busy_timeout(db_, kBusyMilliseconds);
+  if (!writable || !Protect()) Close();
+  if (db_ != nullptr) sqlite3_busy_timeout(db_, kBusyMilliseconds);
 }
 
 SqliteConnection::~SqliteConnection() {
@@ -105,6 +131,12 @@ sqlite3_stmt* SqliteConnection::Prepare(const char* sql) {
   sqlite3_stmt* statement = nullptr;
   sqlite3_prepare_v3(db_, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
   return statement;
+}
+
+bool SqliteConnection::Protect() {
+  return std::ranges::all_of(kProtection, [this](const Setting& setting) {
+    return sqlite3_db_config(db_, setting.number, setting.value, nullptr) == SQLITE_OK;
+  });
 }
 
 /// Whether the process may open databases now. The caller holds the mutex.

@@ -18,10 +18,16 @@ namespace ZQ7Standard {
 /// but the locks are the parent's alone. So before a child opens a connection of
 /// its own, it lets go of all that it inherited, in a way that leaves the parent's
 /// files as they are.
+///
+/// The database may come from someone else: no trigger and no view in it is used, and no
+/// function in the definition of a table that SQLite takes for unsafe.
 class SqliteConnection {
  public:
-  /// Opens `file` with the `SQLITE_OPEN_` flags `flags`.
-  SqliteConnection(const std::filesystem::path& file, int flags);
+  enum class WhenMissing { kFail, kMake };
+
+  /// Opens `file`, which is named without symbolic links. One that is made is for its
+  /// user alone.
+  SqliteConnection(const std::filesystem::path& file, WhenMissing when_missing);
   SqliteConnection(const SqliteConnection&) = delete;
   SqliteConnection& operator=(const SqliteConnection&) = delete;
   ~SqliteConnection();
@@ -50,6 +56,7 @@ class SqliteConnection {
 
  private:
   static bool LetGoOfInherited();
+  bool Protect();
   bool LetGo();
   void Close();
 
