@@ -37,8 +37,9 @@ class ZQ7STANDARD_EXPORT DateConventionSource {
 /// An installed locale decides by its own short date; one that is named but not
 /// installed is judged by its language and territory (th is day first and
 /// Buddhist, US month first, most others day first). No locale, "C" and "POSIX"
-/// are month first and Gregorian, also in a container (docs/surprises.md). The last answer is kept in the object and
-/// used while the names stay the same: an object belongs to one thread.
+/// are month first and Gregorian, also in a container (docs/surprises.md). The last
+/// answer is kept in the object and used while the names stay the same: an object
+/// belongs to one thread.
 ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> SystemDateConvention();
 
 /// Always `convention`: for hosts with a setting of their own, and the only way
