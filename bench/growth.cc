@@ -53,27 +53,35 @@ Text Repeated(TextView pattern, std::size_t size, TextView ending) {
   return text.append(ending);
 }
 
+std::vector<std::size_t> TextParameters(const OperationInfo& operation) {
+  std::vector<std::size_t> texts;
+  for (std::size_t i = 0; i < operation.parameters.size(); ++i) {
+    if (operation.parameters[i].type.type == Type::kText) texts.push_back(i);
+  }
+  return texts;
+}
+
 /// One way to make an operation work hard: the texts of its parameters.
 struct Probe {
   const ClassInfo& owner;
   const OperationInfo& operation;
-  std::size_t parameter;  ///< the one with the long text; the number of parameters: all of them
+  /// The one with the long text; the number of parameters where the first two texts are
+  /// long. More would multiply: a long separator between many items makes a longer result.
+  std::size_t parameter;
   TextView pattern;
   TextView ending;
 
   std::vector<Value> Arguments(std::size_t size) const {
     std::vector<Value> arguments = operation.examples.front().arguments;
     arguments.resize(operation.parameters.size());
-    bool first = true;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-      if (operation.parameters[i].type.type != Type::kText) continue;
-      // Texts that are searched for nearly match the one that they are searched in.
-      if (i == parameter) arguments[i] = Repeated(pattern, size, ending);
-      if (parameter == arguments.size()) {
-        arguments[i] = first ? Repeated(pattern, size, {}) : Repeated(pattern, size / 2, ending);
-      }
-      first = false;
+    if (parameter < arguments.size()) {
+      arguments[parameter] = Repeated(pattern, size, ending);
+      return arguments;
     }
+    const std::vector<std::size_t> texts = TextParameters(operation);
+    arguments[texts[0]] = Repeated(pattern, size, {});
+    // Nearly what the other text holds again and again, for searches.
+    arguments[texts[1]] = Repeated(pattern, size / 2, ending);
     return arguments;
   }
 };
@@ -126,12 +134,9 @@ Growth Measure(const Probe& probe) {
   return least;
 }
 
-/// The parameters to try: each text by itself, and all texts where there are several.
+/// The parameters to try: each text by itself, and two texts where there are several.
 std::vector<std::size_t> ParametersToTry(const OperationInfo& operation) {
-  std::vector<std::size_t> tried;
-  for (std::size_t i = 0; i < operation.parameters.size(); ++i) {
-    if (operation.parameters[i].type.type == Type::kText) tried.push_back(i);
-  }
+  std::vector<std::size_t> tried = TextParameters(operation);
   if (tried.size() > 1) tried.push_back(operation.parameters.size());
   return tried;
 }
@@ -167,7 +172,7 @@ std::string Shown(TextView pattern) {
 }
 
 bool TakesText(const OperationInfo& operation) {
-  return !operation.examples.empty() && !ParametersToTry(operation).empty();
+  return !operation.examples.empty() && !TextParameters(operation).empty();
 }
 
 }  // namespace

@@ -12,6 +12,8 @@
 namespace ZQ7Standard {
 namespace {
 
+using namespace std::chrono_literals;
+
 using Raise = std::function<void()>;
 
 // What services throw: the library's own error, a standard one, and no exception at all.
@@ -23,6 +25,7 @@ struct Thrower final : FileStatusSource, FileReader, FileCopier, MessageBox, Reg
   explicit Thrower(Raise thrown) : raise(std::move(thrown)) {}
 
   std::optional<FileStatus> StatusOf(TextView /*path*/) override { return raise(), std::nullopt; }
+  std::chrono::nanoseconds TimeStep(TextView /*path*/) override { return raise(), 1ns; }
   void ClearReadOnly(TextView /*path*/) override { raise(); }
   std::optional<std::string> ReadAll(TextView /*path*/) override { return raise(), ""; }
   std::size_t ReadStart(TextView /*path*/, std::span<char> /*buffer*/) override {
