@@ -2,7 +2,10 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <cairo.h>
 #include <cups/cups.h>
+#include <signal.h>
 #include <stdlib.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cmath>
@@ -11,6 +14,7 @@
 #include <fstream>
 
 #include "platform/linux/printer_names.h"
+#include "tests/support/denied_calls.h"
 #include "tests/support/ipp_server.h"
 #include "tests/support/rows.h"
 
@@ -116,6 +120,7 @@ TEST_F(Pages, HaveTheirPictures) {
 }
 
 TEST_F(Pages, AreFilesOfTheirOwn) {
+  umask(0022);
   printer.PrintOut();
   printer.PrintGraphicText(u"a");
   printer.PrintCancel();
@@ -125,6 +130,10 @@ TEST_F(Pages, AreFilesOfTheirOwn) {
     printer.PrintOut();
   }
   EXPECT_EQ(folder.Files(), 3);
+  EXPECT_EQ(OutputOf("stat -c %a " + folder.path.string() + "/*.pdf | sort -u"), "644\n");
+  printer.PrintGraphicText(u"a");
+  EXPECT_EQ(RunDenied({{SYS_fsync, 0}}, [&] { printer.PrintOut(); }), -SIGSYS);
+  EXPECT_EQ(folder.Files(), 3) << "a kill leaves nothing";
   PrintObject nowhere({.printers = SystemPrinters("/proc/none")});
   nowhere.PrintGraphicText(u"a");
   EXPECT_EQ(ErrorOf([&] { nowhere.PrintOut(); }), 482);
@@ -138,7 +147,7 @@ TEST_F(Pages, GoToTheDocumentsOfTheUser) {
   PrintObject object;
   object.PrintGraphicText(u"a");
   object.PrintOut();
-  EXPECT_EQ(std::distance(fs::directory_iterator(kHome.path / "เอกสาร"), {}), 1);
+  EXPECT_EQ(OutputOf("stat -c %a '" + kHome.path.string() + "'/เอกสาร/*"), "600\n");
 }
 
 TEST(PrinterNames, ArePapersOfCups) {
