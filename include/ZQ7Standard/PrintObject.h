@@ -7,8 +7,10 @@
 #include <ZQ7Standard/platform/printers.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 namespace ZQ7Standard {
 
@@ -29,11 +31,12 @@ struct PrintServices {
 ///     printer.PrintGraphicText(u"ใบกำกับภาษี", 105, 20, 1, 1);
 ///     printer.PrintOut();
 ///
-/// Made, the object remembers the device name and the settings of the current
-/// printer, its name alone where the settings cannot be read, or an empty name where
-/// none is installed. Operations that say so first make the remembered printer
-/// current: when the current one has another name, case aside, the last installed
-/// printer of that name; the current one stays where there is none.
+/// Made with a host's printers, the object asks for the current one and remembers its
+/// name. The machine's own, which belong to the object alone, are asked when they are
+/// first needed: making an object and the texts of papers ask no print server.
+/// Operations that say so first make the remembered printer current: when the current
+/// one has another name, case aside, the last installed printer of that name; the
+/// current one stays where there is none.
 ///
 /// What a printer fails to do raises 482 with what the print system said, unless an
 /// operation says otherwise; a `RunTimeError` of a host's own printer keeps its number.
@@ -128,21 +131,14 @@ class ZQ7STANDARD_EXPORT PrintObject {
   std::int16_t PrintCancel();
 
  private:
-  struct Setup {
-    Text device_name;
-    std::int16_t orientation = 0;
-    std::int16_t paper_size = 0;
-    std::int16_t paper_bin = 0;
-    std::int16_t print_quality = 0;
-  };
-
-  static Setup SetupOf(const Printer& printer);
+  void Attempt(const std::function<void()>& steps) const;
+  void Perform(std::string_view operation, const std::function<void()>& steps) const;
   Printer MakeRememberedCurrent();
   std::shared_ptr<PrintDocument> DocumentToPlaceIn();
 
   PrintServices services_;
-  Setup setup_;
-  PagePosition last_;  // where the last text or picture was placed
+  std::optional<Text> device_name_;  // nullopt is the current printer's
+  PagePosition last_;                // where the last text or picture was placed
 };
 
 }  // namespace ZQ7Standard

@@ -36,28 +36,29 @@ bool IsWindowsNt(const std::optional<Text>& os) {
 PrintObject::PrintObject() : PrintObject(PrintServices{}) {}
 
 PrintObject::PrintObject(PrintServices services) : services_(std::move(services)) {
-  if (!services_.printers) services_.printers = SystemPrinters();
-  // The texts of papers are there on a machine without a printer too, and a printer
-  // whose settings cannot be read is still the one to print on.
-  Try([this] {
-    const Printer printer = services_.printers->Current();
-    setup_.device_name = printer.device_name;
-    setup_ = SetupOf(printer);
-  });
+  if (!services_.printers) {
+    services_.printers = SystemPrinters();
+  } else {
+    // Another object with the same printers may make another one current.
+    Attempt([this] { device_name_ = services_.printers->Current().device_name; });
+  }
 }
 
-PrintObject::Setup PrintObject::SetupOf(const Printer& printer) {
-  PrinterSettings& settings = SettingsOf(printer);
-  return {printer.device_name, settings.Get(PrinterSetting::kOrientation),
-          settings.Get(PrinterSetting::kPaperSize), settings.Get(PrinterSetting::kPaperBin),
-          settings.Get(PrinterSetting::kPrintQuality)};
+/// Does `steps` as one operation, leaving out those after one that fails.
+void PrintObject::Attempt(const std::function<void()>& steps) const {
+  Try([&] { services_.printers->DoOperation(steps); });
+}
+
+/// Does `steps` as one operation, and reports its failure.
+void PrintObject::Perform(std::string_view operation, const std::function<void()>& steps) const {
+  Reported(operation, [&] { services_.printers->DoOperation(steps); });
 }
 
 Printer PrintObject::MakeRememberedCurrent() {
   Printer current = services_.printers->Current();
-  if (SameName(current.device_name, setup_.device_name)) return current;
+  if (!device_name_ || SameName(current.device_name, *device_name_)) return current;
   for (const Printer& printer : services_.printers->Installed()) {
-    if (SameName(printer.device_name, setup_.device_name)) services_.printers->MakeCurrent(printer);
+    if (SameName(printer.device_name, *device_name_)) services_.printers->MakeCurrent(printer);
   }
   return services_.printers->Current();
 }
@@ -67,16 +68,16 @@ std::int16_t PrintObject::SelectPrinter(TextView DeviceName, std::int16_t Orient
   return SelectPrinter2(DeviceName, Orientation, PaperSize, PaperBin, 0);
 }
 
-std::int16_t PrintObject::SelectPrinter2(TextView DeviceName, std::int16_t Orientation,
-                                         std::int16_t PaperSize, std::int16_t PaperBin,
-                                         std::int16_t PrintQuality) {
-  setup_ = {Text(DeviceName), Orientation, PaperSize, PaperBin, PrintQuality};
+std::int16_t PrintObject::SelectPrinter2(TextView DeviceName, std::int16_t /*Orientation*/,
+                                         std::int16_t /*PaperSize*/, std::int16_t /*PaperBin*/,
+                                         std::int16_t /*PrintQuality*/) {
+  device_name_ = Text(DeviceName);
   return 1;
 }
 
 std::int16_t PrintObject::CheckPaperSize(std::int16_t StartSize) {
   std::int16_t in_force = 0;
-  Try([&] {
+  Attempt([&] {
     const Printer printer = MakeRememberedCurrent();
     PrinterSettings& settings = SettingsOf(printer);
     in_force = settings.Get(PrinterSetting::kPaperSize);
@@ -89,7 +90,7 @@ std::int16_t PrintObject::CheckPaperSize(std::int16_t StartSize) {
 
 std::int16_t PrintObject::CheckPaperBin(std::int16_t StartBin) {
   std::int16_t in_force = 0;
-  Try([&] {
+  Attempt([&] {
     const Printer printer = MakeRememberedCurrent();
     PrinterSettings& settings = SettingsOf(printer);
     in_force = settings.Get(PrinterSetting::kPaperBin);

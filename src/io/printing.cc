@@ -79,7 +79,7 @@ void ChangeFont(PrintDocument& document, TextView name, double size, bool bold, 
 }  // namespace
 
 std::int16_t PrintObject::PrintStart() {
-  Reported("PrintStart", [this] {
+  Perform("PrintStart", [this] {
     const auto document = DocumentOf(services_.printers->Current());
     document->UseMillimetres();
     document->MoveTo({1, 1});
@@ -88,7 +88,7 @@ std::int16_t PrintObject::PrintStart() {
 }
 
 std::int16_t PrintObject::PrintSet(float Row, float Col, std::uint8_t /*FSize*/, TextView message) {
-  Try([&] {
+  Attempt([&] {
     const auto document = DocumentOf(services_.printers->Current());
     Try([&] { document->SetFont(ThaiFont()); });
     Try([&] { SwitchBoldOff(*document); });
@@ -110,7 +110,7 @@ std::int16_t PrintObject::PrintGraphicText(TextView sMsg, std::int32_t x, std::i
                                            std::int32_t MoveLine, std::int32_t Alignment,
                                            double MaxLenText, TextView FontName, double FontSize,
                                            bool FontBold, bool FontItalic) {
-  Reported(kText, [&] {
+  Perform(kText, [&] {
     const auto document = DocumentToPlaceIn();
     const TextView text = Shortened(sMsg, MaxLenText, *document);
     ChangeFont(*document, FontName, FontSize, FontBold, FontItalic);
@@ -128,7 +128,7 @@ std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>
                                              std::int32_t x, std::int32_t y, float W, float H,
                                              std::int32_t MoveLine) {
   if (!Src) throw RunTimeError::InvalidArgument(kObject, "no picture");
-  Reported(kObject, [&] {
+  Perform(kObject, [&] {
     const auto document = DocumentToPlaceIn();
     const PagePosition current = document->Position();
     const float down = MoveLine != 0 ? PlaceOf(kObject, y, current.y) : last_.y;
@@ -142,12 +142,12 @@ std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>
 }
 
 std::int16_t PrintObject::PrintOut() {
-  Reported("PrintOut", [this] { DocumentOf(services_.printers->Current())->End(); });
+  Perform("PrintOut", [this] { DocumentOf(services_.printers->Current())->End(); });
   return 0;
 }
 
 std::int16_t PrintObject::PrintCancel() {
-  Reported("PrintCancel", [this] { DocumentOf(services_.printers->Current())->Abort(); });
+  Perform("PrintCancel", [this] { DocumentOf(services_.printers->Current())->Abort(); });
   return 0;
 }
 

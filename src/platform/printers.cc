@@ -8,4 +8,8 @@ PrinterSettings::~PrinterSettings() = default;
 
 PrinterList::~PrinterList() = default;
 
+void PrinterList::DoOperation(const std::function<void()>& steps) {
+  steps();
+}
+
 }  // namespace ZQ7Standard

@@ -2,15 +2,27 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <cairo.h>
 #include <cups/cups.h>
+#include <poll.h>
+#include <pty.h>
+#include <signal.h>
 #include <stdlib.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <future>
+#include <memory>
+#include <vector>
 
 #include "platform/linux/printer_names.h"
+#include "tests/support/denied_calls.h"
 #include "tests/support/ipp_server.h"
 #include "tests/support/rows.h"
 
@@ -116,6 +128,7 @@ TEST_F(Pages, HaveTheirPictures) {
 }
 
 TEST_F(Pages, AreFilesOfTheirOwn) {
+  umask(0022);
   printer.PrintOut();
   printer.PrintGraphicText(u"a");
   printer.PrintCancel();
@@ -125,6 +138,10 @@ TEST_F(Pages, AreFilesOfTheirOwn) {
     printer.PrintOut();
   }
   EXPECT_EQ(folder.Files(), 3);
+  EXPECT_EQ(OutputOf("stat -c %a " + folder.path.string() + "/*.pdf | sort -u"), "644\n");
+  printer.PrintGraphicText(u"a");
+  EXPECT_EQ(RunDenied({{SYS_fsync, 0}}, [&] { printer.PrintOut(); }), -SIGSYS);
+  EXPECT_EQ(folder.Files(), 3) << "a kill leaves nothing";
   PrintObject nowhere({.printers = SystemPrinters("/proc/none")});
   nowhere.PrintGraphicText(u"a");
   EXPECT_EQ(ErrorOf([&] { nowhere.PrintOut(); }), 482);
@@ -133,12 +150,13 @@ TEST_F(Pages, AreFilesOfTheirOwn) {
 }
 
 TEST_F(Pages, GoToTheDocumentsOfTheUser) {
+  UseServer("127.0.0.1:1");  // where none listens
   fs::create_directories(kHome.path / ".config");
   std::ofstream(kHome.path / ".config/user-dirs.dirs") << "XDG_DOCUMENTS_DIR=\"$HOME/เอกสาร\"\n";
   PrintObject object;
   object.PrintGraphicText(u"a");
   object.PrintOut();
-  EXPECT_EQ(std::distance(fs::directory_iterator(kHome.path / "เอกสาร"), {}), 1);
+  EXPECT_EQ(OutputOf("stat -c %a '" + kHome.path.string() + "'/เอกสาร/*"), "600\n");
 }
 
 TEST(PrinterNames, ArePapersOfCups) {
@@ -206,6 +224,118 @@ TEST(OddServer, TellsWordsWhereNumbersBelong) {
   printer.PrintGraphicText(u"a");
   EXPECT_EQ(ErrorOf([&] { printer.PrintOut(); }), 0);
   EXPECT_EQ(server.JobAttributes(), "media ");
+}
+
+/// A picture of 16 MB, which no connection takes at once.
+struct LargePicture final : PrintPicture {
+  float Width() override { return 10; }
+  float Height() override { return 10; }
+  std::string_view Picture() override { return file; }
+
+  std::string file = std::string("\xFF\xD8\xFF\xC0\0\x0B\b\0\x64\0\xC8\1\1\x11\0\xFF\xD9", 17) +
+                     std::string(16'000'000, 'x');
+};
+
+struct Outcome {
+  int drawing;
+  int printing;
+  double seconds;  // of the longer one
+};
+
+/// What comes of a page for the server at `address`, which is given to this thread alone.
+Outcome PrintAt(const std::string& address, http_encryption_t encryption) {
+  using Clock = std::chrono::steady_clock;
+  cupsSetServer(address.c_str());
+  cupsSetEncryption(encryption);
+  PrintObject printer;
+  const auto start = Clock::now();
+  const int drawing =
+      ErrorOf([&] { printer.PrintGraphicObject(std::make_shared<LargePicture>()); });
+  const auto middle = Clock::now();
+  const int printing = ErrorOf([&] { printer.PrintOut(); });
+  const std::chrono::duration<double> longer = std::max(middle - start, Clock::now() - middle);
+  return {drawing, printing, longer.count()};
+}
+
+TEST(OddServer, FailsInTimeWhateverIsWrongWithIt) {
+  struct Row {
+    Fault fault;
+    const char* reason;
+    Outcome expected;
+    http_encryption_t encryption = HTTP_ENCRYPTION_NEVER;
+  };
+  const Row rows[] = {
+      {Fault::kNone, "sound", {0, 0, 0}},
+      {Fault::kIsOutOfReach, "prints to a file", {0, 0, 5}},
+      {Fault::kHangsUp, "hangs up", {482, 482, 0}},
+      {Fault::kIsSilent, "silent", {482, 482, 5}},
+      {Fault::kIsSilent, "encrypted", {482, 482, 5}, HTTP_ENCRYPTION_REQUIRED},
+      {Fault::kDribbles, "dribbles", {482, 482, 5}},
+      {Fault::kIsSlow, "three answers of 2 s", {482, 0, 5}},
+      {Fault::kWantsPassword, "401", {482, 482, 0}},
+      {Fault::kStallsInJob, "stalls in the job", {0, 482, 30}},
+      {Fault::kStallsAfterJob, "stalls after the job", {0, 482, 30}},
+      {Fault::kDiesInJob, "dies in the job", {0, 482, 0}},
+  };
+  std::vector<std::unique_ptr<IppServer>> servers;
+  std::vector<std::future<Outcome>> outcomes;
+  for (const Row& row : rows) {
+    servers.push_back(std::make_unique<IppServer>(row.fault));
+    outcomes.push_back(
+        std::async(std::launch::async, PrintAt, servers.back()->Address(), row.encryption));
+  }
+  for (std::size_t i = 0; i < outcomes.size(); ++i) {
+    const auto [drawing, printing, seconds] = outcomes[i].get();
+    const Row& row = rows[i];
+    EXPECT_EQ(drawing, row.expected.drawing) << row.reason;
+    EXPECT_EQ(printing, row.expected.printing) << row.reason;
+    EXPECT_GT(seconds, row.expected.seconds - 0.1) << row.reason;
+    EXPECT_LT(seconds, row.expected.seconds + 3) << row.reason;
+  }
+}
+
+TEST(OddServer, IsAskedAtTheFirstNeedOfAnObjectsOwnPrinters) {
+  const IppServer server;
+  UseServer(server.Address());
+  PrintObject printer;
+  EXPECT_EQ(printer.GETPaperSizeText(9), u"A4, 210 x 297 mm");
+  EXPECT_EQ(server.Connections(), 0);
+  EXPECT_EQ(printer.CheckPaperSize(), 11);
+  const int asked = server.Connections();
+  const PrintObject other({.printers = SystemPrinters()});
+  EXPECT_GT(server.Connections(), asked);
+}
+
+/// What a process says on a terminal of its own, up to the text `last`.
+std::string Said(const std::function<void()>& process, const std::string& last) {
+  fflush(nullptr);
+  int terminal = 0;
+  const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+  if (child == 0) {
+    process();
+    _exit(0);
+  }
+  std::string said;
+  pollfd output{terminal, POLLIN, 0};
+  for (char c = 0; said.find(last) == std::string::npos;) {
+    if (poll(&output, 1, 5'000) != 1 || read(terminal, &c, 1) != 1) break;
+    said += c;
+  }
+  kill(child, SIGKILL);
+  waitpid(child, nullptr, 0);
+  close(terminal);
+  return said;
+}
+
+TEST(OddServer, HasNobodyAskedForAPassword) {
+  const IppServer server(Fault::kWantsPassword);
+  const auto print_then_ask = [&] {
+    UseServer(server.Address());
+    PrintObject printer;
+    dprintf(STDOUT_FILENO, "%d, ", ErrorOf([&] { printer.PrintStart(); }));
+    cupsGetPassword("by CUPS itself");
+  };
+  EXPECT_EQ(Said(print_then_ask, "self"), "482, by CUPS itself");
 }
 
 TEST_F(Server, MayDieInADocument) {

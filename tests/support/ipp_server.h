@@ -3,32 +3,58 @@
 
 #include <cups/cups.h>
 
+#include <atomic>
+#include <cstdint>
 #include <string>
 #include <thread>
+#include <vector>
+
+#include "platform/linux/descriptor.h"
 
 namespace ZQ7Standard {
 
-/// A print server of one printer, "Odd", on a port of the loopback of its own.
+/// What is wrong with a print server.
+enum class Fault : std::uint8_t {
+  kNone,
+  kIsOutOfReach,    ///< no connection to it comes about
+  kHangsUp,         ///< on whoever calls
+  kIsSilent,        ///< accepts and never answers
+  kDribbles,        ///< a byte of an answer each 0.2 s
+  kIsSlow,          ///< 2 s for each answer
+  kWantsPassword,   ///< answers 401
+  kStallsInJob,     ///< reads its start and no more
+  kStallsAfterJob,  ///< reads it and does not answer
+  kDiesInJob,
+};
+
+/// A print server of one printer, "Odd", on a port of the loopback of its own, which
+/// serves one connection at a time.
 class IppServer {
  public:
-  IppServer();
+  explicit IppServer(Fault fault = Fault::kNone);
   IppServer(const IppServer&) = delete;
   IppServer& operator=(const IppServer&) = delete;
   ~IppServer();
 
   std::string Address() const;
+  int Connections() const { return connections_; }
   /// The names of the attributes that jobs asked for, each with a blank behind.
   std::string JobAttributes() const { return job_attributes_; }
 
  private:
+  void FillQueue();
   void Run();
   void Serve(http_t* client);
-  void Answer(http_t* client, ipp_t* request);
+  bool Answer(http_t* client, ipp_t* request);
+  bool Wait(int milliseconds) const;
 
+  Fault fault_;
   int listener_;
   int stop_[2];
+  std::atomic<int> connections_ = 0;
   std::string job_attributes_;
-  std::thread thread_;  // the last, which uses all of them
+  std::vector<Descriptor> waiting_;  // connections that nobody accepts
+  std::thread thread_;               // the last, which uses all of them
 };
 
 }  // namespace ZQ7Standard

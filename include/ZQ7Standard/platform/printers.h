@@ -7,6 +7,7 @@
 #include <ZQ7Standard/platform/printer_settings.h>
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <vector>
@@ -43,6 +44,11 @@ class ZQ7STANDARD_EXPORT PrinterList {
   virtual Printer Current() = 0;
 
   virtual void MakeCurrent(const Printer& printer) = 0;
+
+  /// Does `steps`, in which `PrintObject` makes all calls of one operation on the list
+  /// and its printers, and passes on what they throw. A list that asks a server can so
+  /// limit the time that they take together; otherwise there is nothing to override.
+  virtual void DoOperation(const std::function<void()>& steps);
 };
 
 /// The printers of the machine: those of the CUPS server that the environment names,
@@ -51,7 +57,11 @@ class ZQ7STANDARD_EXPORT PrinterList {
 /// `pdf_folder`, else to the documents folder of the user. docs/printing.md
 ///
 /// The list belongs to one thread at a time, and keeps its own current printer. A
-/// document that is open when the list goes is thrown away.
+/// document that is open when the list goes is thrown away. The server is asked 5
+/// seconds at most for all that an operation wants to know, and has 30 seconds to take a
+/// job. Nobody is asked for a password: a server that wants one has failed. Afterwards
+/// the password callback of CUPS is its own for the thread; a host that has another one
+/// sets it again.
 ///
 /// A library built without ZQ7STANDARD_WITH_PRINTING has no printer installed.
 ZQ7STANDARD_EXPORT std::shared_ptr<PrinterList> SystemPrinters(

@@ -7,39 +7,14 @@
 #include <cstddef>
 #include <utility>
 
+#include "platform/linux/cups_server.h"
 #include "platform/linux/handle.h"
 #include "platform/linux/named_settings.h"
 
 namespace ZQ7Standard {
 namespace {
 
-constexpr int kConnectMilliseconds = 5'000;
-constexpr double kAnswerSeconds = 30;
-
-using Connection = Handle<http_t, httpClose>;
 using Message = Handle<ipp_t, ippDelete>;
-
-[[noreturn]] void FailAsCups() {
-  throw PrinterFailure(cupsLastErrorString());
-}
-
-/// A connection that gives up on a server which does not answer; null where there is
-/// no server.
-Connection Connect() {
-  Connection server(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                 kConnectMilliseconds, nullptr));
-  if (server) {
-    httpSetTimeout(
-        server.get(), kAnswerSeconds, [](http_t*, void*) { return 0; }, nullptr);
-  }
-  return server;
-}
-
-Connection ConnectOrFail() {
-  Connection server = Connect();
-  if (!server) FailAsCups();
-  return server;
-}
 
 /// The address of a printer on its server, with what is not for addresses encoded.
 std::string UriOf(const std::string& printer) {
@@ -64,12 +39,16 @@ Message RequestFor(ipp_op_t operation, const std::string& printer) {
 }
 
 /// The answer of `server`; it may be a refusal.
-Message Ask(http_t* server, Message request, const std::string& path) {
-  return Message(cupsDoRequest(server, request.release(), path.c_str()));
+Message Ask(const CupsServer& server, Message request, const std::string& path) {
+  return Message(cupsDoRequest(server.Http(), request.release(), path.c_str()));
 }
 
-void CheckAnswer(const Message& answer) {
-  if (!answer || ippGetStatusCode(answer.get()) >= IPP_STATUS_REDIRECTION_OTHER_SITE) FailAsCups();
+bool IsRefusal(ipp_status_t status) {
+  return status >= IPP_STATUS_REDIRECTION_OTHER_SITE;
+}
+
+void CheckAnswer(const CupsServer& server, const Message& answer) {
+  if (!answer || IsRefusal(ippGetStatusCode(answer.get()))) server.Fail();
 }
 
 /// The first text of an attribute; empty when there is none.
@@ -135,15 +114,16 @@ class CupsQueue final : public NamedSettings {
     ippAddString(job.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                  CUPS_FORMAT_PDF);
     AddSettings(job.get(), Values());
-    const Connection server = ConnectOrFail();
+    const CupsServer server(Purpose::kJob);
+    if (server.Http() == nullptr) server.Fail();
     const std::string path = PathOf(UriOf(name_));
     const std::size_t size = ippLength(job.get()) + pdf.size();
-    http_status_t status = cupsSendRequest(server.get(), job.get(), path.c_str(), size);
+    http_status_t status = cupsSendRequest(server.Http(), job.get(), path.c_str(), size);
     if (status == HTTP_STATUS_CONTINUE) {
-      status = cupsWriteRequestData(server.get(), pdf.data(), pdf.size());
+      status = cupsWriteRequestData(server.Http(), pdf.data(), pdf.size());
     }
-    if (status != HTTP_STATUS_CONTINUE) FailAsCups();
-    CheckAnswer(Message(cupsGetResponse(server.get(), path.c_str())));
+    if (status != HTTP_STATUS_CONTINUE) server.Fail(status);
+    CheckAnswer(server, Message(cupsGetResponse(server.Http(), path.c_str())));
   }
 
  private:
@@ -168,10 +148,11 @@ class CupsQueue final : public NamedSettings {
   /// What the server knows of the printer, as it was when it was first asked.
   ipp_t* Attributes() {
     if (attributes_) return attributes_.get();
-    const Connection server = ConnectOrFail();
+    const CupsServer server(Purpose::kQuestion);
+    if (server.Http() == nullptr) server.Fail();
     Message answer =
-        Ask(server.get(), RequestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, name_), PathOf(UriOf(name_)));
-    CheckAnswer(answer);
+        Ask(server, RequestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, name_), PathOf(UriOf(name_)));
+    CheckAnswer(server, answer);
     attributes_ = std::move(answer);
     return attributes_.get();
   }
@@ -183,14 +164,14 @@ class CupsQueue final : public NamedSettings {
 }  // namespace
 
 std::vector<std::string> CupsPrinterNames() {
-  const Connection server = Connect();
-  if (!server) return {};
+  const CupsServer server(Purpose::kQuestion);
+  if (server.Http() == nullptr) return {};
   Message request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                "printer-name");
-  const Message answer = Ask(server.get(), std::move(request), "/");
+  const Message answer = Ask(server, std::move(request), "/");
   if (answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND) return {};
-  CheckAnswer(answer);
+  CheckAnswer(server, answer);
   std::vector<std::string> names;
   for (ipp_attribute_t* name = ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME);
        name != nullptr; name = ippFindNextAttribute(answer.get(), "printer-name", IPP_TAG_NAME)) {
@@ -200,9 +181,12 @@ std::vector<std::string> CupsPrinterNames() {
 }
 
 std::string CupsDefaultName() {
-  const Connection server = Connect();
-  const char* const name = server ? cupsGetDefault2(server.get()) : nullptr;
-  return name == nullptr ? "" : name;
+  const CupsServer server(Purpose::kQuestion);
+  if (server.Http() == nullptr) server.Fail();
+  const char* const name = cupsGetDefault2(server.Http());
+  if (name != nullptr) return name;
+  if (IsRefusal(cupsLastError()) && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) server.Fail();
+  return "";
 }
 
 Printer CupsPrinter(const std::string& name) {

@@ -3,76 +3,111 @@
 #include <errno.h>
 #include <fcntl.h>
 #include <stdio.h>
-#include <unistd.h>
 
 #include <atomic>
 #include <cstddef>
+#include <optional>
 #include <system_error>
 
 namespace ZQ7Standard {
 namespace {
 
-[[noreturn]] void Fail(const std::filesystem::path& path) {
-  throw std::system_error(errno, std::generic_category(), path.string());
+[[noreturn]] void Fail() {
+  throw std::system_error(errno, std::generic_category());
 }
 
-/// A file under a name that nobody looks for, gone with the object.
-class TemporaryFile {
- public:
-  explicit TemporaryFile(const std::filesystem::path& folder) {
-    static std::atomic<unsigned> count = 0;
-    do {
-      const std::string name = std::to_string(getpid()) + "-" + std::to_string(++count);
-      path_ = (folder / (".zq7-" + name)).string();
-      file_ = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    } while (file_ < 0 && errno == EEXIST);
-    if (file_ < 0) Fail(path_);
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile() {
-    close(file_);
-    unlink(path_.c_str());
-  }
+/// A new file without any name; none where the file system has no such files.
+Descriptor OpenUnnamed(int folder, unsigned mode) {
+  return Descriptor(openat(folder, ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
+}
 
-  /// Puts `bytes` on the disk.
-  void Write(std::string_view bytes) const {
-    while (!bytes.empty()) {
-      const ssize_t written = write(file_, bytes.data(), bytes.size());
-      if (written < 0 && errno != EINTR) Fail(path_);
-      if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    if (fsync(file_) != 0) Fail(path_);
-  }
+/// A new file of that name; none where the name is taken.
+Descriptor OpenNew(int folder, const std::string& name, unsigned mode) {
+  Descriptor file(openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+  if (!file && errno != EEXIST) Fail();
+  return file;
+}
 
-  /// Gives the file the name `path`; false when there is one of that name.
-  bool MoveTo(const std::filesystem::path& path) const {
-    if (link(path_.c_str(), path.c_str()) == 0) return true;
-    if (errno == EEXIST) return false;
-    // A file system without links.
-    if (renameat2(AT_FDCWD, path_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0) {
-      return true;
-    }
-    if (errno != EEXIST) Fail(path);
-    return false;
+/// Puts `bytes` on the disk.
+void WriteAndSync(const Descriptor& file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = write(file.Number(), bytes.data(), bytes.size());
+    if (written < 0 && errno != EINTR) Fail();
+    if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
   }
+  if (fsync(file.Number()) != 0) Fail();
+}
 
- private:
-  std::string path_;
-  int file_ = -1;
-};
+/// What came of a system call that was to make a name: whether the name was free, or
+/// nullopt when the call does not work here.
+std::optional<bool> WasFree(int result) {
+  if (result == 0) return true;
+  return errno == EEXIST ? std::optional(false) : std::nullopt;
+}
+
+/// Gives a file its first name.
+std::optional<bool> Link(const Descriptor& file, int folder, const std::string& name) {
+  const std::string path = "/proc/self/fd/" + std::to_string(file.Number());
+  return WasFree(linkat(AT_FDCWD, path.c_str(), folder, name.c_str(), AT_SYMLINK_FOLLOW));
+}
+
+/// Gives the file `hidden` another name, by moving it where there are no links.
+std::optional<bool> Rename(int folder, const std::string& hidden, const std::string& name) {
+  const auto linked = WasFree(linkat(folder, hidden.c_str(), folder, name.c_str(), 0));
+  if (linked) return linked;
+  return WasFree(renameat2(folder, hidden.c_str(), folder, name.c_str(), RENAME_NOREPLACE));
+}
 
 }  // namespace
 
-void WriteNewFile(const std::filesystem::path& folder, const std::string& stem,
-                  const std::string& extension, std::string_view bytes) {
-  const TemporaryFile file(folder);
-  file.Write(bytes);
-  std::string name = stem + extension;
-  for (int number = 2; !file.MoveTo(folder / name); ++number) {
-    name = stem;
-    name.append(" (").append(std::to_string(number)).append(")").append(extension);
+NewFile::NewFile(Descriptor file, int folder, std::string_view bytes, unsigned mode)
+    : file_(std::move(file)), folder_(folder), bytes_(bytes), mode_(mode) {}
+
+NewFile::NewFile(int folder, std::string_view bytes, unsigned mode)
+    : NewFile(OpenUnnamed(folder, mode), folder, bytes, mode) {
+  if (file_) {
+    WriteAndSync(file_, bytes_);
+  } else {
+    WriteHidden();
   }
+}
+
+NewFile::~NewFile() {
+  if (!hidden_name_.empty()) unlinkat(folder_, hidden_name_.c_str(), 0);
+}
+
+bool NewFile::TakeName(const std::string& name) {
+  if (hidden_name_.empty()) {
+    if (const auto linked = Link(file_, folder_, name)) return *linked;
+    WriteHidden();  // without /proc a file that has no name gets none
+  }
+  const auto renamed = Rename(folder_, hidden_name_, name);
+  return renamed ? *renamed : WriteInPlace(name);
+}
+
+void NewFile::WriteHidden() {
+  static std::atomic<unsigned> count = 0;
+  std::string name;
+  do {
+    name = ".zq7-" + std::to_string(getpid()) + "-" + std::to_string(++count);
+    file_ = OpenNew(folder_, name, mode_);
+  } while (!file_);
+  hidden_name_ = name;
+  WriteAndSync(file_, bytes_);
+}
+
+/// Writes the file under its name, where it has neither links nor moves that replace
+/// nothing. A kill may leave it cut short.
+bool NewFile::WriteInPlace(const std::string& name) const {
+  const Descriptor file = OpenNew(folder_, name, mode_);
+  if (!file) return false;
+  try {
+    WriteAndSync(file, bytes_);
+  } catch (const std::system_error&) {
+    unlinkat(folder_, name.c_str(), 0);
+    throw;
+  }
+  return true;
 }
 
 }  // namespace ZQ7Standard

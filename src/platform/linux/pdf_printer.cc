@@ -1,6 +1,8 @@
 #include "platform/linux/pdf_printer.h"
 
 #include <ZQ7Standard/platform/clock.h>
+#include <errno.h>
+#include <fcntl.h>
 #include <glib.h>
 #include <sys/auxv.h>
 
@@ -26,6 +28,10 @@ std::filesystem::path DocumentsFolder() {
   return std::filesystem::path(g_get_home_dir()) / "Documents";
 }
 
+// Who may read a document: the user alone, or whom the umask lets.
+constexpr unsigned kPrivate = 0600;
+constexpr unsigned kShared = 0666;
+
 /// "Document 20240115-093000"
 std::string StemAt(OleDate now) {
   std::array<char, 80> stem{};
@@ -34,17 +40,31 @@ std::string StemAt(OleDate now) {
   return stem.data();
 }
 
+/// Writes `bytes` to a file "`stem`.pdf" in `folder`, " (2)" and so on after the stem
+/// where there is one.
+void WriteDocument(const std::filesystem::path& folder, const std::string& stem,
+                   std::string_view bytes, unsigned mode) {
+  const Descriptor opened(open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  if (!opened) throw std::system_error(errno, std::generic_category());
+  NewFile file(opened.Number(), bytes, mode);
+  std::string name = stem + ".pdf";
+  for (int number = 2; !file.TakeName(name); ++number) {
+    name = stem + " (" + std::to_string(number) + ").pdf";
+  }
+}
+
 class PdfFiles final : public NamedSettings {
  public:
   explicit PdfFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
   void Print(std::string_view pdf) override {
-    const auto folder = folder_.empty() ? DocumentsFolder() : folder_;
+    const bool is_own = folder_.empty();
+    const auto folder = is_own ? DocumentsFolder() : folder_;
     try {
       std::filesystem::create_directories(folder);
-      WriteNewFile(folder, StemAt(SystemClock()->Now()), ".pdf", pdf);
+      WriteDocument(folder, StemAt(SystemClock()->Now()), pdf, is_own ? kPrivate : kShared);
     } catch (const std::system_error& error) {
-      throw PrinterFailure(error.what());
+      throw PrinterFailure(folder.string() + ": " + error.code().message());
     }
   }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/linux/cups_printers.h"
+#include "platform/linux/cups_server.h"
 #include "platform/linux/pdf_printer.h"
 
 namespace ZQ7Standard {
@@ -31,6 +32,11 @@ class LinuxPrinters final : public PrinterList {
 
   void MakeCurrent(const Printer& printer) override { current_ = printer; }
 
+  void DoOperation(const std::function<void()>& steps) override {
+    const QuestionTime together;
+    steps();
+  }
+
  private:
   /// The same printer each time, so that its settings and its document stay.
   const Printer& Queue(const std::string& name) {
@@ -41,6 +47,7 @@ class LinuxPrinters final : public PrinterList {
 
   Printer Default() {
     const std::vector<Printer> printers = Installed();
+    if (printers.front().document == pdf_.document) return pdf_;
     const auto named =
         std::ranges::find(printers, FromUtf8(CupsDefaultName()), &Printer::device_name);
     return named == printers.end() ? printers.front() : *named;
