@@ -40,9 +40,11 @@ struct ASCIIServices {
 /// A rewrite keeps the file's owner and rights but clears its read-only state. After a
 /// failure the temporary file may stay; the next rewrite throws it away.
 ///
-/// Files are not locked: of two processes that write to one file at a time, one can
-/// undo the other's change. An instance belongs to one thread at a time; distinct
-/// instances are independent.
+/// Objects that rewrite one file at a time, in any number of threads and processes, wait
+/// for each other, for ten seconds at most; then the operation fails as any other does.
+/// Where the file system has no locks they do not wait, and one can undo the other's
+/// change. Nobody waits to read or to append. An instance belongs to one thread at a time;
+/// distinct instances are independent.
 class ZQ7STANDARD_EXPORT ASCIIObject {
  public:
   /// With the services of the machine.
@@ -130,7 +132,8 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   void Warn(TextView problem) const;
   void Attempt(const std::function<TextView()>& find_problem) const;
   TextView FolderProblem(TextView path, TextView read_only_problem) const;
-  TextView Create(TextView path, std::string_view bytes, TextView read_only_problem) const;
+  TextView RewriteOrCreate(TextView path, const FileChange& change, std::string_view bytes,
+                           TextView read_only_problem) const;
 
   ASCIIServices services_;
   std::int16_t disable_msg_level_ = 0;

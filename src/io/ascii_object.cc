@@ -48,12 +48,17 @@ TextView ASCIIObject::FolderProblem(TextView path, TextView read_only_problem) c
   return folder->read_only ? read_only_problem : TextView();
 }
 
-/// Makes a new file, unless its folder has a problem, which it gives.
-TextView ASCIIObject::Create(TextView path, std::string_view bytes,
-                             TextView read_only_problem) const {
-  const TextView problem = FolderProblem(path, read_only_problem);
-  if (problem.empty()) services_.file_writer->Create(path, bytes);
-  return problem;
+/// Rewrites a file, or makes it of `bytes` where it is not there, unless its folder has a
+/// problem, which it gives.
+TextView ASCIIObject::RewriteOrCreate(TextView path, const FileChange& change,
+                                      std::string_view bytes, TextView read_only_problem) const {
+  while (!services_.file_rewriter->Rewrite(path, change)) {
+    const TextView problem = FolderProblem(path, read_only_problem);
+    if (!problem.empty()) return problem;
+    if (services_.file_writer->Create(path, bytes)) break;
+    // Another process has made it in between.
+  }
+  return {};
 }
 
 }  // namespace ZQ7Standard

@@ -2,7 +2,6 @@
 
 #include "io/failures.h"
 #include "io/key_value_text.h"
-#include "io/rewrite.h"
 #include "text/code_page.h"
 
 namespace ZQ7Standard {
@@ -18,19 +17,16 @@ Text ASCIIObject::GetValue(TextView iTextFile, TextView IKey) const {
 }
 
 void ASCIIObject::Setvalue(TextView iTextFile, TextView IKey, TextView iValue) const {
-  Attempt([&]() -> TextView {
-    const auto contents = services_.file_reader->ReadAll(iTextFile);
-    if (!contents) {
-      return Create(iTextFile, SettingLine(IKey, iValue), u"Specified folder can not write.");
-    }
-    RewriteFile(*services_.file_rewriter, iTextFile, WithValue(*contents, IKey, iValue));
-    return {};
+  Attempt([&] {
+    const auto set = [&](const auto& old) { return WithValue(old(), IKey, iValue); };
+    return RewriteOrCreate(iTextFile, set, SettingLine(IKey, iValue),
+                           u"Specified folder can not write.");
   });
 }
 
 void ASCIIObject::DeleteValue(TextView iTextFile, TextView IKey) const {
-  const auto contents = services_.file_reader->ReadAll(iTextFile);
-  if (contents) RewriteFile(*services_.file_rewriter, iTextFile, WithoutKey(*contents, IKey));
+  services_.file_rewriter->Rewrite(iTextFile,
+                                   [&](const auto& old) { return WithoutKey(old(), IKey); });
 }
 
 }  // namespace ZQ7Standard

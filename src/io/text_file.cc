@@ -7,7 +7,6 @@
 
 #include "io/lines.h"
 #include "io/path_parts.h"
-#include "io/rewrite.h"
 #include "text/case_mapping.h"
 #include "text/code_page.h"
 #include "text/unicode.h"
@@ -62,16 +61,14 @@ void ASCIIObject::SaveStringToTextFile2(TextView iTextFile, TextView iValue,
   Attempt([&]() -> TextView {
     const std::string bytes = ToCodePage(iValue);
     const auto file = services_.file_status->StatusOf(iTextFile);
-    if (!file || file->is_folder) {
-      const bool desktop = IsDesktop(FolderPart(iTextFile));
-      return Create(iTextFile, bytes, desktop ? u"" : u"Specified folder can not write.");
-    }
-    if (UseAppendMode) {
+    if (UseAppendMode && file && !file->is_folder) {
       services_.file_writer->Append(iTextFile, bytes);
-    } else {
-      RewriteFile(*services_.file_rewriter, iTextFile, bytes);
+      return {};
     }
-    return {};
+    const bool desktop = IsDesktop(FolderPart(iTextFile));
+    return RewriteOrCreate(
+        iTextFile, [&](const auto&) { return bytes; }, bytes,
+        desktop ? u"" : u"Specified folder can not write.");
   });
 }
 

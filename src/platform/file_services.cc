@@ -16,8 +16,6 @@ FileReader::~FileReader() = default;
 
 FileWriter::~FileWriter() = default;
 
-FileRewrite::~FileRewrite() = default;
-
 FileRewriter::~FileRewriter() = default;
 
 }  // namespace ZQ7Standard

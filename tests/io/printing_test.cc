@@ -215,7 +215,9 @@ TEST(PictureSize, IsReadFromTheHeader) {
        {{"\xFF\xD8\xFF\xC0\0\0\0\0"s}, "none", "cut short"},
        {{"GIF89a"s}, "none"}});
   const auto made = [](TextView path) { return PictureFromFile(path)->Width(); };
-  ExpectTexts(made, {{"error 53", {u"C:\\x.png", u"C:"}}, {"error 5", {u"C:\\dev\\null"}}});
+  ExpectTexts(made, {{"error 53", {u"C:\\x.png", u"C:"}},
+                     {"error 5", {u"C:\\etc\\passwd"}},
+                     {"error 75", {u"C:\\dev\\null"}}});
 }
 
 }  // namespace

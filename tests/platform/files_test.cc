@@ -1,10 +1,15 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/file_contents.h>
 #include <ZQ7Standard/platform/file_status.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <stdlib.h>
 
 #include "platform/linux/native_path.h"
+#include "platform/linux/open_file.h"
 #include "platform/linux/time_step.h"
 #include "tests/support/ascii_files.h"
+#include "tests/support/children.h"
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
 
@@ -37,6 +42,67 @@ TEST(FileErrors, TellWhatIsMissingOrInTheWay) {
       {u"\\set.ini\\a", "error 76", "a file as folder"}});
   ExpectRows<TextView>([&](TextView name) { status->ClearReadOnly(folder + Text(name)); return 0; }, {
       {u"\\none", "error 53"}, {u"\\none\\a", "error 76"}, {u"\\set.ini", "0"}});
+}
+
+TEST(FileContents, AreThoseOfRegularFilesThatAreNotReadOnly) {
+  const auto reader = SystemFileReader();
+  const auto writer = SystemFileWriter();
+  ExpectRows<std::string>([&](const std::string& commands) {
+    const TempFolder folder;
+    folder.Run(commands);
+    const Text path = folder.Path("f");
+    std::string start(2, '-');
+    std::string results = "read " + ResultOf([&] { return reader->ReadAll(path); });
+    results += ", start " + ResultOf([&] { return reader->ReadStart(path, start); });
+    results += ", append " + ResultOf([&] { return writer->Append(path, "z"), 0; });
+    results += ", create " + ResultOf([&] { return writer->Create(path, "new"); });
+    return results + ", " + folder.Run("[ -f f ] && cat f; true");
+  }, {
+      {{"printf xyz >f"}, "read xyz, start 2, append 0, create no, xyzz"},
+      {{""}, "read none, start 0, append 0, create no, z"},
+      {{"printf xyz >f; chmod 444 f"}, "read xyz, start error 70, append error 70, create no, xyz"},
+      {{"printf xyz >f; chmod 066 f"}, "read xyz, start error 70, append error 70, create no, xyz"},
+      {{"mkfifo f"}, "read error 75, start error 75, append error 75, create no, "},
+      {{"mkfifo f; sleep 1 <>f >/dev/null &"}, "read error 75, start error 75, append error 75, create no, "},
+      {{"ln -s /dev/zero f"}, "read error 75, start error 75, append 0, create no, "},
+      {{"mkdir f"}, "read none, start error 75, append error 75, create error 75, "},
+      {{"ln -s f f"}, "read none, start error 75, append error 75, create error 53, "},
+      {{"ln -s none/f f"}, "read none, start error 53, append error 53, create error 53, "}});
+  ExpectRows<std::string>([&](const std::string& commands) {
+    const TempFolder folder;
+    folder.Run(commands);
+    const std::string created = ResultOf([&] { return writer->Create(folder.Path("f"), "new"); });
+    return created + ", " + folder.Run("cat f; ls -A | wc -l");
+  }, {
+      {{""}, "yes, new1\n"}, {{"mkdir d; ln -s d/g f"}, "yes, new2\n", "the file that a link names"},
+      {{"printf old >f"}, "no, old1\n"}, {{"printf old >g; ln -s g f"}, "no, old2\n"}});
+  EXPECT_EQ(ErrorOf([&] { writer->Create(u"C:\\tmp\\none\\a", "x"); }), 76);
+}
+
+TEST(FileContents, GoToATerminalAsFastAsItTakesThem) {
+  const OpenFile screen(u"", "/dev/ptmx", O_RDWR);
+  ASSERT_EQ(grantpt(screen.Descriptor()) + unlockpt(screen.Descriptor()), 0);
+  const std::string name = ptsname(screen.Descriptor());
+  const OpenFile kept(u"", name, O_RDWR);
+  const pid_t writer = Begin([&] {
+    return ErrorOf([&] { SystemFileWriter()->Append(PathText(name), std::string(100'000, 'x')); });
+  });
+  usleep(50'000);
+  std::string buffer(100'000, ' ');
+  for (std::size_t shown = 0; shown < buffer.size();) shown += screen.Read(buffer);
+  EXPECT_EQ(End(writer), 0);
+}
+
+TEST(FileContents, WaitForALeaseToBeGivenBack) {
+  AsciiFiles files;
+  files.Write("x");
+  const pid_t holder = Begin([&] {
+    const OpenFile file(files.Path(), files.File(), O_RDWR);
+    return fcntl(file.Descriptor(), F_SETLEASE, F_WRLCK) == 0 ? pause() : 0;
+  });
+  usleep(50'000);
+  EXPECT_EQ(SystemFileReader()->ReadAll(files.Path()), "x");
+  EXPECT_EQ(End(holder), -SIGIO) << "when it was asked to";
 }
 
 TEST(FileStatus, TellsFoldersRightsAndTimes) {

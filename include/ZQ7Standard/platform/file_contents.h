@@ -15,31 +15,37 @@
 namespace ZQ7Standard {
 
 // Both services take path texts and raise 53 (no such file), 57 (the device failed),
-// 61 (disk full), 70 (no right), 75 (not usable as a file, such as a folder) or 76 (no
-// such folder).
+// 61 (disk full), 70 (no right), 75 (not usable as a file, such as a folder, a pipe or a
+// device, which nobody waits for) or 76 (no such folder).
 
 /// Reads files.
 class ZQ7STANDARD_EXPORT FileReader {
  public:
   virtual ~FileReader();
 
-  /// The bytes of a file; nothing when there is no such file, or `path` is a folder.
+  /// Returns the bytes of a file; nothing when there is no such file, or `path` is a
+  /// folder.
   virtual std::optional<std::string> ReadAll(TextView path) = 0;
 
-  /// Reads the first bytes of a file with a single read, and gives their number. The
-  /// file is opened for reading and writing; one that is not there is made, empty.
+  /// Reads the first bytes of a file with a single read, and returns their number. The
+  /// file is opened for reading and writing: one that is not there is made, empty, and
+  /// one that is read-only raises 70, whoever asks.
   virtual std::size_t ReadStart(TextView path, std::span<char> buffer) = 0;
 };
 
-/// Writes files in place.
+/// Writes new files, and at the end of files.
 class ZQ7STANDARD_EXPORT FileWriter {
  public:
   virtual ~FileWriter();
 
-  /// Makes a file of `bytes`; what was there before is gone.
-  virtual void Create(TextView path, std::string_view bytes) = 0;
+  /// Makes a new file of `bytes`, which is there whole or not at all and on the disk
+  /// afterwards. Returns false, and changes nothing, when there is a file already. A link
+  /// to a file that is not there stays, and its file is made.
+  virtual bool Create(TextView path, std::string_view bytes) = 0;
 
-  /// Adds `bytes` at the end of a file, which is made when it is not there.
+  /// Adds `bytes` at the end of a file, which is made when it is not there. Also writes
+  /// to a character device, such as a terminal. A file that is read-only raises 70,
+  /// whoever asks.
   virtual void Append(TextView path, std::string_view bytes) = 0;
 };
 

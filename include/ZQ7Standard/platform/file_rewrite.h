@@ -5,42 +5,37 @@
 #include <ZQ7Standard/Types.h>
 #include <ZQ7Standard/platform/path_text.h>
 
+#include <functional>
 #include <memory>
-#include <string_view>
+#include <string>
 
 namespace ZQ7Standard {
 
-/// One rewrite of a file, by way of a temporary file beside it. Its steps are taken in
-/// the order below, each once. Until `Replace` the target keeps its old content, and
-/// from then on it has the new one, whatever becomes of the process. A step that fails
-/// raises 57, 61, 70, 75 or 76; a rewrite that stops half-way leaves the temporary
-/// file.
-class ZQ7STANDARD_EXPORT FileRewrite {
- public:
-  virtual ~FileRewrite();
-
-  /// Writes the new content to the temporary file.
-  virtual void Write(std::string_view bytes) = 0;
-  /// Waits until that content is on the disk.
-  virtual void Sync() = 0;
-  /// Closes the temporary file.
-  virtual void Close() = 0;
-  /// Gives the temporary file the target's name.
-  virtual void Replace() = 0;
-  /// Waits until the folder with that name is on the disk.
-  virtual void SyncFolder() = 0;
-};
+/// Returns what a file is to hold. `old_bytes` returns what it holds; a file that is not
+/// asked for them need not be readable.
+using FileChange = std::function<std::string(const std::function<std::string()>& old_bytes)>;
 
 /// Rewrites files. Paths are path texts.
 class ZQ7STANDARD_EXPORT FileRewriter {
  public:
   virtual ~FileRewriter();
 
-  /// Makes the temporary file for a file that is there: the target's full path with
-  /// "$$$$" behind it. One that another process left behind is thrown away. It has the
-  /// target's rights, and the owner's to write with them. Where `path` is a symbolic
-  /// link, the target is the file that it names.
-  virtual std::unique_ptr<FileRewrite> Begin(TextView path) = 0;
+  /// Replaces the content of a file by what `change` returns; false when there is no such
+  /// file, or `path` is a folder. Where `path` is a symbolic link, the file that it names
+  /// is rewritten.
+  ///
+  /// The disk holds the old file or the new one whole at any moment, also after a
+  /// failure, and the new one once this returns. Between the old bytes and the new ones no
+  /// other `Rewrite` of the file gets in, of any process; a change may be asked for again
+  /// where a program that does not wait its turn did, and must not rewrite the file itself.
+  ///
+  /// The new file has the owner, the group and the rights of the old one, and its owner
+  /// the right to write. It is written as a temporary file beside the old one, whose name
+  /// has "$$$$" behind; one that was left by a process that was killed is thrown away.
+  ///
+  /// Raises 57, 61, 70, 75 or 76, and what `change` raises; 70 also when others kept the
+  /// file for ten seconds.
+  virtual bool Rewrite(TextView path, const FileChange& change) = 0;
 };
 
 /// Rewrites the files of the machine.

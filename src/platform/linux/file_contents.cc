@@ -1,21 +1,40 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/file_contents.h>
 #include <fcntl.h>
 
-#include <array>
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
+#include "platform/linux/file_errors.h"
+#include "platform/linux/file_place.h"
 #include "platform/linux/native_path.h"
+#include "platform/linux/new_file.h"
 #include "platform/linux/open_file.h"
 
 namespace ZQ7Standard {
 namespace {
 
-std::string ReadToEnd(const OpenFile& file) {
-  std::array<char, 65536> buffer;
-  std::string bytes;
-  while (const std::size_t count = file.Read(buffer)) bytes.append(buffer.data(), count);
-  return bytes;
+// Pipes and devices are opened without waiting for anybody, only to be refused.
+constexpr int kForReading = O_RDONLY | O_NONBLOCK;
+constexpr int kForReadingStart = O_RDWR | O_CREAT | O_NONBLOCK;
+constexpr int kForAppending = O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK;
+
+/// Refuses to write a read-only file, whoever asks.
+void RequireWritable(const OpenFile& file, const struct stat& status) {
+  if ((status.st_mode & S_IWUSR) == 0) file.Fail(EACCES, "write");
+}
+
+/// Makes a new file; false when another process makes it first.
+bool CreateAt(const FilePlace& place, std::string_view bytes) {
+  constexpr unsigned kAsTheUmaskLets = 0666;
+  try {
+    NewFile file(place.folder.Descriptor(), bytes, kAsTheUmaskLets);
+    if (!file.TakeName(place.name)) return false;
+  } catch (const std::system_error& error) {
+    place.folder.Fail(error.code().value(), "create");
+  }
+  SyncFolder(place);
+  return true;
 }
 
 class LinuxFileReader final : public FileReader {
@@ -23,18 +42,20 @@ class LinuxFileReader final : public FileReader {
   explicit LinuxFileReader(DriveMap drives) : drives_(std::move(drives)) {}
 
   std::optional<std::string> ReadAll(TextView path) override {
-    const auto file = OpenFile::IfThere(path, NativePath(path, drives_), O_RDONLY);
+    const auto file = OpenFile::IfThere(path, NativePath(path, drives_), kForReading);
     if (!file) return std::nullopt;
-    try {
-      return ReadToEnd(*file);
-    } catch (const RunTimeError&) {
-      if (file->IsFolder()) return std::nullopt;
-      throw;
-    }
+    const mode_t mode = file->Status().st_mode;
+    if (S_ISDIR(mode)) return std::nullopt;
+    if (!S_ISREG(mode)) file->Fail(EINVAL, "read");
+    return file->ReadToEnd();
   }
 
   std::size_t ReadStart(TextView path, std::span<char> buffer) override {
-    return OpenFile(path, NativePath(path, drives_), O_RDWR | O_CREAT).Read(buffer);
+    const OpenFile file(path, NativePath(path, drives_), kForReadingStart);
+    const struct stat status = file.Status();
+    if (!S_ISREG(status.st_mode)) file.Fail(EINVAL, "read");
+    RequireWritable(file, status);
+    return file.Read(buffer);
   }
 
  private:
@@ -45,17 +66,26 @@ class LinuxFileWriter final : public FileWriter {
  public:
   explicit LinuxFileWriter(DriveMap drives) : drives_(std::move(drives)) {}
 
-  void Create(TextView path, std::string_view bytes) override { Write(path, bytes, O_TRUNC); }
+  bool Create(TextView path, std::string_view bytes) override {
+    const std::string native = NativePath(path, drives_);
+    const auto place = FindPlace(path, native);
+    if (!place) throw FileError(ENOENT, "create", path, native);
+    if (place->status && S_ISDIR(place->status->st_mode)) place->folder.Fail(EISDIR, "create");
+    return !place->status && CreateAt(*place, bytes);
+  }
 
-  void Append(TextView path, std::string_view bytes) override { Write(path, bytes, O_APPEND); }
-
- private:
-  void Write(TextView path, std::string_view bytes, int flag) const {
-    OpenFile file(path, NativePath(path, drives_), O_WRONLY | O_CREAT | flag);
+  void Append(TextView path, std::string_view bytes) override {
+    OpenFile file(path, NativePath(path, drives_), kForAppending);
+    const struct stat status = file.Status();
+    const bool is_device = S_ISCHR(status.st_mode);
+    if (!S_ISREG(status.st_mode) && !is_device) file.Fail(EINVAL, "append");
+    RequireWritable(file, status);
+    if (is_device && fcntl(file.Descriptor(), F_SETFL, O_APPEND) != 0) file.Fail(errno, "append");
     file.Write(bytes);
     file.Close();
   }
 
+ private:
   DriveMap drives_;
 };
 

@@ -18,12 +18,12 @@ struct ErrorRow {
   Factory factory;
 };
 
-// Any other is a path that cannot be used this way.
-constexpr std::array<ErrorRow, 14> kErrors = {{
+// Any other is a path that cannot be used this way, such as ENXIO: a pipe or a socket that
+// nobody has open.
+constexpr std::array<ErrorRow, 13> kErrors = {{
     {ENOENT, RunTimeError::FileNotFound},
     {ENOTDIR, RunTimeError::PathNotFound},
     {EIO, RunTimeError::DeviceIoError},
-    {ENXIO, RunTimeError::DeviceIoError},
     {ENODEV, RunTimeError::DeviceIoError},
     {ESTALE, RunTimeError::DeviceIoError},
     {ENOSPC, RunTimeError::DiskFull},
@@ -47,6 +47,10 @@ bool IsFolderThere(const std::string& native) {
 
 bool MeansMissing(int error) {
   return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
+}
+
+bool MeansDenied(int error) {
+  return error == EACCES || error == EPERM;
 }
 
 RunTimeError FileError(int error, std::string_view operation, TextView path,

@@ -12,6 +12,9 @@ namespace ZQ7Standard {
 /// Whether an `errno` says that a path names nothing.
 bool MeansMissing(int error);
 
+/// Whether an `errno` says that the user has no right to do that.
+bool MeansDenied(int error);
+
 /// The run-time error of an `errno` that `operation` met on the file `path`, whose
 /// native path tells a missing file (53) from a missing folder (76).
 RunTimeError FileError(int error, std::string_view operation, TextView path,

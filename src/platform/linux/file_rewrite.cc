@@ -1,121 +1,166 @@
-#include <ZQ7Standard/platform/file_rewrite.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "platform/linux/file_rewrite.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <filesystem>
-#include <system_error>
+#include <chrono>
 #include <utility>
 
 #include "platform/linux/file_errors.h"
+#include "platform/linux/file_place.h"
+#include "platform/linux/file_rights.h"
 #include "platform/linux/native_path.h"
-#include "platform/linux/open_file.h"
 
 namespace ZQ7Standard {
 namespace {
 
-/// The file that a rewrite of `native` replaces: where that is a symbolic link, what it
-/// names.
-std::string TargetOf(std::string native) {
-  std::error_code error;
-  if (!std::filesystem::is_symlink(native, error)) return native;
-  const auto target = std::filesystem::canonical(native, error);
-  return error ? native : target.native();
-}
+using std::chrono::milliseconds;
 
-/// Makes `temporary` anew, for nobody else to read yet. What stands there under its
-/// name is thrown away and not followed, whoever left it and however it is protected.
-OpenFile MakeTemporary(TextView path, const std::string& temporary) {
-  constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL;
-  constexpr unsigned kOwnerOnly = S_IRUSR | S_IWUSR;
-  unlink(temporary.c_str());
-  return {path, temporary, kFlags, kOwnerOnly};
-}
+constexpr auto kLongestWait = std::chrono::seconds(10);
+constexpr auto kFirstPause = milliseconds(1);
+constexpr auto kLongestPause = milliseconds(32);
 
-/// The rights that a file keeps when it comes to a group that is not its old one: what
-/// only that group could do, the new one cannot.
-mode_t ForOtherGroup(mode_t mode) {
-  const mode_t everyone = mode & S_IRWXO;
-  return (mode & ~static_cast<mode_t>(S_IRWXG)) | (everyone << 3U & mode);
-}
-
-/// Gives the temporary file the owner, group and rights of its target, and its owner
-/// the right to write. A user who may not give files away keeps it.
-void TakeRights(const OpenFile& temporary, const struct stat& target) {
-  constexpr auto kSameOwner = static_cast<uid_t>(-1);
-  mode_t mode = (target.st_mode & ACCESSPERMS) | S_IWUSR;
-  const int file = temporary.Descriptor();
-  if (fchown(file, target.st_uid, target.st_gid) != 0 &&
-      fchown(file, kSameOwner, target.st_gid) != 0) {
-    mode = ForOtherGroup(mode);
-  }
-  if (fchmod(file, mode) != 0) temporary.Fail(errno, "set rights");
-}
-
-class LinuxFileRewrite final : public FileRewrite {
+/// The time that a rewrite waits for others: pauses that grow, and differ between those
+/// who wait.
+class Patience {
  public:
-  LinuxFileRewrite(TextView path, std::string target)
-      : path_(path),
-        target_(std::move(target)),
-        target_status_(StatusOfTarget()),
-        temporary_(MakeTemporary(path, Temporary())) {
-    TakeRights(temporary_, target_status_);
-  }
+  explicit Patience(const SystemCalls& calls) : calls_(calls), end_(calls.now() + kLongestWait) {}
 
-  void Write(std::string_view bytes) override { temporary_.Write(bytes); }
-
-  void Sync() override { temporary_.Sync(); }
-
-  void Close() override { temporary_.Close(); }
-
-  void Replace() override {
-    if (std::rename(Temporary().c_str(), target_.c_str()) != 0) Fail(errno, "rename");
-  }
-
-  void SyncFolder() override {
-    const std::filesystem::path folder = std::filesystem::path(target_).parent_path();
-    OpenFile(path_, folder.empty() ? "." : folder.native(), O_RDONLY | O_DIRECTORY).Sync();
+  /// False when the time is over.
+  bool Wait() {
+    const auto now = calls_.now();
+    if (now >= end_) return false;
+    calls_.sleep(kFirstPause + now.time_since_epoch() % longest_);
+    longest_ = std::min(2 * longest_, kLongestPause - kFirstPause);
+    return true;
   }
 
  private:
-  std::string Temporary() const { return target_ + "$$$$"; }
-
-  /// Only a regular file is replaced: a device or a pipe would be gone.
-  struct stat StatusOfTarget() const {
-    struct stat status {};
-    if (stat(target_.c_str(), &status) != 0) Fail(errno, "open");
-    if (!S_ISREG(status.st_mode)) Fail(EINVAL, "rewrite");
-    return status;
-  }
-
-  [[noreturn]] void Fail(int error, std::string_view operation) const {
-    throw FileError(error, operation, path_, target_);
-  }
-
-  Text path_;
-  std::string target_;
-  struct stat target_status_;
-  OpenFile temporary_;
+  const SystemCalls& calls_;
+  std::chrono::steady_clock::time_point end_;
+  std::chrono::milliseconds longest_ = kFirstPause;
 };
+
+/// The lock of a file, as long as the object lives, where the file can be locked.
+class Lock {
+ public:
+  Lock(const SystemCalls& calls, int file)
+      : calls_(calls),
+        file_(file),
+        error_(Uninterrupted([&] { return calls.flock(file, LOCK_EX | LOCK_NB); }) == 0 ? 0
+                                                                                        : errno) {}
+  Lock(const Lock&) = delete;
+  Lock& operator=(const Lock&) = delete;
+  /// Unlocks the file also for a child that was forked meanwhile.
+  ~Lock() {
+    if (error_ == 0) calls_.flock(file_, LOCK_UN);
+  }
+
+  bool IsAnothers() const { return error_ == EWOULDBLOCK; }
+
+ private:
+  const SystemCalls& calls_;
+  int file_;
+  int error_;
+};
+
+bool IsSame(const struct stat& a, const std::optional<struct stat>& b) {
+  return b && a.st_dev == b->st_dev && a.st_ino == b->st_ino;
+}
+
+bool CannotBeRead(int error) {
+  return MeansMissing(error) || MeansDenied(error);
+}
+
+/// The status of the file at `place`; nullopt when that is no longer the file that was
+/// found there, and opened as `file` where the user may read it.
+std::optional<struct stat> StatusNow(const FilePlace& place, const std::optional<OpenFile>& file) {
+  if (file && !IsSame(file->Status(), place.status)) return std::nullopt;
+  const auto status = place.folder.StatusOf(place.name);
+  return IsSame(*place.status, status) ? status : std::nullopt;
+}
+
+/// Makes a temporary file, for nobody else to read yet. What stands there under its
+/// name is thrown away and not followed, whoever left it and however it is protected.
+OpenFile MakeTemporary(const OpenFile& folder, const std::string& name) {
+  constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
+  constexpr unsigned kOwnerOnly = S_IRUSR | S_IWUSR;
+  folder.Calls().unlinkat(folder.Descriptor(), name.c_str(), 0);
+  return folder.Open(name, kFlags, kOwnerOnly);
+}
+
+/// Puts a file of `bytes` in the place of another one; false when a writer that does not
+/// know the lock has taken its temporary name.
+bool Replace(const FilePlace& place, const FileRights& rights, std::string_view bytes) {
+  const OpenFile& folder = place.folder;
+  const std::string name = place.name + "$$$$";
+  OpenFile temporary = MakeTemporary(folder, name);
+  TakeRights(temporary, rights);
+  temporary.Write(bytes);
+  temporary.Sync();
+  const struct stat status = temporary.Status();
+  temporary.Close();
+  if (!IsSame(status, folder.StatusOf(name))) return false;
+  const int at = folder.Descriptor();
+  if (folder.Calls().renameat(at, name.c_str(), at, place.name.c_str()) != 0) {
+    folder.Fail(errno, "rename");
+  }
+  return true;
+}
+
+/// Rewrites the file at `place`; false when another writer is there first.
+bool TryRewrite(const FilePlace& place, const FileChange& change) {
+  constexpr int kForReading = O_RDONLY | O_NONBLOCK | O_NOFOLLOW;
+  const OpenFile& folder = place.folder;
+  // A device or a pipe would be gone.
+  if (!S_ISREG(place.status->st_mode)) folder.Fail(EINVAL, "rewrite");
+  const auto file = folder.OpenUnless(CannotBeRead, place.name, kForReading);
+  {
+    // A file that may not be read cannot be locked either.
+    const Lock lock(folder.Calls(), file ? file->Descriptor() : -1);
+    const auto status = lock.IsAnothers() ? std::nullopt : StatusNow(place, file);
+    if (!status) return false;
+    const std::string bytes = change([&] {
+      if (!file) folder.Fail(EACCES, "read");
+      return file->ReadToEnd();
+    });
+    const FileRights rights{*status, file ? AccessListOf(*file) : std::nullopt};
+    if (!Replace(place, rights, bytes)) return false;
+  }
+  SyncFolder(place);
+  return true;
+}
 
 class LinuxFileRewriter final : public FileRewriter {
  public:
-  explicit LinuxFileRewriter(DriveMap drives) : drives_(std::move(drives)) {}
+  LinuxFileRewriter(const SystemCalls& calls, DriveMap drives)
+      : calls_(calls), drives_(std::move(drives)) {}
 
-  std::unique_ptr<FileRewrite> Begin(TextView path) override {
-    return std::make_unique<LinuxFileRewrite>(path, TargetOf(NativePath(path, drives_)));
+  bool Rewrite(TextView path, const FileChange& change) override {
+    const std::string native = NativePath(path, drives_);
+    for (Patience patience(calls_);;) {
+      const auto place = FindPlace(path, native, calls_);
+      if (!place || !place->status || S_ISDIR(place->status->st_mode)) return false;
+      if (TryRewrite(*place, change)) return true;
+      if (!patience.Wait()) place->folder.Fail(EBUSY, "lock");
+    }
   }
 
  private:
+  const SystemCalls& calls_;
   DriveMap drives_;
 };
 
 }  // namespace
 
+std::shared_ptr<FileRewriter> FileRewriterBy(const SystemCalls& calls, DriveMap drives) {
+  return std::make_shared<LinuxFileRewriter>(calls, std::move(drives));
+}
+
 std::shared_ptr<FileRewriter> SystemFileRewriter(DriveMap drives) {
-  return std::make_shared<LinuxFileRewriter>(std::move(drives));
+  return FileRewriterBy(kSystemCalls, std::move(drives));
 }
 
 }  // namespace ZQ7Standard

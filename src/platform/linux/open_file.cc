@@ -1,9 +1,8 @@
 #include "platform/linux/open_file.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <utility>
 
@@ -14,57 +13,86 @@ namespace {
 
 constexpr int kClosed = -1;
 
-/// The result of a system call, made again while signals interrupt it.
-template <typename Call>
-auto Uninterrupted(Call call) {
-  auto result = call();
-  while (result < 0 && errno == EINTR) result = call();
-  return result;
-}
-
-int Open(const std::string& native, int flags, unsigned mode) {
-  return Uninterrupted([&] { return open(native.c_str(), flags | O_CLOEXEC | O_NOCTTY, mode); });
-}
-
 }  // namespace
 
-OpenFile::OpenFile(TextView path, std::string native)
-    : path_(path), native_(std::move(native)), descriptor_(kClosed) {}
+OpenFile::OpenFile(TextView path, std::string native, const SystemCalls& calls)
+    : path_(path), native_(std::move(native)), calls_(&calls), descriptor_(kClosed) {}
 
 OpenFile::OpenFile(TextView path, std::string native, int flags, unsigned mode)
-    : OpenFile(path, std::move(native)) {
-  descriptor_ = Open(native_, flags, mode);
-  if (descriptor_ == kClosed) Fail(errno, "open");
+    : OpenFile(path, std::move(native), kSystemCalls) {
+  if (!TryOpen(AT_FDCWD, native_, flags, mode)) Fail(errno, "open");
 }
 
 OpenFile::OpenFile(OpenFile&& other) noexcept
     : path_(std::move(other.path_)),
       native_(std::move(other.native_)),
+      calls_(other.calls_),
       descriptor_(std::exchange(other.descriptor_, kClosed)) {}
 
 OpenFile::~OpenFile() {
-  if (descriptor_ != kClosed) close(descriptor_);
+  if (descriptor_ != kClosed) calls_->close(descriptor_);
 }
 
-std::optional<OpenFile> OpenFile::IfThere(TextView path, std::string native, int flags) {
-  OpenFile file(path, std::move(native));
-  file.descriptor_ = Open(file.native_, flags, 0);
-  if (file.descriptor_ != kClosed) return file;
+/// False, and errno, where that fails.
+bool OpenFile::TryOpen(int folder, const std::string& name, int flags, unsigned mode) {
+  const auto open = [&](int wait) {
+    return calls_->openat(folder, name.c_str(), (flags & ~wait) | O_CLOEXEC | O_NOCTTY, mode);
+  };
+  descriptor_ = Uninterrupted([&] { return open(0); });
+  // A file that is leased to a process, which gives the lease back when it is asked to.
+  if (descriptor_ == kClosed && errno == EWOULDBLOCK) {
+    descriptor_ = Uninterrupted([&] { return open(O_NONBLOCK); });
+  }
+  return descriptor_ != kClosed;
+}
+
+std::optional<OpenFile> OpenFile::IfThere(TextView path, std::string native, int flags,
+                                          const SystemCalls& calls) {
+  OpenFile file(path, std::move(native), calls);
+  if (file.TryOpen(AT_FDCWD, file.native_, flags, 0)) return file;
   if (!MeansMissing(errno)) file.Fail(errno, "open");
+  return std::nullopt;
+}
+
+OpenFile OpenFile::Open(const std::string& name, int flags, unsigned mode) const {
+  OpenFile file(path_, native_, *calls_);
+  if (!file.TryOpen(descriptor_, name, flags, mode)) Fail(errno, "open");
+  return file;
+}
+
+std::optional<OpenFile> OpenFile::OpenUnless(bool (*expected)(int error), const std::string& name,
+                                             int flags) const {
+  OpenFile file(path_, native_, *calls_);
+  if (file.TryOpen(descriptor_, name, flags, 0)) return file;
+  if (!expected(errno)) Fail(errno, "open");
+  return std::nullopt;
+}
+
+std::optional<struct stat> OpenFile::StatusOf(const std::string& name) const {
+  struct stat status {};
+  if (calls_->fstatat(descriptor_, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) return status;
+  if (!MeansMissing(errno)) Fail(errno, "status");
   return std::nullopt;
 }
 
 std::size_t OpenFile::Read(std::span<char> buffer) const {
   const ssize_t count =
-      Uninterrupted([&] { return read(descriptor_, buffer.data(), buffer.size()); });
+      Uninterrupted([&] { return calls_->read(descriptor_, buffer.data(), buffer.size()); });
   if (count < 0) Fail(errno, "read");
   return static_cast<std::size_t>(count);
+}
+
+std::string OpenFile::ReadToEnd() const {
+  std::array<char, 65536> buffer;
+  std::string bytes;
+  while (const std::size_t count = Read(buffer)) bytes.append(buffer.data(), count);
+  return bytes;
 }
 
 void OpenFile::Write(std::string_view bytes) const {
   while (!bytes.empty()) {
     const ssize_t count =
-        Uninterrupted([&] { return write(descriptor_, bytes.data(), bytes.size()); });
+        Uninterrupted([&] { return calls_->write(descriptor_, bytes.data(), bytes.size()); });
     if (count < 0) Fail(errno, "write");
     bytes.remove_prefix(static_cast<std::size_t>(count));
   }
@@ -72,19 +100,22 @@ void OpenFile::Write(std::string_view bytes) const {
 
 void OpenFile::Sync() const {
   // Some file systems cannot sync a folder, and say so by EINVAL.
-  if (Uninterrupted([this] { return fsync(descriptor_); }) != 0 && errno != EINVAL) {
+  if (Uninterrupted([this] { return calls_->fsync(descriptor_); }) != 0 && errno != EINVAL) {
     Fail(errno, "sync");
   }
 }
 
 void OpenFile::Close() {
   // An interrupted close has closed the file.
-  if (close(std::exchange(descriptor_, kClosed)) != 0 && errno != EINTR) Fail(errno, "close");
+  if (calls_->close(std::exchange(descriptor_, kClosed)) != 0 && errno != EINTR) {
+    Fail(errno, "close");
+  }
 }
 
-bool OpenFile::IsFolder() const {
+struct stat OpenFile::Status() const {
   struct stat status {};
-  return fstat(descriptor_, &status) == 0 && S_ISDIR(status.st_mode);
+  if (calls_->fstat(descriptor_, &status) != 0) Fail(errno, "status");
+  return status;
 }
 
 void OpenFile::Fail(int error, std::string_view operation) const {

@@ -9,14 +9,17 @@
 #include <string>
 #include <string_view>
 
+#include "platform/linux/system_calls.h"
+
 namespace ZQ7Standard {
 
-/// An open file, which is closed at the end. What fails raises the run-time error of
-/// its errno, which names the path text.
+/// An open file or folder, which is closed at the end. What fails raises the run-time
+/// error of its errno, which names the path text.
 class OpenFile {
  public:
   /// Opens the file `native`, with the flags of open(2). A file that this makes has
-  /// the rights `mode`, less the process's umask.
+  /// the rights `mode`, less the process's umask. With O_NONBLOCK a pipe or a device is
+  /// not waited for.
   OpenFile(TextView path, std::string native, int flags, unsigned mode = 0666);
   OpenFile(const OpenFile&) = delete;
   OpenFile(OpenFile&& other) noexcept;
@@ -25,10 +28,24 @@ class OpenFile {
   ~OpenFile();
 
   /// The same where the file is there; nothing where it is not.
-  static std::optional<OpenFile> IfThere(TextView path, std::string native, int flags);
+  static std::optional<OpenFile> IfThere(TextView path, std::string native, int flags,
+                                         const SystemCalls& calls = kSystemCalls);
+
+  // For an open folder: what is in it. Failures name the folder's path text, and a name
+  // that begins with "/" leaves the folder.
+
+  /// Opens `name`.
+  OpenFile Open(const std::string& name, int flags, unsigned mode = 0666) const;
+  /// The same; nothing where that fails with an errno that is `expected`.
+  std::optional<OpenFile> OpenUnless(bool (*expected)(int error), const std::string& name,
+                                     int flags) const;
+  /// The status of `name`, not of what a link names; nothing where there is none.
+  std::optional<struct stat> StatusOf(const std::string& name) const;
 
   /// Reads once. Fewer bytes than `buffer` has room for are not yet the end; none are.
   std::size_t Read(std::span<char> buffer) const;
+  /// Reads all that is left.
+  std::string ReadToEnd() const;
   /// Writes all of `bytes`.
   void Write(std::string_view bytes) const;
   /// Waits until what was written is on the disk.
@@ -36,18 +53,20 @@ class OpenFile {
   /// Closes the file; a write that the system put off may fail here.
   void Close();
 
-  /// Whether it is a folder, which opens for reading but cannot be read.
-  bool IsFolder() const;
+  struct stat Status() const;
 
   /// For system calls of other kinds, whose failure `Fail` raises.
   int Descriptor() const { return descriptor_; }
+  const SystemCalls& Calls() const { return *calls_; }
   [[noreturn]] void Fail(int error, std::string_view operation) const;
 
  private:
-  OpenFile(TextView path, std::string native);
+  OpenFile(TextView path, std::string native, const SystemCalls& calls);
+  bool TryOpen(int folder, const std::string& name, int flags, unsigned mode);
 
   Text path_;
   std::string native_;
+  const SystemCalls* calls_;
   int descriptor_;
 };
 

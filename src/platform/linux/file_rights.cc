@@ -1,0 +1,116 @@
+#include "platform/linux/file_rights.h"
+
+#include <endian.h>
+#include <limits.h>
+#include <linux/posix_acl.h>
+#include <linux/posix_acl_xattr.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+namespace ZQ7Standard {
+namespace {
+
+constexpr const char* kAccessList = "system.posix_acl_access";
+constexpr mode_t kAll = S_IRWXO;  // the rights of one entry
+
+/// The rights that entries of an access control list give, as bits of `S_IRWXO`.
+struct ListedRights {
+  mode_t group = kAll;         ///< the file's own group
+  mode_t mask = kAll;          ///< the most that any but the owner and others have
+  mode_t named_users = kAll;   ///< what all users that are named have
+  mode_t named_groups = kAll;  ///< what all groups that are named have
+};
+
+void Add(const posix_acl_xattr_entry& entry, ListedRights& rights) {
+  const mode_t given = le16toh(entry.e_perm);
+  switch (le16toh(entry.e_tag)) {
+    case ACL_GROUP_OBJ:
+      rights.group = given;
+      break;
+    case ACL_MASK:
+      rights.mask = given;
+      break;
+    case ACL_USER:
+      rights.named_users &= given;
+      break;
+    case ACL_GROUP:
+      rights.named_groups &= given;
+      break;
+    default:
+      break;
+  }
+}
+
+ListedRights RightsOf(std::string_view list) {
+  ListedRights rights;
+  posix_acl_xattr_entry entry;
+  for (list.remove_prefix(sizeof(posix_acl_xattr_header)); list.size() >= sizeof entry;
+       list.remove_prefix(sizeof entry)) {
+    std::memcpy(&entry, list.data(), sizeof entry);
+    Add(entry, rights);
+  }
+  return rights;
+}
+
+bool SetList(const OpenFile& file, const std::string& list) {
+  return file.Calls().fsetxattr(file.Descriptor(), kAccessList, list.data(), list.size(), 0) == 0;
+}
+
+/// Takes away what a new file got from its folder's default list.
+void RemoveList(const OpenFile& file) {
+  const auto list = AccessListOf(file);
+  if (list && list->empty()) return;
+  if (file.Calls().fremovexattr(file.Descriptor(), kAccessList) != 0) {
+    file.Fail(errno, "set rights");
+  }
+}
+
+/// The rights that a file keeps when it comes to a group that is not its old one. The
+/// members of each are others to the other, so they keep what all have.
+mode_t ForOtherGroup(mode_t mode) {
+  const mode_t everyone = mode >> 3U & mode & S_IRWXO;
+  return (mode & S_IRWXU) | everyone << 3U | everyone;
+}
+
+}  // namespace
+
+std::optional<std::string> AccessListOf(const OpenFile& file) {
+  std::array<char, XATTR_SIZE_MAX> list;
+  const ssize_t size =
+      file.Calls().fgetxattr(file.Descriptor(), kAccessList, list.data(), list.size());
+  if (size >= 0) return std::string(list.data(), static_cast<std::size_t>(size));
+  const bool has_none = errno == ENODATA || errno == EOPNOTSUPP;
+  return has_none ? std::optional<std::string>("") : std::nullopt;
+}
+
+mode_t ModeWithoutList(mode_t mode, std::string_view list) {
+  if (list.size() < sizeof(posix_acl_xattr_header)) return mode;
+  const ListedRights rights = RightsOf(list);
+  // A user whom the list names may be one of the group or of the others without it, and
+  // a member of a group that it names one of the others.
+  const mode_t group = rights.group & rights.mask & rights.named_users;
+  const mode_t others = mode & rights.mask & rights.named_users & rights.named_groups;
+  return (mode & S_IRWXU) | group << 3U | others;
+}
+
+void TakeRights(const OpenFile& file, const FileRights& other) {
+  constexpr auto kSameOwner = static_cast<uid_t>(-1);
+  const auto& [status, list] = other;
+  const auto& calls = file.Calls();
+  const int descriptor = file.Descriptor();
+  mode_t mode = status.st_mode & ACCESSPERMS;
+  const bool same_owner = calls.fchown(descriptor, status.st_uid, status.st_gid) == 0;
+  const bool same_group = same_owner || calls.fchown(descriptor, kSameOwner, status.st_gid) == 0;
+  if (!list) mode &= S_IRWXU;
+  const bool has_list = list && !list->empty();
+  if (!(has_list && same_owner && SetList(file, *list))) {
+    RemoveList(file);
+    if (has_list) mode = ModeWithoutList(mode, *list);
+  }
+  if (!same_group) mode = ForOtherGroup(mode);
+  if (calls.fchmod(descriptor, mode | S_IWUSR) != 0) file.Fail(errno, "set rights");
+}
+
+}  // namespace ZQ7Standard
