@@ -48,11 +48,11 @@ TextView ASCIIObject::FolderProblem(TextView path, TextView read_only_problem) c
   return folder->read_only ? read_only_problem : TextView();
 }
 
-/// Rewrites a file, or makes it of `bytes` where it is not there, unless its folder has a
-/// problem, which it gives.
-TextView ASCIIObject::RewriteOrCreate(TextView path, const FileChange& change,
-                                      std::string_view bytes, TextView read_only_problem) const {
-  while (!services_.file_rewriter->Rewrite(path, change)) {
+/// Does `write`, which returns false when there is no file, and then makes the file of
+/// `bytes`. Returns the problem of its folder where that has one.
+TextView ASCIIObject::WriteOrCreate(TextView path, const std::function<bool()>& write,
+                                    std::string_view bytes, TextView read_only_problem) const {
+  while (!write()) {
     const TextView problem = FolderProblem(path, read_only_problem);
     if (!problem.empty()) return problem;
     if (services_.file_writer->Create(path, bytes)) break;

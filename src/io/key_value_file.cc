@@ -19,8 +19,9 @@ Text ASCIIObject::GetValue(TextView iTextFile, TextView IKey) const {
 void ASCIIObject::Setvalue(TextView iTextFile, TextView IKey, TextView iValue) const {
   Attempt([&] {
     const auto set = [&](const auto& old) { return WithValue(old(), IKey, iValue); };
-    return RewriteOrCreate(iTextFile, set, SettingLine(IKey, iValue),
-                           u"Specified folder can not write.");
+    return WriteOrCreate(
+        iTextFile, [&] { return services_.file_rewriter->Rewrite(iTextFile, set); },
+        SettingLine(IKey, iValue), u"Specified folder can not write.");
   });
 }
 

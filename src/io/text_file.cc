@@ -60,14 +60,18 @@ void ASCIIObject::SaveStringToTextFile2(TextView iTextFile, TextView iValue,
                                         bool UseAppendMode) const {
   Attempt([&]() -> TextView {
     const std::string bytes = ToCodePage(iValue);
-    const auto file = services_.file_status->StatusOf(iTextFile);
-    if (UseAppendMode && file && !file->is_folder) {
+    const auto append = [&] {
+      const auto file = services_.file_status->StatusOf(iTextFile);
+      if (!file || file->is_folder) return false;
       services_.file_writer->Append(iTextFile, bytes);
-      return {};
-    }
+      return true;
+    };
+    const auto rewrite = [&] {
+      return services_.file_rewriter->Rewrite(iTextFile, [&](const auto&) { return bytes; });
+    };
     const bool desktop = IsDesktop(FolderPart(iTextFile));
-    return RewriteOrCreate(
-        iTextFile, [&](const auto&) { return bytes; }, bytes,
+    return WriteOrCreate(
+        iTextFile, [&] { return UseAppendMode ? append() : rewrite(); }, bytes,
         desktop ? u"" : u"Specified folder can not write.");
   });
 }

@@ -124,7 +124,7 @@ TEST(Rewrite, KeepsEverySettingOfFourWriters) {
       ASCIIObject object({.message_box = box});
       object.SetDisableMsgLevel(1);
       for (int i = 0; i < 200; ++i) object.Setvalue(path, key(writer, i), u"x");
-      return static_cast<int>(box->shown.size());
+      return static_cast<int>(box->Take().size());
     }));
   }
   for (const pid_t writer : writers) EXPECT_EQ(End(writer), 0) << "messages";
@@ -214,6 +214,20 @@ TEST(Rewrite, WritesAFileThatAppearsInBetween) {
   AsciiFiles files(std::make_shared<LateRewriter>());
   files.object.Setvalue(files.Path(), u"a", u"3");
   EXPECT_EQ(files.Read(), "[A]=3\r\n[B]=2\r\n");
+}
+
+TEST(Rewrite, AppendsToAFileThatAppearsInBetween) {
+  struct LateWriter final : FileWriter {
+    bool Create(TextView path, std::string_view /*bytes*/) override {
+      return real->Create(path, "theirs") && false;
+    }
+    void Append(TextView path, std::string_view bytes) override { real->Append(path, bytes); }
+    std::shared_ptr<FileWriter> real = SystemFileWriter();
+  };
+  const AsciiFiles files;
+  const ASCIIObject object({.file_writer = std::make_shared<LateWriter>()});
+  object.SaveStringToTextFile2(files.Path(), u", mine", true);
+  EXPECT_EQ(files.Read(), "theirs, mine");
 }
 
 // clang-format off
