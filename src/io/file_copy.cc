@@ -21,7 +21,7 @@ using FileTime = decltype(FileStatus::last_modified);
 /// The multiple of `step` at or before `time`, also before 1970.
 FileTime CutTo(std::chrono::nanoseconds step, FileTime time) {
   const auto past = time.time_since_epoch() % step;
-  return time - past - (past.count() < 0 ? step : step.zero());
+  return time - (past.count() < 0 ? past + step : past);
 }
 
 using FolderIdentities = std::vector<FolderIdentity>;

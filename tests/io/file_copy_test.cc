@@ -83,7 +83,7 @@ TEST(XCopyFile, CopiesATreeAndCountsIt) {
       {{"touch from/$(printf '\\377')", "to"}, "error 75"}});
 }
 
-// What a copy of the folder "t" would fill for ever. "@" is the folder that it is in.
+// Copies that would go on for ever. "@" in a path is the folder of the test.
 TEST(XCopyFile, RefusesATargetInTheSourceByWhateverName) {
   const auto current = std::filesystem::current_path();
   ExpectRows<std::string, std::string, std::string>([&](const std::string& change,
@@ -134,30 +134,45 @@ TEST(XCopyFile, StopsAtALinkThatWouldGoOnForEver) {
        "6, to/c to/c/l to/c/l/d to/c/m to/c/m/d ", "one folder twice"}});
 }
 
-// Rows of what to mount, then source and target, which two file systems give one number.
+// The first two folders have one number, on devices of their own.
 TEST(RootXCopyFile, TellsTheFoldersOfMountsApart) {
   constexpr int kNoMounts = 255;
-  const std::tuple<const char*, const char*, const char*, int> rows[] = {
-      {"mount -t tmpfs none a; mount -t tmpfs none b; >a/f", "a", "b/x", 2},
-      {"mkdir a/c; mount --bind a b", "a", "b/x", 75},
-      {"mkdir a/c; mount --bind a/c b", "a", "b/x", 75},
-  };
-  for (const auto& [mounts, from, to, expected] : rows) {
+  const std::pair<const char*, int> rows[] = {
+      {"mount -t tmpfs none a; mount -t tmpfs none b", 1},
+      {"mkdir a/c; mount --bind a b", 75}, {"mkdir a/c; mount --bind a/c b", 75}};
+  for (const auto& [mounts, expected] : rows) {
     const TempFolder folder;
     folder.Run("mkdir a b");
-    const int result = End(Begin([&, from = from, to = to, mounts = mounts] {
+    const int result = End(Begin([&, script = std::string(mounts) + " && echo done"] {
       if (unshare(CLONE_NEWNS) != 0) return kNoMounts;
       if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) return kNoMounts;
-      if (folder.Run(std::string(mounts) + " && echo done") != "done\n") return kNoMounts;
+      if (folder.Run(script) != "done\n") return kNoMounts;
       int count = 0;
-      const auto copy = [&] { count = DiskObject().XCopyFile(folder.Path(from), folder.Path(to)); };
-      const int error = ErrorOf(copy);
+      const int error =
+          ErrorOf([&] { count = DiskObject().XCopyFile(folder.Path("a"), folder.Path("b/x")); });
       return error == 0 ? count : error;
     }));
     if (result == kNoMounts) GTEST_SKIP() << "no right to mount";
     EXPECT_EQ(result, expected) << mounts;
     EXPECT_EQ(folder.Run("find a b -mindepth 3"), "") << mounts;
   }
+}
+
+TEST(RootXCopyFile, NeedsNoRightToTheFoldersAboveTheCurrentOne) {
+  if (geteuid() != 0) GTEST_SKIP() << "no right to be another user";
+  const TempFolder folder;
+  folder.Run("mkdir -p locked/t/c; chown -R 65534 locked/t");
+  const auto copy = [&](const char* to) {
+    return End(Begin([&] {
+      if (chdir((folder.Native() / "locked/t").c_str()) != 0) return 255;
+      if (chmod("..", 0600) != 0 || setreuid(kNobody, kNobody) != 0) return 255;
+      int count = 0;
+      const int error = ErrorOf([&] { count = DiskObject().XCopyFile(u"c", FromUtf8(to)); });
+      return error == 0 ? count : error;
+    }));
+  };
+  EXPECT_EQ(copy("d"), 1);
+  EXPECT_EQ(copy("c\\x"), 75);
 }
 // clang-format on
 

@@ -144,7 +144,7 @@ TEST_F(SystemRegistryTest, LiesWhereTheEnvironmentSays) {
       {"", "", ""},
   };
   for (const auto& [data, home, expected] : rows) {
-    const auto update = [&] {
+    const auto update = [&data = data, &home = home] {
       setenv("XDG_DATA_HOME", data.c_str(), 1);
       setenv("HOME", home.c_str(), 1);
       return Update(RegistryObject(), 1) ? 1 : 0;

@@ -40,8 +40,9 @@ class ZQ7STANDARD_EXPORT Folders {
   /// file system; "." and ".." are left out.
   virtual std::vector<FolderEntry> List(TextView path) = 0;
 
-  /// The folder `path` and those that it lies in, from the inside out; those that are
-  /// there when it is not. Raises nothing.
+  /// The folder `path` and those that it lies in, from the inside out; where it is not
+  /// there, from the nearest that is. Ends early where the user may not look further.
+  /// Raises nothing.
   virtual std::vector<FolderIdentity> Enclosing(TextView path) = 0;
 };
 

@@ -4,10 +4,8 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <filesystem>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "platform/linux/file_errors.h"
@@ -35,15 +33,15 @@ std::optional<FolderIdentity> IdentityOf(const OpenFolder& folder, const dirent&
   return is_file ? std::nullopt : IdentityOf(dirfd(folder.get()), entry.d_name);
 }
 
-/// The way to `native` from the root, without links, as far as it is there.
-std::filesystem::path WayTo(const std::string& native) {
-  std::error_code error;
-  auto way = std::filesystem::absolute(native, error);
-  for (; way.has_relative_path(); way = way.parent_path()) {
-    const auto there = std::filesystem::canonical(way, error);
-    if (!error) return there;
+/// `native` without the names at its end that lead to no folder.
+std::string WayToNearest(std::string native) {
+  while (!IdentityOf(AT_FDCWD, native.c_str())) {
+    native.erase(native.find_last_not_of('/') + 1);
+    const std::size_t slash = native.rfind('/');
+    if (slash == std::string::npos) return ".";
+    native.erase(slash + 1);
   }
-  return "/";
+  return native;
 }
 
 Text NameText(std::string_view name, TextView folder) {
@@ -79,10 +77,12 @@ class LinuxFolders final : public Folders {
 
   std::vector<FolderIdentity> Enclosing(TextView path) override {
     std::vector<FolderIdentity> enclosing;
-    auto way = WayTo(NativePath(path, drives_));
-    for (bool at_root = false; !at_root; way = way.parent_path()) {
-      if (const auto folder = IdentityOf(AT_FDCWD, way.c_str())) enclosing.push_back(*folder);
-      at_root = !way.has_relative_path();
+    std::string way = WayToNearest(NativePath(path, drives_));
+    // Ends at the root, whose ".." is itself, or where the user may not go on.
+    for (auto folder = IdentityOf(AT_FDCWD, way.c_str());
+         folder && (enclosing.empty() || *folder != enclosing.back());
+         folder = IdentityOf(AT_FDCWD, (way += "/..").c_str())) {
+      enclosing.push_back(*folder);
     }
     return enclosing;
   }
