@@ -163,7 +163,7 @@ void DrawCustomer(Sheet& sheet, const StandardObject& standard, const Invoice& i
   sheet.Write(u"วันที่ / Date", kLabels, 51);
   DrawDateBoxes(sheet, standard, invoice.date, kRight - 44, 51);
   sheet.Write(u"ครบกำหนด / Due", kLabels, 60);
-  sheet.Write(standard.FormatTDate2(due, ZQ7Standard::ZQ7DMMMBBBB), kRight, 60, kEnd);
+  sheet.Write(standard.FormatThai(due), kRight, 60, kEnd);
 }
 
 struct TableColumn {

@@ -32,7 +32,7 @@ Columns MakeColumns(const StandardObject& standard, const Invoice& invoice) {
                                                    invoice.net_days, invoice.delivery_days);
   return {
       standard.FormatTDate2(invoice.date, ZQ7Standard::ZQ7DMBBBB),
-      standard.FormatTDate2(invoice.date, ZQ7Standard::ZQ7DMMMBBBB),
+      standard.FormatThai(invoice.date),
       standard.FormatTDate2(due, ZQ7Standard::ZQ7DMBBBB),
       standard.FormatCondition2(static_cast<float>(invoice.discount_percent), invoice.discount_days,
                                 invoice.condition_type, ZQ7Standard::ZQ7ConditionOutputTypeShort,
