@@ -113,6 +113,17 @@ const std::vector<Day>& Days() {
   return list;
 }
 
+std::vector<OleDate> Moments() {
+  constexpr std::int64_t kSecondsPerDay = 86'400;
+  Picker picker;
+  std::vector<OleDate> list;
+  for (const Day& day : Days()) {
+    const auto second = static_cast<double>(picker.From(0, kSecondsPerDay - 1));
+    list.emplace_back(day.date.Days() + second / kSecondsPerDay);
+  }
+  return list;
+}
+
 const std::vector<Invoice>& Invoices() {
   static const std::vector<Invoice> list = MakeList(MakeInvoice);
   return list;

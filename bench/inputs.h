@@ -28,6 +28,9 @@ struct Day {
 };
 const std::vector<Day>& Days();
 
+/// Those days, each at a time of day.
+std::vector<OleDate> Moments();
+
 /// A line of an invoice list.
 struct Invoice {
   Text date;

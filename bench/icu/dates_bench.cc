@@ -28,18 +28,45 @@ std::vector<UDate> Dates() {
   return list;
 }
 
-void FormatDateIcu(benchmark::State& state) {
+void FormatIcu(benchmark::State& state, const char16_t* pattern, const char* locale,
+               const std::vector<UDate>& dates) {
   UErrorCode status = U_ZERO_ERROR;
-  const auto format = ThaiDateFormat(u"d MMMM yyyy", status);
+  const auto format = DateFormat(pattern, locale, status);
   if (U_FAILURE(status)) return Check(state, status);
   icu::UnicodeString text;
-  Measure(state, Dates(), [&](UDate date) {
+  Measure(state, dates, [&](UDate date) {
     text.remove();
     static_cast<icu::DateFormat&>(*format).format(date, text);
     return text.length();
   });
 }
+
+void FormatDateIcu(benchmark::State& state) {
+  FormatIcu(state, u"d MMMM yyyy", "th_TH@calendar=buddhist", Dates());
+}
 BENCHMARK(FormatDateIcu)->Name("format_date/icu");
+BENCHMARK(FormatDateIcu)->Name("format_thai/icu");
+
+std::vector<UDate> MomentsInIcu() {
+  std::vector<UDate> list;
+  for (const OleDate date : Moments()) list.push_back(ToIcu(date));
+  return list;
+}
+
+void FormatTimeIcu(benchmark::State& state) {
+  FormatIcu(state, u"HH:mm:ss", "en_US", MomentsInIcu());
+}
+BENCHMARK(FormatTimeIcu)->Name("format_time/icu");
+
+void FormatQueryIcu(benchmark::State& state) {
+  FormatIcu(state, u"yyyy-MM-dd HH:mm:ss", "en_US", MomentsInIcu());
+}
+BENCHMARK(FormatQueryIcu)->Name("format_query/icu");
+
+void Format2000Icu(benchmark::State& state) {
+  FormatIcu(state, u"d/M/yyyy", "th_TH@calendar=buddhist", Dates());
+}
+BENCHMARK(Format2000Icu)->Name("format_2000/icu");
 
 void AddMonthIcu(benchmark::State& state) {
   UErrorCode status = U_ZERO_ERROR;

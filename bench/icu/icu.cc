@@ -12,18 +12,23 @@ icu::UnicodeString ToIcu(TextView text) {
 
 UDate ToIcu(OleDate date) {
   constexpr double kMillisecondsPerDay = 86'400'000;
-  return static_cast<double>(date.Civil().time_since_epoch().count()) * kMillisecondsPerDay;
+  return static_cast<double>(date.Civil().time_since_epoch().count()) * kMillisecondsPerDay +
+         std::round(date.TimeOfDay() * kMillisecondsPerDay);
 }
 
 void Check(benchmark::State& state, UErrorCode status) {
   if (U_FAILURE(status)) state.SkipWithError(u_errorName(status));
 }
 
-std::unique_ptr<icu::SimpleDateFormat> ThaiDateFormat(const char16_t* pattern, UErrorCode& status) {
-  auto format = std::make_unique<icu::SimpleDateFormat>(
-      pattern, icu::Locale("th_TH@calendar=buddhist"), status);
+std::unique_ptr<icu::SimpleDateFormat> DateFormat(const char16_t* pattern, const char* locale,
+                                                  UErrorCode& status) {
+  auto format = std::make_unique<icu::SimpleDateFormat>(pattern, icu::Locale(locale), status);
   if (U_SUCCESS(status)) format->setTimeZone(*icu::TimeZone::getGMT());
   return format;
+}
+
+std::unique_ptr<icu::SimpleDateFormat> ThaiDateFormat(const char16_t* pattern, UErrorCode& status) {
+  return DateFormat(pattern, "th_TH@calendar=buddhist", status);
 }
 
 IcuMoneyWords IcuMoneyWords::Thai(UErrorCode& status) {

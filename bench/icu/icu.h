@@ -14,13 +14,17 @@ namespace ZQ7Standard::Bench {
 
 icu::UnicodeString ToIcu(TextView text);
 
-/// Midnight of a day in Greenwich.
+/// A moment in Greenwich.
 UDate ToIcu(OleDate date);
 
 /// Fails the benchmark when a call of ICU has failed.
 void Check(benchmark::State& state, UErrorCode status);
 
-/// A reader and writer of Thai dates in the Buddhist era.
+/// A reader and writer of dates in a locale, in Greenwich.
+std::unique_ptr<icu::SimpleDateFormat> DateFormat(const char16_t* pattern, const char* locale,
+                                                  UErrorCode& status);
+
+/// One of Thai dates in the Buddhist era.
 std::unique_ptr<icu::SimpleDateFormat> ThaiDateFormat(const char16_t* pattern, UErrorCode& status);
 
 /// Money amounts in words, put together from two spelled numbers.

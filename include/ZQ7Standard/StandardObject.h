@@ -284,15 +284,16 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// blank date.
   Text FormatTDateTime(OleDate InDate, bool ZeroLeader = false) const;
 
-  /// Writes `InDate` by a pattern, "yyyy" and "bbbb" both as the year that
-  /// `Year2000` returns, names in Thai on a Buddhist system and in English on
-  /// others: "15/1/2567" there, "15/1/2024" here. An empty pattern counts as left
-  /// out.
+  /// Writes `InDate` by a pattern. "yyyy" and "bbbb" are both the year that
+  /// `Year2000` returns; names are Thai on a Buddhist system, where the default
+  /// pattern writes "15/1/2567", and English on others: "15/1/2024". An empty
+  /// pattern counts as left out.
   ///
   /// In a pattern d, m, y, b, h, n and s stand for day, month, Gregorian and
   /// Buddhist year, hour, minute and second, AM/PM makes 12 hours, and text in
   /// double quotes or after "\" stands as it is; docs/dates.md has the table. "m"
-  /// and "mm" are minutes next after "h" or next before "s".
+  /// and "mm" are minutes next after "h" or next before "s". The weekday is that of
+  /// the Gregorian day meant: of 2024 for the own year 2567.
   ///
   /// A blank date gives the empty text. Raises 5 for a pattern that ends inside
   /// quotes or in a single "\", for a blank date too.

@@ -36,8 +36,8 @@ constexpr int MeantYear(int year) {
   return year < kFirstBuddhistYear || IsSentinelYear(year) ? year : year - kBuddhistOffset;
 }
 
-/// The year in the era `era` that stands for the own year `year` of a date; 2247
-/// and 1704 are 3333 after one and two conversions down by an era.
+/// The year that `Year2000` returns of a date with the own year `year`. 2247 and
+/// 1704 are 3333 after one and two conversions down by an era.
 constexpr int YearInEra(int year, Era era) {
   if (year == 2247 || year == 1704) return 3333;
   return year < kFirstBuddhistYear ? year + EraDifference(era) : year;

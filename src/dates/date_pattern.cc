@@ -1,13 +1,15 @@
 #include "dates/date_pattern.h"
 
+#include <ZQ7Standard/RunTimeError.h>
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
-#include <utility>
 
 #include "dates/civil.h"
 #include "text/ascii.h"
+#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -24,7 +26,7 @@ enum class Mark : unsigned char {
   kOther,
   kQuote,
   kBackslash,
-  kMeridiem,
+  kLetterA,  // as AM/PM does
 };
 
 constexpr bool IsField(Mark mark) {
@@ -41,7 +43,7 @@ constexpr std::array<Mark, 128> MarkTable() {
   }
   table['"'] = Mark::kQuote;
   table['\\'] = Mark::kBackslash;
-  table['a'] = table['A'] = Mark::kMeridiem;
+  table['a'] = table['A'] = Mark::kLetterA;
   return table;
 }
 
@@ -60,12 +62,11 @@ std::size_t RunLength(TextView pattern, Mark mark) {
   return length;
 }
 
-/// The length of the first piece of a pattern: a run of one letter, AM/PM, quoted
-/// text, an escaped character or any other. 0 if the pattern ends inside it.
-std::size_t PieceLength(TextView pattern) {
-  const Mark mark = MarkOf(pattern.front());
+/// The length of the first piece of a pattern that begins with `mark`: a run of
+/// one letter, AM/PM, quoted text or an escaped character. 0 if the pattern ends
+/// inside it.
+std::size_t MarkedLength(TextView pattern, Mark mark) {
   if (IsField(mark)) return RunLength(pattern, mark);
-  if (mark == Mark::kOther) return 1;
   if (mark == Mark::kBackslash) return pattern.size() > 1 ? 2 : 0;
   if (mark == Mark::kQuote) {
     const std::size_t end = pattern.find(u'"', 1);
@@ -75,9 +76,10 @@ std::size_t PieceLength(TextView pattern) {
   return EqualsIgnoringAsciiCase(front, kMeridiem) ? kMeridiem.size() : 1;
 }
 
-/// Takes the first piece off `rest`; it is empty if the pattern ends inside it.
-TextView TakePiece(TextView& rest) {
-  const TextView piece = rest.substr(0, PieceLength(rest));
+/// Takes the first piece off a pattern that begins with `mark`; it is empty if the
+/// pattern ends inside it.
+TextView TakePiece(TextView& rest, Mark mark) {
+  const TextView piece(rest.data(), mark == Mark::kOther ? 1 : MarkedLength(rest, mark));
   rest.remove_prefix(piece.size());
   return piece;
 }
@@ -85,9 +87,9 @@ TextView TakePiece(TextView& rest) {
 /// The first field in `rest`; `kOther` if there is none.
 Mark FirstField(TextView rest) {
   while (!rest.empty()) {
-    const TextView piece = TakePiece(rest);
-    if (piece.empty()) break;
-    if (IsField(MarkOf(piece.front()))) return MarkOf(piece.front());
+    const Mark mark = MarkOf(rest.front());
+    if (IsField(mark)) return mark;
+    if (TakePiece(rest, mark).empty()) break;
   }
   return Mark::kOther;
 }
@@ -95,21 +97,28 @@ Mark FirstField(TextView rest) {
 bool HasMeridiem(TextView rest) {
   if (rest.find(u'/') == TextView::npos) return false;  // so it is for most times of day
   while (!rest.empty()) {
-    const TextView piece = TakePiece(rest);
+    const Mark mark = MarkOf(rest.front());
+    const TextView piece = TakePiece(rest, mark);
     if (piece.empty()) break;
-    if (EqualsIgnoringAsciiCase(piece, kMeridiem)) return true;
+    if (mark == Mark::kLetterA && piece.size() > 1) return true;
   }
   return false;
 }
 
+constexpr bool FitInto(std::size_t length, const auto&... names) {
+  return (std::ranges::all_of(names, [&](TextView name) { return name.size() <= length; }) && ...);
+}
+
+// No piece writes more than 5/2 of its length, so that the text is never longer.
+static_assert(FitInto(4 * 5 / 2, kEnglishMonths, kEnglishDays, kThaiMonths, kThaiDays));
+static_assert(FitInto(3 * 5 / 2, kEnglishShortMonths, kEnglishShortDays, kThaiShortMonths,
+                      kThaiShortDays));
+
+/// Writes pieces to a place that is long enough.
 class PatternWriter {
  public:
-  PatternWriter(OleDate date, TextView pattern, const std::function<PatternDay()>& day)
-      : date_(date),
-        pattern_(pattern),
-        day_source_(day),
-        text_(pattern.size() * 5 / 2, u'\0'),
-        end_(text_.data()) {}
+  PatternWriter(OleDate date, const PatternDay& day, TextView pattern, char16_t* text)
+      : date_(date), day_(day), pattern_(pattern), end_(text) {}
 
   /// Writes what a piece stands for.
   void Write(Mark mark, TextView piece) {
@@ -120,16 +129,16 @@ class PatternWriter {
       case Mark::kMonth:
         return length <= 2 ? WriteNumber(Month(), length) : WriteText(MonthName(length > 3));
       case Mark::kYear:
-        return WriteYear(Day().year, length);
+        return WriteYear(day_.year, length);
       case Mark::kBuddhistYear:
-        return WriteYear(Day().buddhist_year, length);
+        return WriteYear(day_.buddhist_year, length);
       case Mark::kHour:
         return WriteNumber(ShownHour(), length);
       case Mark::kMinute:
         return WriteNumber(Milliseconds() / 60000 % 60, length);
       case Mark::kSecond:
         return WriteNumber(Milliseconds() / 1000 % 60, length);
-      case Mark::kMeridiem:
+      case Mark::kLetterA:
         return length > 1 ? WriteMeridiem(piece) : WriteText(piece);
       case Mark::kQuote:
         return WriteText(piece.substr(1, length - 2));
@@ -140,10 +149,8 @@ class PatternWriter {
     }
   }
 
-  Text Take() {
-    text_.resize(static_cast<std::size_t>(end_ - text_.data()));
-    return std::move(text_);
-  }
+  /// One past what is written.
+  const char16_t* End() const { return end_; }
 
  private:
   void WriteText(TextView text) { end_ += text.copy(end_, text.size()); }
@@ -154,11 +161,10 @@ class PatternWriter {
     WriteText(morning ? u"AM" : u"PM");
   }
 
-  void WriteDigit(int digit) { *end_++ = static_cast<char16_t>(u'0' + digit); }
-
+  /// A leading zero that is not wanted is written over: to jump on the number costs more.
   void WriteNumber(int number, std::size_t width) {
     *end_ = static_cast<char16_t>(u'0' + number / 10);
-    end_ += (width > 1) | (number > 9) ? 1 : 0;
+    end_ += static_cast<int>(width > 1 || number > 9);
     *end_++ = static_cast<char16_t>(u'0' + number % 10);
   }
 
@@ -167,21 +173,16 @@ class PatternWriter {
     WriteNumber(year % 100, 2);
   }
 
-  const PatternDay& Day() {
-    if (!day_) day_ = day_source_();
-    return *day_;
+  int DayOfMonth() const { return static_cast<int>(static_cast<unsigned>(day_.civil.day())); }
+  int Month() const { return static_cast<int>(static_cast<unsigned>(day_.civil.month())); }
+
+  TextView MonthName(bool full) const {
+    return MonthNamesIn(day_.language, full)[static_cast<std::size_t>(Month())];
   }
 
-  int DayOfMonth() { return static_cast<int>(static_cast<unsigned>(Day().day.day())); }
-  int Month() { return static_cast<int>(static_cast<unsigned>(Day().day.month())); }
-
-  TextView MonthName(bool full) {
-    return MonthNamesIn(Day().language, full)[static_cast<std::size_t>(Month())];
-  }
-
-  TextView DayName(bool full) {
+  TextView DayName(bool full) const {
     const std::chrono::weekday day{std::chrono::local_days(MeantDay(date_))};
-    return DayNamesIn(Day().language, full)[day.c_encoding() + 1];
+    return DayNamesIn(day_.language, full)[day.c_encoding() + 1];
   }
 
   int Milliseconds() {
@@ -192,36 +193,39 @@ class PatternWriter {
   int Hour() { return Milliseconds() / 3600000; }
 
   int ShownHour() {
-    if (!twelve_hours_) twelve_hours_ = HasMeridiem(pattern_);
-    return *twelve_hours_ ? (Hour() + 11) % 12 + 1 : Hour();
+    if (shown_hour_ < 0) shown_hour_ = HasMeridiem(pattern_) ? (Hour() + 11) % 12 + 1 : Hour();
+    return shown_hour_;
   }
 
   OleDate date_;
+  const PatternDay& day_;
   TextView pattern_;
-  const std::function<PatternDay()>& day_source_;
-  std::optional<PatternDay> day_;
-  int milliseconds_ = -1;
-  std::optional<bool> twelve_hours_;
-  Text text_;
+  int milliseconds_ = -1;  // until they are asked for
+  int shown_hour_ = -1;
   char16_t* end_;
 };
 
 }  // namespace
 
-std::optional<Text> FormatPattern(OleDate date, TextView pattern,
-                                  const std::function<PatternDay()>& day) {
-  PatternWriter writer(date, pattern, day);
+bool MayShowDay(TextView pattern) {
+  return std::ranges::any_of(pattern, [](char16_t c) { return MarkOf(c) <= Mark::kBuddhistYear; });
+}
+
+Text FormatPattern(const char* operation, OleDate date, const PatternDay& day, TextView pattern) {
+  Text text(pattern.size() * 5 / 2, u'\0');
+  PatternWriter writer(date, day, pattern, text.data());
   Mark before = Mark::kOther;  // the last field
   for (TextView rest = pattern; !rest.empty();) {
-    const TextView piece = TakePiece(rest);
-    if (piece.empty()) return std::nullopt;
-    const Mark mark = MarkOf(piece.front());
+    const Mark mark = MarkOf(rest.front());
+    const TextView piece = TakePiece(rest, mark);
+    if (piece.empty()) throw RunTimeError::InvalidArgument(operation, Quoted(pattern));
     const bool minutes = mark == Mark::kMonth && piece.size() <= 2 &&
                          (before == Mark::kHour || FirstField(rest) == Mark::kSecond);
     writer.Write(minutes ? Mark::kMinute : mark, piece);
     if (IsField(mark)) before = mark;
   }
-  return writer.Take();
+  text.resize(static_cast<std::size_t>(writer.End() - text.data()));
+  return text;
 }
 
 }  // namespace ZQ7Standard

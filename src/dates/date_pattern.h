@@ -4,8 +4,6 @@
 #include <ZQ7Standard/Types.h>
 
 #include <chrono>
-#include <functional>
-#include <optional>
 
 #include "dates/name_tables.h"
 
@@ -13,17 +11,19 @@ namespace ZQ7Standard {
 
 /// A day as a pattern shows it.
 struct PatternDay {
-  std::chrono::year_month_day day;  // its year does not count
-  int year;                         // for "yyyy"
-  int buddhist_year;                // for "bbbb"
-  Language language;                // of the names
+  std::chrono::year_month_day civil;  // its year does not count
+  int year;                           // for "yyyy"
+  int buddhist_year;                  // for "bbbb"
+  Language language;                  // of the names
 };
 
-/// Writes `date` as `pattern` says (docs/dates.md lists the letters), its day as
-/// `day` returns it, which is called if the pattern shows one. Returns nullopt if
-/// the pattern ends inside quotes or in a single "\".
-std::optional<Text> FormatPattern(OleDate date, TextView pattern,
-                                  const std::function<PatternDay()>& day);
+/// Whether a pattern has a letter of the day, as each has that shows one.
+bool MayShowDay(TextView pattern);
+
+/// Writes the time of day and the weekday of `date`, and `day` for the rest, as
+/// `pattern` says (docs/dates.md lists the letters). Raises 5 in the name of
+/// `operation` if the pattern ends inside quotes or in a single "\".
+Text FormatPattern(const char* operation, OleDate date, const PatternDay& day, TextView pattern);
 
 }  // namespace ZQ7Standard
 

@@ -62,7 +62,7 @@ OleDate StandardObject::GETMAXDate() const {
 }
 
 bool StandardObject::isBlankDate(OleDate iDate) const {
-  return iDate.TimeOfDay() == 0 && std::ranges::count(kBlankDays, iDate.Civil()) > 0;
+  return std::ranges::count(kBlankDays, iDate.Civil()) > 0 && iDate.TimeOfDay() == 0;
 }
 
 OleDate StandardObject::TrimDate(OleDate iDate) const {

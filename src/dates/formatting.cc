@@ -1,15 +1,11 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <array>
 #include <cstddef>
-#include <functional>
-#include <utility>
 
 #include "dates/civil.h"
 #include "dates/date_pattern.h"
 #include "text/ascii.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -81,15 +77,6 @@ PatternDay QueryDay(OleDate date) {
   return {day, year, year, Language::kEnglish};
 }
 
-using DaySource = std::function<PatternDay()>;
-
-/// Writes a date by a pattern of the caller's.
-Text ByPattern(const char* operation, OleDate date, TextView pattern, const DaySource& day) {
-  auto text = FormatPattern(date, pattern, day);
-  if (!text) throw RunTimeError::InvalidArgument(operation, Quoted(pattern));
-  return *std::move(text);
-}
-
 /// Appends the time of day as "HH:MM".
 void AppendTime(Text& text, OleDate date) {
   AppendNumber(text, date.Hour(), 2);
@@ -119,10 +106,10 @@ Text StandardObject::FormatTDate2(OleDate InDate, CTDateType DateType, bool Zero
   const bool named = DateType > ZQ7Detect && DateType <= ZQ7D_D_M_M_B_B_B_B;
   const auto index = static_cast<std::size_t>(named ? std::int32_t{DateType} : GetDateFormat());
   const Layout& layout = kLayouts[index];
-  const Text text =
-      *FormatPattern(InDate, ZeroLeader ? layout.with_zeros : layout.plain,
-                     [InDate, &layout] { return DayInBothEras(InDate, layout.language); });
-  return index >= kFirstBoxLayout ? Boxed(text) : text;
+  Text text = FormatPattern("FormatTDate2", InDate, DayInBothEras(InDate, layout.language),
+                            ZeroLeader ? layout.with_zeros : layout.plain);
+  if (index >= kFirstBoxLayout) return Boxed(text);
+  return text;
 }
 
 Text StandardObject::FormatTDateTime(OleDate InDate, bool ZeroLeader) const {
@@ -134,15 +121,15 @@ Text StandardObject::FormatTDateTime(OleDate InDate, bool ZeroLeader) const {
 }
 
 Text StandardObject::Format2000(OleDate InDate, TextView FormatText) const {
-  Text text = ByPattern("Format2000", InDate, FormatText.empty() ? u"d/m/yyyy" : FormatText,
-                        [this, InDate] { return Day2000(InDate, Convention().era); });
+  Text text = FormatPattern("Format2000", InDate, Day2000(InDate, Convention().era),
+                            FormatText.empty() ? u"d/m/yyyy" : FormatText);
   if (isBlankDate(InDate)) return {};
   return text;
 }
 
 Text StandardObject::FormatThai(OleDate InDate, TextView FormatText) const {
-  Text text = ByPattern("FormatThai", InDate, FormatText.empty() ? u"d mmmm bbbb" : FormatText,
-                        [InDate] { return DayInEra(InDate, Era::kBuddhist); });
+  Text text = FormatPattern("FormatThai", InDate, DayInEra(InDate, Era::kBuddhist),
+                            FormatText.empty() ? u"d mmmm bbbb" : FormatText);
   if (isBlankDate(InDate)) return {};
   return text;
 }
@@ -152,20 +139,20 @@ Text StandardObject::FormatThaiRevere(OleDate InDate) const {
 }
 
 Text StandardObject::FormatEnglish(OleDate InDate, TextView FormatText) const {
-  Text text = ByPattern("FormatEnglish", InDate, FormatText.empty() ? u"d mmmm yyyy" : FormatText,
-                        [InDate] { return DayInEra(InDate, Era::kGregorian); });
+  Text text = FormatPattern("FormatEnglish", InDate, DayInEra(InDate, Era::kGregorian),
+                            FormatText.empty() ? u"d mmmm yyyy" : FormatText);
   if (isBlankDate(InDate)) return {};
   return text;
 }
 
 Text StandardObject::FormatQuery(OleDate InDate) const {
   if (isBlankDate(InDate)) return u"NULL";
-  return *FormatPattern(InDate, u"yyyy-mm-dd", [InDate] { return QueryDay(InDate); });
+  return FormatPattern("FormatQuery", InDate, QueryDay(InDate), u"yyyy-mm-dd");
 }
 
 Text StandardObject::FormatQueryTime(OleDate InDate) const {
   if (isBlankDate(InDate)) return u"NULL";
-  return *FormatPattern(InDate, u"yyyy-mm-dd hh:nn:ss", [InDate] { return QueryDay(InDate); });
+  return FormatPattern("FormatQueryTime", InDate, QueryDay(InDate), u"yyyy-mm-dd hh:nn:ss");
 }
 
 Text StandardObject::FormatTime(OleDate InDate) const {
@@ -175,20 +162,20 @@ Text StandardObject::FormatTime(OleDate InDate) const {
 }
 
 Text StandardObject::FormatTime2(OleDate InDate, TextView FormatText) const {
-  return ByPattern("FormatTime2", InDate, FormatText.empty() ? u"hh:nn:ss" : FormatText,
-                   [this, InDate] { return Day2000(InDate, Convention().era); });
+  const TextView pattern = FormatText.empty() ? u"hh:nn:ss" : FormatText;
+  const bool may_show_day = MayShowDay(pattern);  // most do not, and need no convention
+  return FormatPattern("FormatTime2", InDate,
+                       may_show_day ? Day2000(InDate, Convention().era) : PatternDay{}, pattern);
 }
 
 Text StandardObject::FormatPeriod(OleDate InDate) const {
   if (isBlankDate(InDate)) return {};
-  const Era era = Convention().era;
-  return *FormatPattern(InDate, u"yyyy/mm", [InDate, era] { return DayInEra(InDate, era); });
+  return FormatPattern("FormatPeriod", InDate, DayInEra(InDate, Convention().era), u"yyyy/mm");
 }
 
 Text StandardObject::FormatTPeriod(OleDate InDate) const {
   if (isBlankDate(InDate)) return {};
-  const Era era = Convention().era;
-  return *FormatPattern(InDate, u"mm/yyyy", [InDate, era] { return DayInEra(InDate, era); });
+  return FormatPattern("FormatTPeriod", InDate, DayInEra(InDate, Convention().era), u"mm/yyyy");
 }
 
 }  // namespace ZQ7Standard

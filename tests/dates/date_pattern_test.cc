@@ -4,13 +4,11 @@
 
 using namespace ZQ7Standard;
 
-/// Monday 2024-02-05 at an hour, 7 minutes and 9 seconds; no text for a pattern that is
-/// not closed.
-static std::optional<Text> Formatted(TextView pattern, int hour) {
+/// Monday 2024-02-05 at an hour, 7 minutes and 9 seconds.
+static Text Formatted(TextView pattern, int hour) {
   const OleDate date = OleDate::FromParts(2024, 2, 5, hour, 7, 9);
-  return FormatPattern(date, pattern, [date] {
-    return PatternDay{std::chrono::year_month_day(date.Civil()), 2024, 2567, Language::kEnglish};
-  });
+  const PatternDay day{std::chrono::year_month_day(date.Civil()), 2024, 2567, Language::kEnglish};
+  return FormatPattern("test", date, day, pattern);
 }
 
 // clang-format off
@@ -49,8 +47,8 @@ TEST(DatePattern, WritesQuotedAndEscapedTextAsItStands) {
   ExpectRows<TextView>([](TextView pattern) { return Formatted(pattern, 21); }, {
       {u"\"day \"d", "day 5"}, {u"\"\"d", "5"}, {u"\"d\"\"m\"", "dm"}, {u"\"\\\"d", "\\5"},
       {u"\\d\\\"d", "d\"5"}, {u"\\\\d", "\\5"}, {u"\"'\"'d'", "''5'"},
-      {u"\"", "none"}, {u"d \"day", "none"}, {u"\"\"\"", "none"}, {u"\"\\\"\"", "none"},
-      {u"\\", "none"}, {u"d\\", "none"}, {u"\\\\\\", "none"}, {u"\\\"\"", "none"},
-      {u"h \"AM/PM", "none"}, {u"m \"", "none"}, {u"h\\", "none"}});
+      {u"\"", "error 5"}, {u"d \"day", "error 5"}, {u"\"\"\"", "error 5"}, {u"\"\\\"\"", "error 5"},
+      {u"\\", "error 5"}, {u"d\\", "error 5"}, {u"\\\\\\", "error 5"}, {u"\\\"\"", "error 5"},
+      {u"h \"AM/PM", "error 5"}, {u"m \"", "error 5"}, {u"h\\", "error 5"}});
 }
 // clang-format on
