@@ -8,12 +8,16 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace ZQ7Standard {
 
-/// Returns what a file is to hold. `old_bytes` returns what it holds; a file that is not
-/// asked for them need not be readable.
-using FileChange = std::function<std::string(const std::function<std::string()>& old_bytes)>;
+/// Reads the bytes of a file when they are first asked for.
+using OldBytes = std::function<std::string_view()>;
+
+/// Returns what a file is to hold. One that does not ask for the old bytes works on files
+/// that may not be read, too.
+using FileChange = std::function<std::string(const OldBytes& old_bytes)>;
 
 /// Rewrites files. Paths are path texts.
 class ZQ7STANDARD_EXPORT FileRewriter {

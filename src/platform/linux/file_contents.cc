@@ -44,10 +44,10 @@ class LinuxFileReader final : public FileReader {
   std::optional<std::string> ReadAll(TextView path) override {
     const auto file = OpenFile::IfThere(path, NativePath(path, drives_), kForReading);
     if (!file) return std::nullopt;
-    const mode_t mode = file->Status().st_mode;
-    if (S_ISDIR(mode)) return std::nullopt;
-    if (!S_ISREG(mode)) file->Fail(EINVAL, "read");
-    return file->ReadToEnd();
+    const struct stat status = file->Status();
+    if (S_ISDIR(status.st_mode)) return std::nullopt;
+    if (!S_ISREG(status.st_mode)) file->Fail(EINVAL, "read");
+    return file->ReadToEnd(status);
   }
 
   std::size_t ReadStart(TextView path, std::span<char> buffer) override {

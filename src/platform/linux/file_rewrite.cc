@@ -97,12 +97,12 @@ bool Replace(const FilePlace& place, const FileRights& rights, std::string_view 
   const OpenFile& folder = place.folder;
   const std::string name = place.name + "$$$$";
   OpenFile temporary = MakeTemporary(folder, name);
-  TakeRights(temporary, rights);
+  const struct stat made = temporary.Status();
+  TakeRights(temporary, made, rights);
   temporary.Write(bytes);
   temporary.Sync();
-  const struct stat status = temporary.Status();
   temporary.Close();
-  if (!IsSame(status, folder.StatusOf(name))) return false;
+  if (!IsSame(made, folder.StatusOf(name))) return false;
   const int at = folder.Descriptor();
   if (folder.Calls().renameat(at, name.c_str(), at, place.name.c_str()) != 0) {
     folder.Fail(errno, "rename");
@@ -122,9 +122,11 @@ bool TryRewrite(const FilePlace& place, const FileChange& change) {
     const Lock lock(folder.Calls(), file ? file->Descriptor() : -1);
     const auto status = lock.IsAnothers() ? std::nullopt : StatusNow(place, file);
     if (!status) return false;
-    const std::string bytes = change([&] {
+    std::optional<std::string> old;
+    const std::string bytes = change([&]() -> std::string_view {
       if (!file) folder.Fail(EACCES, "read");
-      return file->ReadToEnd();
+      if (!old) old = file->ReadToEnd(*status);
+      return *old;
     });
     const FileRights rights{*status, file ? AccessListOf(*file) : std::nullopt};
     if (!Replace(place, rights, bytes)) return false;

@@ -1,11 +1,9 @@
 #include "platform/linux/file_rights.h"
 
 #include <endian.h>
-#include <limits.h>
 #include <linux/posix_acl.h>
 #include <linux/posix_acl_xattr.h>
 
-#include <array>
 #include <cerrno>
 #include <cstring>
 
@@ -77,12 +75,16 @@ mode_t ForOtherGroup(mode_t mode) {
 }  // namespace
 
 std::optional<std::string> AccessListOf(const OpenFile& file) {
-  std::array<char, XATTR_SIZE_MAX> list;
-  const ssize_t size =
-      file.Calls().fgetxattr(file.Descriptor(), kAccessList, list.data(), list.size());
-  if (size >= 0) return std::string(list.data(), static_cast<std::size_t>(size));
-  const bool has_none = errno == ENODATA || errno == EOPNOTSUPP;
-  return has_none ? std::optional<std::string>("") : std::nullopt;
+  const auto get = [&](char* list, std::size_t size) {
+    return file.Calls().fgetxattr(file.Descriptor(), kAccessList, list, size);
+  };
+  // To ask for the size first is fast where there is no list.
+  const ssize_t size = get(nullptr, 0);
+  if (size < 0 && (errno == ENODATA || errno == EOPNOTSUPP)) return "";
+  if (size < 0) return std::nullopt;
+  std::string list(static_cast<std::size_t>(size), '\0');
+  if (get(list.data(), list.size()) != size) return std::nullopt;
+  return list;
 }
 
 mode_t ModeWithoutList(mode_t mode, std::string_view list) {
@@ -95,17 +97,18 @@ mode_t ModeWithoutList(mode_t mode, std::string_view list) {
   return (mode & S_IRWXU) | group << 3U | others;
 }
 
-void TakeRights(const OpenFile& file, const FileRights& other) {
+void TakeRights(const OpenFile& file, const struct stat& own, const FileRights& other) {
   constexpr auto kSameOwner = static_cast<uid_t>(-1);
   const auto& [status, list] = other;
   const auto& calls = file.Calls();
   const int descriptor = file.Descriptor();
+  const bool same = (own.st_uid == status.st_uid && own.st_gid == status.st_gid) ||
+                    calls.fchown(descriptor, status.st_uid, status.st_gid) == 0;
+  const bool same_group = same || calls.fchown(descriptor, kSameOwner, status.st_gid) == 0;
   mode_t mode = status.st_mode & ACCESSPERMS;
-  const bool same_owner = calls.fchown(descriptor, status.st_uid, status.st_gid) == 0;
-  const bool same_group = same_owner || calls.fchown(descriptor, kSameOwner, status.st_gid) == 0;
   if (!list) mode &= S_IRWXU;
   const bool has_list = list && !list->empty();
-  if (!(has_list && same_owner && SetList(file, *list))) {
+  if (!(has_list && same && SetList(file, *list))) {
     RemoveList(file);
     if (has_list) mode = ModeWithoutList(mode, *list);
   }

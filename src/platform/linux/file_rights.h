@@ -26,10 +26,10 @@ std::optional<std::string> AccessListOf(const OpenFile& file);
 /// nobody has a right by them that the list did not give.
 mode_t ModeWithoutList(mode_t mode, std::string_view list);
 
-/// Gives a new file the owner, group and rights of another file, as far as the user may
-/// do that, and its owner the right to write. Nobody but the owner gets more rights than
-/// the other file gave.
-void TakeRights(const OpenFile& file, const FileRights& other);
+/// Gives a new file of the status `own` the owner, group and rights of another file, as far
+/// as the user may do that, and its owner the right to write. Nobody but the owner gets
+/// more rights than the other file gave.
+void TakeRights(const OpenFile& file, const struct stat& own, const FileRights& other);
 
 }  // namespace ZQ7Standard
 

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 
-#include <array>
 #include <cerrno>
 #include <utility>
 
@@ -82,10 +81,18 @@ std::size_t OpenFile::Read(std::span<char> buffer) const {
   return static_cast<std::size_t>(count);
 }
 
-std::string OpenFile::ReadToEnd() const {
-  std::array<char, 65536> buffer;
-  std::string bytes;
-  while (const std::size_t count = Read(buffer)) bytes.append(buffer.data(), count);
+std::string OpenFile::ReadToEnd(const struct stat& status) const {
+  constexpr std::size_t kSizeUnknown = 65535;  // as with files of /proc
+  const auto expected = static_cast<std::size_t>(status.st_size);
+  // Room for one byte more shows where the end is.
+  std::string bytes((expected > 0 ? expected : kSizeUnknown) + 1, '\0');
+  std::size_t size = 0;
+  while (const std::size_t count = Read(std::span(bytes).subspan(size))) {
+    size += count;
+    if (size == expected) break;
+    if (size == bytes.size()) bytes.resize(2 * size);
+  }
+  bytes.resize(size);
   return bytes;
 }
 

@@ -44,8 +44,8 @@ class OpenFile {
 
   /// Reads once. Fewer bytes than `buffer` has room for are not yet the end; none are.
   std::size_t Read(std::span<char> buffer) const;
-  /// Reads all that is left.
-  std::string ReadToEnd() const;
+  /// Reads a file of that status from its start to its end.
+  std::string ReadToEnd(const struct stat& status) const;
   /// Writes all of `bytes`.
   void Write(std::string_view bytes) const;
   /// Waits until what was written is on the disk.
