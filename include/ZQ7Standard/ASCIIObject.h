@@ -43,8 +43,8 @@ struct ASCIIServices {
 /// Objects that rewrite one file at a time, in any number of threads and processes, wait
 /// for each other, for ten seconds at most; then the operation fails as any other does.
 /// Where the file system has no locks they do not wait, and one can undo the other's
-/// change. Nobody waits to read or to append. An instance belongs to one thread at a time;
-/// distinct instances are independent.
+/// change. Nobody waits to read or to append. A new file is there whole or not at all.
+/// An instance belongs to one thread at a time; distinct instances are independent.
 class ZQ7STANDARD_EXPORT ASCIIObject {
  public:
   /// With the services of the machine.
@@ -95,8 +95,8 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   ///
   /// Messages: "Not found specified folder.", also for a path without "\"; "Specified
   /// folder or no permission to updated." for a read-only folder, also when the file is
-  /// there; "Not found specified folder or no permission to write.". A full disk can
-  /// leave a part of the line.
+  /// there; "Not found specified folder or no permission to write.", also for a file
+  /// that is read-only, whoever asks. A full disk can leave a part of the line.
   void AddLog(TextView iTextFile, TextView iOwner, TextView iType, TextView iSuccess,
               TextView iDescription) const;
 
@@ -121,7 +121,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   void SaveStringToTextFile(TextView iTextFile, TextView iValue) const;
 
   /// The same, or with `UseAppendMode` adds `iValue` at the end of a file that is
-  /// there, where a full disk can leave a part of it.
+  /// there and not read-only, where a full disk can leave a part of it.
   ///
   /// Messages: "Not found specified folder."; "Specified folder can not write." for a
   /// new file in a read-only folder, unless the folder's name is Desktop; "Not found

@@ -41,8 +41,8 @@ class ZQ7STANDARD_EXPORT CImageInfo {
   /// however few bits it stores.
   ///
   /// Raises 6 for a depth beyond 255 bits (a JPEG of 32 components), 76 when the
-  /// folder is not there, 70 or 75 for a file that cannot be opened for reading and
-  /// writing.
+  /// folder is not there, 70 for a file that may not be both read and written, a
+  /// read-only one whoever asks, and 75 for a folder, a pipe or a device.
   void ReadImageInfo(TextView sFileName);
 
   std::int32_t Width() const { return width_; }    ///< in pixels
