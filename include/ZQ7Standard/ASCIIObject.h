@@ -132,8 +132,8 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   void Warn(TextView problem) const;
   void Attempt(const std::function<TextView()>& find_problem) const;
   TextView FolderProblem(TextView path, TextView read_only_problem) const;
-  TextView WriteOrCreate(TextView path, const std::function<bool()>& write,
-                         std::string_view bytes, TextView read_only_problem) const;
+  TextView WriteOrCreate(TextView path, const std::function<bool()>& write, std::string_view bytes,
+                         TextView read_only_problem) const;
 
   ASCIIServices services_;
   std::int16_t disable_msg_level_ = 0;
