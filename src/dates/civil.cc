@@ -95,8 +95,8 @@ OleDate AtTime(OleDate day, double time_of_day) {
 
 int MillisecondsOfDay(OleDate date) {
   constexpr int kMillisecondsPerDay = 86'400'000;
-  const double milliseconds = date.TimeOfDay() * kMillisecondsPerDay;
-  return std::min(static_cast<int>(milliseconds + 0.5), kMillisecondsPerDay - 1);
+  const double milliseconds = std::round(date.TimeOfDay() * kMillisecondsPerDay);
+  return std::min(static_cast<int>(milliseconds), kMillisecondsPerDay - 1);
 }
 
 }  // namespace ZQ7Standard

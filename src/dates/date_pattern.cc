@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <string_view>
 
 #include "dates/civil.h"
 #include "text/ascii.h"
@@ -36,14 +35,13 @@ constexpr bool IsField(Mark mark) {
 constexpr std::array<Mark, 128> MarkTable() {
   std::array<Mark, 128> table;
   table.fill(Mark::kOther);
-  constexpr std::string_view kFields = "dmybhns";
+  constexpr TextView kFields = u"dmybhns";
   for (std::size_t i = 0; i < kFields.size(); ++i) {
-    const auto letter = static_cast<std::size_t>(kFields[i]);
-    table[letter] = table[letter - 'a' + 'A'] = static_cast<Mark>(i);
+    table[kFields[i]] = table[AsciiUpper(kFields[i])] = static_cast<Mark>(i);
   }
-  table['"'] = Mark::kQuote;
-  table['\\'] = Mark::kBackslash;
-  table['a'] = table['A'] = Mark::kLetterA;
+  table[u'"'] = Mark::kQuote;
+  table[u'\\'] = Mark::kBackslash;
+  table[u'a'] = table[u'A'] = Mark::kLetterA;
   return table;
 }
 
