@@ -32,7 +32,7 @@ constexpr double kTooShortToGoOn = 20e-6;
 // Below this 1 MiB takes the time of the allocator and the caches.
 constexpr double kTooShortToTell = 0.005;
 // 1 MiB would take 256 times as long.
-constexpr double kTooLongToGoOn = 0.5;
+constexpr double kTooLongToGoOn = 2;
 constexpr int kRepetitions = 3;
 
 // What is repeated: digits, blanks and marks that readers pass over, separators, what
