@@ -23,7 +23,7 @@ class ZQ7STANDARD_EXPORT FileReader {
  public:
   virtual ~FileReader();
 
-  /// Returns the bytes of a file; nothing when there is no such file, or `path` is a
+  /// Returns the bytes of a file; nullopt if there is no such file, or `path` is a
   /// folder.
   virtual std::optional<std::string> ReadAll(TextView path) = 0;
 

@@ -36,7 +36,7 @@ class OpenFile {
 
   /// Opens `name`.
   OpenFile Open(const std::string& name, int flags, unsigned mode = 0666) const;
-  /// The same; nothing where that fails with an errno that is `expected`.
+  /// The same; nullopt if that fails with an errno that is `expected`.
   std::optional<OpenFile> OpenUnless(bool (*expected)(int error), const std::string& name,
                                      int flags) const;
   /// The status of `name`, not of what a link names; nothing where there is none.
