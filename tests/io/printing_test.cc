@@ -126,6 +126,42 @@ TEST(PrinterSelection, RemembersTheNameOfAPrinterWhoseSettingsCannotBeRead) {
   EXPECT_EQ(record.log, "use PDF use Laser a@2,4");
 }
 
+/// Printers that are asked within an operation alone.
+struct GuardedPrinters final : PrinterList {
+  std::vector<Printer> Installed() override { return Listed()->Installed(); }
+  Printer Current() override { return Listed()->Current(); }
+  void MakeCurrent(const Printer& printer) override { Listed()->MakeCurrent(printer); }
+  void DoOperation(const std::function<void()>& steps) override {
+    ++depth, ++operations;
+    steps();
+    --depth;
+  }
+  std::shared_ptr<PrinterList> Listed() const {
+    EXPECT_EQ(depth, 1);
+    return list;
+  }
+
+  PrintRecord record;
+  std::shared_ptr<PrinterList> list = Recorded(record, {u"Laser", u"PDF"});
+  int depth = 0;
+  int operations = 0;
+};
+
+TEST(PrinterSelection, AsksWithinOperations) {
+  const auto printers = std::make_shared<GuardedPrinters>();
+  PrintObject object({.printers = printers});
+  object.SelectPrinter(u"pdf", 1, 9, 7);
+  object.CheckPaperSize();
+  object.CheckPaperBin();
+  object.PrintStart();
+  object.PrintSet(1, 1, 0, u"a");
+  object.PrintGraphicText(u"a");
+  object.PrintGraphicObject(std::make_shared<PlainPicture>());
+  object.PrintOut();
+  object.PrintCancel();
+  EXPECT_EQ(printers->operations, 9) << "one for the object itself";
+}
+
 TEST(PrinterSelection, ChecksPaperAndBin) {
   PrintRecord record;
   const auto paper = [&](const char* refused, const char* os, std::int16_t start) {

@@ -44,19 +44,6 @@ void Refuse(http_t* client) {
   httpWriteResponse(client, HTTP_STATUS_UNAUTHORIZED);
 }
 
-/// Sends a description of the printer.
-void Send(http_t* client, ipp_t* request) {
-  ipp_t* const answer = ippNewResponse(request);
-  Describe(answer);
-  httpClearFields(client);
-  httpSetField(client, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
-  httpSetLength(client, ippLength(answer));
-  httpWriteResponse(client, HTTP_STATUS_OK);
-  ippWrite(client, answer);
-  httpFlushWrite(client);
-  ippDelete(answer);
-}
-
 }  // namespace
 
 IppServer::IppServer(Fault fault)
@@ -130,6 +117,20 @@ void IppServer::Serve(http_t* client) {
   }
 }
 
+/// Sends a description of the printer.
+void IppServer::Send(http_t* client, ipp_t* request) const {
+  ipp_t* const answer = ippNewResponse(request);
+  Describe(answer);
+  httpClearFields(client);
+  httpSetField(client, HTTP_FIELD_CONTENT_TYPE, "application/ipp");
+  httpSetLength(client, ippLength(answer));
+  httpWriteResponse(client, HTTP_STATUS_OK);
+  if (fault_ == Fault::kPauses && httpFlushWrite(client) >= 0) Wait(300);
+  ippWrite(client, answer);
+  httpFlushWrite(client);
+  ippDelete(answer);
+}
+
 /// Answers a request whose attributes were read. Returns whether it keeps the connection.
 bool IppServer::Answer(http_t* client, ipp_t* request) {
   const bool is_job = ippGetOperation(request) == IPP_OP_PRINT_JOB;
@@ -140,7 +141,8 @@ bool IppServer::Answer(http_t* client, ipp_t* request) {
   if (is_job) job_attributes_ += AttributesOf(request);
   if (is_job && fault_ == Fault::kStallsAfterJob) return Wait(-1);
   if (fault_ == Fault::kIsSlow && !Wait(2'000)) return false;
-  fault_ == Fault::kWantsPassword ? Refuse(client) : Send(client, request);
+  const bool guards = fault_ == Fault::kWantsPassword || (is_job && fault_ == Fault::kGuardsJobs);
+  guards ? Refuse(client) : Send(client, request);
   return true;
 }
 

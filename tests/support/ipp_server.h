@@ -21,7 +21,9 @@ enum class Fault : std::uint8_t {
   kIsSilent,        ///< accepts and never answers
   kDribbles,        ///< a byte of an answer each 0.2 s
   kIsSlow,          ///< 2 s for each answer
+  kPauses,          ///< 0.3 s within each answer
   kWantsPassword,   ///< answers 401
+  kGuardsJobs,      ///< answers 401 to jobs alone
   kStallsInJob,     ///< reads its start and no more
   kStallsAfterJob,  ///< reads it and does not answer
   kDiesInJob,
@@ -46,6 +48,7 @@ class IppServer {
   void Run();
   void Serve(http_t* client);
   bool Answer(http_t* client, ipp_t* request);
+  void Send(http_t* client, ipp_t* request) const;
   bool Wait(int milliseconds) const;
 
   Fault fault_;

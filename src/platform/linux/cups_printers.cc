@@ -8,13 +8,10 @@
 #include <utility>
 
 #include "platform/linux/cups_server.h"
-#include "platform/linux/handle.h"
 #include "platform/linux/named_settings.h"
 
 namespace ZQ7Standard {
 namespace {
-
-using Message = Handle<ipp_t, ippDelete>;
 
 /// The address of a printer on its server, with what is not for addresses encoded.
 std::string UriOf(const std::string& printer) {
@@ -29,8 +26,8 @@ std::string PathOf(const std::string& uri) {
   return uri.substr(uri.find('/', std::string_view("ipp://").size()));
 }
 
-Message RequestFor(ipp_op_t operation, const std::string& printer) {
-  Message request(ippNewRequest(operation));
+IppMessage RequestFor(ipp_op_t operation, const std::string& printer) {
+  IppMessage request(ippNewRequest(operation));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr,
                UriOf(printer).c_str());
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
@@ -38,23 +35,17 @@ Message RequestFor(ipp_op_t operation, const std::string& printer) {
   return request;
 }
 
-/// The answer of `server`; it may be a refusal.
-Message Ask(const CupsServer& server, Message request, const std::string& path) {
-  return Message(cupsDoRequest(server.Http(), request.release(), path.c_str()));
-}
-
-bool IsRefusal(ipp_status_t status) {
-  return status >= IPP_STATUS_REDIRECTION_OTHER_SITE;
-}
-
-void CheckAnswer(const CupsServer& server, const Message& answer) {
-  if (!answer || IsRefusal(ippGetStatusCode(answer.get()))) server.Fail();
-}
-
 /// The first text of an attribute; empty when there is none.
 std::string TextOf(ipp_attribute_t* attribute) {
   const char* const text = ippGetString(attribute, 0, nullptr);
   return text == nullptr ? "" : text;
+}
+
+void CheckAnswer(const IppMessage& answer) {
+  const ipp_status_t status = ippGetStatusCode(answer.get());
+  if (status < IPP_STATUS_REDIRECTION_OTHER_SITE) return;
+  const std::string said = TextOf(ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT));
+  throw PrinterFailure(said.empty() ? ippErrorString(status) : said);
 }
 
 bool IsNumber(ipp_tag_t tag) {
@@ -75,9 +66,9 @@ std::string DefaultName(ipp_t* printer, const SettingNames& setting) {
 
 /// Adds a paper from a bin, which only a collection can say.
 void AddPaperFromBin(ipp_t* job, const std::string& paper, const std::string& bin) {
-  const Message collection(ippNew());
+  const IppMessage collection(ippNew());
   if (const pwg_media_t* const media = pwgMediaForPWG(paper.c_str())) {
-    const Message size(ippNew());
+    const IppMessage size(ippNew());
     ippAddInteger(size.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "x-dimension", media->width);
     ippAddInteger(size.get(), IPP_TAG_JOB, IPP_TAG_INTEGER, "y-dimension", media->length);
     ippAddCollection(collection.get(), IPP_TAG_JOB, "media-size", size.get());
@@ -109,21 +100,12 @@ class CupsQueue final : public NamedSettings {
   explicit CupsQueue(std::string name) : name_(std::move(name)) {}
 
   void Print(std::string_view pdf) override {
-    const Message job = RequestFor(IPP_OP_PRINT_JOB, name_);
+    const IppMessage job = RequestFor(IPP_OP_PRINT_JOB, name_);
     ippAddString(job.get(), IPP_TAG_OPERATION, IPP_TAG_NAME, "job-name", nullptr, "Document");
     ippAddString(job.get(), IPP_TAG_OPERATION, IPP_TAG_MIMETYPE, "document-format", nullptr,
                  CUPS_FORMAT_PDF);
     AddSettings(job.get(), Values());
-    const CupsServer server(Purpose::kJob);
-    if (server.Http() == nullptr) server.Fail();
-    const std::string path = PathOf(UriOf(name_));
-    const std::size_t size = ippLength(job.get()) + pdf.size();
-    http_status_t status = cupsSendRequest(server.Http(), job.get(), path.c_str(), size);
-    if (status == HTTP_STATUS_CONTINUE) {
-      status = cupsWriteRequestData(server.Http(), pdf.data(), pdf.size());
-    }
-    if (status != HTTP_STATUS_CONTINUE) server.Fail(status);
-    CheckAnswer(server, Message(cupsGetResponse(server.Http(), path.c_str())));
+    CheckAnswer(CupsServer(Purpose::kJob).Ask(job, PathOf(UriOf(name_)), pdf));
   }
 
  private:
@@ -148,30 +130,28 @@ class CupsQueue final : public NamedSettings {
   /// What the server knows of the printer, as it was when it was first asked.
   ipp_t* Attributes() {
     if (attributes_) return attributes_.get();
-    const CupsServer server(Purpose::kQuestion);
-    if (server.Http() == nullptr) server.Fail();
-    Message answer =
-        Ask(server, RequestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, name_), PathOf(UriOf(name_)));
-    CheckAnswer(server, answer);
+    const IppMessage request = RequestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, name_);
+    IppMessage answer = CupsServer(Purpose::kQuestion).Ask(request, PathOf(UriOf(name_)));
+    CheckAnswer(answer);
     attributes_ = std::move(answer);
     return attributes_.get();
   }
 
   std::string name_;
-  Message attributes_;
+  IppMessage attributes_;
 };
 
 }  // namespace
 
 std::vector<std::string> CupsPrinterNames() {
-  const CupsServer server(Purpose::kQuestion);
-  if (server.Http() == nullptr) return {};
-  Message request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
+  CupsServer server(Purpose::kQuestion);
+  if (!server.IsThere()) return {};
+  const IppMessage request(ippNewRequest(IPP_OP_CUPS_GET_PRINTERS));
   ippAddString(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                "printer-name");
-  const Message answer = Ask(server, std::move(request), "/");
-  if (answer && ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND) return {};
-  CheckAnswer(server, answer);
+  const IppMessage answer = server.Ask(request, "/");
+  if (ippGetStatusCode(answer.get()) == IPP_STATUS_ERROR_NOT_FOUND) return {};
+  CheckAnswer(answer);
   std::vector<std::string> names;
   for (ipp_attribute_t* name = ippFindAttribute(answer.get(), "printer-name", IPP_TAG_NAME);
        name != nullptr; name = ippFindNextAttribute(answer.get(), "printer-name", IPP_TAG_NAME)) {
@@ -181,12 +161,7 @@ std::vector<std::string> CupsPrinterNames() {
 }
 
 std::string CupsDefaultName() {
-  const CupsServer server(Purpose::kQuestion);
-  if (server.Http() == nullptr) server.Fail();
-  const char* const name = cupsGetDefault2(server.Http());
-  if (name != nullptr) return name;
-  if (IsRefusal(cupsLastError()) && cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) server.Fail();
-  return "";
+  return CupsServer(Purpose::kQuestion).DefaultPrinter();
 }
 
 Printer CupsPrinter(const std::string& name) {

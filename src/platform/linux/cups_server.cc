@@ -55,18 +55,95 @@ NoPassword::~NoPassword() {
 CupsServer::CupsServer(Purpose purpose) : end_(EndOf(purpose)) {
   const bool is_question = purpose == Purpose::kQuestion && questions;
   if (is_question && questions->unreachable) return;
-  const auto left = std::chrono::ceil<std::chrono::milliseconds>(end_ - Clock::now());
-  if (left.count() <= 0) Fail();
+  Connect();
+  if (is_question) questions->unreachable = !IsThere();
+}
+
+void CupsServer::Connect() {
   // A handshake has no end before `httpSetTimeout`, so the encryption comes after it.
   const http_encryption_t wanted = cupsEncryption();
   const bool encrypts = wanted == HTTP_ENCRYPTION_REQUIRED || wanted == HTTP_ENCRYPTION_ALWAYS;
   http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                           encrypts ? HTTP_ENCRYPTION_IF_REQUESTED : wanted, 1,
-                           static_cast<int>(left.count()), nullptr));
-  if (!http_ && is_question) questions->unreachable = true;
+                           encrypts ? HTTP_ENCRYPTION_IF_REQUESTED : wanted, 1, MillisecondsLeft(),
+                           nullptr));
   if (!http_) return;
   httpSetTimeout(http_.get(), kLookSeconds, HasTime, &end_);
   if (encrypts && httpEncryption(http_.get(), wanted) != 0) Fail();
+}
+
+/// From 1: CUPS takes 0 for time without end.
+int CupsServer::MillisecondsLeft() const {
+  const auto left = std::chrono::ceil<std::chrono::milliseconds>(end_ - Clock::now());
+  if (left.count() <= 0) Fail();
+  return static_cast<int>(left.count());
+}
+
+IppMessage CupsServer::Ask(const IppMessage& request, const std::string& path,
+                           std::string_view data) {
+  if (!IsThere()) Fail();
+  while (true) {
+    http_status_t status = Send(request, path, data);
+    while (status == HTTP_STATUS_CONTINUE && Clock::now() < end_) status = httpUpdate(http_.get());
+    if (status == HTTP_STATUS_OK) return Receive();
+    TryOtherwise(status, path);
+  }
+}
+
+http_status_t CupsServer::Send(const IppMessage& request, const std::string& path,
+                               std::string_view data) {
+  const std::size_t size = ippLength(request.get()) + data.size();
+  const auto status = cupsSendRequest(http_.get(), request.get(), path.c_str(), size);
+  if (status != HTTP_STATUS_CONTINUE || data.empty()) return status;
+  return cupsWriteRequestData(http_.get(), data.data(), data.size());
+}
+
+/// The message that a server answers with. CUPS's own way of reading it would take a
+/// short pause for the end.
+IppMessage CupsServer::Receive() {
+  IppMessage answer(ippNew());
+  ipp_state_t state = IPP_STATE_IDLE;
+  while (state != IPP_STATE_DATA) {
+    state = ippReadIO(this, ReadOn, 1, nullptr, answer.get());
+    if (state == IPP_STATE_ERROR) Fail(HTTP_STATUS_ERROR);
+  }
+  return answer;
+}
+
+/// Reads for CUPS, until the buffer is full or the time is up.
+ssize_t CupsServer::ReadOn(void* server, ipp_uchar_t* buffer, std::size_t size) {
+  const auto& self = *static_cast<CupsServer*>(server);
+  std::size_t count = 0;
+  while (count < size && Clock::now() < self.end_) {
+    const ssize_t read =
+        httpRead2(self.http_.get(), reinterpret_cast<char*>(buffer) + count, size - count);
+    if (read <= 0) break;
+    count += static_cast<std::size_t>(read);
+  }
+  return static_cast<ssize_t>(count);
+}
+
+/// Connects anew in the way that `status` asks for, which may be as a user whom the
+/// machine vouches for. Fails where that is not what it asks.
+void CupsServer::TryOtherwise(http_status_t status, const std::string& path) {
+  httpFlush(http_.get());
+  const bool has_way = status == HTTP_STATUS_UPGRADE_REQUIRED ||
+                       (status == HTTP_STATUS_UNAUTHORIZED &&
+                        cupsDoAuthentication(http_.get(), "POST", path.c_str()) == 0);
+  if (!has_way || httpReconnect2(http_.get(), MillisecondsLeft(), nullptr) != 0) Fail(status);
+  const bool encrypts = status == HTTP_STATUS_UPGRADE_REQUIRED;
+  if (encrypts && httpEncryption(http_.get(), HTTP_ENCRYPTION_REQUIRED) != 0) Fail(status);
+}
+
+std::string CupsServer::DefaultPrinter() {
+  if (!IsThere()) Fail();
+  // CUPS reads the answer itself: a pause may last as long as there is time.
+  httpSetTimeout(http_.get(), MillisecondsLeft() / 1000.0, HasTime, &end_);
+  const char* const name = cupsGetDefault2(http_.get());
+  if (name != nullptr) return name;
+  const bool is_answer = cupsLastError() < IPP_STATUS_REDIRECTION_OTHER_SITE ||
+                         cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND;
+  if (!is_answer) Fail();
+  return "";
 }
 
 void CupsServer::Fail(http_status_t status) const {
@@ -75,11 +152,14 @@ void CupsServer::Fail(http_status_t status) const {
 
 std::string CupsServer::ReasonFor(http_status_t status) const {
   if (Clock::now() >= end_) return "the print server did not answer in time";
+  if (status == HTTP_STATUS_UNAUTHORIZED || status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) {
+    return "the print server wants a password";
+  }
   if (http_ && httpError(http_.get()) != 0) {
     return std::generic_category().message(httpError(http_.get()));
   }
-  if (status == HTTP_STATUS_CUPS_AUTHORIZATION_CANCELED) return "the print server wants a password";
-  if (status >= HTTP_STATUS_BAD_REQUEST) return httpStatus(status);
+  if (status == HTTP_STATUS_ERROR) return "the answer of the print server cannot be read";
+  if (status != HTTP_STATUS_NONE) return httpStatus(status);
   const char* const said = cupsLastErrorString();
   return said == nullptr ? "the print server gave no reason" : said;
 }

@@ -6,10 +6,14 @@
 #include <chrono>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "platform/linux/handle.h"
 
 namespace ZQ7Standard {
+
+/// A request to a print server, or its answer.
+using IppMessage = Handle<ipp_t, ippDelete>;
 
 /// While one is there, the questions that its thread asks the print server have 5
 /// seconds together, and a server that was not reached is not looked for again. Without
@@ -40,26 +44,34 @@ struct NoPassword {
   ~NoPassword();
 };
 
-/// A connection to the print server that the environment names.
+/// A connection to the print server that the environment names. What fails raises a
+/// `PrinterFailure`, a connection whose time is up included.
 class CupsServer {
  public:
-  /// Raises a `PrinterFailure` when there is no time left, or the server does not do the
-  /// encryption that is required.
   explicit CupsServer(Purpose purpose);
   CupsServer(const CupsServer&) = delete;  // CUPS keeps the address of `end_`
   CupsServer& operator=(const CupsServer&) = delete;
   ~CupsServer() = default;
 
-  /// Null where no server was reached.
-  http_t* Http() const { return http_.get(); }
+  /// Whether a server was reached. What follows raises where none was.
+  bool IsThere() const { return http_ != nullptr; }
 
-  /// Raises a `PrinterFailure` that says why the last request, or its step that ended
-  /// with `status`, failed.
-  [[noreturn]] void Fail(http_status_t status = HTTP_STATUS_NONE) const;
+  /// The answer to `request` and the `data` after it, sent to `path`; it may be a refusal.
+  IppMessage Ask(const IppMessage& request, const std::string& path, std::string_view data = {});
+
+  /// The default printer of the user or the server; empty when there is none.
+  std::string DefaultPrinter();
 
  private:
   using TimePoint = std::chrono::steady_clock::time_point;
 
+  static ssize_t ReadOn(void* server, ipp_uchar_t* buffer, std::size_t size);
+  int MillisecondsLeft() const;
+  void Connect();
+  http_status_t Send(const IppMessage& request, const std::string& path, std::string_view data);
+  IppMessage Receive();
+  void TryOtherwise(http_status_t status, const std::string& path);
+  [[noreturn]] void Fail(http_status_t status = HTTP_STATUS_NONE) const;
   std::string ReasonFor(http_status_t status) const;
 
   NoPassword no_password_;
