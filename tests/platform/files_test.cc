@@ -61,7 +61,7 @@ TEST(FileContents, AreThoseOfRegularFilesThatAreNotReadOnly) {
       {{"printf xyz >f"}, "read xyz, start 2, append 0, create no, xyzz"},
       {{""}, "read none, start 0, append 0, create no, z"},
       {{"printf xyz >f; chmod 444 f"}, "read xyz, start error 70, append error 70, create no, xyz"},
-      {{"printf xyz >f; chmod 066 f"}, "read xyz, start error 70, append error 70, create no, xyz"},
+      {{"printf xyz >f; chmod 466 f"}, "read xyz, start error 70, append error 70, create no, xyz"},
       {{"mkfifo f"}, "read error 75, start error 75, append error 75, create no, "},
       {{"mkfifo f; sleep 1 <>f >/dev/null &"}, "read error 75, start error 75, append error 75, create no, "},
       {{"ln -s /dev/zero f"}, "read error 75, start error 75, append 0, create no, "},
