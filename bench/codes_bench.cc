@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "base/code_page.h"
 #include "bench/inputs.h"
 #include "bench/measure.h"
-#include "text/code_page.h"
 
 namespace ZQ7Standard::Bench {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <random>
 
-#include "text/code_page.h"
+#include "base/code_page.h"
 
 namespace ZQ7Standard::Bench {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "text/ascii.h"
+#include "base/ascii.h"
 
 /// Names of classes and members, which are ASCII and whose case does not count.
 namespace ZQ7Standard::Automation {

@@ -6,9 +6,9 @@
 #include <array>
 #include <cstddef>
 
+#include "base/ascii.h"
+#include "base/unicode.h"
 #include "dates/civil.h"
-#include "text/ascii.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <span>
 
+#include "base/ascii.h"
 #include "dates/civil.h"
 #include "dates/name_tables.h"
-#include "text/ascii.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -6,9 +6,9 @@
 #include <cstdint>
 #include <string>
 
+#include "base/ascii.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
-#include "text/ascii.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -3,9 +3,9 @@
 #include <array>
 #include <cstddef>
 
+#include "base/ascii.h"
 #include "dates/civil.h"
 #include "dates/date_pattern.h"
-#include "text/ascii.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -8,12 +8,12 @@
 #include <optional>
 #include <string>
 
+#include "base/ascii.h"
+#include "base/pieces.h"
+#include "base/unicode.h"
 #include "dates/civil.h"
 #include "dates/date_text.h"
 #include "numbers/number_text.h"
-#include "text/ascii.h"
-#include "text/pieces.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "base/ascii.h"
+#include "base/pieces.h"
+#include "base/replace.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
-#include "text/ascii.h"
-#include "text/pieces.h"
-#include "text/replace.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "base/unicode.h"
 #include "io/failures.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

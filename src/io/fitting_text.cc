@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "text/unicode.h"
+#include "base/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -5,8 +5,8 @@
 #include <limits>
 #include <utility>
 
+#include "base/unicode.h"
 #include "io/image_header.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <utility>
 
+#include "base/ascii.h"
+#include "base/case_mapping.h"
+#include "base/code_page.h"
 #include "io/lines.h"
-#include "text/ascii.h"
-#include "text/case_mapping.h"
-#include "text/code_page.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -1,8 +1,8 @@
 #include <ZQ7Standard/ASCIIObject.h>
 
+#include "base/ascii.h"
+#include "base/code_page.h"
 #include "io/lines.h"
-#include "text/ascii.h"
-#include "text/code_page.h"
 
 namespace ZQ7Standard {
 namespace {

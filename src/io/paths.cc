@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/pieces.h"
 #include "io/failures.h"
 #include "io/path_parts.h"
-#include "text/pieces.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "base/case_mapping.h"
 #include "io/failures.h"
-#include "text/case_mapping.h"
 
 namespace ZQ7Standard {
 namespace {

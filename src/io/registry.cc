@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "base/code_page.h"
 #include "io/failures.h"
-#include "text/code_page.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "base/ascii.h"
+#include "base/pieces.h"
 #include "numbers/number_text.h"
-#include "text/ascii.h"
-#include "text/pieces.h"
 
 namespace ZQ7Standard {
 namespace {

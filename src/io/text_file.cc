@@ -5,11 +5,11 @@
 #include <limits>
 #include <optional>
 
+#include "base/case_mapping.h"
+#include "base/code_page.h"
+#include "base/unicode.h"
 #include "io/lines.h"
 #include "io/path_parts.h"
-#include "text/case_mapping.h"
-#include "text/code_page.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -9,8 +9,8 @@
 #include <limits>
 #include <string>
 
-#include "text/ascii.h"
-#include "text/unicode.h"
+#include "base/ascii.h"
+#include "base/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

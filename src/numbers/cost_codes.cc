@@ -8,10 +8,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/ascii.h"
+#include "base/pieces.h"
+#include "base/unicode.h"
 #include "numbers/number_text.h"
-#include "text/ascii.h"
-#include "text/pieces.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -6,9 +6,9 @@
 #include <limits>
 #include <string>
 
+#include "base/ascii.h"
+#include "base/unicode.h"
 #include "numbers/number_text.h"
-#include "text/ascii.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -4,9 +4,9 @@
 #include <array>
 #include <cstddef>
 
+#include "base/ascii.h"
 #include "numbers/number_text.h"
 #include "numbers/word_buffer.h"
-#include "text/ascii.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <cmath>
 
+#include "base/ascii.h"
+#include "base/case_mapping.h"
+#include "base/replace.h"
 #include "numbers/english_words.h"
 #include "numbers/thai_words.h"
-#include "text/ascii.h"
-#include "text/case_mapping.h"
-#include "text/replace.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "text/ascii.h"
-#include "text/pieces.h"
+#include "base/ascii.h"
+#include "base/pieces.h"
 
 namespace ZQ7Standard {
 namespace {

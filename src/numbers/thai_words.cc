@@ -4,9 +4,9 @@
 #include <cmath>
 #include <cstddef>
 
+#include "base/replace.h"
 #include "numbers/number_text.h"
 #include "numbers/word_buffer.h"
-#include "text/replace.h"
 
 namespace ZQ7Standard {
 namespace {

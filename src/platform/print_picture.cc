@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "base/unicode.h"
 #include "io/picture_size.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

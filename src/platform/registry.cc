@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "base/case_mapping.h"
 #include "platform/registry_path.h"
-#include "text/case_mapping.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -1,6 +1,6 @@
 #include "platform/registry_path.h"
 
-#include "text/pieces.h"
+#include "base/pieces.h"
 
 namespace ZQ7Standard {
 namespace {

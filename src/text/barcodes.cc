@@ -1,6 +1,6 @@
 #include <ZQ7Standard/StandardObject.h>
 
-#include "text/ascii.h"
+#include "base/ascii.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-#include "text/code_page.h"
+#include "base/code_page.h"
 
 namespace ZQ7Standard {
 namespace {

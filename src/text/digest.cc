@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "text/code_page.h"
+#include "base/code_page.h"
 #include "text/md5.h"
 
 namespace ZQ7Standard {

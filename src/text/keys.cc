@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "text/ascii.h"
-#include "text/case_mapping.h"
-#include "text/pieces.h"
+#include "base/ascii.h"
+#include "base/case_mapping.h"
+#include "base/pieces.h"
 
 namespace ZQ7Standard {
 namespace {

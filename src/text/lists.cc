@@ -5,11 +5,11 @@
 #include <cstddef>
 #include <initializer_list>
 
+#include "base/pieces.h"
+#include "base/replace.h"
+#include "base/search.h"
+#include "base/unicode.h"
 #include "numbers/number_text.h"
-#include "text/pieces.h"
-#include "text/replace.h"
-#include "text/search.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

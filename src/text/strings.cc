@@ -7,12 +7,12 @@
 #include <string>
 #include <utility>
 
+#include "base/ascii.h"
+#include "base/case_mapping.h"
+#include "base/pieces.h"
+#include "base/search.h"
+#include "base/unicode.h"
 #include "numbers/number_text.h"
-#include "text/ascii.h"
-#include "text/case_mapping.h"
-#include "text/pieces.h"
-#include "text/search.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -3,10 +3,10 @@
 
 #include <ZQ7Standard/RunTimeError.h>
 
+#include "base/ascii.h"
 #include "dates/date_pattern.h"
 #include "tests/fuzz/check.h"
 #include "tests/support/fakes.h"
-#include "text/ascii.h"
 
 using namespace ZQ7Standard;
 

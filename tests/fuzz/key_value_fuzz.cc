@@ -3,12 +3,12 @@
 
 #include <algorithm>
 
+#include "base/case_mapping.h"
+#include "base/code_page.h"
+#include "base/pieces.h"
 #include "io/key_value_text.h"
 #include "io/lines.h"
 #include "tests/fuzz/check.h"
-#include "text/case_mapping.h"
-#include "text/code_page.h"
-#include "text/pieces.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -7,10 +7,10 @@
 #include <algorithm>
 #include <cctype>
 
+#include "base/case_mapping.h"
+#include "base/pieces.h"
+#include "base/replace.h"
 #include "tests/fuzz/check.h"
-#include "text/case_mapping.h"
-#include "text/pieces.h"
-#include "text/replace.h"
 
 namespace ZQ7Standard {
 namespace {

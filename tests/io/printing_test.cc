@@ -3,11 +3,11 @@
 
 #include <cmath>
 
+#include "base/unicode.h"
 #include "io/fitting_text.h"
 #include "io/picture_size.h"
 #include "tests/support/printers.h"
 #include "tests/support/rows.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

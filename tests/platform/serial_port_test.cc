@@ -9,8 +9,8 @@
 #include <filesystem>
 #include <thread>
 
+#include "base/code_page.h"
 #include "tests/support/rows.h"
-#include "text/code_page.h"
 
 using namespace ZQ7Standard;
 

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <utility>
 
-#include "text/code_page.h"
+#include "base/code_page.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <tuple>
 
+#include "base/code_page.h"
 #include "tests/support/fakes.h"
-#include "text/code_page.h"
 
 namespace ZQ7Standard {
 namespace {

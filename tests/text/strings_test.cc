@@ -4,8 +4,8 @@
 #include <array>
 #include <limits>
 
+#include "base/search.h"
 #include "tests/support/fakes.h"
-#include "text/search.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -6,7 +6,7 @@
 #include <array>
 #include <cerrno>
 
-#include "text/unicode.h"
+#include "base/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <utility>
 
+#include "base/unicode.h"
 #include "platform/linux/file_errors.h"
 #include "platform/linux/native_path.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

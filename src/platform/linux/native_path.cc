@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "text/ascii.h"
+#include "base/ascii.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "text/case_mapping.h"
+#include "base/case_mapping.h"
 
 namespace ZQ7Standard {
 namespace {

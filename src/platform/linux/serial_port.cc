@@ -18,9 +18,9 @@
 #include <thread>
 #include <utility>
 
+#include "base/code_page.h"
+#include "base/unicode.h"
 #include "io/serial_settings.h"
-#include "text/code_page.h"
-#include "text/unicode.h"
 
 namespace ZQ7Standard {
 namespace {

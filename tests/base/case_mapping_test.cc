@@ -1,4 +1,4 @@
-#include "text/case_mapping.h"
+#include "base/case_mapping.h"
 
 #include <gtest/gtest.h>
 

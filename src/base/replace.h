@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_TEXT_REPLACE_H_
-#define ZQ7STANDARD_SRC_TEXT_REPLACE_H_
+#ifndef ZQ7STANDARD_SRC_BASE_REPLACE_H_
+#define ZQ7STANDARD_SRC_BASE_REPLACE_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -17,4 +17,4 @@ void AppendReplaced(Text& result, TextView text, TextView from, TextView to);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_TEXT_REPLACE_H_
+#endif  // ZQ7STANDARD_SRC_BASE_REPLACE_H_

@@ -1,7 +1,7 @@
 // Made by scripts/make_case_tables from the Unicode Character Database.
 // clang-format off
-#ifndef ZQ7STANDARD_SRC_TEXT_CASE_TABLES_H_
-#define ZQ7STANDARD_SRC_TEXT_CASE_TABLES_H_
+#ifndef ZQ7STANDARD_SRC_BASE_CASE_TABLES_H_
+#define ZQ7STANDARD_SRC_BASE_CASE_TABLES_H_
 
 #include <array>
 
@@ -385,4 +385,4 @@ inline constexpr std::array<CaseRange, 190> kToUpper = {{
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_TEXT_CASE_TABLES_H_
+#endif  // ZQ7STANDARD_SRC_BASE_CASE_TABLES_H_

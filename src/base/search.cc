@@ -1,4 +1,4 @@
-#include "text/search.h"
+#include "base/search.h"
 
 #include <vector>
 

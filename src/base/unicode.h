@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_TEXT_UNICODE_H_
-#define ZQ7STANDARD_SRC_TEXT_UNICODE_H_
+#ifndef ZQ7STANDARD_SRC_BASE_UNICODE_H_
+#define ZQ7STANDARD_SRC_BASE_UNICODE_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -20,4 +20,4 @@ std::string Quoted(TextView text);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_TEXT_UNICODE_H_
+#endif  // ZQ7STANDARD_SRC_BASE_UNICODE_H_

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_TEXT_CASE_MAPPING_H_
-#define ZQ7STANDARD_SRC_TEXT_CASE_MAPPING_H_
+#ifndef ZQ7STANDARD_SRC_BASE_CASE_MAPPING_H_
+#define ZQ7STANDARD_SRC_BASE_CASE_MAPPING_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -16,4 +16,4 @@ char16_t ToUpper(char16_t c);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_TEXT_CASE_MAPPING_H_
+#endif  // ZQ7STANDARD_SRC_BASE_CASE_MAPPING_H_

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_TEXT_SEARCH_H_
-#define ZQ7STANDARD_SRC_TEXT_SEARCH_H_
+#ifndef ZQ7STANDARD_SRC_BASE_SEARCH_H_
+#define ZQ7STANDARD_SRC_BASE_SEARCH_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -22,4 +22,4 @@ std::size_t FindLast(TextView text, TextView part);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_TEXT_SEARCH_H_
+#endif  // ZQ7STANDARD_SRC_BASE_SEARCH_H_

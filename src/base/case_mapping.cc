@@ -1,10 +1,10 @@
-#include "text/case_mapping.h"
+#include "base/case_mapping.h"
 
 #include <algorithm>
 #include <span>
 
-#include "text/ascii.h"
-#include "text/case_tables.h"
+#include "base/ascii.h"
+#include "base/case_tables.h"
 
 namespace ZQ7Standard {
 namespace {

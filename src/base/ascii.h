@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_TEXT_ASCII_H_
-#define ZQ7STANDARD_SRC_TEXT_ASCII_H_
+#ifndef ZQ7STANDARD_SRC_BASE_ASCII_H_
+#define ZQ7STANDARD_SRC_BASE_ASCII_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -39,4 +39,4 @@ void AppendNumber(Text& text, int number, int width);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_TEXT_ASCII_H_
+#endif  // ZQ7STANDARD_SRC_BASE_ASCII_H_

@@ -1,4 +1,4 @@
-#include "text/replace.h"
+#include "base/replace.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_TEXT_CODE_PAGE_H_
-#define ZQ7STANDARD_SRC_TEXT_CODE_PAGE_H_
+#ifndef ZQ7STANDARD_SRC_BASE_CODE_PAGE_H_
+#define ZQ7STANDARD_SRC_BASE_CODE_PAGE_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -28,4 +28,4 @@ void DecodeCodePage(std::string_view bytes, char16_t* text);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_TEXT_CODE_PAGE_H_
+#endif  // ZQ7STANDARD_SRC_BASE_CODE_PAGE_H_

@@ -1,4 +1,4 @@
-#include "text/pieces.h"
+#include "base/pieces.h"
 
 #include <algorithm>
 #include <cstddef>
