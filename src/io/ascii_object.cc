@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "formats/path_parts.h"
 #include "io/failures.h"
-#include "io/path_parts.h"
 
 namespace ZQ7Standard {
 

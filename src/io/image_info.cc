@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/unicode.h"
-#include "io/image_header.h"
+#include "formats/image_header.h"
 
 namespace ZQ7Standard {
 

@@ -1,8 +1,8 @@
 #include <ZQ7Standard/ASCIIObject.h>
 
 #include "base/code_page.h"
+#include "formats/key_value_text.h"
 #include "io/failures.h"
-#include "io/key_value_text.h"
 
 namespace ZQ7Standard {
 

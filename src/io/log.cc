@@ -2,7 +2,7 @@
 
 #include "base/ascii.h"
 #include "base/code_page.h"
-#include "io/lines.h"
+#include "formats/lines.h"
 
 namespace ZQ7Standard {
 namespace {

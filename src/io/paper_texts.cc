@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <span>
 
-#include "io/paper_tables.h"
+#include "formats/paper_tables.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "base/pieces.h"
+#include "formats/path_parts.h"
 #include "io/failures.h"
-#include "io/path_parts.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -8,8 +8,8 @@
 #include "base/case_mapping.h"
 #include "base/code_page.h"
 #include "base/unicode.h"
-#include "io/lines.h"
-#include "io/path_parts.h"
+#include "formats/lines.h"
+#include "formats/path_parts.h"
 
 namespace ZQ7Standard {
 namespace {

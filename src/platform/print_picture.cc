@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/unicode.h"
-#include "io/picture_size.h"
+#include "formats/picture_size.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -1,6 +1,6 @@
 // Any bytes have a header, and it is the same when zeros follow them.
 
-#include "io/image_header.h"
+#include "formats/image_header.h"
 #include "tests/fuzz/check.h"
 
 using namespace ZQ7Standard;

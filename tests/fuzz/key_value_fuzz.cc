@@ -6,8 +6,8 @@
 #include "base/case_mapping.h"
 #include "base/code_page.h"
 #include "base/pieces.h"
-#include "io/key_value_text.h"
-#include "io/lines.h"
+#include "formats/key_value_text.h"
+#include "formats/lines.h"
 #include "tests/fuzz/check.h"
 
 namespace ZQ7Standard {

@@ -1,6 +1,6 @@
 // Any bytes are a picture with a size, or none.
 
-#include "io/picture_size.h"
+#include "formats/picture_size.h"
 #include "tests/fuzz/check.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "base/unicode.h"
+#include "formats/picture_size.h"
 #include "io/fitting_text.h"
-#include "io/picture_size.h"
 #include "tests/support/printers.h"
 #include "tests/support/rows.h"
 

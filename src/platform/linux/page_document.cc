@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "io/picture_size.h"
+#include "formats/picture_size.h"
 #include "platform/linux/handle.h"
 #include "platform/linux/page_text.h"
 

@@ -9,7 +9,7 @@
 #include <span>
 #include <string_view>
 
-#include "io/paper_tables.h"
+#include "formats/paper_tables.h"
 
 namespace ZQ7Standard {
 

@@ -20,7 +20,7 @@
 
 #include "base/code_page.h"
 #include "base/unicode.h"
-#include "io/serial_settings.h"
+#include "formats/serial_settings.h"
 
 namespace ZQ7Standard {
 namespace {

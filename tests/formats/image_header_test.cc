@@ -1,4 +1,4 @@
-#include "io/image_header.h"
+#include "formats/image_header.h"
 
 #include "tests/support/rows.h"
 

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_KEY_VALUE_TEXT_H_
-#define ZQ7STANDARD_SRC_IO_KEY_VALUE_TEXT_H_
+#ifndef ZQ7STANDARD_SRC_FORMATS_KEY_VALUE_TEXT_H_
+#define ZQ7STANDARD_SRC_FORMATS_KEY_VALUE_TEXT_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -27,4 +27,4 @@ std::string WithoutKey(std::string_view contents, TextView key);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_KEY_VALUE_TEXT_H_
+#endif  // ZQ7STANDARD_SRC_FORMATS_KEY_VALUE_TEXT_H_

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_IMAGE_HEADER_H_
-#define ZQ7STANDARD_SRC_IO_IMAGE_HEADER_H_
+#ifndef ZQ7STANDARD_SRC_FORMATS_IMAGE_HEADER_H_
+#define ZQ7STANDARD_SRC_FORMATS_IMAGE_HEADER_H_
 
 #include <ZQ7Standard/ImageType.h>
 
@@ -29,4 +29,4 @@ ImageHeader ReadImageHeader(std::string_view bytes);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_IMAGE_HEADER_H_
+#endif  // ZQ7STANDARD_SRC_FORMATS_IMAGE_HEADER_H_

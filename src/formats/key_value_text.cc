@@ -1,4 +1,4 @@
-#include "io/key_value_text.h"
+#include "formats/key_value_text.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -8,7 +8,7 @@
 #include "base/ascii.h"
 #include "base/case_mapping.h"
 #include "base/code_page.h"
-#include "io/lines.h"
+#include "formats/lines.h"
 
 namespace ZQ7Standard {
 namespace {

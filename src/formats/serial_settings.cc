@@ -1,4 +1,4 @@
-#include "io/serial_settings.h"
+#include "formats/serial_settings.h"
 
 #include <algorithm>
 #include <array>

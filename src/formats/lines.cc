@@ -1,4 +1,4 @@
-#include "io/lines.h"
+#include "formats/lines.h"
 
 #include <algorithm>
 

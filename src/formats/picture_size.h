@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_PICTURE_SIZE_H_
-#define ZQ7STANDARD_SRC_IO_PICTURE_SIZE_H_
+#ifndef ZQ7STANDARD_SRC_FORMATS_PICTURE_SIZE_H_
+#define ZQ7STANDARD_SRC_FORMATS_PICTURE_SIZE_H_
 
 #include <cstdint>
 #include <optional>
@@ -27,4 +27,4 @@ std::optional<PictureSize> ReadPictureSize(std::string_view file);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_PICTURE_SIZE_H_
+#endif  // ZQ7STANDARD_SRC_FORMATS_PICTURE_SIZE_H_

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_SERIAL_SETTINGS_H_
-#define ZQ7STANDARD_SRC_IO_SERIAL_SETTINGS_H_
+#ifndef ZQ7STANDARD_SRC_FORMATS_SERIAL_SETTINGS_H_
+#define ZQ7STANDARD_SRC_FORMATS_SERIAL_SETTINGS_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -27,4 +27,4 @@ std::optional<SerialSettings> ReadSerialSettings(TextView text);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_SERIAL_SETTINGS_H_
+#endif  // ZQ7STANDARD_SRC_FORMATS_SERIAL_SETTINGS_H_

@@ -1,4 +1,4 @@
-#include "io/picture_size.h"
+#include "formats/picture_size.h"
 
 #include <cstddef>
 

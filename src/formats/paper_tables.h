@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_PAPER_TABLES_H_
-#define ZQ7STANDARD_SRC_IO_PAPER_TABLES_H_
+#ifndef ZQ7STANDARD_SRC_FORMATS_PAPER_TABLES_H_
+#define ZQ7STANDARD_SRC_FORMATS_PAPER_TABLES_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -88,4 +88,4 @@ static_assert(CountsFromOne(kPaperBinTexts, 11) && kPaperBinTexts.size() == 12);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_PAPER_TABLES_H_
+#endif  // ZQ7STANDARD_SRC_FORMATS_PAPER_TABLES_H_

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_LINES_H_
-#define ZQ7STANDARD_SRC_IO_LINES_H_
+#ifndef ZQ7STANDARD_SRC_FORMATS_LINES_H_
+#define ZQ7STANDARD_SRC_FORMATS_LINES_H_
 
 #include <string_view>
 
@@ -13,4 +13,4 @@ std::string_view TakeLine(std::string_view& rest);
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_LINES_H_
+#endif  // ZQ7STANDARD_SRC_FORMATS_LINES_H_

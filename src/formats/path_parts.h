@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_PATH_PARTS_H_
-#define ZQ7STANDARD_SRC_IO_PATH_PARTS_H_
+#ifndef ZQ7STANDARD_SRC_FORMATS_PATH_PARTS_H_
+#define ZQ7STANDARD_SRC_FORMATS_PATH_PARTS_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -18,4 +18,4 @@ constexpr TextView FileNamePart(TextView path) {
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_PATH_PARTS_H_
+#endif  // ZQ7STANDARD_SRC_FORMATS_PATH_PARTS_H_
