@@ -52,7 +52,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   /// With services of the host's own.
   explicit ASCIIObject(ASCIIServices services);
 
-  // --- Messages to the user: src/io/ascii_object.cc ---
+  // --- Messages to the user: src/io/files/ascii_object.cc ---
 
   /// Problems are shown in a message box titled "Warning" from level 1 up. At 0, the
   /// level of a new object, every operation is silent: the name says the opposite.
@@ -60,7 +60,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   std::int16_t DisableMsgLevel() const;
   void SetDisableMsgLevel(std::int16_t DisableMsgLevel);
 
-  // --- Settings, lines of the form [KEY]=value: src/io/key_value_file.cc ---
+  // --- Settings, lines of the form [KEY]=value: src/io/files/key_value_file.cc ---
   //
   // A line belongs to a key when it begins with the key in brackets, in any case, after
   // blanks (U+0020). All other lines are kept as they are, without those blanks.
@@ -87,7 +87,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   /// message: raises 57, 61, 70, 75 or 76, and the file stays as it was.
   void DeleteValue(TextView iTextFile, TextView IKey) const;
 
-  // --- Logs: src/io/log.cc ---
+  // --- Logs: src/io/files/log.cc ---
 
   /// Appends the line "3/7/2024;9:05:07 AM;iOwner;iType;iSuccess;iDescription": month,
   /// day and Gregorian year of the clock, the locale's time text, and the fields as
@@ -100,7 +100,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   void AddLog(TextView iTextFile, TextView iOwner, TextView iType, TextView iSuccess,
               TextView iDescription) const;
 
-  // --- Whole texts: src/io/text_file.cc ---
+  // --- Whole texts: src/io/files/text_file.cc ---
 
   /// All lines, joined by CR LF, without empty lines at the front. Empty when there is
   /// no such file. Raises 57, 70 or 75 when it cannot be read.

@@ -23,7 +23,7 @@ struct ImageServices {
 /// all four are 0. An instance belongs to one thread at a time; distinct instances
 /// are independent.
 ///
-/// The operations are defined in src/io/image_info.cc.
+/// The operations are defined in src/io/images/image_info.cc.
 class ZQ7STANDARD_EXPORT CImageInfo {
  public:
   /// With the files of the machine.

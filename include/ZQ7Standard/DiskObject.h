@@ -33,7 +33,7 @@ class ZQ7STANDARD_EXPORT DiskObject {
   /// With services of the host's own.
   explicit DiskObject(DiskServices services);
 
-  // --- Paths and the folders on them: src/io/paths.cc ---
+  // --- Paths and the folders on them: src/io/paths/paths.cc ---
 
   /// The text behind the last "\": "b.txt" of "C:\a\b.txt", empty for "C:\a\"; the
   /// whole text when it has none.
@@ -62,7 +62,7 @@ class ZQ7STANDARD_EXPORT DiskObject {
   /// right to, 75 where a file has its name. Those before it stay.
   std::int16_t CreateFullPath(TextView FullPathName) const;
 
-  // --- Files and folders copied: src/io/file_copy.cc ---
+  // --- Files and folders copied: src/io/paths/file_copy.cc ---
 
   /// Copies `FromFile` to `ToFile` when that is not there or has another last-modified
   /// time, older or newer, which it then takes over. Times are compared exactly, or as

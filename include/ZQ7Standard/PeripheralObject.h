@@ -26,7 +26,7 @@ class ZQ7STANDARD_EXPORT PeripheralObject {
   PeripheralObject();
   explicit PeripheralObject(PeripheralServices services);
 
-  // --- Devices on a serial line: src/io/peripherals.cc; docs/devices.md ---
+  // --- Devices on a serial line: src/io/peripherals/peripherals.cc; docs/devices.md ---
 
   /// Opens port `iPort` of `iControl` with the line settings `Setting`, writes `iCode`
   /// as it is and closes the port. Returns 0, or the error number of the first step

@@ -49,7 +49,7 @@ class ZQ7STANDARD_EXPORT PrintObject {
   /// With services of the host's own.
   explicit PrintObject(PrintServices services);
 
-  // --- The printer and its paper: src/io/printer_selection.cc ---
+  // --- The printer and its paper: src/io/printing/printer_selection.cc ---
 
   /// The same as `SelectPrinter2` with a quality of 0. Returns 1.
   std::int16_t SelectPrinter(TextView DeviceName, std::int16_t Orientation, std::int16_t PaperSize,
@@ -74,7 +74,7 @@ class ZQ7STANDARD_EXPORT PrintObject {
   /// printer's own.
   std::int16_t CheckPaperBin(std::int16_t StartBin = 0);
 
-  // --- Papers, bins and orientations by name: src/io/paper_texts.cc ---
+  // --- Papers, bins and orientations by name: src/io/printing/paper_texts.cc ---
 
   /// "A4, 210 x 297 mm" for 9, "Custom Size: ( 300 )" for a code that has no name.
   /// Hosts compare and store these texts, so all stay as they are: 2 is
@@ -87,7 +87,7 @@ class ZQ7STANDARD_EXPORT PrintObject {
   /// "Landscape" for 2, "Portrait" for any other value.
   Text GETPaperOrientationText(std::int16_t Orientation) const;
 
-  // --- Printing: src/io/printing.cc ---
+  // --- Printing: src/io/printing/printing.cc ---
 
   /// Makes the current printer count in millimetres and goes to 1, 1. Returns 0.
   std::int16_t PrintStart();

@@ -26,7 +26,7 @@ class ZQ7STANDARD_EXPORT RegistryObject {
   /// With services of the host's own.
   explicit RegistryObject(RegistryServices services);
 
-  // --- Values of the registry: src/io/registry.cc; docs/files.md ---
+  // --- Values of the registry: src/io/registry/registry_values.cc; docs/files.md ---
 
   // `keyroot` is a `KetRootType`, `keyname` the path of a key below it with "\"
   // between the names, `subkeyname` the name of a value in that key. Case does not

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_IO_FITTING_TEXT_H_
-#define ZQ7STANDARD_SRC_IO_FITTING_TEXT_H_
+#ifndef ZQ7STANDARD_SRC_IO_PRINTING_FITTING_TEXT_H_
+#define ZQ7STANDARD_SRC_IO_PRINTING_FITTING_TEXT_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -20,4 +20,4 @@ TextView FittingStart(TextView text, double limit, double shrinkage,
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_IO_FITTING_TEXT_H_
+#endif  // ZQ7STANDARD_SRC_IO_PRINTING_FITTING_TEXT_H_

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "io/failures.h"
-#include "io/fitting_text.h"
+#include "io/printing/fitting_text.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {

@@ -5,7 +5,7 @@
 
 #include "base/unicode.h"
 #include "formats/picture_size.h"
-#include "io/fitting_text.h"
+#include "io/printing/fitting_text.h"
 #include "tests/support/printers.h"
 #include "tests/support/rows.h"
 

@@ -1,4 +1,4 @@
-#include "io/fitting_text.h"
+#include "io/printing/fitting_text.h"
 
 #include <algorithm>
 #include <cstddef>
