@@ -25,12 +25,6 @@ class ConstantConvention final : public DateConventionSource {
 
 }  // namespace
 
-Clock::~Clock() = default;
-
-DateConventionSource::~DateConventionSource() = default;
-
-TimeTextSource::~TimeTextSource() = default;
-
 std::shared_ptr<Clock> FixedClock(OleDate now) {
   return std::make_shared<ConstantClock>(now);
 }

@@ -71,10 +71,6 @@ class StoreInMemory final : public Registry {
 
 }  // namespace
 
-RegistryKey::~RegistryKey() = default;
-
-Registry::~Registry() = default;
-
 std::shared_ptr<Registry> MemoryRegistry() {
   return std::make_shared<StoreInMemory>();
 }

@@ -16,8 +16,6 @@ class StreamMessageBox final : public MessageBox {
 
 }  // namespace
 
-MessageBox::~MessageBox() = default;
-
 void RecordingMessageBox::Show(const Message& message) {
   messages_.push_back(message);
 }

@@ -30,8 +30,6 @@ class FilePicture final : public PrintPicture {
 
 }  // namespace
 
-PrintPicture::~PrintPicture() = default;
-
 std::shared_ptr<PrintPicture> PictureFromFile(TextView path, DriveMap drives) {
   auto bytes = SystemFileReader(std::move(drives))->ReadAll(path);
   if (!bytes) throw RunTimeError::FileNotFound("PictureFromFile", Quoted(path));

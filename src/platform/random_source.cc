@@ -28,8 +28,6 @@ class ClockSeededSource final : public RandomSource {
 
 }  // namespace
 
-RandomSource::~RandomSource() = default;
-
 std::shared_ptr<RandomSource> SystemRandomSource() {
   return std::make_shared<ClockSeededSource>();
 }

@@ -27,6 +27,4 @@ SecretBytes::~SecretBytes() {
   Wipe(Bytes());
 }
 
-BlockCipher::~BlockCipher() = default;
-
 }  // namespace ZQ7Standard

@@ -1,7 +1,0 @@
-#include <ZQ7Standard/platform/serial_port.h>
-
-namespace ZQ7Standard {
-
-SerialPort::~SerialPort() = default;
-
-}  // namespace ZQ7Standard
