@@ -1,8 +1,8 @@
 #ifndef ZQ7STANDARD_CIMAGEINFO_H_
 #define ZQ7STANDARD_CIMAGEINFO_H_
 
+#include <ZQ7Standard/Enumerations.h>
 #include <ZQ7Standard/Export.h>
-#include <ZQ7Standard/ImageType.h>
 #include <ZQ7Standard/Types.h>
 #include <ZQ7Standard/platform/file_contents.h>
 

@@ -76,6 +76,21 @@ class ZQ7STANDARD_EXPORT OleDate {
   double days_ = 0;
 };
 
+/// Which of the first two fields of a short date, such as 1/2/2567, is the month.
+enum class FieldOrder { kMonthFirst, kDayFirst };
+
+/// How a typed year counts: as a Gregorian year, or as a Buddhist Era year,
+/// which is the Gregorian year plus 543.
+enum class Era { kGregorian, kBuddhist };
+
+/// How dates are typed and shown on a machine.
+struct DateConvention {
+  FieldOrder order = FieldOrder::kMonthFirst;
+  Era era = Era::kGregorian;
+
+  friend bool operator==(DateConvention, DateConvention) = default;
+};
+
 /// An amount of money with four decimals, held as a 64-bit integer count of
 /// 1/10000 units. From -922337203685477.5808 to 922337203685477.5807.
 class ZQ7STANDARD_EXPORT Currency {

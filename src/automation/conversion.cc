@@ -15,8 +15,9 @@
 #include "base/ascii.h"
 #include "base/pieces.h"
 #include "base/unicode.h"
-#include "dates/civil.h"
+#include "dates/date_math.h"
 #include "dates/date_text.h"
+#include "dates/eras.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard::Automation {

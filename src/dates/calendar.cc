@@ -2,8 +2,8 @@
 
 #include <chrono>
 
-#include "dates/civil.h"
-#include "dates/months.h"
+#include "dates/date_math.h"
+#include "dates/first_day_of_month.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "base/ascii.h"
 #include "base/unicode.h"
-#include "dates/civil.h"
+#include "dates/date_math.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -6,7 +6,8 @@
 #include <span>
 
 #include "base/ascii.h"
-#include "dates/civil.h"
+#include "dates/date_math.h"
+#include "dates/eras.h"
 #include "dates/name_tables.h"
 
 namespace ZQ7Standard {
@@ -178,15 +179,10 @@ bool IsYear(Number number) {
   return number.digits >= 3;
 }
 
-int CompletedYear(Number year, Era era) {
-  if (IsYear(year)) return year.value;
-  if (era == Era::kBuddhist) return year.value <= 72 ? 2500 + year.value : 2400 + year.value;
-  return year.value < 30 ? 2000 + year.value : 1900 + year.value;
-}
-
 std::optional<OleDate> EraDate(Number year, int month, Number day, Era era) {
   if (IsYear(day)) return std::nullopt;
-  return DateFromParts(CompletedYear(year, era) - EraDifference(era), month, day.value);
+  const int full_year = IsYear(year) ? year.value : CompletedYear(year.value, era);
+  return DateFromParts(full_year - EraDifference(era), month, day.value);
 }
 
 /// Puts fields together to a date.

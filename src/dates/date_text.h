@@ -2,7 +2,6 @@
 #define ZQ7STANDARD_SRC_DATES_DATE_TEXT_H_
 
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/date_convention.h>
 
 #include <optional>
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "dates/civil.h"
+#include "dates/eras.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -11,13 +11,22 @@ namespace {
 using std::chrono::local_days;
 using std::chrono::year;
 
-// 3876 and 2790 are 3333 shifted up and down by an era, 8345 is 8888 shifted
-// down: blank dates that went through an era conversion too many. The last one
-// is the zero date.
-constexpr std::array<local_days, 6> kBlankDays = {
-    local_days(year(3876) / 3 / 3), local_days(year(3333) / 3 / 3),
-    local_days(year(8888) / 8 / 8), local_days(year(2790) / 3 / 3),
-    local_days(year(8345) / 8 / 8), local_days(year(1899) / 12 / 30)};
+constexpr local_days BlankDay(int blank_year) {
+  return local_days(year(blank_year) / 3 / 3);
+}
+
+constexpr local_days OlderBlankDay(int blank_year) {
+  return local_days(year(blank_year) / 8 / 8);
+}
+
+// Beside the two blank dates, those that went through an era conversion too many, and
+// the zero date.
+constexpr std::array<local_days, 6> kBlankDays = {BlankDay(kBlankYear),
+                                                  BlankDay(kBlankYear + kBuddhistOffset),
+                                                  BlankDay(kBlankYear - kBuddhistOffset),
+                                                  OlderBlankDay(kOlderBlankYear),
+                                                  OlderBlankDay(kOlderBlankYear - kBuddhistOffset),
+                                                  local_days(year(1899) / 12 / 30)};
 
 }  // namespace
 
@@ -54,7 +63,7 @@ Text StandardObject::GetDateFormatString(std::int16_t DateFormat) const {
 }
 
 OleDate StandardObject::GETBlankDate() const {
-  return OleDate::FromParts(3333, 3, 3);
+  return OleDate::FromCivil(kBlankDays.front());
 }
 
 OleDate StandardObject::GETMAXDate() const {

@@ -4,8 +4,9 @@
 #include <cstddef>
 
 #include "base/ascii.h"
-#include "dates/civil.h"
+#include "dates/date_math.h"
 #include "dates/date_pattern.h"
+#include "dates/eras.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -1,5 +1,3 @@
-#include "dates/months.h"
-
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
@@ -9,12 +7,11 @@
 #include <string>
 
 #include "dates/civil.h"
-#include "dates/date_text.h"
+#include "dates/date_math.h"
+#include "dates/first_day_of_month.h"
 
 namespace ZQ7Standard {
 namespace {
-
-constexpr int kMonthsPerYear = 12;
 
 /// What `AddMonth` was asked for, for the message of an error.
 std::string Describe(OleDate date, int months) {
@@ -22,19 +19,6 @@ std::string Describe(OleDate date, int months) {
 }
 
 }  // namespace
-
-OleDate FirstDayOfMonth(std::string_view operation, std::int16_t month, std::int16_t year,
-                        Era era) {
-  const int typed_year = year + EraDifference(era);
-  const std::string input = std::to_string(month) + ", " + std::to_string(year);
-  if (typed_year > std::numeric_limits<std::int16_t>::max()) {
-    throw RunTimeError::Overflow(operation, input);
-  }
-  const int named_month = month < 0 ? 1 : std::min<int>(month, kMonthsPerYear);
-  const auto date = ReadNamedMonthDate(named_month, 1, typed_year, era);
-  if (!date) throw RunTimeError::TypeMismatch(operation, input);
-  return *date;
-}
 
 OleDate StandardObject::AddMonth(OleDate InDate, std::int16_t NumberOfMonth) const {
   const int months = NumberOfMonth == 0 ? 1 : NumberOfMonth;

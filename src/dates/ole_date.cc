@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "dates/civil.h"
+#include "dates/date_math.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -11,18 +11,18 @@
 #include "base/ascii.h"
 #include "base/pieces.h"
 #include "base/unicode.h"
-#include "dates/civil.h"
+#include "dates/date_math.h"
 #include "dates/date_text.h"
+#include "dates/eras.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
 namespace {
 
-// Gregorian 100, the first year of a date, is the Buddhist year 643.
-constexpr int kFirstTypedYear = 643;
+// The first year of a date, in the Buddhist Era.
+constexpr int kFirstTypedYear = 100 + kBuddhistOffset;
 constexpr int kLastTypedYear = 9999;
-constexpr int kLastGregorianKeyYear = 2400;  // a later year in a key is Buddhist
-constexpr int kLastPeriodYear = 3332;        // the year before the blank date's
+constexpr int kLastPeriodYear = kBlankYear - 1;
 
 /// The number that a field begins with, rounded to a whole one; nothing beyond
 /// 16 bits.

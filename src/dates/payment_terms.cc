@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "dates/civil.h"
+#include "dates/date_math.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {

@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <string>
 
-#include "dates/civil.h"
+#include "dates/date_math.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
 

@@ -1,7 +1,7 @@
 #ifndef ZQ7STANDARD_SRC_FORMATS_IMAGE_HEADER_H_
 #define ZQ7STANDARD_SRC_FORMATS_IMAGE_HEADER_H_
 
-#include <ZQ7Standard/ImageType.h>
+#include <ZQ7Standard/Enumerations.h>
 
 #include <cstddef>
 #include <cstdint>

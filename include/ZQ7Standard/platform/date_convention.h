@@ -2,25 +2,11 @@
 #define ZQ7STANDARD_PLATFORM_DATE_CONVENTION_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Types.h>
 
 #include <memory>
 
 namespace ZQ7Standard {
-
-/// Which of the first two fields of a short date, such as 1/2/2567, is the month.
-enum class FieldOrder { kMonthFirst, kDayFirst };
-
-/// How a typed year counts: as a Gregorian year, or as a Buddhist Era year,
-/// which is the Gregorian year plus 543.
-enum class Era { kGregorian, kBuddhist };
-
-/// How dates are typed and shown on a machine.
-struct DateConvention {
-  FieldOrder order = FieldOrder::kMonthFirst;
-  Era era = Era::kGregorian;
-
-  friend bool operator==(DateConvention, DateConvention) = default;
-};
 
 /// Tells the date convention in force. It is asked anew by every date
 /// operation, so that a change takes effect at once; an answer must be cheap.

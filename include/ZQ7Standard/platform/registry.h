@@ -1,28 +1,19 @@
 #ifndef ZQ7STANDARD_PLATFORM_REGISTRY_H_
 #define ZQ7STANDARD_PLATFORM_REGISTRY_H_
 
+#include <ZQ7Standard/Enumerations.h>
 #include <ZQ7Standard/Export.h>
 #include <ZQ7Standard/Types.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <limits>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string_view>
 
 namespace ZQ7Standard {
-
-/// The keys that every registry begins with, as the platform numbers them.
-enum KetRootType : std::int32_t {
-  HKEY_CLASSES_ROOT = std::numeric_limits<std::int32_t>::min(),  ///< 0x80000000
-  HKEY_CURRENT_USER = HKEY_CLASSES_ROOT + 1,                     ///< the user's own
-  HKEY_LOCAL_MACHINE = HKEY_CLASSES_ROOT + 2,                    ///< the machine's
-  HKEY_USERS = HKEY_CLASSES_ROOT + 3,
-  HKEY_PERFORMANCE_DATA = HKEY_CLASSES_ROOT + 4,  ///< never holds a value
-};
 
 /// All the rights to a key, as an access mask.
 inline constexpr std::uint32_t kKeyAllAccess = 0xF003F;

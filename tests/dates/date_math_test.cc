@@ -1,4 +1,4 @@
-#include "dates/civil.h"
+#include "dates/date_math.h"
 
 #include "tests/support/rows.h"
 

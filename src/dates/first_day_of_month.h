@@ -1,8 +1,7 @@
-#ifndef ZQ7STANDARD_SRC_DATES_MONTHS_H_
-#define ZQ7STANDARD_SRC_DATES_MONTHS_H_
+#ifndef ZQ7STANDARD_SRC_DATES_FIRST_DAY_OF_MONTH_H_
+#define ZQ7STANDARD_SRC_DATES_FIRST_DAY_OF_MONTH_H_
 
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/date_convention.h>
 
 #include <cstdint>
 #include <string_view>
@@ -15,4 +14,4 @@ OleDate FirstDayOfMonth(std::string_view operation, std::int16_t month, std::int
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_DATES_MONTHS_H_
+#endif  // ZQ7STANDARD_SRC_DATES_FIRST_DAY_OF_MONTH_H_

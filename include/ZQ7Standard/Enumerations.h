@@ -1,0 +1,83 @@
+#ifndef ZQ7STANDARD_ENUMERATIONS_H_
+#define ZQ7STANDARD_ENUMERATIONS_H_
+
+#include <cstdint>
+#include <limits>
+
+namespace ZQ7Standard {
+
+/// Layouts of a date. D is the day, M the month, YYYY a Gregorian year, BBBB a
+/// Buddhist Era year. The values 1 to 4 are also the codes of `GetDateFormat`.
+enum CTDateType : std::int32_t {
+  ZQ7Detect = 0,            ///< the system's own of the layouts 1 to 4
+  ZQ7MDYYYY = 1,            ///< 1/15/2024
+  ZQ7DMYYYY = 2,            ///< 15/1/2024
+  ZQ7MDBBBB = 3,            ///< 1/15/2567
+  ZQ7DMBBBB = 4,            ///< 15/1/2567
+  ZQ7YYYYMD = 5,            ///< 2024/1/15
+  ZQ7BBBBMD = 6,            ///< 2567/1/15
+  ZQ7DMMBBBB = 7,           ///< 15 ม.ค. 2567
+  ZQ7DMMMBBBB = 8,          ///< 15 มกราคม 2567
+  ZQ7DMMYYYY = 9,           ///< 15 Jan 2024
+  ZQ7DMMMYYYY = 10,         ///< 15 January 2024
+  ZQ7YYYY_MM_DD = 11,       ///< 2024-01-15
+  ZQ7MMMD_YYYY = 12,        ///< January 15, 2024
+  ZQ7MMMYYYY = 13,          ///< January 2024
+  ZQ7D_D_M_M_Y_Y_Y_Y = 14,  ///< 1 5 0 1 2 0 2 4, for the boxes of a cheque
+  ZQ7D_D_M_M_B_B_B_B = 15,  ///< 1 5 0 1 2 5 6 7
+};
+
+/// The event that the days of a payment term count from.
+enum ZQ7ConditionType : std::int32_t {
+  ZQ7AfterInvoiceDate = 0,
+  ZQ7AfterDeliveryDate = 1,
+  ZQ7AfterBLDate = 2,
+  ZQ7AfterReceiveOSDOC = 3,
+  ZQ7AfterEndOfInvoiceMonth = 4,
+  ZQ7AfterEndOfDeliveryMonth = 5,
+  ZQ7AfterEndOfBLMonth = 6,
+  ZQ7AfterEndOfReceiveOSDOCMonth = 7,
+  ZQ7AfterEndOfSPTMonth = 8,
+};
+
+/// How the event of a payment term is written.
+enum ZQ7ConditionOutputType : std::int32_t {
+  ZQ7ConditionOutputTypeShort = 0,  ///< "N/30 AID"
+  ZQ7ConditionOutputTypeFull = 1,   ///< "N/30 AFTER INVOICE DATE"
+};
+
+/// How `FixNumberWithCutMode` brings a number to a whole unit.
+enum ZQ7FixUnit : std::int32_t {
+  ZQ7FixUnitNone = 0,     ///< not at all
+  ZQ7FixUnitFiveUp = 1,   ///< up from a fraction of .5, else down
+  ZQ7FixUnitAllUp = 2,    ///< up
+  ZQ7FixUnitAllDown = 3,  ///< toward zero
+};
+
+/// How `Instr2` compares, searching forward.
+enum ZQ7CompareMethod : std::int32_t {
+  ZQ7CompareBinary = 0,  ///< code unit by code unit
+  ZQ7CompareText = 1,    ///< without regard to case, in every script and locale
+};
+
+/// The kind of an image file.
+enum eImageType : std::int32_t {
+  itUNKNOWN = 0,  ///< none of the others
+  itGIF = 1,
+  itJPEG = 2,
+  itPNG = 3,
+  itBMP = 4,
+};
+
+/// The keys that every registry begins with, as the platform numbers them.
+enum KetRootType : std::int32_t {
+  HKEY_CLASSES_ROOT = std::numeric_limits<std::int32_t>::min(),  ///< 0x80000000
+  HKEY_CURRENT_USER = HKEY_CLASSES_ROOT + 1,                     ///< the user's own
+  HKEY_LOCAL_MACHINE = HKEY_CLASSES_ROOT + 2,                    ///< the machine's
+  HKEY_USERS = HKEY_CLASSES_ROOT + 3,
+  HKEY_PERFORMANCE_DATA = HKEY_CLASSES_ROOT + 4,  ///< never holds a value
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_ENUMERATIONS_H_
