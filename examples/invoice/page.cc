@@ -289,7 +289,7 @@ void DrawWords(Sheet& sheet, const Invoice& invoice) {
   const Text words = baht.BahtString(invoice.amount);
   const Text thai = u"(" + words + u")";
   const Halves english = InTwo(baht.BahtString(invoice.amount, false, true));
-  const double shrinkage = std::min(1.0, 1.0 * kFitting / TerminalWidth(thai));
+  const double shrinkage = std::min(1.0, 1.0 * kFitting / ZQ7Standard::TerminalWidth(thai));
   sheet.Shade(kLeft, kTop, kRight - kLeft, 21);
   sheet.Write(thai, kMiddle, kTop + 1, kCentre, {.size = kSize * shrinkage, .bold = true});
   sheet.Write(english.first, kMiddle, kTop + (english.second.empty() ? 11 : 9), kCentre, kEnglish);

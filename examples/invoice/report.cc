@@ -45,7 +45,7 @@ Widths WidestOf(const std::vector<Columns>& rows) {
   Widths widest = {};
   for (const Columns& row : rows) {
     for (std::size_t i = 0; i < row.size(); ++i) {
-      widest[i] = std::max(widest[i], TerminalWidth(row[i]));
+      widest[i] = std::max(widest[i], ZQ7Standard::TerminalWidth(row[i]));
     }
   }
   return widest;

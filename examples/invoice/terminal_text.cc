@@ -1,31 +1,14 @@
 #include "terminal_text.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 
 namespace InvoiceDemo {
 namespace {
 
+using ZQ7Standard::TerminalWidth;
 using ZQ7Standard::Text;
 using ZQ7Standard::TextView;
-
-struct CharacterRange {
-  char16_t first;
-  char16_t last;
-};
-
-// Thai vowels, tone marks and signs that stand above or below a letter.
-constexpr std::array<CharacterRange, 3> kThaiMarks = {{
-    {0x0E31, 0x0E31},
-    {0x0E34, 0x0E3A},
-    {0x0E47, 0x0E4E},
-}};
-
-bool IsThaiMark(char16_t c) {
-  return std::ranges::any_of(
-      kThaiMarks, [c](const CharacterRange& range) { return c >= range.first && c <= range.last; });
-}
 
 std::size_t BlanksTo(int width, TextView text) {
   return static_cast<std::size_t>(std::max(width - TerminalWidth(text), 0));
@@ -36,10 +19,6 @@ bool IsControl(char16_t c) {
 }
 
 }  // namespace
-
-int TerminalWidth(TextView text) {
-  return static_cast<int>(text.size()) - static_cast<int>(std::ranges::count_if(text, IsThaiMark));
-}
 
 Text AlignLeft(TextView text, int width) {
   return Text(text).append(BlanksTo(width, text), u' ');

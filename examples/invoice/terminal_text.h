@@ -5,10 +5,6 @@
 
 namespace InvoiceDemo {
 
-/// The columns that Thai or English text takes in a terminal: the vowels and tone
-/// marks above and below a Thai letter take none.
-int TerminalWidth(ZQ7Standard::TextView text);
-
 /// Fills `text` up with blanks to `width` columns, behind it or in front of it.
 ZQ7Standard::Text AlignLeft(ZQ7Standard::TextView text, int width);
 ZQ7Standard::Text AlignRight(ZQ7Standard::TextView text, int width);

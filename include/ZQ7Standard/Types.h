@@ -23,6 +23,10 @@ ZQ7STANDARD_EXPORT std::string Utf8(TextView text);
 /// well-formed sequence becomes U+FFFD.
 ZQ7STANDARD_EXPORT Text FromUtf8(std::string_view bytes);
 
+/// Returns how many columns of a terminal `text` takes: each code unit one, and none the
+/// Thai vowels, tone marks and signs that stand above or below a letter.
+ZQ7STANDARD_EXPORT int TerminalWidth(TextView text);
+
 /// A date and time of day in the Gregorian calendar, held as a count of days
 /// since 1899-12-30 00:00; the fraction is the time of day.
 ///

@@ -7,13 +7,30 @@
 
 #include "automation/classes.h"
 #include "automation/docstrings.h"
-#include "automation/names.h"
+#include "base/ascii.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
 
+constexpr char16_t FoldedCharacter(char c) {
+  return AsciiUpper(static_cast<unsigned char>(c));
+}
+
+struct EqualNames {
+  bool operator()(std::string_view a, std::string_view b) const { return SameName(a, b); }
+};
+
+/// The FNV-1a hash of a name.
+struct NameHash {
+  std::size_t operator()(std::string_view name) const {
+    std::uint64_t hash = 14695981039346656037U;
+    for (const char c : name) hash = (hash ^ FoldedCharacter(c)) * 1099511628211U;
+    return hash;
+  }
+};
+
 template <typename Info>
-using Index = std::unordered_map<std::string_view, const Info*, NameHash, SameName>;
+using Index = std::unordered_map<std::string_view, const Info*, NameHash, EqualNames>;
 
 template <typename Info>
 Index<Info> IndexOf(std::span<const Info> entries) {
@@ -30,15 +47,14 @@ const Info* Find(const Index<Info>& index, std::string_view name) {
 
 /// The comments of the headers: on a property, of what reads it or else sets it.
 ClassInfo Documented(ClassInfo owner) {
-  const std::string prefix = std::string(owner.name) + ".";
   owner.details = Docstring(owner.name);
   for (auto& operation : owner.operations) {
-    operation.details = Docstring(prefix + std::string(operation.name));
+    operation.details = Docstring(QualifiedName(owner, operation.name));
   }
   for (auto& property : owner.properties) {
-    property.details = Docstring(prefix + std::string(property.name));
+    property.details = Docstring(QualifiedName(owner, property.name));
     if (!property.details.empty() || property.write == nullptr) continue;
-    property.details = Docstring(prefix + "Set" + std::string(property.name));
+    property.details = Docstring(QualifiedName(owner, "Set" + std::string(property.name)));
   }
   return owner;
 }
@@ -82,6 +98,14 @@ class Catalogue {
 
 }  // namespace
 
+bool SameName(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, FoldedCharacter, FoldedCharacter);
+}
+
+std::string QualifiedName(const ClassInfo& owner, std::string_view member) {
+  return std::string(owner.name).append(".").append(member);
+}
+
 std::span<const ClassInfo> Classes() {
   return Catalogue::Get().Classes();
 }
@@ -96,7 +120,7 @@ const OperationInfo* FindOperation(const ClassInfo& owner, std::string_view name
 
 const PropertyInfo* FindProperty(const ClassInfo& owner, std::string_view name) {
   const auto found = std::ranges::find_if(owner.properties, [&](const PropertyInfo& property) {
-    return SameName{}(property.name, name);
+    return SameName(property.name, name);
   });
   return found == owner.properties.end() ? nullptr : &*found;
 }

@@ -11,7 +11,6 @@
 #include <type_traits>
 
 #include "automation/instance.h"
-#include "automation/names.h"
 #include "base/ascii.h"
 #include "base/pieces.h"
 #include "base/unicode.h"
@@ -256,7 +255,7 @@ std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name
   } else if (const auto* name = std::get_if<Text>(&value)) {
     const ClassInfo& owner = *FindClass(class_name);
     if (owner.from_text != nullptr) return owner.from_text(place.call.services, *name);
-    if (SameName{}(Utf8(*name), class_name)) return owner.create(place.call.services);
+    if (SameName(Utf8(*name), class_name)) return owner.create(place.call.services);
   }
   RaiseMismatch(value, place);
 }

@@ -8,7 +8,6 @@
 
 #include "automation/conversion.h"
 #include "automation/instance.h"
-#include "automation/names.h"
 
 namespace ZQ7Standard::Automation {
 
@@ -18,11 +17,6 @@ HostServices Completed(HostServices services) {
   if (!services.clock) services.clock = SystemClock();
   if (!services.date_convention) services.date_convention = SystemDateConvention();
   return services;
-}
-
-/// "StandardObject.Foo", for a name that is not there.
-std::string Qualified(const ClassInfo& owner, std::string_view member) {
-  return std::string(owner.name).append(".").append(member);
 }
 
 bool IsOmitted(const Value& value) {
@@ -55,7 +49,7 @@ class Values {
   void TakeNamed(const NamedArgument& argument) {
     const auto& parameters = operation_.parameters;
     const auto named = std::ranges::find_if(parameters, [&](const ParameterInfo& parameter) {
-      return SameName{}(parameter.name, argument.name);
+      return SameName(parameter.name, argument.name);
     });
     if (named == parameters.end()) {
       throw RunTimeError::NamedArgumentNotFound(operation_.name, argument.name);
@@ -118,7 +112,7 @@ Value Invoke(const Object& object, std::string_view operation, const Arguments& 
   const Instance& instance = object.Get();
   const OperationInfo* found = FindOperation(*instance.owner, operation);
   if (found == nullptr) {
-    throw RunTimeError::UnsupportedMember("Invoke", Qualified(*instance.owner, operation));
+    throw RunTimeError::UnsupportedMember("Invoke", QualifiedName(*instance.owner, operation));
   }
   const Values values(*found, arguments);
   return found->invoke(instance.object.get(), values.Get(),
@@ -129,7 +123,7 @@ Value GetProperty(const Object& object, std::string_view property) {
   const Instance& instance = object.Get();
   const PropertyInfo* found = FindProperty(*instance.owner, property);
   if (found == nullptr || found->read == nullptr) {
-    throw RunTimeError::UnsupportedMember("GetProperty", Qualified(*instance.owner, property));
+    throw RunTimeError::UnsupportedMember("GetProperty", QualifiedName(*instance.owner, property));
   }
   return found->read(instance.object.get());
 }
@@ -138,7 +132,7 @@ void SetProperty(const Object& object, std::string_view property, const Value& v
   const Instance& instance = object.Get();
   const PropertyInfo* found = FindProperty(*instance.owner, property);
   if (found == nullptr || found->write == nullptr) {
-    throw RunTimeError::UnsupportedMember("SetProperty", Qualified(*instance.owner, property));
+    throw RunTimeError::UnsupportedMember("SetProperty", QualifiedName(*instance.owner, property));
   }
   found->write(instance.object.get(), value, {found->name, {}, instance.services});
 }

@@ -32,4 +32,8 @@ char16_t ToUpper(char16_t c) {
   return c < 0x80 ? AsciiUpper(c) : Mapped(c, kToUpper);
 }
 
+bool EqualsIgnoringCase(TextView a, TextView b) {
+  return std::ranges::equal(a, b, {}, ToUpper, ToUpper);
+}
+
 }  // namespace ZQ7Standard

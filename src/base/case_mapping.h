@@ -14,6 +14,9 @@ Text ToLower(TextView text);
 /// `c` in upper case.
 char16_t ToUpper(char16_t c);
 
+/// Whether two texts are the same in upper case.
+bool EqualsIgnoringCase(TextView a, TextView b);
+
 }  // namespace ZQ7Standard
 
 #endif  // ZQ7STANDARD_SRC_BASE_CASE_MAPPING_H_

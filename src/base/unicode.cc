@@ -1,5 +1,6 @@
 #include "base/unicode.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -7,6 +8,11 @@ namespace ZQ7Standard {
 namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
+
+/// Thai vowels, tone marks and signs that stand above or below a letter.
+constexpr bool IsThaiMark(char16_t c) {
+  return c == 0x0E31 || (c >= 0x0E34 && c <= 0x0E3A) || (c >= 0x0E47 && c <= 0x0E4E);
+}
 
 void AppendUtf8(std::string& bytes, char32_t c) {
   const auto tail = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
@@ -94,6 +100,10 @@ Text FromUtf8(std::string_view bytes) {
     bytes.remove_prefix(length);
   }
   return text;
+}
+
+int TerminalWidth(TextView text) {
+  return static_cast<int>(text.size()) - static_cast<int>(std::ranges::count_if(text, IsThaiMark));
 }
 
 std::string Quoted(TextView text) {

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string>
+
+#include "formats/jpeg.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -10,8 +13,6 @@ namespace {
 constexpr std::string_view kPngSignature = "\x89PN";
 constexpr std::string_view kGifSignature = "GIF";
 constexpr std::string_view kBmpSignature = "BM";
-// The start of image and the first byte of the marker behind it.
-constexpr std::string_view kJpegSignature = "\xFF\xD8\xFF";
 
 // Where the fields lie, in bytes from the start of the file. The sizes of PNG and
 // BMP have four bytes, of which the low two are read.
@@ -32,14 +33,10 @@ constexpr std::size_t kSegmentLength = 2;
 constexpr std::size_t kFrameHeight = 5;
 constexpr std::size_t kFrameWidth = 7;
 constexpr std::size_t kFrameComponents = 9;
-constexpr int kMarkerPrefix = 0xFF;
 constexpr int kBitsPerComponent = 8;
+constexpr int kPrefix = static_cast<unsigned char>(kMarkerPrefix);
 // No marker from here on is looked at.
 constexpr std::size_t kJpegSearchEnd = 65'525;
-
-// Frames of every coding. 0xC4, 0xC8 and 0xCC between them are other segments.
-constexpr std::array kStartOfFrame = {0xC0, 0xC1, 0xC2, 0xC3, 0xC5, 0xC6, 0xC7,
-                                      0xC9, 0xCA, 0xCB, 0xCD, 0xCE, 0xCF};
 
 /// A colour type of PNG: a pixel has `samples` of the file's bit depth, or where
 /// there is a palette as many bits as a colour index is unpacked to.
@@ -97,18 +94,18 @@ ImageHeader ReadBmp(HeaderBytes header) {
 /// The offset of the first start-of-frame marker behind the first start of image,
 /// wherever that is. Fill bytes and stray bytes between segments are passed over.
 std::optional<std::size_t> FindFrame(std::string_view bytes) {
-  const std::size_t start = bytes.find(kJpegSignature);
+  const std::size_t start = bytes.find(std::string(kJpegStart) + kMarkerPrefix);
   if (start >= kJpegSearchEnd) return std::nullopt;
   const HeaderBytes header(bytes);
   const std::size_t end = std::min(bytes.size(), kJpegSearchEnd);
   std::size_t offset = start + 2;
   while (offset < end) {
     const int marker = header.At(offset + 1);
-    if (header.At(offset) != kMarkerPrefix || marker == kMarkerPrefix) {
+    if (header.At(offset) != kPrefix || marker == kPrefix) {
       ++offset;
       continue;
     }
-    if (std::ranges::find(kStartOfFrame, marker) != kStartOfFrame.end()) return offset;
+    if (BeginsFrame(marker)) return offset;
     // To the last byte of the segment, from where the next marker is looked for.
     offset += 1 + static_cast<std::size_t>(header.BigEndian(offset + kSegmentLength));
   }

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "formats/jpeg.h"
+
 namespace ZQ7Standard {
 namespace {
 
@@ -11,7 +13,6 @@ constexpr double kMillimetresPerInch = 25.4;
 constexpr double kScreenDotsPerMm = 96 / kMillimetresPerInch;
 
 constexpr auto kPngSignature = "\x89PNG\r\n\x1A\n"sv;
-constexpr auto kJpegStart = "\xFF\xD8"sv;
 
 /// Takes `count` bytes off the front of `bytes`, fewer when there are no more.
 std::string_view Take(std::string_view& bytes, std::size_t count) {
@@ -64,22 +65,16 @@ void ReadJfif(std::string_view header, PictureSize& picture) {
   if (unit == 2) TakeDensity(header, 2, 10, picture);
 }
 
-/// Whether a marker of a JPEG begins a frame, which has the size of the picture:
-/// those from 0xC0 to 0xCF that are not tables.
-bool BeginsFrame(std::uint32_t marker) {
-  return (marker & 0xF0) == 0xC0 && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
-}
-
 /// Reads the segments of a JPEG up to the frame.
 void ReadJpeg(std::string_view segments, PictureSize& picture) {
-  while (segments.starts_with('\xFF')) {
+  while (segments.starts_with(kMarkerPrefix)) {
     Take(segments, 1);
-    if (segments.starts_with('\xFF')) continue;  // a byte that fills
+    if (segments.starts_with(kMarkerPrefix)) continue;  // a byte that fills
     const std::uint32_t marker = TakeNumber(segments, 1);
     const std::uint32_t size = TakeNumber(segments, 2);
     std::string_view data = Take(segments, size < 2 ? 0 : size - 2);
     if (marker == 0xE0 && Take(data, 5) == "JFIF\0"sv) ReadJfif(data, picture);
-    if (BeginsFrame(marker)) {
+    if (BeginsFrame(static_cast<int>(marker))) {
       Take(data, 1);  // the depth
       picture.rows = TakeNumber(data, 2);
       picture.columns = TakeNumber(data, 2);

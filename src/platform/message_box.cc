@@ -6,12 +6,17 @@
 namespace ZQ7Standard {
 namespace {
 
-class StreamMessageBox final : public MessageBox {
+class BoxOnStream final : public MessageBox {
  public:
+  explicit BoxOnStream(std::ostream& stream) : stream_(stream) {}
+
   void Show(const Message& message) override {
     const Text shown = message.title.empty() ? message.text : message.title + u": " + message.text;
-    std::cerr << Utf8(shown) + "\n" << std::flush;
+    stream_ << Utf8(shown) + "\n" << std::flush;
   }
+
+ private:
+  std::ostream& stream_;
 };
 
 }  // namespace
@@ -24,8 +29,12 @@ std::vector<Message> RecordingMessageBox::Take() {
   return std::exchange(messages_, {});
 }
 
+std::shared_ptr<MessageBox> StreamMessageBox(std::ostream& stream) {
+  return std::make_shared<BoxOnStream>(stream);
+}
+
 std::shared_ptr<MessageBox> ErrorStreamMessageBox() {
-  return std::make_shared<StreamMessageBox>();
+  return StreamMessageBox(std::cerr);
 }
 
 }  // namespace ZQ7Standard

@@ -11,9 +11,7 @@
 #include <sstream>
 #include <string>
 
-#include "tests/support/printers.h"
 #include "tests/support/rows.h"
-#include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -158,33 +156,6 @@ TEST(Catalogue, HoldsEveryPublicClass) {
     const std::string text = (std::ostringstream() << std::ifstream(entry.path()).rdbuf()).str();
     const bool is_class = text.find("class ZQ7STANDARD_EXPORT " + name + " {") != std::string::npos;
     EXPECT_TRUE(!is_class || name == "GridValueListener" || FindClass(name) != nullptr) << name;
-  }
-}
-
-TEST(Catalogue, ExamplesHold) {
-  HostServices services = ExampleServices();
-  services.message_box = std::make_shared<RecordingMessageBox>();
-  const TempFolder drive;
-  std::filesystem::create_directory(drive.Native() / "shop");
-  services.drives = {{'C', drive.Native()}};
-  PrintRecord record;
-  services.printers = Recorded(record, {u"PDF"});
-  for (const ClassInfo& owner : Classes()) {
-    for (const OperationInfo& operation : owner.operations) {
-      EXPECT_FALSE(operation.examples.empty()) << operation.name;
-      EXPECT_FALSE(operation.help.empty() || operation.details.empty()) << operation.name;
-      for (const Example& example : operation.examples) {
-        const Object object = Create(owner.name, services);
-        for (const Call& call : example.before) Invoke(object, call.operation, {call.arguments});
-        Value result;
-        const int error =
-            ErrorOf([&] { result = Invoke(object, operation.name, {example.arguments}); });
-        EXPECT_EQ(error, example.error) << operation.name;
-        EXPECT_TRUE(result == example.result) << owner.name << "." << operation.name << ": example "
-                                              << &example - operation.examples.data() << " index "
-                                              << result.index() << " vs " << example.result.index();
-      }
-    }
   }
 }
 

@@ -92,7 +92,7 @@ TEST(Failures, OfServicesStayInsideOperationsThatRaiseNothing) {
 TEST(Failures, OfPrintersStayInsideOrBecomePrinterErrors) {
   for (const Raise& raise : kRaises) {
     const auto outcomes = [&](const std::string& refused) {
-      PrintRecord record{"", refused, raise};
+      PrintRecord record{"", Refusing(refused, raise)};
       return OutcomeOf([&] {
         PrintObject printer({.printers = Recorded(record)});
         const std::string checked = Shown(printer.CheckPaperSize(8)) +

@@ -23,20 +23,6 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
-/// Prints messages as they come.
-class PrintedMessages final : public MessageBox {
- public:
-  explicit PrintedMessages(std::ostream& stream) : stream_(stream) {}
-
-  void Show(const Message& message) override {
-    const std::string title = message.title.empty() ? "" : Utf8(message.title) + ": ";
-    stream_ << title << Utf8(message.text) << std::endl;
-  }
-
- private:
-  std::ostream& stream_;
-};
-
 void List(const Commands& commands, const Streams& streams) {
   if (commands.Name().empty()) {
     streams.out << ClassList(streams.width);
@@ -52,7 +38,7 @@ void ShowHelp(const Commands& commands, const Streams& streams) {
 }
 
 void Call(const Commands& commands, const Streams& streams) {
-  const Host host(commands.GetSettings(), std::make_shared<PrintedMessages>(streams.err));
+  const Host host(commands.GetSettings(), StreamMessageBox(streams.err));
   const Value result = CallByWords(commands.Call(), host.Services());
   streams.out << (commands.Json() ? WriteJson(JsonOfValue(result)) + "\n" : PlainLines(result));
 }

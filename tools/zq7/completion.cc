@@ -19,10 +19,6 @@ std::string Lines(const std::vector<std::string>& words) {
   return lines;
 }
 
-std::string Qualified(const ClassInfo& owner, std::string_view member) {
-  return std::string(owner.name).append(".").append(member);
-}
-
 /// The lines of a `case` for each operation that takes an enumeration.
 std::string MemberCases() {
   std::string cases;
@@ -34,7 +30,7 @@ std::string MemberCases() {
         for (const auto& member : parameter.type.enumeration->members) members.emplace(member.name);
       }
       if (members.empty()) continue;
-      std::string pattern = Qualified(owner, operation.name);
+      std::string pattern = QualifiedName(owner, operation.name);
       for (char& c : pattern) c = Lower(c);
       cases += "    " + pattern + ") echo";
       for (const std::string& member : members) cases += " " + member;
@@ -61,9 +57,10 @@ Fields CompletionFields() {
   }
   for (const ClassInfo& owner : Classes()) {
     classes.emplace_back(owner.name);
-    for (const auto& entry : owner.operations) operations.push_back(Qualified(owner, entry.name));
-    for (const auto& entry : owner.properties) others.push_back(Qualified(owner, entry.name));
-    for (const auto& entry : owner.events) others.push_back(Qualified(owner, entry.name));
+    for (const auto& entry : owner.operations)
+      operations.push_back(QualifiedName(owner, entry.name));
+    for (const auto& entry : owner.properties) others.push_back(QualifiedName(owner, entry.name));
+    for (const auto& entry : owner.events) others.push_back(QualifiedName(owner, entry.name));
   }
   return {{"OPTIONS", Lines(options)}, {"SUBCOMMANDS", Lines(subcommands)},
           {"CLASSES", Lines(classes)}, {"OPERATIONS", Lines(operations)},

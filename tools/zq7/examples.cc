@@ -45,10 +45,6 @@ bool IsWord(const Value& value) {
   return text->find(u'\0') == Text::npos && FromUtf8(Utf8(*text)) == *text;
 }
 
-std::string Qualified(const ClassInfo& owner, const OperationInfo& operation) {
-  return std::string(owner.name).append(".").append(operation.name);
-}
-
 std::string CallLine(const ClassInfo& owner, const OperationInfo& operation,
                      const Example& example) {
   std::vector<std::string> words;
@@ -58,7 +54,7 @@ std::string CallLine(const ClassInfo& owner, const OperationInfo& operation,
   const bool guarded = std::ranges::any_of(words, [](const std::string& word) {
     return IsOption(word) || word == kEndOfOptions || !ArgumentName(word).empty();
   });
-  std::string line = "zq7 call --example " + Qualified(owner, operation);
+  std::string line = "zq7 call --example " + QualifiedName(owner, operation.name);
   if (guarded) line.append(" ").append(kEndOfOptions);
   for (const std::string& word : words) line.append(" ").append(ShellWord(word));
   return line;

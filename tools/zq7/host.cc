@@ -1,11 +1,11 @@
 #include "host.h"
 
+#include <ZQ7Standard/platform/recording_printers.h>
+
 #include <random>
 #include <string>
 #include <system_error>
 #include <utility>
-
-#include "example_printer.h"
 
 namespace ZQ7Tool {
 namespace {
@@ -42,7 +42,7 @@ Host::Host(const Settings& settings, std::shared_ptr<MessageBox> message_box)
   example_drive_ = NewFolder();
   std::filesystem::create_directory(example_drive_ / "shop");
   services_.drives = {{'C', example_drive_}};
-  services_.printers = ExamplePrinters();
+  services_.printers = RecordingPrinters();
 }
 
 Host::~Host() {

@@ -10,14 +10,8 @@ namespace {
 
 constexpr std::size_t kWidestName = 32;
 
-/// Thai vowels, tone marks and signs that stand above or below a letter.
-bool IsThaiMark(char16_t c) {
-  return c == 0x0E31 || (c >= 0x0E34 && c <= 0x0E3A) || (c >= 0x0E47 && c <= 0x0E4E);
-}
-
-std::size_t TerminalWidth(std::string_view text) {
-  const ZQ7Standard::Text units = ZQ7Standard::FromUtf8(text);
-  return units.size() - static_cast<std::size_t>(std::ranges::count_if(units, IsThaiMark));
+std::size_t WidthOf(std::string_view text) {
+  return static_cast<std::size_t>(ZQ7Standard::TerminalWidth(ZQ7Standard::FromUtf8(text)));
 }
 
 }  // namespace
@@ -25,10 +19,10 @@ std::size_t TerminalWidth(std::string_view text) {
 std::string Filled(std::string_view prefix, const std::vector<std::string>& words,
                    std::size_t indent, std::size_t width) {
   std::string lines(prefix);
-  std::size_t column = TerminalWidth(prefix);
+  std::size_t column = WidthOf(prefix);
   bool line_begins = prefix.empty() || prefix.ends_with(' ');
   for (const std::string& word : words) {
-    const std::size_t needed = TerminalWidth(word);
+    const std::size_t needed = WidthOf(word);
     if (!line_begins && column + 1 + needed > width) {
       lines.append("\n").append(indent, ' ');
       column = indent;

@@ -12,16 +12,12 @@ namespace {
 
 using namespace ZQ7Standard::Automation;
 
-std::string Qualified(std::string_view owner, std::string_view member) {
-  return std::string(owner).append(".").append(member);
-}
-
 std::string ClassHint(std::string_view name) {
   std::vector<std::string> names;
   for (const ClassInfo& owner : Classes()) {
     // The name of an operation alone lacks its class.
     if (const auto* operation = FindOperation(owner, name)) {
-      return " Did you mean " + Qualified(owner.name, operation->name) + "?";
+      return " Did you mean " + QualifiedName(owner, operation->name) + "?";
     }
     names.emplace_back(owner.name);
   }
@@ -56,7 +52,7 @@ Member FindMember(std::string_view name) {
       found.owner->events, [&](const EventInfo& info) { return SameName(info.name, member); });
   if (event != found.owner->events.end()) found.event = &*event;
   if (found.operation == nullptr && found.property == nullptr && found.event == nullptr) {
-    throw WrongUse("There is no " + Quoted(Qualified(found.owner->name, member)) + "." +
+    throw WrongUse("There is no " + Quoted(QualifiedName(*found.owner, member)) + "." +
                    MemberHint(*found.owner, member));
   }
   return found;

@@ -1,5 +1,6 @@
 #include "names.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <numeric>
 

@@ -1,7 +1,6 @@
 #ifndef ZQ7STANDARD_TOOLS_ZQ7_NAMES_H_
 #define ZQ7STANDARD_TOOLS_ZQ7_NAMES_H_
 
-#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,10 +10,6 @@ namespace ZQ7Tool {
 
 constexpr char Lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
-constexpr bool SameName(std::string_view a, std::string_view b) {
-  return std::ranges::equal(a, b, {}, Lower, Lower);
 }
 
 /// `text` between quotation marks, for a message.

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -108,6 +109,12 @@ struct ClassInfo {
   std::shared_ptr<void> (*subscribe)(std::shared_ptr<void> instance,
                                      std::shared_ptr<EventSink> sink) = nullptr;
 };
+
+/// Whether two names of the catalogue are the same: the case of A to Z does not count.
+ZQ7STANDARD_EXPORT bool SameName(std::string_view a, std::string_view b);
+
+/// The full name of a member: "StandardObject.CTDATE".
+ZQ7STANDARD_EXPORT std::string QualifiedName(const ClassInfo& owner, std::string_view member);
 
 /// Every public class.
 ZQ7STANDARD_EXPORT std::span<const ClassInfo> Classes();

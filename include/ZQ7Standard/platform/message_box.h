@@ -5,6 +5,7 @@
 #include <ZQ7Standard/Types.h>
 
 #include <cstdint>
+#include <iosfwd>
 #include <memory>
 #include <vector>
 
@@ -52,8 +53,11 @@ class ZQ7STANDARD_EXPORT RecordingMessageBox final : public MessageBox {
   std::vector<Message> messages_;
 };
 
-/// Writes each message to the error stream as `title: text` in UTF-8, or the text
-/// alone where there is no title, and does not wait.
+/// Writes each message as a line to `stream`, which outlives the box: `title: text` in
+/// UTF-8, or the text alone where there is no title. It does not wait.
+ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> StreamMessageBox(std::ostream& stream);
+
+/// The same on the error stream.
 ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> ErrorStreamMessageBox();
 
 }  // namespace ZQ7Standard

@@ -34,7 +34,7 @@ std::optional<std::string> JoinLines(std::string_view contents, std::int64_t mos
 }
 
 bool IsDesktop(TextView folder) {
-  return std::ranges::equal(FileNamePart(folder), TextView(u"DESKTOP"), {}, ToUpper);
+  return EqualsIgnoringCase(FileNamePart(folder), u"Desktop");
 }
 
 }  // namespace

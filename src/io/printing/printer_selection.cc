@@ -1,6 +1,5 @@
 #include <ZQ7Standard/PrintObject.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -13,10 +12,6 @@ namespace {
 constexpr std::int16_t kUserDefinedPaper = 256;
 constexpr std::int16_t kDefaultBin = 7;
 
-bool SameName(TextView a, TextView b) {
-  return std::ranges::equal(a, b, {}, ToUpper, ToUpper);
-}
-
 /// The settings of `printer`, which the list of a host may have left empty.
 PrinterSettings& SettingsOf(const Printer& printer) {
   if (!printer.settings) throw PrinterFailure("the printer has no settings");
@@ -26,9 +21,9 @@ PrinterSettings& SettingsOf(const Printer& printer) {
 /// Whether the environment variable "OS", or what the host put in its place, names
 /// the system that has papers of its own from 256 up.
 bool IsWindowsNt(const std::optional<Text>& os) {
-  if (os) return SameName(*os, u"WINDOWS_NT");
+  if (os) return EqualsIgnoringCase(*os, u"WINDOWS_NT");
   const char* const variable = std::getenv("OS");
-  return variable != nullptr && SameName(FromUtf8(variable), u"WINDOWS_NT");
+  return variable != nullptr && EqualsIgnoringCase(FromUtf8(variable), u"WINDOWS_NT");
 }
 
 }  // namespace
@@ -56,9 +51,10 @@ void PrintObject::Perform(std::string_view operation, const std::function<void()
 
 Printer PrintObject::MakeRememberedCurrent() {
   Printer current = services_.printers->Current();
-  if (!device_name_ || SameName(current.device_name, *device_name_)) return current;
+  if (!device_name_ || EqualsIgnoringCase(current.device_name, *device_name_)) return current;
   for (const Printer& printer : services_.printers->Installed()) {
-    if (SameName(printer.device_name, *device_name_)) services_.printers->MakeCurrent(printer);
+    if (EqualsIgnoringCase(printer.device_name, *device_name_))
+      services_.printers->MakeCurrent(printer);
   }
   return services_.printers->Current();
 }

@@ -9,6 +9,8 @@
 #include <optional>
 #include <system_error>
 
+#include "platform/linux/system_calls.h"
+
 namespace ZQ7Standard {
 namespace {
 
@@ -30,11 +32,7 @@ Descriptor OpenNew(int folder, const std::string& name, unsigned mode) {
 
 /// Puts `bytes` on the disk.
 void WriteAndSync(const Descriptor& file, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = write(file.Number(), bytes.data(), bytes.size());
-    if (written < 0 && errno != EINTR) Fail();
-    if (written > 0) bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
+  if (!WriteAll(kSystemCalls, file.Number(), bytes)) Fail();
   if (fsync(file.Number()) != 0) Fail();
 }
 

@@ -97,12 +97,7 @@ std::string OpenFile::ReadToEnd(const struct stat& status) const {
 }
 
 void OpenFile::Write(std::string_view bytes) const {
-  while (!bytes.empty()) {
-    const ssize_t count =
-        Uninterrupted([&] { return calls_->write(descriptor_, bytes.data(), bytes.size()); });
-    if (count < 0) Fail(errno, "write");
-    bytes.remove_prefix(static_cast<std::size_t>(count));
-  }
+  if (!WriteAll(*calls_, descriptor_, bytes)) Fail(errno, "write");
 }
 
 void OpenFile::Sync() const {

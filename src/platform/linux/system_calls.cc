@@ -42,4 +42,14 @@ constinit const SystemCalls kSystemCalls = {
     .sleep = Sleep,
 };
 
+bool WriteAll(const SystemCalls& calls, int file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count =
+        Uninterrupted([&] { return calls.write(file, bytes.data(), bytes.size()); });
+    if (count < 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
+}
+
 }  // namespace ZQ7Standard

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstddef>
+#include <string_view>
 
 namespace ZQ7Standard {
 
@@ -35,6 +36,10 @@ struct SystemCalls {
 
 /// The system's own.
 extern const SystemCalls kSystemCalls;
+
+/// Writes all of `bytes` to an open file, one write after the other. False, and errno, if
+/// one fails.
+bool WriteAll(const SystemCalls& calls, int file, std::string_view bytes);
 
 /// The result of a system call, made again while signals interrupt it.
 template <typename Call>

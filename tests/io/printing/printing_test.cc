@@ -37,12 +37,12 @@ struct Job {
 void ExpectJobs(const std::vector<Job>& jobs) {
   for (const Job& job : jobs) {
     PrintRecord record;
-    record.refused = job.refused;
+    record.before = Refusing(job.refused);
     Pen pen(record);
     try {
       job.calls(pen);
     } catch (const RunTimeError& error) {
-      record.Add(error.what());
+      record.log.append(record.log.empty() ? "" : " ").append(error.what());
     }
     EXPECT_EQ(record.log, job.log) << job.reason;
   }
@@ -118,7 +118,7 @@ TEST(PrinterSelection, MakesTheRememberedPrinterCurrent) {
 
 TEST(PrinterSelection, RemembersTheNameOfAPrinterWhoseSettingsCannotBeRead) {
   PrintRecord record;
-  record.refused = "Get";
+  record.before = Refusing("Get");
   const auto printers = Recorded(record, {u"Laser", u"PDF"});
   PrintObject object({.printers = printers});
   printers->MakeCurrent(printers->Installed().back());
@@ -165,7 +165,7 @@ TEST(PrinterSelection, AsksWithinOperations) {
 TEST(PrinterSelection, ChecksPaperAndBin) {
   PrintRecord record;
   const auto paper = [&](const char* refused, const char* os, std::int16_t start) {
-    record.refused = refused;
+    record.before = Refusing(refused);
     PrintObject printer({.printers = Recorded(record), .os = FromUtf8(os)});
     return printer.CheckPaperSize(start);
   };
@@ -177,7 +177,7 @@ TEST(PrinterSelection, ChecksPaperAndBin) {
               {{"", "Windows_NT", 256}, "9", "not there"},
               {{"Set", "", 8}, "8", "refused, and still returned"},
               {{"Get", "", 8}, "0", "nothing is known"}});
-  record.refused = "";
+  record.before = {};
   const auto printers = Recorded(record);
   PrintObject printer({.printers = printers});
   const auto bin = [&](std::int16_t start) { return printer.CheckPaperBin(start); };

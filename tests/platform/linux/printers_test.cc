@@ -25,36 +25,30 @@
 #include "tests/support/denied_calls.h"
 #include "tests/support/ipp_server.h"
 #include "tests/support/rows.h"
+#include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// What a command prints.
-std::string OutputOf(const std::string& command) {
-  FILE* const pipe = popen(command.c_str(), "r");
-  std::string output;
-  for (int c = 0; (c = fgetc(pipe)) != EOF;) output.push_back(static_cast<char>(c));
-  pclose(pipe);
-  return output;
-}
-
-/// A new folder, gone with the object.
-struct Folder {
-  Folder() : path(mkdtemp(std::string("/tmp/zq7-XXXXXX").data())) {
-    fs::permissions(path, fs::perms(0755));
-  }
-  ~Folder() { fs::remove_all(path); }
+/// A new folder that others may look into, gone with the object.
+struct Folder : TempFolder {
+  Folder() { fs::permissions(path, fs::perms(0755)); }
   auto Files() const { return std::distance(fs::directory_iterator(path), {}); }
   std::string Only() const { return "'" + fs::directory_iterator(path)->path().string() + "'"; }
 
-  fs::path path;
+  const fs::path& path = Native();
 };
 
 /// The user's folder, before anything looks for it.
 const Folder kHome;
 const int kHomeIsSet = setenv("HOME", kHome.path.c_str(), 1);
+
+/// What a command prints.
+std::string OutputOf(const std::string& command) {
+  return kHome.Run(command);
+}
 
 void UseServer(const std::string& server) {
   setenv("CUPS_SERVER", server.c_str(), 1);

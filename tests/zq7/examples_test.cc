@@ -1,0 +1,41 @@
+// The worked examples of the catalogue, on the host that shows them.
+
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/automation/invoke.h>
+#include <gtest/gtest.h>
+
+#include "host.h"
+
+namespace ZQ7Tool {
+namespace {
+
+using namespace ZQ7Standard;
+using namespace ZQ7Standard::Automation;
+
+TEST(Catalogue, ExamplesHold) {
+  const Host host({.example = true}, std::make_shared<RecordingMessageBox>());
+  for (const ClassInfo& owner : Classes()) {
+    for (const OperationInfo& operation : owner.operations) {
+      EXPECT_FALSE(operation.examples.empty()) << operation.name;
+      EXPECT_FALSE(operation.help.empty() || operation.details.empty()) << operation.name;
+      for (const Example& example : operation.examples) {
+        const Object object = Create(owner.name, host.Services());
+        for (const Call& call : example.before) Invoke(object, call.operation, {call.arguments});
+        Value result;
+        int error = 0;
+        try {
+          result = Invoke(object, operation.name, {example.arguments});
+        } catch (const RunTimeError& raised) {
+          error = raised.Number();
+        }
+        EXPECT_EQ(error, example.error) << operation.name;
+        EXPECT_TRUE(result == example.result) << owner.name << "." << operation.name << ": example "
+                                              << &example - operation.examples.data() << " index "
+                                              << result.index() << " vs " << example.result.index();
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace ZQ7Tool
