@@ -1,5 +1,6 @@
 #include "pdf_folder.h"
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/Types.h>
 #include <ZQ7Standard/platform/printers.h>
 
@@ -19,7 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 using ZQ7Standard::FromUtf8;
-using ZQ7Standard::PrinterFailure;
 using ZQ7Standard::PrinterList;
 using ZQ7Standard::StandardObject;
 using ZQ7Standard::Text;
@@ -35,7 +35,7 @@ std::shared_ptr<PrinterList> PdfPrinter(const fs::path& folder) {
     if (name == u"PDF") return printers;
     throw std::runtime_error("no PDF can be made: a print server answers, with the printer " +
                              Utf8(name) + " (CUPS_SERVER=/none turns to files)");
-  } catch (const PrinterFailure& failure) {
+  } catch (const ZQ7Standard::RunTimeError& failure) {
     throw std::runtime_error(std::string("no PDF can be made: ") + failure.what());
   }
 }

@@ -96,6 +96,7 @@ class ZQ7STANDARD_EXPORT DiskObject {
   bool IsFolder(TextView path) const;
   // Another process may make the folder at the same time.
   void MakeFolder(TextView path) const;
+  std::int32_t CopyFolder(TextView from_file, TextView to_file) const;
   bool HasTimeOf(const FileStatus& source, TextView path, const FileStatus& status) const;
 
   DiskServices services_;

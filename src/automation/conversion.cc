@@ -1,7 +1,5 @@
 #include "automation/conversion.h"
 
-#include <ZQ7Standard/RunTimeError.h>
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -13,7 +11,7 @@
 #include "automation/instance.h"
 #include "base/ascii.h"
 #include "base/pieces.h"
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "dates/date_math.h"
 #include "dates/date_text.h"
 #include "dates/eras.h"
@@ -28,39 +26,28 @@ template <typename T>
 concept Arithmetic = std::is_arithmetic_v<T>;
 
 /// `value` as the message of an error shows it.
-std::string Shown(const Value& value) {
-  if (const auto* text = std::get_if<Text>(&value)) return Quoted(*text);
-  if (const auto* number = std::get_if<double>(&value)) return std::to_string(*number);
-  if (const auto* number = std::get_if<float>(&value)) return std::to_string(*number);
-  if (const auto* number = std::get_if<std::int32_t>(&value)) return std::to_string(*number);
-  if (const auto* number = std::get_if<std::int16_t>(&value)) return std::to_string(*number);
-  if (const auto* amount = std::get_if<Currency>(&value)) return Utf8(amount->ToText());
-  if (const auto* date = std::get_if<OleDate>(&value)) return std::to_string(date->Days());
-  if (std::holds_alternative<bool>(value)) return std::get<bool>(value) ? "True" : "False";
-  if (std::holds_alternative<TextList>(value)) return "a list";
-  return "an object";
-}
+struct ShownVisitor {
+  ErrorInput operator()(const Text& text) const { return text; }
+  ErrorInput operator()(bool flag) const { return TextView(flag ? u"True" : u"False"); }
+  ErrorInput operator()(const Arithmetic auto& number) const { return number; }
+  ErrorInput operator()(OleDate date) const { return date; }
+  ErrorInput operator()(Currency amount) const { return amount; }
+  ErrorInput operator()(const TextList& /*list*/) const { return TextView(u"a list"); }
+  ErrorInput operator()(const auto& /*object*/) const { return TextView(u"an object"); }
+};
 
-std::string ParameterName(const Place& place) {
-  return std::string(place.call.parameters[place.parameter].name);
-}
-
-/// "iText: "abc"", or the value alone where there is no parameter to name.
-std::string Described(const Value& value, const Place& place) {
-  return place.call.parameters.empty() ? Shown(value)
-                                       : ParameterName(place).append(": ").append(Shown(value));
+Where PlaceOf(const Place& place) {
+  if (place.call.parameters.empty()) return {place.call.member};
+  return {place.call.member, place.call.parameters[place.parameter].name};
 }
 
 [[noreturn]] void RaiseOverflow(const Value& value, const Place& place) {
-  throw RunTimeError::Overflow(place.call.member, Described(value, place));
+  Raise(Error::kOverflow, PlaceOf(place), std::visit(ShownVisitor{}, value));
 }
 
 [[noreturn]] void RaiseMismatch(const Value& value, const Place& place) {
-  if (std::holds_alternative<Omitted>(value)) {
-    const std::string name = place.call.parameters.empty() ? "value" : ParameterName(place);
-    throw RunTimeError::ArgumentNotOptional(place.call.member, name);
-  }
-  throw RunTimeError::TypeMismatch(place.call.member, Described(value, place));
+  if (std::holds_alternative<Omitted>(value)) Raise(Error::kArgumentNotOptional, PlaceOf(place));
+  Raise(Error::kTypeMismatch, PlaceOf(place), std::visit(ShownVisitor{}, value));
 }
 
 /// The text of a number without blanks around it and "," between its digits.

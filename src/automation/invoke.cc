@@ -1,13 +1,14 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/automation/invoke.h>
 
 #include <algorithm>
 #include <array>
+#include <exception>
 #include <string>
 #include <utility>
 
 #include "automation/conversion.h"
 #include "automation/instance.h"
+#include "base/raise.h"
 
 namespace ZQ7Standard::Automation {
 
@@ -39,9 +40,9 @@ class Values {
  private:
   void TakePositional(std::span<const Value> arguments) {
     if (arguments.size() > operation_.parameters.size()) {
-      throw RunTimeError::WrongNumberOfArguments(operation_.name,
-                                                 std::to_string(arguments.size()) + " for " +
-                                                     std::to_string(operation_.parameters.size()));
+      Raise(Error::kWrongNumberOfArguments, {},
+            std::to_string(arguments.size()) + " for " +
+                std::to_string(operation_.parameters.size()));
     }
     for (std::size_t i = 0; i < arguments.size(); ++i) Take(i, arguments[i]);
   }
@@ -52,12 +53,11 @@ class Values {
       return SameName(parameter.name, argument.name);
     });
     if (named == parameters.end()) {
-      throw RunTimeError::NamedArgumentNotFound(operation_.name, argument.name);
+      Raise(Error::kNamedArgumentNotFound, {}, FromUtf8(argument.name));
     }
     const auto place = static_cast<std::size_t>(named - parameters.begin());
     if (values_[place] != nullptr && !IsOmitted(*values_[place])) {
-      throw RunTimeError::WrongNumberOfArguments(operation_.name,
-                                                 std::string(argument.name) + " twice");
+      Raise(Error::kWrongNumberOfArguments, {{}, named->name}, "given twice");
     }
     Take(place, argument.value);
   }
@@ -74,7 +74,7 @@ class Values {
       const ParameterInfo& parameter = operation_.parameters[i];
       if (values_[i] != nullptr) continue;
       if (!parameter.optional) {
-        throw RunTimeError::ArgumentNotOptional(operation_.name, parameter.name);
+        Raise(Error::kArgumentNotOptional, {{}, parameter.name});
       }
       values_[i] = &parameter.default_value;
     }
@@ -83,6 +83,42 @@ class Values {
   const OperationInfo& operation_;
   std::array<const Value*, kMaxParameters> values_ = {};
 };
+
+[[noreturn]] void RaiseUnsupported(const ClassInfo& owner, std::string_view member) {
+  ErrorDetails details = RunTimeError(Error::kUnsupportedMember).Details();
+  details.class_name = owner.name;
+  details.operation = member;
+  throw RunTimeError(details);
+}
+
+/// Raises a failure of a member again under the names that the caller used: what
+/// operations call in turn, and services, name others or none.
+[[noreturn]] void RaiseAs(const ClassInfo& owner, std::string_view member,
+                          std::span<const ParameterInfo> parameters, ErrorDetails details) {
+  details.class_name = owner.name;
+  details.operation = member;
+  const auto known = std::ranges::find(parameters, details.parameter, &ParameterInfo::name);
+  if (known == parameters.end()) details.parameter.clear();
+  throw RunTimeError(details);
+}
+
+/// Does a call of `member`. What it throws reaches the caller as a `RunTimeError` that names
+/// it; an exception without a number is an automation error.
+template <typename Call>
+auto Reported(const ClassInfo& owner, std::string_view member,
+              std::span<const ParameterInfo> parameters, const Call& call) {
+  try {
+    return call();
+  } catch (const RunTimeError& error) {
+    RaiseAs(owner, member, parameters, error.Details());
+  } catch (const std::exception& error) {
+    const RunTimeError foreign(Error::kAutomationError, error.what());
+    RaiseAs(owner, member, parameters, foreign.Details());
+  } catch (...) {
+    const RunTimeError foreign(Error::kAutomationError, "a failure without a text");
+    RaiseAs(owner, member, parameters, foreign.Details());
+  }
+}
 
 }  // namespace
 
@@ -103,7 +139,9 @@ HostServices ExampleServices() {
 Object Create(std::string_view class_name, const HostServices& services) {
   const ClassInfo* owner = FindClass(class_name);
   if (owner == nullptr || owner->create == nullptr)
-    throw RunTimeError::CannotCreateObject("Create", class_name);
+    throw RunTimeError({.number = static_cast<int>(Error::kCannotCreateObject),
+                        .text = "cannot create object",
+                        .class_name = std::string(class_name)});
   return Object(std::make_shared<const Instance>(
       Instance{owner, owner->create(services), Completed(services)}));
 }
@@ -111,30 +149,29 @@ Object Create(std::string_view class_name, const HostServices& services) {
 Value Invoke(const Object& object, std::string_view operation, const Arguments& arguments) {
   const Instance& instance = object.Get();
   const OperationInfo* found = FindOperation(*instance.owner, operation);
-  if (found == nullptr) {
-    throw RunTimeError::UnsupportedMember("Invoke", QualifiedName(*instance.owner, operation));
-  }
-  const Values values(*found, arguments);
-  return found->invoke(instance.object.get(), values.Get(),
-                       {found->name, found->parameters, instance.services});
+  if (found == nullptr) RaiseUnsupported(*instance.owner, operation);
+  return Reported(*instance.owner, found->name, found->parameters, [&] {
+    const Values values(*found, arguments);
+    return found->invoke(instance.object.get(), values.Get(),
+                         {found->name, found->parameters, instance.services});
+  });
 }
 
 Value GetProperty(const Object& object, std::string_view property) {
   const Instance& instance = object.Get();
   const PropertyInfo* found = FindProperty(*instance.owner, property);
-  if (found == nullptr || found->read == nullptr) {
-    throw RunTimeError::UnsupportedMember("GetProperty", QualifiedName(*instance.owner, property));
-  }
-  return found->read(instance.object.get());
+  if (found == nullptr || found->read == nullptr) RaiseUnsupported(*instance.owner, property);
+  return Reported(*instance.owner, found->name, {},
+                  [&] { return found->read(instance.object.get()); });
 }
 
 void SetProperty(const Object& object, std::string_view property, const Value& value) {
   const Instance& instance = object.Get();
   const PropertyInfo* found = FindProperty(*instance.owner, property);
-  if (found == nullptr || found->write == nullptr) {
-    throw RunTimeError::UnsupportedMember("SetProperty", QualifiedName(*instance.owner, property));
-  }
-  found->write(instance.object.get(), value, {found->name, {}, instance.services});
+  if (found == nullptr || found->write == nullptr) RaiseUnsupported(*instance.owner, property);
+  Reported(*instance.owner, found->name, {}, [&] {
+    found->write(instance.object.get(), value, {found->name, {}, instance.services});
+  });
 }
 
 std::shared_ptr<void> Subscribe(const Object& object, std::shared_ptr<EventSink> sink) {

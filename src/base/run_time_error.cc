@@ -1,93 +1,84 @@
 #include <ZQ7Standard/RunTimeError.h>
 
+#include <algorithm>
+#include <array>
+
+#include "base/unicode.h"
+
 namespace ZQ7Standard {
+namespace {
 
-RunTimeError::RunTimeError(int number, const std::string& description)
-    : std::runtime_error(description), number_(number) {}
+constexpr auto kErrors = std::to_array<ErrorInfo>({
+    {Error::kInvalidArgument, "InvalidArgument", "invalid procedure call or argument"},
+    {Error::kOverflow, "Overflow", "overflow"},
+    {Error::kOutOfMemory, "OutOfMemory", "out of memory"},
+    {Error::kSubscriptOutOfRange, "SubscriptOutOfRange", "subscript out of range"},
+    {Error::kDivisionByZero, "DivisionByZero", "division by zero"},
+    {Error::kTypeMismatch, "TypeMismatch", "type mismatch"},
+    {Error::kFileNotFound, "FileNotFound", "file not found"},
+    {Error::kDeviceIoError, "DeviceIoError", "device I/O error"},
+    {Error::kDiskFull, "DiskFull", "disk full"},
+    {Error::kPermissionDenied, "PermissionDenied", "permission denied"},
+    {Error::kPathFileAccess, "PathFileAccess", "path/file access error"},
+    {Error::kPathNotFound, "PathNotFound", "path not found"},
+    {Error::kObjectNotSet, "ObjectNotSet", "object variable not set"},
+    {Error::kInvalidPropertyValue, "InvalidPropertyValue", "invalid property value"},
+    {Error::kCannotCreateObject, "CannotCreateObject", "cannot create object"},
+    {Error::kUnsupportedMember, "UnsupportedMember",
+     "object doesn't support this property or method"},
+    {Error::kAutomationError, "AutomationError", "automation error"},
+    {Error::kNamedArgumentNotFound, "NamedArgumentNotFound", "named argument not found"},
+    {Error::kArgumentNotOptional, "ArgumentNotOptional", "argument not optional"},
+    {Error::kWrongNumberOfArguments, "WrongNumberOfArguments", "wrong number of arguments"},
+    {Error::kPrinterError, "PrinterError", "printer error"},
+    {Error::kNoSuchPort, "NoSuchPort", "no such port"},
+    {Error::kPortAlreadyOpen, "PortAlreadyOpen", "port already open"},
+    {Error::kPortNotOpen, "PortNotOpen", "port not open"},
+    {Error::kWriteFailed, "WriteFailed", "write failed"},
+});
+static_assert(std::ranges::is_sorted(kErrors, {}, &ErrorInfo::error));
 
-RunTimeError::RunTimeError(int number, std::string_view meaning, std::string_view operation,
-                           std::string_view input)
-    : std::runtime_error(std::string(operation)
-                             .append(": ")
-                             .append(meaning)
-                             .append(" (error ")
-                             .append(std::to_string(number))
-                             .append("): ")
-                             .append(input)),
-      number_(number) {}
-
-RunTimeError RunTimeError::InvalidArgument(std::string_view operation, std::string_view input) {
-  return {5, "invalid procedure call or argument", operation, input};
+ErrorDetails DetailsOf(Error error, std::string_view detail) {
+  ErrorDetails details = {.number = static_cast<int>(error)};
+  const auto row = std::ranges::find(kErrors, error, &ErrorInfo::error);
+  if (row != kErrors.end()) details.text = row->text;
+  if (!detail.empty()) details.text.append(details.text.empty() ? "" : ": ").append(detail);
+  return details;
 }
 
-RunTimeError RunTimeError::Overflow(std::string_view operation, std::string_view input) {
-  return {6, "overflow", operation, input};
+/// "StandardObject.CTDATE", or what is known of it.
+std::string CalledName(const ErrorDetails& details) {
+  const bool both = !details.class_name.empty() && !details.operation.empty();
+  return details.class_name + (both ? "." : "") + details.operation;
 }
 
-RunTimeError RunTimeError::OutOfMemory(std::string_view operation, std::string_view input) {
-  return {7, "out of memory", operation, input};
+std::string MessageOf(const ErrorDetails& details) {
+  std::string message = CalledName(details);
+  if (message.empty()) {
+    message = details.text;
+  } else {
+    message.append(": ").append(OnOneLine(FromUtf8(details.text)));
+    message.append(" (error ").append(std::to_string(details.number)).append(")");
+  }
+  if (!details.parameter.empty()) message.append(": ").append(details.parameter);
+  if (details.input) message.append(": ").append(Quoted(*details.input));
+  return message;
 }
 
-RunTimeError RunTimeError::SubscriptOutOfRange(std::string_view operation, std::string_view input) {
-  return {9, "subscript out of range", operation, input};
+}  // namespace
+
+std::span<const ErrorInfo> Errors() {
+  return kErrors;
 }
 
-RunTimeError RunTimeError::DivisionByZero(std::string_view operation, std::string_view input) {
-  return {11, "division by zero", operation, input};
-}
+RunTimeError::RunTimeError(const ErrorDetails& details)
+    : std::runtime_error(MessageOf(details)),
+      details_(std::make_shared<const ErrorDetails>(details)) {}
 
-RunTimeError RunTimeError::TypeMismatch(std::string_view operation, std::string_view input) {
-  return {13, "type mismatch", operation, input};
-}
+RunTimeError::RunTimeError(Error error, std::string_view detail)
+    : RunTimeError(DetailsOf(error, detail)) {}
 
-RunTimeError RunTimeError::FileNotFound(std::string_view operation, std::string_view input) {
-  return {53, "file not found", operation, input};
-}
-
-RunTimeError RunTimeError::DeviceIoError(std::string_view operation, std::string_view input) {
-  return {57, "device I/O error", operation, input};
-}
-
-RunTimeError RunTimeError::DiskFull(std::string_view operation, std::string_view input) {
-  return {61, "disk full", operation, input};
-}
-
-RunTimeError RunTimeError::PermissionDenied(std::string_view operation, std::string_view input) {
-  return {70, "permission denied", operation, input};
-}
-
-RunTimeError RunTimeError::PathFileAccess(std::string_view operation, std::string_view input) {
-  return {75, "path/file access error", operation, input};
-}
-
-RunTimeError RunTimeError::PathNotFound(std::string_view operation, std::string_view input) {
-  return {76, "path not found", operation, input};
-}
-
-RunTimeError RunTimeError::CannotCreateObject(std::string_view operation, std::string_view input) {
-  return {429, "cannot create object", operation, input};
-}
-
-RunTimeError RunTimeError::UnsupportedMember(std::string_view operation, std::string_view input) {
-  return {438, "object doesn't support this property or method", operation, input};
-}
-
-RunTimeError RunTimeError::NamedArgumentNotFound(std::string_view operation,
-                                                 std::string_view input) {
-  return {448, "named argument not found", operation, input};
-}
-
-RunTimeError RunTimeError::ArgumentNotOptional(std::string_view operation, std::string_view input) {
-  return {449, "argument not optional", operation, input};
-}
-
-RunTimeError RunTimeError::WrongNumberOfArguments(std::string_view operation,
-                                                  std::string_view input) {
-  return {450, "wrong number of arguments", operation, input};
-}
-
-RunTimeError RunTimeError::PrinterError(std::string_view operation, std::string_view input) {
-  return {482, "printer error", operation, input};
-}
+RunTimeError::RunTimeError(int number, std::string_view text)
+    : RunTimeError(ErrorDetails{.number = number, .text = std::string(text)}) {}
 
 }  // namespace ZQ7Standard

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 
 namespace ZQ7Standard {
 namespace {
@@ -12,6 +13,23 @@ constexpr char32_t kReplacement = 0xFFFD;
 /// Thai vowels, tone marks and signs that stand above or below a letter.
 constexpr bool IsThaiMark(char16_t c) {
   return c == 0x0E31 || (c >= 0x0E34 && c <= 0x0E3A) || (c >= 0x0E47 && c <= 0x0E4E);
+}
+
+/// Characters that a log or a terminal does not show as they are.
+constexpr bool IsControl(char16_t c) {
+  return c < 0x20 || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029;
+}
+
+/// "\n", or "\u001b" for a character without a letter of its own.
+Text Escaped(char16_t control) {
+  constexpr std::array<std::pair<char16_t, TextView>, 3> kLetters = {
+      {{u'\n', u"\\n"}, {u'\r', u"\\r"}, {u'\t', u"\\t"}}};
+  for (const auto& [c, escape] : kLetters) {
+    if (c == control) return Text(escape);
+  }
+  Text escape = u"\\u";
+  for (const int shift : {12, 8, 4, 0}) escape += u"0123456789abcdef"[(control >> shift) & 0xF];
+  return escape;
 }
 
 void AppendUtf8(std::string& bytes, char32_t c) {
@@ -106,8 +124,29 @@ int TerminalWidth(TextView text) {
   return static_cast<int>(text.size()) - static_cast<int>(std::ranges::count_if(text, IsThaiMark));
 }
 
+std::string OnOneLine(TextView text) {
+  Text line;
+  for (const char16_t c : text) {
+    if (IsControl(c)) {
+      line.append(Escaped(c));
+    } else {
+      line.push_back(c);
+    }
+  }
+  return Utf8(line);
+}
+
 std::string Quoted(TextView text) {
-  return '"' + Utf8(text) + '"';
+  constexpr std::size_t kMostUnits = 100;
+  const bool splits_pair = text.size() > kMostUnits && IsHighSurrogate(text[kMostUnits - 1]);
+  Text quoted = u"\"";
+  for (const char16_t c : text.substr(0, kMostUnits - (splits_pair ? 1 : 0))) {
+    if (c == u'"') quoted.push_back(u'\\');
+    quoted.push_back(c);
+  }
+  if (text.size() > kMostUnits) quoted.push_back(u'…');
+  quoted.push_back(u'"');
+  return OnOneLine(quoted);
 }
 
 }  // namespace ZQ7Standard

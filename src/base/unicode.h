@@ -15,7 +15,12 @@ constexpr bool IsLowSurrogate(char32_t c) {
   return c >= 0xDC00 && c <= 0xDFFF;
 }
 
-/// `text` in UTF-8 between quotation marks, for the message of an error.
+/// `text` in UTF-8 with its control characters escaped, such as "\n" and "\u009b", so that
+/// it stays on one line.
+std::string OnOneLine(TextView text);
+
+/// The same between quotation marks, for the message of an error: those inside are escaped,
+/// and after 100 code units "…" stands for the rest.
 std::string Quoted(TextView text);
 
 }  // namespace ZQ7Standard

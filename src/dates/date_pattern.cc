@@ -1,13 +1,11 @@
 #include "dates/date_pattern.h"
 
-#include <ZQ7Standard/RunTimeError.h>
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
 
 #include "base/ascii.h"
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "dates/date_math.h"
 
 namespace ZQ7Standard {
@@ -209,14 +207,15 @@ bool MayShowDay(TextView pattern) {
   return std::ranges::any_of(pattern, [](char16_t c) { return MarkOf(c) <= Mark::kBuddhistYear; });
 }
 
-Text FormatPattern(const char* operation, OleDate date, const PatternDay& day, TextView pattern) {
+Text FormatPattern(std::string_view operation, OleDate date, const PatternDay& day,
+                   TextView pattern) {
   Text text(pattern.size() * 5 / 2, u'\0');
   PatternWriter writer(date, day, pattern, text.data());
   Mark before = Mark::kOther;  // the last field
   for (TextView rest = pattern; !rest.empty();) {
     const Mark mark = MarkOf(rest.front());
     const TextView piece = TakePiece(rest, mark);
-    if (piece.empty()) throw RunTimeError::InvalidArgument(operation, Quoted(pattern));
+    if (piece.empty()) Raise(Error::kInvalidArgument, {operation, "FormatText"}, pattern);
     const bool minutes = mark == Mark::kMonth && piece.size() <= 2 &&
                          (before == Mark::kHour || FirstField(rest) == Mark::kSecond);
     writer.Write(minutes ? Mark::kMinute : mark, piece);

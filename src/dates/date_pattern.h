@@ -4,6 +4,7 @@
 #include <ZQ7Standard/Types.h>
 
 #include <chrono>
+#include <string_view>
 
 #include "dates/name_tables.h"
 
@@ -23,7 +24,8 @@ bool MayShowDay(TextView pattern);
 /// Writes the time of day and the weekday of `date`, and `day` for the rest, as
 /// `pattern` says (docs/dates.md lists the letters). Raises 5 in the name of
 /// `operation` if the pattern ends inside quotes or in a single "\".
-Text FormatPattern(const char* operation, OleDate date, const PatternDay& day, TextView pattern);
+Text FormatPattern(std::string_view operation, OleDate date, const PatternDay& day,
+                   TextView pattern);
 
 }  // namespace ZQ7Standard
 

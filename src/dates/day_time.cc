@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -7,6 +6,7 @@
 #include <string>
 
 #include "base/ascii.h"
+#include "base/raise.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
 
@@ -40,7 +40,7 @@ Text StandardObject::DAY2DAYTIME(double iDay) const {
   constexpr double kMillisecondsPerDay = 24 * 60 * kMillisecondsPerMinute;
   const auto [days, milliseconds] = SplitDays(std::abs(iDay), kMillisecondsPerDay);
   const auto number = ToDecimal(days);
-  if (!number) throw RunTimeError::Overflow("DAY2DAYTIME", std::to_string(iDay));
+  if (!number) Raise(Error::kOverflow, {"DAY2DAYTIME", "iDay"}, iDay);
   const int minutes = static_cast<int>(milliseconds / kMillisecondsPerMinute);
   Text text = FormatDecimal(*number, 0, Grouping::kNone);
   text.push_back(u':');
@@ -53,7 +53,7 @@ Text StandardObject::DAY2DAYTIME(double iDay) const {
 Text StandardObject::FormatHour(double iHour) const {
   const double hours = std::abs(iHour);
   if (!(hours < kFirstOf16Digits)) {
-    throw RunTimeError::Overflow("FormatHour", std::to_string(iHour));
+    Raise(Error::kOverflow, {"FormatHour", "iHour"}, iHour);
   }
   const std::int64_t minutes = WholeMinutes(hours);
   Text text = iHour < 0 && minutes > 0 ? u"-" : u"";

@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -6,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "base/raise.h"
 #include "dates/civil.h"
 #include "dates/date_math.h"
 #include "dates/first_day_of_month.h"
@@ -13,17 +13,11 @@
 namespace ZQ7Standard {
 namespace {
 
-/// What `AddMonth` was asked for, for the message of an error.
-std::string Describe(OleDate date, int months) {
-  return std::to_string(date.Days()) + " days, " + std::to_string(months) + " months";
-}
-
-}  // namespace
-
-OleDate StandardObject::AddMonth(OleDate InDate, std::int16_t NumberOfMonth) const {
-  const int months = NumberOfMonth == 0 ? 1 : NumberOfMonth;
+/// The day `months` months later, or earlier, for the operation that was called. The era is
+/// asked for where it counts.
+OleDate MonthsLater(std::string_view operation, OleDate start, int months, const auto& era) {
   const int step = months > 0 ? 1 : -1;
-  const auto civil = YearMonthDay(InDate);
+  const auto civil = YearMonthDay(start);
   int year = static_cast<int>(civil.year());
   int month = static_cast<int>(static_cast<unsigned>(civil.month()));
   int day = static_cast<int>(static_cast<unsigned>(civil.day()));
@@ -33,22 +27,32 @@ OleDate StandardObject::AddMonth(OleDate InDate, std::int16_t NumberOfMonth) con
       year += step;
       month -= step * kMonthsPerYear;
       // A Gregorian system completes a year of two digits, as when it is typed.
-      if (year == 99 && Convention().era == Era::kGregorian) year = 1999;
+      if (year == 99 && era() == Era::kGregorian) year = 1999;
     }
     day = std::min(day, DaysInMonth(year, month));
   }
   const auto date = DateFromParts(year, month, day);
-  if (!date) throw RunTimeError::InvalidArgument("AddMonth", Describe(InDate, months));
+  if (!date) {
+    Raise(Error::kInvalidArgument, {operation, "InDate"}, start,
+          std::to_string(months) + " months");
+  }
   return *date;
+}
+
+}  // namespace
+
+OleDate StandardObject::AddMonth(OleDate InDate, std::int16_t NumberOfMonth) const {
+  const int months = NumberOfMonth == 0 ? 1 : NumberOfMonth;
+  return MonthsLater("AddMonth", InDate, months, [this] { return Convention().era; });
 }
 
 OleDate StandardObject::AddYear(OleDate InDate, std::int16_t NumberOfYear) const {
   const int months = (NumberOfYear == 0 ? 1 : NumberOfYear) * kMonthsPerYear;
   using Limits = std::numeric_limits<std::int16_t>;
   if (months < Limits::min() || months > Limits::max()) {
-    throw RunTimeError::Overflow("AddYear", std::to_string(NumberOfYear) + " years");
+    Raise(Error::kOverflow, {"AddYear", "NumberOfYear"}, NumberOfYear);
   }
-  return AddMonth(InDate, static_cast<std::int16_t>(months));
+  return MonthsLater("AddYear", InDate, months, [this] { return Convention().era; });
 }
 
 OleDate StandardObject::GETFirstDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const {
@@ -58,8 +62,7 @@ OleDate StandardObject::GETFirstDayOfMonthYear(std::int16_t iMonth, std::int16_t
 OleDate StandardObject::GETLastDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const {
   const auto first = DateSerial(iYear2000, iMonth, 1);
   if (!first) {
-    throw RunTimeError::InvalidArgument("GETLastDayOfMonthYear",
-                                        std::to_string(iMonth) + ", " + std::to_string(iYear2000));
+    Raise(Error::kInvalidArgument, {"GETLastDayOfMonthYear", "iYear2000"}, iYear2000);
   }
   return first->AddDays(DaysInMonth(first->Year(), first->Month()) - 1);
 }

@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/Types.h>
 
 #include <algorithm>
@@ -6,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/raise.h"
 #include "dates/date_math.h"
 
 namespace ZQ7Standard {
@@ -20,7 +20,7 @@ constexpr local_days kDayZero{std::chrono::year(1899) / 12 / 30};
 
 OleDate::OleDate(double days) : days_(days) {
   if (!IsInRange(days)) {
-    throw RunTimeError::InvalidArgument("OleDate", std::to_string(days) + " days");
+    Raise(Error::kInvalidArgument, {"OleDate", "days"}, days);
   }
 }
 
@@ -33,7 +33,7 @@ OleDate OleDate::FromParts(int year, int month, int day, int hour, int minute, i
     for (const int part : {year, month, day, hour, minute, second}) {
       parts.append(parts.empty() ? "" : ", ").append(std::to_string(part));
     }
-    throw RunTimeError::InvalidArgument("OleDate::FromParts", parts);
+    Raise(Error::kInvalidArgument, {"OleDate::FromParts"}, FromUtf8(parts));
   }
   return AtTime(*date, (hour * 3600 + minute * 60 + second) / 86400.0);
 }
@@ -80,7 +80,7 @@ int OleDate::Second() const {
 
 OleDate OleDate::AddDays(std::int64_t days) const {
   const auto later = DaysLater(*this, days);
-  if (!later) throw RunTimeError::InvalidArgument("OleDate::AddDays", std::to_string(days));
+  if (!later) Raise(Error::kInvalidArgument, {"OleDate::AddDays", "days"}, days);
   return *later;
 }
 

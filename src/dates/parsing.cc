@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -10,7 +9,7 @@
 
 #include "base/ascii.h"
 #include "base/pieces.h"
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "dates/date_math.h"
 #include "dates/date_text.h"
 #include "dates/eras.h"
@@ -71,14 +70,14 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
   std::size_t count = 0;
   for (TextView rest = iText; !rest.empty(); ++count) {
     const auto field = ReadField(TakeField(rest, u'/'));
-    if (!field) throw RunTimeError::Overflow("CTDATE", Quoted(iText));
+    if (!field) Raise(Error::kOverflow, {"CTDATE", "iText"}, iText);
     if (count < fields.size()) fields[count] = *field;
   }
-  if (count < 2) throw RunTimeError::SubscriptOutOfRange("CTDATE", Quoted(iText));
+  if (count < 2) Raise(Error::kSubscriptOutOfRange, {"CTDATE", "iText"}, iText);
   const DateConvention convention = Convention();
   const auto [day, month, year] = InOrder(fields, convention.order);
   const auto date = ReadNamedMonthDate(month, day, year, convention.era);
-  if (!date) throw RunTimeError::TypeMismatch("CTDATE", Quoted(iText));
+  if (!date) Raise(Error::kTypeMismatch, {"CTDATE", "iText"}, iText);
   return *date;
 }
 

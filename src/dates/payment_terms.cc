@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -9,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/raise.h"
 #include "dates/date_math.h"
 #include "numbers/number_text.h"
 
@@ -80,8 +80,7 @@ OleDate StandardObject::GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionTyp
   }
   const int days = NetDay + (condition->delivery_days ? DeliveryDay : 0);
   const auto due = DaysLater(start, days);
-  if (!due)
-    throw RunTimeError::InvalidArgument("GetConditionDueDate", std::to_string(days) + " days");
+  if (!due) Raise(Error::kInvalidArgument, {"GetConditionDueDate", "NetDay"}, days);
   return *due;
 }
 

@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -7,6 +6,7 @@
 #include <cstddef>
 #include <string>
 
+#include "base/raise.h"
 #include "dates/date_math.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
@@ -67,7 +67,7 @@ OleDate StandardObject::TimeLeftDateTime(OleDate StartDate, double DoneCount,
 
 Text StandardObject::FormatTimeleft(double TimeLeft, std::optional<bool> UseThai) const {
   if (!std::isfinite(TimeLeft)) {
-    throw RunTimeError::Overflow("FormatTimeleft", std::to_string(TimeLeft));
+    Raise(Error::kOverflow, {"FormatTimeleft", "TimeLeft"}, TimeLeft);
   }
   const bool thai = UseThai ? *UseThai : Convention().era == Era::kBuddhist;
   const Counts counts = UnitsOf(std::max(TimeLeft, 0.0));

@@ -1,18 +1,18 @@
 #ifndef ZQ7STANDARD_SRC_IO_FAILURES_H_
 #define ZQ7STANDARD_SRC_IO_FAILURES_H_
 
-#include <ZQ7Standard/RunTimeError.h>
-
 #include <exception>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "base/raise.h"
+
 namespace ZQ7Standard {
 
 /// What stopped an operation.
 struct Failure {
-  std::optional<int> number;  ///< of the run-time error; nullopt for any other exception
+  std::optional<ErrorDetails> error;  ///< nullopt for any exception but a `RunTimeError`
   std::string text;
 };
 
@@ -24,7 +24,7 @@ std::optional<Failure> FailureOf(const Steps& steps) {
     steps();
     return std::nullopt;
   } catch (const RunTimeError& error) {
-    return Failure{error.Number(), error.what()};
+    return Failure{error.Details(), error.what()};
   } catch (const std::exception& error) {
     return Failure{std::nullopt, error.what()};
   } catch (...) {
@@ -44,8 +44,8 @@ template <typename Steps>
 void Reported(std::string_view operation, const Steps& steps) {
   const auto failure = FailureOf(steps);
   if (!failure) return;
-  if (failure->number) throw RunTimeError(*failure->number, failure->text);
-  throw RunTimeError::PrinterError(operation, failure->text);
+  const RunTimeError nameless(Error::kPrinterError, failure->text);
+  RaiseNamed({operation}, failure->error ? RunTimeError(*failure->error) : nameless);
 }
 
 }  // namespace ZQ7Standard

@@ -1,5 +1,4 @@
 #include <ZQ7Standard/BitByteObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
 #include <array>
@@ -10,7 +9,7 @@
 #include <string>
 
 #include "base/ascii.h"
-#include "base/unicode.h"
+#include "base/raise.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -69,27 +68,27 @@ Text DigitsToBits(TextView digits, std::size_t bits, ZerosInFront zeros) {
 
 /// Reads the digits of `bits` bits at the front of `digits`, as a signed number
 /// of 16 bits where they fit and of 32 where they do not.
-std::int16_t ReadDigits(TextView digits, std::size_t bits, std::string_view operation) {
+std::int16_t ReadDigits(TextView digits, std::size_t bits, const Where& where) {
   std::uint64_t value = 0;
   for (const char16_t c : digits) {
     const std::size_t digit = DigitValue(c, bits);
     if (digit == TextView::npos) break;
     value = value << bits | digit;
-    if (value > kLargest32Bits) throw RunTimeError::Overflow(operation, Quoted(digits));
+    if (value > kLargest32Bits) Raise(Error::kOverflow, where, digits);
   }
   const auto number = static_cast<std::int32_t>(value);
   if (value > kLargest16Bits &&
       (number >= 0 || number < std::numeric_limits<std::int16_t>::min())) {
-    throw RunTimeError::Overflow(operation, Quoted(digits));
+    Raise(Error::kOverflow, where, digits);
   }
   return static_cast<std::int16_t>(value);
 }
 
-std::int16_t ReadDigits(std::int16_t digits, std::size_t bits, std::string_view operation) {
+std::int16_t ReadDigits(std::int16_t digits, std::size_t bits, const Where& where) {
   if (digits < 0) return 0;
   Text text;
   AppendNumber(text, digits, 1);
-  return ReadDigits(text, bits, operation);
+  return ReadDigits(text, bits, where);
 }
 
 /// The 32 bits of a number; a negative one in two's complement.
@@ -119,7 +118,7 @@ std::int16_t WriteBit(std::int16_t number, int position, bool set, std::string_v
   if (position < 1 || position > BinaryLength(bits)) return 0;
   const std::uint64_t bit = std::uint64_t{1} << (position - 1);
   const std::uint64_t changed = set ? bits | bit : bits & ~bit;
-  if (changed > kLargestBinary) throw RunTimeError::Overflow(operation, std::to_string(number));
+  if (changed > kLargestBinary) Raise(Error::kOverflow, {operation, "DecNumber"}, number);
   return static_cast<std::int16_t>(changed);
 }
 
@@ -138,7 +137,7 @@ std::int16_t BitByteObject::Bin2Dec(TextView BinString) const {
   std::uint64_t value = 0;
   for (const char16_t c : BinString) {
     value = value * 2 + (c - u'0');
-    if (value > kLargestBinary) throw RunTimeError::Overflow("Bin2Dec", Quoted(BinString));
+    if (value > kLargestBinary) Raise(Error::kOverflow, {"Bin2Dec", "BinString"}, BinString);
   }
   return static_cast<std::int16_t>(value);
 }
@@ -162,15 +161,15 @@ Text BitByteObject::Hex2Oct(TextView HexString) const {
 }
 
 std::int16_t BitByteObject::Oct2Dec(std::int16_t OctString) const {
-  return ReadDigits(OctString, kOctalBits, "Oct2Dec");
+  return ReadDigits(OctString, kOctalBits, {"Oct2Dec", "OctString"});
 }
 
 std::int16_t BitByteObject::Hex2Dec(std::int16_t HexString) const {
-  return ReadDigits(HexString, kHexBits, "Hex2Dec");
+  return ReadDigits(HexString, kHexBits, {"Hex2Dec", "HexString"});
 }
 
 std::int16_t BitByteObject::Hex2Dec2(TextView HexString) const {
-  return ReadDigits(HexString, kHexBits, "Hex2Dec2");
+  return ReadDigits(HexString, kHexBits, {"Hex2Dec2", "HexString"});
 }
 
 Text BitByteObject::Dec2Oct(std::int32_t DecNumber) const {
@@ -192,7 +191,7 @@ std::int32_t BitByteObject::Base26To10(TextView Base26) const {
   for (const char16_t c : Base26) {
     number = number * 26 + (c - u'A' + 1);
     if (number > std::numeric_limits<std::int32_t>::max()) {
-      throw RunTimeError::Overflow("Base26To10", Quoted(Base26));
+      Raise(Error::kOverflow, {"Base26To10", "Base26"}, Base26);
     }
   }
   return static_cast<std::int32_t>(number);

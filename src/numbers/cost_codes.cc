@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -10,6 +9,7 @@
 
 #include "base/ascii.h"
 #include "base/pieces.h"
+#include "base/raise.h"
 #include "base/unicode.h"
 #include "numbers/number_text.h"
 
@@ -56,7 +56,7 @@ std::optional<Letters> LettersOf(TextView word) {
 
 Letters CheckedLetters(std::string_view operation, TextView word) {
   const auto letters = LettersOf(word);
-  if (!letters) throw RunTimeError::InvalidArgument(operation, "the code word " + Quoted(word));
+  if (!letters) Raise(Error::kInvalidArgument, {operation, "CodeWord"}, word);
   return *letters;
 }
 
@@ -65,7 +65,7 @@ Letters CheckedLetters(std::string_view operation, TextView word, TextView repea
   const bool is_another_letter = repeat.size() == 1 && CanBeLetter(repeat.front()) &&
                                  IndexIn(letters, repeat.front()) == kDigits;
   if (!is_another_letter) {
-    throw RunTimeError::InvalidArgument(operation, "the repeat character " + Quoted(repeat));
+    Raise(Error::kInvalidArgument, {operation, "RepeatCharacter"}, repeat);
   }
   letters.repeat = repeat.front();
   return letters;
@@ -74,7 +74,7 @@ Letters CheckedLetters(std::string_view operation, TextView word, TextView repea
 Text Encode(std::string_view operation, double price, const Letters& letters) {
   const auto number = ToDecimal(price);
   if (!number || DecimalDigits(*number).WholeCount() > kMaxWholeDigits) {
-    throw RunTimeError::Overflow(operation, std::to_string(price));
+    Raise(Error::kOverflow, {operation, "Price"}, price);
   }
   Text code = FormatDecimal(*number, kDecimals, Grouping::kNone);
   if (code.ends_with(kNoDecimals)) code.resize(code.size() - kNoDecimals.size());
@@ -116,10 +116,10 @@ double Decode(std::string_view operation, TextView code, const Letters& letters)
   }
   if (number.size() < units.size() || !IsAsciiDigit(number.back())) {
     const std::size_t place = code.size() - front_trimmed.size() + number.size() + 1;
-    throw RunTimeError::TypeMismatch(operation, Quoted(code) + ", place " + std::to_string(place));
+    Raise(Error::kTypeMismatch, {operation, "CostCode"}, code, "place " + std::to_string(place));
   }
   const auto price = ReadLeadingNumber(number);
-  if (!price) throw RunTimeError::Overflow(operation, Quoted(code));
+  if (!price) Raise(Error::kOverflow, {operation, "CostCode"}, code);
   return *price;
 }
 

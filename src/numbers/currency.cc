@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/Types.h>
 
 #include <algorithm>
@@ -7,7 +6,7 @@
 #include <string>
 
 #include "base/ascii.h"
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
@@ -44,7 +43,7 @@ Currency::Currency(double amount) {
   constexpr double kLimit = 922337203685477;
   const bool in_range =
       std::abs(whole) < kLimit || (std::abs(whole) == kLimit && std::abs(fraction) <= 5807);
-  if (!in_range) throw RunTimeError::Overflow("Currency", std::to_string(amount));
+  if (!in_range) Raise(Error::kOverflow, {"Currency", "amount"}, amount);
   scaled_ = static_cast<std::int64_t>(whole) * 10000 + static_cast<std::int64_t>(fraction);
 }
 
@@ -57,13 +56,13 @@ Currency Currency::FromText(TextView text) {
   const bool digits_only =
       std::ranges::all_of(whole, IsAsciiDigit) && std::ranges::all_of(fraction, IsAsciiDigit);
   if (!digits_only || whole.size() + fraction.size() == 0) {
-    throw RunTimeError::TypeMismatch("Currency::FromText", Quoted(text));
+    Raise(Error::kTypeMismatch, {"Currency::FromText", "text"}, text);
   }
   whole.remove_prefix(std::min(whole.find_first_not_of(u'0'), whole.size()));
   const std::uint64_t limit = kMaxMagnitude + (negative ? 1 : 0);
   const std::uint64_t scaled =
       whole.size() <= kMaxWholeDigits ? ScaledMagnitude(whole, fraction) : limit + 1;
-  if (scaled > limit) throw RunTimeError::Overflow("Currency::FromText", Quoted(text));
+  if (scaled > limit) Raise(Error::kOverflow, {"Currency::FromText", "text"}, text);
   return FromScaled(static_cast<std::int64_t>(negative ? -scaled : scaled));
 }
 

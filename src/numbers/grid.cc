@@ -1,5 +1,4 @@
 #include <ZQ7Standard/GridValueObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -8,14 +7,14 @@
 #include <string>
 #include <utility>
 
+#include "base/raise.h"
 #include "numbers/cell_table.h"
 
 namespace ZQ7Standard {
 namespace {
 
 [[noreturn]] void RaiseNoCell(std::string_view operation, std::int32_t row, std::int32_t col) {
-  throw RunTimeError::SubscriptOutOfRange(
-      operation, "row " + std::to_string(row) + ", column " + std::to_string(col));
+  Raise(Error::kSubscriptOutOfRange, {operation, row < 0 ? "Row" : "Col"}, row < 0 ? row : col);
 }
 
 }  // namespace
@@ -134,8 +133,8 @@ void GridValueObject::Resize(std::int64_t rows, std::int32_t cols, std::string_v
       cells_ = std::make_unique<CellTable>(cell_rows, static_cast<std::size_t>(cols) + 1);
     }
   } catch (const std::bad_alloc&) {
-    throw RunTimeError::OutOfMemory(
-        operation, std::to_string(rows) + " rows of " + std::to_string(cols) + " columns");
+    Raise(Error::kOutOfMemory, {operation},
+          std::to_string(rows) + " rows of " + std::to_string(cols) + " columns");
   }
   rows_ = static_cast<std::int32_t>(rows);
   cols_ = cols;

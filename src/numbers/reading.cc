@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <cmath>
@@ -6,7 +5,7 @@
 #include <string>
 
 #include "base/ascii.h"
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
@@ -15,7 +14,7 @@ namespace {
 template <typename Integer>
 Integer ToInteger(double value, std::string_view operation, TextView text) {
   const auto integer = RoundToInteger<Integer>(value);
-  if (!integer) throw RunTimeError::Overflow(operation, Quoted(text));
+  if (!integer) Raise(Error::kOverflow, {operation, "istr"}, text);
   return *integer;
 }
 
@@ -42,7 +41,7 @@ std::int32_t StandardObject::StrLng(TextView istr, std::int32_t DecimalDigit) co
 
 float StandardObject::StrSng(TextView istr, std::int32_t DecimalDigit) const {
   const auto value = static_cast<float>(StrVal2(istr, DecimalDigit));
-  if (std::isinf(value)) throw RunTimeError::Overflow("StrSng", Quoted(istr));
+  if (std::isinf(value)) Raise(Error::kOverflow, {"StrSng", "istr"}, istr);
   return value;
 }
 
@@ -82,7 +81,7 @@ double StandardObject::m2d(double iMinute) const {
 
 Text StandardObject::d2Str(double iValue) const {
   const auto number = ToDecimal(iValue);
-  if (!number) throw RunTimeError::Overflow("d2Str", std::to_string(iValue));
+  if (!number) Raise(Error::kOverflow, {"d2Str", "iValue"}, iValue);
   return ShortestText(*number);
 }
 

@@ -1,9 +1,9 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <limits>
-#include <string>
+#include <string_view>
 
+#include "base/raise.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
@@ -11,41 +11,47 @@ namespace {
 
 constexpr std::int64_t kUnit = 10000;  // of a Currency
 
+enum class Ending { kRounded, kCut };
+
+/// `number` with `decimals` decimals.
+double Fixed(std::string_view operation, double number, int decimals, Ending ending) {
+  if (decimals < 0) Raise(Error::kInvalidArgument, {operation, "DecimalDigit"}, decimals);
+  const auto decimal = ToDecimal(number);
+  if (!decimal) Raise(Error::kOverflow, {operation, "iValue"}, number);
+  if (ending == Ending::kRounded) return ToDouble(RoundDecimals(*decimal, decimals));
+  return ToDouble(CutDecimals(RoundDecimals(*decimal, decimals + 2), decimals));
+}
+
 }  // namespace
 
 double StandardObject::FixNumber2(double iValue, std::int16_t DecimalDigit,
                                   bool IgnoreNextDigit) const {
-  if (DecimalDigit < 0) {
-    throw RunTimeError::InvalidArgument("FixNumber2",
-                                        std::to_string(DecimalDigit) + " decimal digits");
-  }
-  const auto number = ToDecimal(iValue);
-  if (!number) throw RunTimeError::Overflow("FixNumber2", std::to_string(iValue));
-  if (!IgnoreNextDigit) return ToDouble(RoundDecimals(*number, DecimalDigit));
-  return ToDouble(CutDecimals(RoundDecimals(*number, DecimalDigit + 2), DecimalDigit));
+  return Fixed("FixNumber2", iValue, DecimalDigit,
+               IgnoreNextDigit ? Ending::kCut : Ending::kRounded);
 }
 
 double StandardObject::FixNumber(double iValue, std::int16_t DecimalDigit) const {
-  return FixNumber2(iValue, DecimalDigit, false);
+  return Fixed("FixNumber", iValue, DecimalDigit, Ending::kRounded);
 }
 
 double StandardObject::Round(double iValue, std::int16_t DecimalDigit) const {
-  return FixNumber2(iValue, DecimalDigit, false);
+  return Fixed("Round", iValue, DecimalDigit, Ending::kRounded);
 }
 
 double StandardObject::Floor(double iValue) const {
-  return FixNumber2(iValue, 0, true);
+  return Fixed("Floor", iValue, 0, Ending::kCut);
 }
 
 double StandardObject::Ceiling(double iValue) const {
-  const double cut = Floor(iValue);
+  const double cut = Fixed("Ceiling", iValue, 0, Ending::kCut);
   return iValue > cut ? cut + 1 : cut;
 }
 
 double StandardObject::FixNumberWithCutMode(double iValue, std::int16_t DecimalDigit,
                                             ZQ7FixUnit CutMode) const {
-  const double rounded = FixNumber2(iValue, DecimalDigit, false);
-  const double cut = FixNumber2(rounded, 0, true);
+  constexpr auto kOperation = "FixNumberWithCutMode";
+  const double rounded = Fixed(kOperation, iValue, DecimalDigit, Ending::kRounded);
+  const double cut = Fixed(kOperation, rounded, 0, Ending::kCut);
   switch (CutMode) {
     case ZQ7FixUnitFiveUp:
       return cut + 0.5 > rounded ? cut : cut + 1;
@@ -65,7 +71,7 @@ Currency StandardObject::FixMoneyDecimal(Currency iValue, bool IncreaseToCeiling
   if (iValue.Scaled() <= whole) return iValue;
   if (!IncreaseToCeiling) return Currency::FromScaled(whole);
   if (whole > std::numeric_limits<std::int64_t>::max() - kUnit) {
-    throw RunTimeError::Overflow("FixMoneyDecimal", Utf8(iValue.ToText()));
+    Raise(Error::kOverflow, {"FixMoneyDecimal", "iValue"}, iValue);
   }
   return Currency::FromScaled(whole + kUnit);
 }

@@ -1,3 +1,4 @@
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>
 
 namespace ZQ7Standard {
@@ -7,7 +8,8 @@ class NoPrinters final : public PrinterList {
  public:
   std::vector<Printer> Installed() override { return {}; }
   Printer Current() override {
-    throw PrinterFailure("no printer is installed: the library was built without printing");
+    throw RunTimeError(Error::kPrinterError,
+                       "no printer is installed: the library was built without printing");
   }
   void MakeCurrent(const Printer& /*printer*/) override {}
 };

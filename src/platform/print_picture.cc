@@ -1,11 +1,10 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/file_contents.h>
 #include <ZQ7Standard/platform/print_picture.h>
 
 #include <string>
 #include <utility>
 
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "formats/picture_size.h"
 
 namespace ZQ7Standard {
@@ -32,9 +31,9 @@ class FilePicture final : public PrintPicture {
 
 std::shared_ptr<PrintPicture> PictureFromFile(TextView path, DriveMap drives) {
   auto bytes = SystemFileReader(std::move(drives))->ReadAll(path);
-  if (!bytes) throw RunTimeError::FileNotFound("PictureFromFile", Quoted(path));
+  if (!bytes) Raise(Error::kFileNotFound, {}, path);
   const auto size = ReadPictureSize(*bytes);
-  if (!size) throw RunTimeError::InvalidArgument("PictureFromFile", Quoted(path));
+  if (!size) Raise(Error::kInvalidArgument, {}, path, "neither a PNG nor a JPEG");
   return std::make_shared<FilePicture>(std::move(*bytes), *size);
 }
 

@@ -1,3 +1,4 @@
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/recording_printers.h>
 
 #include <array>
@@ -109,7 +110,7 @@ class RecordingList final : public PrinterList {
   std::vector<Printer> Installed() override { return printers_; }
   Printer Current() override {
     recorder_.Do("Current");
-    if (!current_.document) throw PrinterFailure("no printer is installed");
+    if (!current_.document) throw RunTimeError(Error::kPrinterError, "no printer is installed");
     return current_;
   }
   void MakeCurrent(const Printer& printer) override {

@@ -1,5 +1,4 @@
 #include <ZQ7Standard/RegistryObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "base/code_page.h"
+#include "base/raise.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -28,7 +28,7 @@ std::string RepeatedKey(TextView password) {
 /// `text` and the repeated `password` combined byte for byte by exclusive or.
 Text Combine(TextView text, TextView password, std::string_view operation) {
   if (text.empty()) return {};
-  if (password.empty()) throw RunTimeError::DivisionByZero(operation, "an empty password");
+  if (password.empty()) Raise(Error::kDivisionByZero, {operation, "PassWord"}, password);
   const std::string repeated = RepeatedKey(password);
   const std::string_view key = repeated;
   std::string bytes = ToCodePage(text);
@@ -43,17 +43,24 @@ Text Combine(TextView text, TextView password, std::string_view operation) {
 /// `Combine` for the operations that count characters in 16 bits.
 Text CombineShort(TextView text, TextView password, std::string_view operation) {
   if (text.size() > kLongestText) {
-    throw RunTimeError::Overflow(operation,
-                                 "a text of " + std::to_string(text.size()) + " characters");
+    Raise(Error::kOverflow, {operation}, text, std::to_string(text.size()) + " characters");
   }
   return Combine(text, password, operation);
 }
 
-std::unique_ptr<BlockCipher> MakeCipher(const BlockCipherFactory& factory,
-                                        std::string_view operation) {
+std::unique_ptr<BlockCipher> MakeCipher(const BlockCipherFactory& factory) {
   auto cipher = factory ? factory() : nullptr;
-  if (!cipher) throw RunTimeError::CannotCreateObject(operation, "the block cipher");
+  if (!cipher) Raise(Error::kCannotCreateObject, {}, "the block cipher");
   return cipher;
+}
+
+Text Encipher(BlockCipher& cipher, TextView text, TextView password) {
+  SecretBytes key;
+  SecretBytes vector;
+  cipher.SetUpKey(password, key, vector);
+  const std::string plain = ToCodePage(text);
+  cipher.Initialise(std::move(key), std::move(vector));
+  return cipher.Encode(cipher.EncryptBlocks(plain));
 }
 
 /// The text that `cipher` enciphered; nothing when it cannot tell.
@@ -81,20 +88,20 @@ Text StandardObject::DecryptBS(TextView EncryptedTextInput, TextView PassWord) c
 
 Text StandardObject::Encrypt(TextView StringInput, TextView PassWord) const {
   if (StringInput.empty() || PassWord.empty()) return Text(StringInput);
-  const auto cipher = MakeCipher(services_.block_cipher, "Encrypt");
-  SecretBytes key;
-  SecretBytes vector;
-  cipher->SetUpKey(PassWord, key, vector);
-  const std::string plain = ToCodePage(StringInput);
-  cipher->Initialise(std::move(key), std::move(vector));
-  return cipher->Encode(cipher->EncryptBlocks(plain));
+  return Named({"Encrypt"}, [&] {
+    const auto cipher = MakeCipher(services_.block_cipher);
+    return Encipher(*cipher, StringInput, PassWord);
+  });
 }
 
 Text StandardObject::Decrypt(TextView EncryptedTextInput, TextView PassWord) const {
   Text text(EncryptedTextInput);
   if (!text.empty() && !PassWord.empty()) {
-    const auto cipher = MakeCipher(services_.block_cipher, "Decrypt");
-    if (auto plain = Decipher(*cipher, EncryptedTextInput, PassWord)) text = std::move(*plain);
+    const auto plain = Named({"Decrypt"}, [&] {
+      const auto cipher = MakeCipher(services_.block_cipher);
+      return Decipher(*cipher, EncryptedTextInput, PassWord);
+    });
+    if (plain) text = *plain;
   }
   std::erase(text, u'\0');
   return text;

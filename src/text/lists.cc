@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -6,9 +5,9 @@
 #include <initializer_list>
 
 #include "base/pieces.h"
+#include "base/raise.h"
 #include "base/replace.h"
 #include "base/search.h"
-#include "base/unicode.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
@@ -55,10 +54,10 @@ std::vector<Text> Elements(TextView first, std::initializer_list<TextView> other
 
 /// `field` of the list `list` as a whole number.
 std::int32_t WholeNumber(TextView field, TextView list) {
-  if (!IsNumberText(field)) throw RunTimeError::TypeMismatch("TrimN", Quoted(list));
+  if (!IsNumberText(field)) Raise(Error::kTypeMismatch, {"TrimN", "istr"}, list);
   const auto number = ReadLeadingNumber(field);
   const auto whole = number ? RoundToInteger<std::int32_t>(*number) : std::nullopt;
-  if (!whole) throw RunTimeError::Overflow("TrimN", Quoted(list));
+  if (!whole) Raise(Error::kOverflow, {"TrimN", "istr"}, list);
   return *whole;
 }
 

@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
 #include <algorithm>
@@ -10,8 +9,8 @@
 #include "base/ascii.h"
 #include "base/case_mapping.h"
 #include "base/pieces.h"
+#include "base/raise.h"
 #include "base/search.h"
-#include "base/unicode.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
@@ -104,7 +103,7 @@ Text StandardObject::IncreaseString(TextView InputString, TextView AddStringNumb
   if (tail.empty()) return Joined(prefix, 0, AddStringNumber);
   const double step = AddStringNumber.empty() ? 1 : std::max(StrVal(AddStringNumber), 0.0);
   const auto value = ToDecimal(StrVal(tail) + step);
-  if (!value) throw RunTimeError::Overflow("IncreaseString", Quoted(InputString));
+  if (!value) Raise(Error::kOverflow, {"IncreaseString", "InputString"}, InputString);
   const Text number = ShortestText(*value);
   return Joined(prefix, tail.size() - std::min(tail.size(), number.size()), number);
 }
@@ -112,12 +111,12 @@ Text StandardObject::IncreaseString(TextView InputString, TextView AddStringNumb
 Text StandardObject::FormatTextSort(TextView InputString, std::int16_t Length) const {
   const TextView suffix = NumericSuffix(InputString);
   if (!suffix.empty() && !Fits<std::int16_t>(std::int64_t{2} * Length)) {
-    throw RunTimeError::Overflow("FormatTextSort", std::to_string(Length));
+    Raise(Error::kOverflow, {"FormatTextSort", "Length"}, Length);
   }
   const TextView prefix = InputString.substr(0, InputString.size() - suffix.size());
   if (std::cmp_less(Length, prefix.size())) {
-    throw RunTimeError::InvalidArgument(
-        "FormatTextSort", Quoted(InputString).append(", ").append(std::to_string(Length)));
+    Raise(Error::kInvalidArgument, {"FormatTextSort", "InputString"}, InputString,
+          "longer than " + std::to_string(Length));
   }
   const TextView ending = suffix.empty() ? kFillerEnding : suffix;
   const std::size_t room = static_cast<std::size_t>(Length) - prefix.size();
@@ -131,9 +130,9 @@ std::int32_t StandardObject::Instr2(std::int32_t start, TextView MainString, Tex
                                     ZQ7CompareMethod Compare, bool SearchFromBack) const {
   if (SearchFromBack)
     return SearchString.empty() ? 0 : Position(FindLast(MainString, SearchString));
-  if (start < 1) throw RunTimeError::InvalidArgument("Instr2", std::to_string(start));
+  if (start < 1) Raise(Error::kInvalidArgument, {"Instr2", "start"}, start);
   if (Compare != ZQ7CompareBinary && Compare != ZQ7CompareText) {
-    throw RunTimeError::InvalidArgument("Instr2", "Compare " + std::to_string(Compare));
+    Raise(Error::kInvalidArgument, {"Instr2", "Compare"}, std::int32_t{Compare});
   }
   const auto first = static_cast<std::size_t>(start) - 1;
   if (first >= MainString.size()) return 0;
@@ -151,8 +150,7 @@ std::int32_t StandardObject::Random(std::int32_t Low, std::int32_t High) const {
   const bool in_range = Fits<std::int32_t>(difference) && Fits<std::int32_t>(count) &&
                         offset.has_value() && Fits<std::int32_t>(std::int64_t{Low} + *offset);
   if (!in_range) {
-    throw RunTimeError::Overflow("Random",
-                                 std::to_string(Low).append(" to ").append(std::to_string(High)));
+    Raise(Error::kOverflow, {"Random", "High"}, High, "from " + std::to_string(Low));
   }
   return Low + *offset;
 }

@@ -40,8 +40,11 @@ TEST(Invoke, TakesArgumentsByPositionAndByName) {
       {"MonthText", {u"1", u"True", 1}, {}, "มกราคม"},
       {"d2Str", {Currency(10.25)}, {}, "10.25"},
       {"FormatTime", {u"15/1/2567 9:05"}, {}, "09:05"},
-      {"Foo", {}, {}, "error 438): StandardObject.Foo"},
-      {"StrVal", {u"1", u"2"}, {}, "StrVal: wrong number of arguments (error 450): 2 for 1"},
+      {"Foo", {}, {}, "StandardObject.Foo: object"},
+      {"StrVal",
+       {u"1", u"2"},
+       {},
+       "StandardObject.StrVal: wrong number of arguments: 2 for 1 (error 450)"},
       {"StrVal", {}, {}, "(error 449): istr"},
       {"IncreaseString", {Omitted{}, u"7"}, {}, "7"},
       {"AddList", {u"a", Omitted{}}, {}, "a;"},
@@ -49,14 +52,17 @@ TEST(Invoke, TakesArgumentsByPositionAndByName) {
       {"TrimSpaceToOne", {Omitted{}}, {{"inString", u" a"}}, "a"},
       {"AddList", {u"a"}, {}, "(error 449): iAdd"},
       {"d2Str", {Omitted{}}, {}, "d2Str: argument not optional (error 449): iValue"},
-      {"StrVal", {}, {{"text", u"1"}}, "(error 448): text"},
-      {"StrVal", {u"1"}, {{"istr", u"1"}}, "(error 450): istr twice"},
+      {"StrVal", {}, {{"text", u"1"}}, "(error 448): \"text\""},
+      {"StrVal", {u"1"}, {{"istr", u"1"}}, "given twice (error 450): istr"},
       {"MonthText",
        {u"x", true, true},
        {},
        "MonthText: type mismatch (error 13): MonthNumber: \"x\""},
-      {"MonthText", {40000, true, true}, {}, "MonthText: overflow (error 6): MonthNumber: 40000"},
-      {"StrInt", {u"99999"}, {}, "StrInt: overflow (error 6): \"99999\""}};
+      {"MonthText",
+       {40000, true, true},
+       {},
+       "MonthText: overflow (error 6): MonthNumber: \"40000\""},
+      {"StrInt", {u"99999"}, {}, "StrInt: overflow (error 6): istr: \"99999\""}};
   for (const CallRow& row : rows) {
     EXPECT_NE(Outcome(object, row).find(row.expected), std::string::npos)
         << row.operation << " gave " << Outcome(object, row) << ", not " << row.expected;

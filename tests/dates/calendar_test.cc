@@ -30,7 +30,7 @@ TEST(Calendar, FirstMondayAndSaturday) {
   try {
     kObject.GETFirstSaturdayOfMonthYear(0, 2024);
   } catch (const RunTimeError& error) {
-    EXPECT_STREQ(error.what(), "GETFirstSaturdayOfMonthYear: type mismatch (error 13): 0, 2024");
+    EXPECT_STREQ(error.what(), "GETFirstSaturdayOfMonthYear: type mismatch (error 13): iMonth: \"0\"");
   }
 }
 

@@ -58,13 +58,13 @@ TEST(CostCodes, TellsWhereACodeBreaksOff) {
     try {
       return Shown(kObject.DeFormatCostCode2(code, u"BLACKHORSE", u"X"));
     } catch (const RunTimeError& error) {
-      return error.what() + sizeof "DeFormatCostCode2: type mismatch (error 13): " - 1;
+      return error.Details().text + " " + Utf8(*error.Details().input);
     }
-  }, {{u"-", "\"-\", place 2", "one past the end"}, {u" B. ", "\" B. \", place 4"},
-      {u".B", "\".B\", place 1"}, {u"B.L.A", "\"B.L.A\", place 4"}, {u"BL-", "\"BL-\", place 3"},
-      {u"--B", "\"--B\", place 2"}, {u"B L", "\"B L\", place 2"}, {u"- B", "\"- B\", place 2"},
-      {u"X", "\"X\", place 1"}, {u"-X", "\"-X\", place 2"}, {u"BL1", "\"BL1\", place 3"},
-      {u"B,L", "\"B,L\", place 2"}, {u"\tB", "\"\tB\", place 1"}, {u"BL😀", "\"BL😀\", place 3"}});
+  }, {{u"-", "type mismatch: place 2 -", "one past the end"}, {u" B. ", "type mismatch: place 4  B. "},
+      {u".B", "type mismatch: place 1 .B"}, {u"B.L.A", "type mismatch: place 4 B.L.A"}, {u"BL-", "type mismatch: place 3 BL-"},
+      {u"--B", "type mismatch: place 2 --B"}, {u"B L", "type mismatch: place 2 B L"}, {u"- B", "type mismatch: place 2 - B"},
+      {u"X", "type mismatch: place 1 X"}, {u"-X", "type mismatch: place 2 -X"}, {u"BL1", "type mismatch: place 3 BL1"},
+      {u"B,L", "type mismatch: place 2 B,L"}, {u"\tB", "type mismatch: place 1 \tB"}, {u"BL😀", "type mismatch: place 3 BL😀"}});
   EXPECT_EQ(ErrorOf([] { kObject.DeFormatCostCode(u"KEX", u"BLACKHORSE"); }), 13);
 }
 // clang-format on

@@ -54,7 +54,7 @@ bool Record(RegistryScript& script, const std::string& call, const std::vector<T
   script.calls += call;
   for (const Text& argument : arguments) script.calls += " " + Utf8(argument);
   script.calls += "; ";
-  if (call == script.failing && script.raises) throw RunTimeError::DeviceIoError(call, "");
+  if (call == script.failing && script.raises) throw RunTimeError(Error::kDeviceIoError);
   return call != script.failing;
 }
 

@@ -1,6 +1,7 @@
 #ifndef ZQ7STANDARD_TESTS_SUPPORT_PRINTERS_H_
 #define ZQ7STANDARD_TESTS_SUPPORT_PRINTERS_H_
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/print_picture.h>
 #include <ZQ7Standard/platform/recording_printers.h>
 
@@ -16,7 +17,7 @@ inline auto Refusing(std::string refused, std::function<void()> raise = {}) {
   return [refused = std::move(refused), raise = std::move(raise)](std::string_view operation) {
     if (refused != operation) return;
     if (raise) raise();
-    throw PrinterFailure("no " + refused);
+    throw RunTimeError(Error::kPrinterError, "no " + refused);
   };
 }
 

@@ -88,7 +88,7 @@ TEST(Encrypt, LetsTheErrorsOfTheCipherThrough) {
   const std::pair<int, BlockCipherFactory> rows[] = {
       {429, nullptr},
       {429, [] { return nullptr; }},
-      {7, []() -> std::unique_ptr<BlockCipher> { throw RunTimeError::OutOfMemory("", ""); }},
+      {7, []() -> std::unique_ptr<BlockCipher> { throw RunTimeError(Error::kOutOfMemory); }},
   };
   for (const auto& [number, factory] : rows) {
     const StandardObject object({.block_cipher = factory});

@@ -94,9 +94,11 @@ void ReadMember(const OperationInfo& operation, const ParameterInfo& parameter, 
   if (!IsIdentifier(name)) return;
   const auto member = ValueOfEnumerator(*enumeration, name);
   if (!member) {
-    throw RunTimeError::TypeMismatch(operation.name, std::string(parameter.name) + ": " +
-                                                         Quoted(name) + "." +
-                                                         EnumeratorHint(*enumeration, name));
+    throw RunTimeError({.number = static_cast<int>(Error::kTypeMismatch),
+                        .text = "type mismatch." + EnumeratorHint(*enumeration, name),
+                        .operation = std::string(operation.name),
+                        .parameter = std::string(parameter.name),
+                        .input = *text});
   }
   value = *member;
 }

@@ -51,7 +51,8 @@ struct Arguments {
 };
 
 /// Hears the events of an instance, on the thread of the operation and inside it. It
-/// may call the instance again, and throw to the caller of the operation.
+/// may call the instance again; what it throws reaches the caller of the operation, as
+/// `Invoke` tells.
 class ZQ7STANDARD_EXPORT EventSink {
  public:
   virtual ~EventSink();
@@ -63,8 +64,9 @@ class ZQ7STANDARD_EXPORT EventSink {
 /// instances are only made from a text.
 ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices& services = {});
 
-/// Calls an operation and returns its result, `Omitted` where it has none. Raises what
-/// the operation raises, and
+/// Calls an operation and returns its result, `Omitted` where it has none. Every failure
+/// is a `RunTimeError` that names class, operation and, where an argument is wrong, its
+/// parameter: what the operation raises, 440 with the text of any other exception, and
 /// - 438 for a name that is no operation of the class,
 /// - 448 for an argument name that is no parameter,
 /// - 449 for an argument that is missing and not optional; passed as `Omitted` where a

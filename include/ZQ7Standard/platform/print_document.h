@@ -38,7 +38,7 @@ struct PrintFont {
 
 /// The page that a printer is given. The first text or picture opens a document,
 /// `End` or `Abort` closes it; position and font are there before. What fails
-/// raises a `PrinterFailure`.
+/// raises 482.
 class ZQ7STANDARD_EXPORT PrintDocument {
  public:
   virtual ~PrintDocument();

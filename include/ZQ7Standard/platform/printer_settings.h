@@ -15,7 +15,7 @@ enum class PrinterSetting : std::uint8_t {
   kPrintQuality,  ///< -1 draft, -2 low, -3 medium, -4 high
 };
 
-/// How a printer prints its next document. What fails raises a `PrinterFailure`.
+/// How a printer prints its next document. What fails raises 482.
 class ZQ7STANDARD_EXPORT PrinterSettings {
  public:
   virtual ~PrinterSettings();

@@ -9,17 +9,9 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <vector>
 
 namespace ZQ7Standard {
-
-/// What a printer could not do; `what()` is what the print system said, in UTF-8.
-/// `PrintObject` raises 482 of it, as it does of any other exception without a number.
-class ZQ7STANDARD_EXPORT PrinterFailure : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 /// An installed printer. A host's own list must set all fields: `PrintObject` raises 482
 /// where it needs the settings or the document and there are none.
@@ -29,8 +21,8 @@ struct Printer {
   std::shared_ptr<PrintDocument> document;
 };
 
-/// The installed printers, of which one is the current one. What fails raises a
-/// `PrinterFailure`.
+/// The installed printers, of which one is the current one. What fails raises
+/// 482.
 class ZQ7STANDARD_EXPORT PrinterList {
  public:
   virtual ~PrinterList();

@@ -6,6 +6,7 @@
 
 #include "automation/classes.h"
 #include "automation/rows.h"
+#include "base/raise.h"
 
 namespace ZQ7Standard::Automation {
 namespace {

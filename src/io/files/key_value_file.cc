@@ -1,6 +1,7 @@
 #include <ZQ7Standard/ASCIIObject.h>
 
 #include "base/code_page.h"
+#include "base/raise.h"
 #include "formats/key_value_text.h"
 #include "io/failures.h"
 
@@ -26,8 +27,10 @@ void ASCIIObject::Setvalue(TextView iTextFile, TextView IKey, TextView iValue) c
 }
 
 void ASCIIObject::DeleteValue(TextView iTextFile, TextView IKey) const {
-  services_.file_rewriter->Rewrite(iTextFile,
-                                   [&](const auto& old) { return WithoutKey(old(), IKey); });
+  Named({"DeleteValue", "iTextFile"}, [&] {
+    services_.file_rewriter->Rewrite(iTextFile,
+                                     [&](const auto& old) { return WithoutKey(old(), IKey); });
+  });
 }
 
 }  // namespace ZQ7Standard

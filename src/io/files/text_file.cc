@@ -1,5 +1,4 @@
 #include <ZQ7Standard/ASCIIObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
 #include <limits>
@@ -7,7 +6,7 @@
 
 #include "base/case_mapping.h"
 #include "base/code_page.h"
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "formats/lines.h"
 #include "formats/path_parts.h"
 
@@ -40,15 +39,18 @@ bool IsDesktop(TextView folder) {
 }  // namespace
 
 Text ASCIIObject::GETAllTextFile(TextView iTextFile) const {
-  return GETLineTextFile(iTextFile, 1, 0);
+  const auto contents = Named({"GETAllTextFile", "iTextFile"},
+                              [&] { return services_.file_reader->ReadAll(iTextFile); });
+  return contents ? FromCodePage(*JoinLines(*contents, LinesTaken(1, 0))) : Text();
 }
 
 Text ASCIIObject::GETLineTextFile(TextView iTextFile, std::int32_t FromLine,
                                   std::int32_t ToLine) const {
-  const auto contents = services_.file_reader->ReadAll(iTextFile);
+  const auto contents = Named({"GETLineTextFile", "iTextFile"},
+                              [&] { return services_.file_reader->ReadAll(iTextFile); });
   if (!contents) return {};
   const auto lines = JoinLines(*contents, LinesTaken(FromLine, ToLine));
-  if (!lines) throw RunTimeError::Overflow("GETLineTextFile", Quoted(iTextFile));
+  if (!lines) Raise(Error::kOverflow, {"GETLineTextFile", "ToLine"}, ToLine);
   return FromCodePage(*lines);
 }
 

@@ -1,11 +1,10 @@
 #include <ZQ7Standard/CImageInfo.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <array>
 #include <limits>
 #include <utility>
 
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "formats/image_header.h"
 
 namespace ZQ7Standard {
@@ -20,10 +19,11 @@ void CImageInfo::ReadImageInfo(TextView sFileName) {
   width_ = height_ = depth_ = 0;
   image_type_ = itUNKNOWN;
   std::array<char, kImageHeaderSize> start;
-  const std::size_t size = services_.reader->ReadStart(sFileName, start);
+  const std::size_t size = Named({"ReadImageInfo", "sFileName"},
+                                 [&] { return services_.reader->ReadStart(sFileName, start); });
   const ImageHeader header = ReadImageHeader({start.data(), size});
   if (header.depth > std::numeric_limits<std::uint8_t>::max()) {
-    throw RunTimeError::Overflow("ReadImageInfo", Quoted(sFileName));
+    Raise(Error::kOverflow, {"ReadImageInfo", "sFileName"}, sFileName, "depth");
   }
   width_ = header.width;
   height_ = header.height;

@@ -1,10 +1,9 @@
 #include <ZQ7Standard/DiskObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
 #include <vector>
 
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "io/failures.h"
 
 namespace ZQ7Standard {
@@ -31,7 +30,7 @@ bool Contains(const FolderIdentities& folders, const FolderIdentity& folder) {
 }
 
 [[noreturn]] void RefuseEndlessCopy(const Text& path) {
-  throw RunTimeError::PathFileAccess("XCopyFile", Quoted(path));
+  Raise(Error::kPathFileAccess, {"XCopyFile", "to_file"}, path, "a copy into itself");
 }
 
 /// Copies what the folder `from` holds into the folder `to`, both ending in "\", and
@@ -76,6 +75,11 @@ std::int16_t DiskObject::CopyFileCheck(TextView FromFile, TextView ToFile, bool 
 }
 
 std::int32_t DiskObject::XCopyFile(TextView from_file, TextView to_file) const {
+  return Named({"XCopyFile"}, [&] { return CopyFolder(from_file, to_file); });
+}
+
+/// Copies a folder as `XCopyFile` does.
+std::int32_t DiskObject::CopyFolder(TextView from_file, TextView to_file) const {
   const FolderIdentities source = services_.folders->Enclosing(from_file);
   if (!IsFolder(from_file) || source.empty()) return 0;
   const Text from = AsFolder(from_file);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/pieces.h"
+#include "base/raise.h"
 #include "formats/path_parts.h"
 #include "io/failures.h"
 
@@ -61,10 +62,12 @@ Text DiskObject::ScaleFullPath(TextView inFullPath, std::int32_t /*MaxLen*/) con
 
 std::int16_t DiskObject::CreateFullPath(TextView FullPathName) const {
   const TextView path = TrimBack(TrimFront(FullPathName, kSeparator), kSeparator);
-  for (std::size_t end = 0; end < path.size(); ++end) {
-    end = std::min(path.find(kSeparator, end), path.size());
-    MakeFolder(path.substr(0, end));
-  }
+  Named({"CreateFullPath", "FullPathName"}, [&] {
+    for (std::size_t end = 0; end < path.size(); ++end) {
+      end = std::min(path.find(kSeparator, end), path.size());
+      MakeFolder(path.substr(0, end));
+    }
+  });
   return IsFolder(path) ? -1 : 0;
 }
 

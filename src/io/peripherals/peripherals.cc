@@ -1,29 +1,29 @@
 #include <ZQ7Standard/PeripheralObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <string>
 #include <utility>
 
+#include "base/raise.h"
 #include "io/failures.h"
 
 namespace ZQ7Standard {
 namespace {
 
 constexpr TextView kDrawerSettings = u"9600,N,8,1";
-constexpr int kObjectNotSet = 91;
-constexpr int kAutomationError = 440;
+constexpr int kAutomationError = static_cast<int>(Error::kAutomationError);
 
 /// The result for `failure`, 0 for none. Numbers wider than 16 bits carry the run-time
 /// error number in the lower half. One that has nothing there may not pass for success.
 std::int16_t ResultOf(const std::optional<Failure>& failure) {
   if (!failure) return 0;
-  const auto low = static_cast<std::int16_t>(failure->number.value_or(kAutomationError));
+  const auto low =
+      static_cast<std::int16_t>(failure->error ? failure->error->number : kAutomationError);
   return low != 0 ? low : std::int16_t{kAutomationError};
 }
 
 void Transmit(SerialPort* control, TextView code, std::int16_t port, TextView settings) {
   if (control == nullptr) {
-    throw RunTimeError(kObjectNotSet, "SendCommMsg: object variable not set (error 91): iControl");
+    Raise(Error::kObjectNotSet, {"SendCommMsg", "iControl"});
   }
   control->SetCommPort(port);
   control->SetSettings(settings);

@@ -14,7 +14,7 @@ constexpr std::int16_t kDefaultBin = 7;
 
 /// The settings of `printer`, which the list of a host may have left empty.
 PrinterSettings& SettingsOf(const Printer& printer) {
-  if (!printer.settings) throw PrinterFailure("the printer has no settings");
+  if (!printer.settings) throw RunTimeError(Error::kPrinterError, "the printer has no settings");
   return *printer.settings;
 }
 

@@ -1,8 +1,8 @@
 #include <ZQ7Standard/PrintObject.h>
-#include <ZQ7Standard/RunTimeError.h>
 
 #include <string>
 
+#include "base/raise.h"
 #include "io/failures.h"
 #include "io/printing/fitting_text.h"
 #include "numbers/number_text.h"
@@ -26,13 +26,13 @@ constexpr double kMillimetresPerPoint = 25.4 / 72;
 
 /// The document of `printer`, which the list of a host may have left empty.
 std::shared_ptr<PrintDocument> DocumentOf(const Printer& printer) {
-  if (!printer.document) throw PrinterFailure("the printer has no document");
+  if (!printer.document) throw RunTimeError(Error::kPrinterError, "the printer has no document");
   return printer.document;
 }
 
 std::int32_t Rounded(std::string_view operation, double position) {
   const auto whole = RoundToInteger<std::int32_t>(position);
-  if (!whole) throw RunTimeError::Overflow(operation, std::to_string(position));
+  if (!whole) Raise(Error::kOverflow, {operation}, position, "the position");
   return *whole;
 }
 
@@ -127,7 +127,7 @@ std::int16_t PrintObject::PrintGraphicText(TextView sMsg, std::int32_t x, std::i
 std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>& Src,
                                              std::int32_t x, std::int32_t y, float W, float H,
                                              std::int32_t MoveLine) {
-  if (!Src) throw RunTimeError::InvalidArgument(kObject, "no picture");
+  if (!Src) Raise(Error::kInvalidArgument, {kObject, "Src"}, "no picture");
   Perform(kObject, [&] {
     const auto document = DocumentToPlaceIn();
     const PagePosition current = document->Position();

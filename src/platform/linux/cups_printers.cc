@@ -1,5 +1,6 @@
 #include "platform/linux/cups_printers.h"
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <cups/cups.h>
 
 #include <algorithm>
@@ -45,7 +46,7 @@ void CheckAnswer(const IppMessage& answer) {
   const ipp_status_t status = ippGetStatusCode(answer.get());
   if (status < IPP_STATUS_REDIRECTION_OTHER_SITE) return;
   const std::string said = TextOf(ippFindAttribute(answer.get(), "status-message", IPP_TAG_TEXT));
-  throw PrinterFailure(said.empty() ? ippErrorString(status) : said);
+  throw RunTimeError(Error::kPrinterError, said.empty() ? ippErrorString(status) : said);
 }
 
 bool IsNumber(ipp_tag_t tag) {

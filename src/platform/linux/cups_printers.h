@@ -10,7 +10,7 @@ namespace ZQ7Standard {
 
 // The printers of the CUPS server that the environment names. Each request has a
 // connection of its own, so that a server that went away and came back is found
-// again, and ends in time (`QuestionTime`). What fails raises a `PrinterFailure`.
+// again, and ends in time (`QuestionTime`). What fails raises error 482.
 
 /// The names of its printers, in the order of the server; none where no server
 /// answers.

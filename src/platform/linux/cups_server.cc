@@ -1,5 +1,6 @@
 #include "platform/linux/cups_server.h"
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>
 
 #include <optional>
@@ -147,7 +148,7 @@ std::string CupsServer::DefaultPrinter() {
 }
 
 void CupsServer::Fail(http_status_t status) const {
-  throw PrinterFailure(ReasonFor(status));
+  throw RunTimeError(Error::kPrinterError, ReasonFor(status));
 }
 
 std::string CupsServer::ReasonFor(http_status_t status) const {

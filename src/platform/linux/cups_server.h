@@ -45,7 +45,7 @@ struct NoPassword {
 };
 
 /// A connection to the print server that the environment names. What fails raises a
-/// `PrinterFailure`, a connection whose time is up included.
+/// error 482, a connection whose time is up included.
 class CupsServer {
  public:
   explicit CupsServer(Purpose purpose);

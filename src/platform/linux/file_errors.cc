@@ -6,34 +6,30 @@
 #include <array>
 #include <cerrno>
 
-#include "base/unicode.h"
-
 namespace ZQ7Standard {
 namespace {
 
-using Factory = RunTimeError (*)(std::string_view operation, std::string_view input);
-
 struct ErrorRow {
-  int error;
-  Factory factory;
+  int number;  // errno
+  Error error;
 };
 
 // Any other is a path that cannot be used this way, such as ENXIO: a pipe or a socket that
 // nobody has open.
 constexpr std::array<ErrorRow, 13> kErrors = {{
-    {ENOENT, RunTimeError::FileNotFound},
-    {ENOTDIR, RunTimeError::PathNotFound},
-    {EIO, RunTimeError::DeviceIoError},
-    {ENODEV, RunTimeError::DeviceIoError},
-    {ESTALE, RunTimeError::DeviceIoError},
-    {ENOSPC, RunTimeError::DiskFull},
-    {EDQUOT, RunTimeError::DiskFull},
-    {EFBIG, RunTimeError::DiskFull},
-    {EACCES, RunTimeError::PermissionDenied},
-    {EPERM, RunTimeError::PermissionDenied},
-    {EROFS, RunTimeError::PermissionDenied},
-    {EBUSY, RunTimeError::PermissionDenied},
-    {ETXTBSY, RunTimeError::PermissionDenied},
+    {ENOENT, Error::kFileNotFound},
+    {ENOTDIR, Error::kPathNotFound},
+    {EIO, Error::kDeviceIoError},
+    {ENODEV, Error::kDeviceIoError},
+    {ESTALE, Error::kDeviceIoError},
+    {ENOSPC, Error::kDiskFull},
+    {EDQUOT, Error::kDiskFull},
+    {EFBIG, Error::kDiskFull},
+    {EACCES, Error::kPermissionDenied},
+    {EPERM, Error::kPermissionDenied},
+    {EROFS, Error::kPermissionDenied},
+    {EBUSY, Error::kPermissionDenied},
+    {ETXTBSY, Error::kPermissionDenied},
 }};
 
 bool IsFolderThere(const std::string& native) {
@@ -53,14 +49,14 @@ bool MeansDenied(int error) {
   return error == EACCES || error == EPERM;
 }
 
-RunTimeError FileError(int error, std::string_view operation, TextView path,
+RunTimeError FileError(int number, std::string_view step, TextView path,
                        const std::string& native) {
-  const std::string input = Quoted(path);
-  if (error == ENOENT && !IsFolderThere(native))
-    return RunTimeError::PathNotFound(operation, input);
-  const auto row = std::ranges::find(kErrors, error, &ErrorRow::error);
-  const Factory factory = row != kErrors.end() ? row->factory : RunTimeError::PathFileAccess;
-  return factory(operation, input);
+  const auto row = std::ranges::find(kErrors, number, &ErrorRow::number);
+  Error error = row != kErrors.end() ? row->error : Error::kPathFileAccess;
+  if (number == ENOENT && !IsFolderThere(native)) error = Error::kPathNotFound;
+  ErrorDetails details = RunTimeError(error, step).Details();
+  details.input = Text(path);
+  return RunTimeError(details);
 }
 
 }  // namespace ZQ7Standard

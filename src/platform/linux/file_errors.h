@@ -15,10 +15,9 @@ bool MeansMissing(int error);
 /// Whether an `errno` says that the user has no right to do that.
 bool MeansDenied(int error);
 
-/// The run-time error of an `errno` that `operation` met on the file `path`, whose
-/// native path tells a missing file (53) from a missing folder (76).
-RunTimeError FileError(int error, std::string_view operation, TextView path,
-                       const std::string& native);
+/// The run-time error of an `errno` that `step` met at the file `path`, whose native path
+/// tells a missing file (53) from a missing folder (76).
+RunTimeError FileError(int number, std::string_view step, TextView path, const std::string& native);
 
 }  // namespace ZQ7Standard
 

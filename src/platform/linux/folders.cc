@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "base/unicode.h"
+#include "base/raise.h"
 #include "platform/linux/file_errors.h"
 #include "platform/linux/native_path.h"
 
@@ -47,7 +47,7 @@ std::string WayToNearest(std::string native) {
 Text NameText(std::string_view name, TextView folder) {
   Text text = FromUtf8(name);
   if (text.find(u'\\') != Text::npos || Utf8(text) != name) {
-    throw RunTimeError::PathFileAccess("list", Quoted(Text(folder) + text));
+    Raise(Error::kPathFileAccess, {}, Text(folder) + text, "list");
   }
   return text;
 }

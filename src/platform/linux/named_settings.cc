@@ -1,5 +1,6 @@
 #include "platform/linux/named_settings.h"
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <cups/cups.h>
 
 #include <algorithm>
@@ -57,8 +58,8 @@ void NamedSettings::Set(PrinterSetting setting, std::int16_t value) {
   const SettingNames& names = NamesOf(setting);
   const CodeName* const row = RowOf(names, value);
   if (row == nullptr || !Supports(names, std::string(row->name))) {
-    throw PrinterFailure("the printer has no " + std::string(names.attribute) + " of code " +
-                         std::to_string(value));
+    throw RunTimeError(Error::kPrinterError, "the printer has no " + std::string(names.attribute) +
+                                                 " of code " + std::to_string(value));
   }
   current = {value, std::string(row->name)};
 }

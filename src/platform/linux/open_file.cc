@@ -120,8 +120,8 @@ struct stat OpenFile::Status() const {
   return status;
 }
 
-void OpenFile::Fail(int error, std::string_view operation) const {
-  throw FileError(error, operation, path_, native_);
+void OpenFile::Fail(int error, std::string_view step) const {
+  throw FileError(error, step, path_, native_);
 }
 
 }  // namespace ZQ7Standard

@@ -58,7 +58,7 @@ class OpenFile {
   /// For system calls of other kinds, whose failure `Fail` raises.
   int Descriptor() const { return descriptor_; }
   const SystemCalls& Calls() const { return *calls_; }
-  [[noreturn]] void Fail(int error, std::string_view operation) const;
+  [[noreturn]] void Fail(int error, std::string_view step) const;
 
  private:
   OpenFile(TextView path, std::string native, const SystemCalls& calls);

@@ -1,5 +1,6 @@
 #include "platform/linux/page_document.h"
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>
 #include <cairo-pdf.h>
 
@@ -22,7 +23,8 @@ using Context = Handle<cairo_t, cairo_destroy>;
 constexpr double kFarthest = 1'000'000;
 
 void Check(cairo_status_t status) {
-  if (status != CAIRO_STATUS_SUCCESS) throw PrinterFailure(cairo_status_to_string(status));
+  if (status != CAIRO_STATUS_SUCCESS)
+    throw RunTimeError(Error::kPrinterError, cairo_status_to_string(status));
 }
 
 bool IsOnPaper(double position) {
@@ -86,7 +88,8 @@ class Page {
 
   void DrawPicture(std::string_view file, PagePosition position, PageSize size) {
     const auto pixels = ReadPictureSize(file);
-    if (!pixels) throw PrinterFailure("the picture is neither a PNG nor a JPEG");
+    if (!pixels)
+      throw RunTimeError(Error::kPrinterError, "the picture is neither a PNG nor a JPEG");
     const bool is_png = pixels->format == PictureFormat::kPng;
     const Surface picture = is_png ? PngPicture(file) : JpegPicture(file, *pixels);
     Check(cairo_surface_status(picture.get()));
@@ -124,7 +127,7 @@ class PageDocument final : public PrintDocument {
   PagePosition Position() override { return position_; }
   void MoveTo(PagePosition position) override {
     if (!IsOnPaper(position.x) || !IsOnPaper(position.y)) {
-      throw PrinterFailure("a position beyond all paper");
+      throw RunTimeError(Error::kPrinterError, "a position beyond all paper");
     }
     position_ = position;
   }
@@ -140,7 +143,7 @@ class PageDocument final : public PrintDocument {
 
   void DrawPicture(std::string_view picture, PagePosition position, PageSize size) override {
     if (!IsOnPaper(size.width) || !IsOnPaper(size.height) || size.width == 0 || size.height == 0) {
-      throw PrinterFailure("a picture of no size or beyond all paper");
+      throw RunTimeError(Error::kPrinterError, "a picture of no size or beyond all paper");
     }
     OpenPage().DrawPicture(picture, position, size);
   }

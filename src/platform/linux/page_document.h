@@ -8,7 +8,7 @@
 
 namespace ZQ7Standard {
 
-/// What a page is drawn for. What fails raises a `PrinterFailure`.
+/// What a page is drawn for. What fails raises error 482.
 class PageTarget {
  public:
   virtual ~PageTarget() = default;

@@ -1,5 +1,6 @@
 #include "platform/linux/page_text.h"
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>
 #include <fontconfig/fontconfig.h>
 
@@ -112,7 +113,8 @@ PageText::PageText()
 void PageText::SetFont(const PrintFont& font) {
   if (font == font_) return;
   if (!(font.size > 0 && font.size <= kLargestFont)) {
-    throw PrinterFailure("no font has " + std::to_string(font.size) + " points");
+    throw RunTimeError(Error::kPrinterError,
+                       "no font has " + std::to_string(font.size) + " points");
   }
   const Description description(pango_font_description_new());
   pango_font_description_set_family(description.get(), Utf8(FamilyFor(font.name)).c_str());

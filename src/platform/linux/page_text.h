@@ -21,7 +21,7 @@ class PageText {
   const PrintFont& Font() const { return font_; }
 
   /// A family that is not installed is replaced by one with Thai letters. A size that
-  /// no page has fails with a `PrinterFailure`.
+  /// no page has fails with error 482.
   void SetFont(const PrintFont& font);
 
   /// The width and height of `text` as a line, in millimetres.

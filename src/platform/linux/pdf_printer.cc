@@ -1,5 +1,6 @@
 #include "platform/linux/pdf_printer.h"
 
+#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/clock.h>
 #include <errno.h>
 #include <fcntl.h>
@@ -22,7 +23,8 @@ namespace {
 /// GLib asks the environment for it, which a process with more rights than the user who
 /// started it cannot trust.
 std::filesystem::path DocumentsFolder() {
-  if (getauxval(AT_SECURE) != 0) throw PrinterFailure("the program has to name the folder");
+  if (getauxval(AT_SECURE) != 0)
+    throw RunTimeError(Error::kPrinterError, "the program has to name the folder");
   const char* const folder = g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS);
   if (folder != nullptr) return folder;
   return std::filesystem::path(g_get_home_dir()) / "Documents";
@@ -64,7 +66,7 @@ class PdfFiles final : public NamedSettings {
       std::filesystem::create_directories(folder);
       WriteDocument(folder, StemAt(SystemClock()->Now()), pdf, is_own ? kPrivate : kShared);
     } catch (const std::system_error& error) {
-      throw PrinterFailure(folder.string() + ": " + error.code().message());
+      throw RunTimeError(Error::kPrinterError, folder.string() + ": " + error.code().message());
     }
   }
 

@@ -28,22 +28,9 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-struct FailureKind {
-  int number;
-  std::string_view meaning;
-};
-constexpr FailureKind kInvalidSettings = {380, "invalid property value"};
-constexpr FailureKind kNoSuchPort = {8002, "no such port"};
-constexpr FailureKind kAlreadyOpen = {8005, "port already open"};
-constexpr FailureKind kNotOpen = {8018, "port not open"};
-constexpr FailureKind kWriteFailed = {8020, "write failed"};
-
-RunTimeError Failure(FailureKind kind, std::string_view device, std::string_view detail = "") {
-  std::string text = "SerialPort: ";
-  text.append(kind.meaning).append(" (error ").append(std::to_string(kind.number)).append("): ");
-  text.append(device);
-  if (!detail.empty()) text.append(": ").append(detail);
-  return {kind.number, text};
+/// The error of a line: its device, and what else is known.
+RunTimeError Failure(Error error, const std::string& device, const std::string& detail = "") {
+  return RunTimeError(error, detail.empty() ? device : device + ": " + detail);
 }
 
 std::string SystemText(int error) {
@@ -55,12 +42,12 @@ RunTimeError OpenFailure(const std::string& device, int error) {
   switch (error) {
     case EACCES:
     case EPERM:
-      return RunTimeError::PermissionDenied("SerialPort", device + ": " + reason);
+      return Failure(Error::kPermissionDenied, device, reason);
     case EAGAIN:
     case EBUSY:
-      return Failure(kAlreadyOpen, device, reason);
+      return Failure(Error::kPortAlreadyOpen, device, reason);
     default:
-      return Failure(kNoSuchPort, device, reason);
+      return Failure(Error::kNoSuchPort, device, reason);
   }
 }
 
@@ -147,7 +134,7 @@ class Line {
     line.c_ospeed = mode.baud;
     if (ioctl(Number(), TCSETS2, &line) < 0 || ioctl(Number(), TCGETS2, &line) < 0 ||
         !IsSetUp(line, mode)) {
-      throw Failure(kInvalidSettings, device_, mode.text);
+      throw Failure(Error::kInvalidPropertyValue, device_, mode.text);
     }
     baud_ = mode.baud;
   }
@@ -161,7 +148,7 @@ class Line {
     if (error == 0) error = Drain(deadline);
     if (error == 0) return;
     ioctl(Number(), TCFLSH, TCOFLUSH);
-    throw Failure(kWriteFailed, device_, SystemText(error));
+    throw Failure(Error::kWriteFailed, device_, SystemText(error));
   }
 
   const std::string& Device() const { return device_; }
@@ -175,7 +162,7 @@ class Line {
     int exclusive = 0;
     if (flock(Number(), LOCK_EX | LOCK_NB) < 0 ||
         (ioctl(Number(), TIOCGEXCL, &exclusive) == 0 && exclusive != 0)) {
-      throw Failure(kAlreadyOpen, device_);
+      throw Failure(Error::kPortAlreadyOpen, device_);
     }
     ioctl(Number(), TIOCEXCL);
   }
@@ -225,7 +212,7 @@ class LinuxSerialPort final : public SerialPort {
 
   void SetSettings(TextView settings) override {
     auto mode = ReadLineMode(settings);
-    if (!mode) throw Failure(kInvalidSettings, Device(), Quoted(settings));
+    if (!mode) throw Failure(Error::kInvalidPropertyValue, Device(), Quoted(settings));
     mode_ = std::move(*mode);
   }
 
@@ -236,14 +223,14 @@ class LinuxSerialPort final : public SerialPort {
       line_.reset();
       return;
     }
-    if (line_) throw Failure(kAlreadyOpen, line_->Device());
+    if (line_) throw Failure(Error::kPortAlreadyOpen, line_->Device());
     auto line = std::make_unique<Line>(Device());
     line->SetUp(mode_);
     line_ = std::move(line);
   }
 
   void SetOutput(TextView text) override {
-    if (!line_) throw Failure(kNotOpen, Device());
+    if (!line_) throw Failure(Error::kPortNotOpen, Device());
     line_->Write(ToCodePage(text), time_limit_);
   }
 

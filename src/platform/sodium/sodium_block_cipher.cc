@@ -1,4 +1,3 @@
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/sodium_block_cipher.h>
 #include <sodium.h>
 
@@ -6,6 +5,8 @@
 #include <array>
 #include <string>
 #include <utility>
+
+#include "base/raise.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -138,7 +139,7 @@ class SodiumCipher final : public BlockCipher {
         key.Bytes().data(), key.Bytes().size(), reinterpret_cast<const char*>(password.data()),
         password.size(), salt, limits.passes, limits.memory, crypto_pwhash_ALG_ARGON2ID13);
     if (failure != 0) {
-      throw RunTimeError::OutOfMemory(kName, std::to_string(limits.memory) + " bytes for a key");
+      throw RunTimeError(Error::kOutOfMemory, std::to_string(limits.memory) + " bytes for a key");
     }
     return key;
   }
@@ -152,7 +153,7 @@ class SodiumCipher final : public BlockCipher {
 
 BlockCipherFactory SodiumBlockCipher(KeyCost cost) {
   if (FindLimits(cost) == nullptr) {
-    throw RunTimeError::InvalidArgument(kName, "cost " + std::to_string(static_cast<int>(cost)));
+    Raise(Error::kInvalidArgument, {"SodiumBlockCipher", "cost"}, static_cast<int>(cost));
   }
   return [cost]() -> std::unique_ptr<BlockCipher> {
     if (sodium_init() < 0) return nullptr;

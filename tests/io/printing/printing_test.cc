@@ -85,9 +85,9 @@ TEST(Printing, PlacesTextAndPictures) {
 TEST(Printing, TellsWhatThePrinterFailsToDo) {
   const auto set = [](Pen& p) { p.PrintSet(3, 4, 0, u"s"); };
   ExpectJobs({
-      {"passed on", "mm PrintStart: printer error (error 482): no MoveTo",
+      {"passed on", "mm PrintStart: printer error: no MoveTo (error 482)",
        [](Pen& p) { p.PrintStart(); }, "MoveTo"},
-      {"passed on", "PrintOut: printer error (error 482): no End", [](Pen& p) { p.PrintOut(); },
+      {"passed on", "PrintOut: printer error: no End (error 482)", [](Pen& p) { p.PrintOut(); },
        "End"},
       {"left out", "s@3,4", set, "SetFont"},
       {"left out", "s@2.5,3.5[BrowalliaUPC 10 222]", set, "MoveTo"},

@@ -179,7 +179,7 @@ TEST(Rewrite, UnlocksOnEveryWay) {
   pid_t child = 0;
   const auto fork_and_fail = [&](const auto&) -> std::string {
     child = Begin([] { return pause(); });
-    throw RunTimeError::Overflow("", "");
+    throw RunTimeError(Error::kOverflow);
   };
   EXPECT_EQ(ErrorOf([&] { rewriter->Rewrite(files.Path(), fork_and_fail); }), 6);
   EXPECT_FALSE(IsLocked(files.File())) << "also for the child";

@@ -1,0 +1,59 @@
+#ifndef ZQ7STANDARD_SRC_BASE_RAISE_H_
+#define ZQ7STANDARD_SRC_BASE_RAISE_H_
+
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <concepts>
+#include <string>
+#include <string_view>
+
+namespace ZQ7Standard {
+
+/// The operation that the host called, and the parameter whose argument is wrong.
+struct Where {
+  std::string_view operation = {};
+  std::string_view parameter = {};
+};
+
+/// An argument as the message of an error shows it.
+class ErrorInput {
+ public:
+  // A row of arguments reads best when each converts by itself. NOLINTBEGIN(*-explicit-*)
+  ErrorInput(TextView text) : text_(text) {}
+  ErrorInput(const Text& text) : text_(text) {}
+  ErrorInput(double number);
+  ErrorInput(OleDate date);
+  ErrorInput(Currency amount) : text_(amount.ToText()) {}
+  ErrorInput(std::integral auto number) : text_(FromUtf8(std::to_string(number))) {}
+  // NOLINTEND(*-explicit-*)
+
+  const Text& Shown() const { return text_; }
+
+ private:
+  Text text_;
+};
+
+/// Raises `error` for that argument; `detail` follows the usual text of the error.
+[[noreturn]] void Raise(Error error, const Where& where, const ErrorInput& input,
+                        std::string_view detail = {});
+
+/// Raises `error` where it is not an argument's.
+[[noreturn]] void Raise(Error error, const Where& where, std::string_view detail = {});
+
+/// Raises `error` again with the operation and parameter that it lacks.
+[[noreturn]] void RaiseNamed(const Where& where, const RunTimeError& error);
+
+/// Does `steps` of an operation, and names the operation in an error that a service
+/// raises in them: a service knows neither.
+template <typename Steps>
+auto Named(const Where& where, const Steps& steps) {
+  try {
+    return steps();
+  } catch (const RunTimeError& error) {
+    RaiseNamed(where, error);
+  }
+}
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_BASE_RAISE_H_
