@@ -128,6 +128,7 @@ std::string ThereAndBack(const std::string& json) {
 
 TEST(Tool, JsonValues) {
   const std::string day = R"({"date":"2024-01-15 12:00:00","days":45306.5})";
+  const std::string advice = R"(write the text as {"utf16":"d83d 0041"})";
   const std::pair<std::string, std::string> rows[] = {
       {"null", "left out null"},
       {"true", "Boolean true"},
@@ -138,7 +139,7 @@ TEST(Tool, JsonValues) {
       {"-0.0", "double -0.0"},
       {"0.1", "double 0.1"},
       {"5e-324", "double 5e-324"},
-      {"1e400", "error: not JSON at byte 5"},
+      {"-1e400", "error: a number is too large"},
       {R"({"double":"NaN"})", R"(double {"double":"NaN"})"},
       {R"({"double":"-Infinity"})", R"(double {"double":"-Infinity"})"},
       {R"({"double":"inf"})", R"(error: "inf" is no double)"},
@@ -158,11 +159,23 @@ TEST(Tool, JsonValues) {
       {R"({"object":"other"})", R"(error: "other" is the name of no object)"},
       {R"({"object":"it","x":1})", R"(error: {"object":"it","x":1} is no value)"},
       {R"("ก\u0e02\u0000\n")", R"(text "กข\u0000\n")"},
-      {R"("\ud83d\ude00 \ud83d \ude00")", "text \"😀 \\ud83d \\ude00\""},
-      {R"("\ude00\ud83d\\ud83d")", R"(text "\ude00\ud83d\\ud83d")"},
-      // The stand-ins of lone surrogates are characters like others.
-      {"\"\U0010F800\U0010FFFF\"", R"(text "\udbfe\udc00\udbff\udfff")"},
-      {R"("\udbfe\udc00\ud800")", R"(text "\udbfe\udc00\ud800")"},
+      {R"("\ud83d\ude00 \\ud83d \udbff\udfff")", "text \"😀 \\\\ud83d \U0010FFFF\""},
+      {R"("\ud83d")", "error: a lone surrogate at byte 8: " + advice},
+      {R"(["\ud83d\u0041"])", "error: a lone surrogate at byte 14: " + advice},
+      {R"("\ude00\ud83d")", "error: a lone surrogate at byte 7: " + advice},
+      {R"("surrogate \x")", "error: not JSON at byte 13"},
+      {R"({"utf16":"D83d  0041 0e01"})", R"(text {"utf16":"d83d 0041 0e01"})"},
+      {R"({"utf16":"d83d de00 0000"})", R"(text "😀\u0000")"},
+      {R"({"utf16":""})", R"(text "")"},
+      {R"(["a",{"utf16":"de00 d83d"}])", R"(text list ["a",{"utf16":"de00 d83d"}])"},
+      {R"({"utf16":"d83d0041"})", R"(error: "d83d0041" is not UTF-16 such as "d83d 0041")"},
+      {R"({"utf16":"d83d 41"})", R"(error: "d83d 41" is not UTF-16 such as "d83d 0041")"},
+      {R"({"utf16":"d83d 0x41"})", R"(error: "d83d 0x41" is not UTF-16 such as "d83d 0041")"},
+      {R"({"utf16":"d83d\t0041"})", R"(error: "d83d\t0041" is not UTF-16 such as "d83d 0041")"},
+      {R"({"utf16":"d83d "})", R"(error: "d83d " is not UTF-16 such as "d83d 0041")"},
+      {R"({"utf16":" d83d"})", R"(error: " d83d" is not UTF-16 such as "d83d 0041")"},
+      {R"({"utf16":55357})", "error: 55357 is no string"},
+      {R"({"currency":{"utf16":"0031"}})", R"(error: {"utf16":"0031"} is no string)"},
       {"\"\xF4\x8F\xA0\"", "error: not JSON at byte 5"},
       {"\"\xED\xA0\x80\"", "error: not JSON at byte 3"},
       {std::string("1\0", 2), "error: a NUL byte in the line"},
@@ -173,6 +186,31 @@ TEST(Tool, JsonValues) {
   const float single = std::numeric_limits<float>::max();
   EXPECT_EQ(WriteJson(JsonOfValue(single)), "3.4028235e+38");
   EXPECT_EQ(static_cast<float>(std::get<double>(ValueOfJson(JsonOfValue(single)))), single);
+}
+
+TEST(Tool, EchoesIds) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"1.50", "1.50"},
+      {"1E400", "1E400"},
+      {"-0", "-0"},
+      {"-9223372036854775808", "-9223372036854775808"},
+      {"12345678901234567890123", "12345678901234567890123"},
+      {" null ", "null"},
+      {R"("\u0E01\ud83d\ude00\/\u0022[,\u0000")", R"("ก😀/\"[,\u0000")"},
+      {R"({"b":[ ], "a":[[],{},"{",1.0,true], "id":{"id":2}})",
+       R"({"b":[],"a":[[],{},"{",1.0,true],"id":{"id":2}})"},
+  };
+  for (const auto& [id, expected] : rows) {
+    for (const std::string& line :
+         {R"({"i\u0064":)" + id + R"(,"x":{"id":7}})", R"({"x":[{"id":7}],"id":)" + id + "}"}) {
+      std::string echoed;
+      ReadJson(line, &echoed);
+      EXPECT_EQ(echoed, expected) << line;
+    }
+  }
+  std::string none;
+  ReadJson(R"([{"id":1}])", &none);
+  EXPECT_EQ(none, "");
 }
 
 TEST(Tool, ReadsLinesOfAnyLength) {

@@ -126,9 +126,10 @@ std::string BatchSession::Answer(std::string_view line) {
   std::string answer = "{";
   Json outcome = Json::object();
   try {
-    const Json request = ReadJson(line);
+    std::string id;
+    const Json request = ReadJson(line, &id);
     if (!request.is_object()) throw JsonError("not a JSON object");
-    if (request.contains("id")) answer.append("\"id\":").append(MemberText(line, "id")) += ',';
+    if (!id.empty()) answer.append("\"id\":").append(id) += ',';
     CheckKeys(request);
     const Value result = Perform(request);
     outcome["result"] = JsonOfValue(result, objects_);

@@ -1,44 +1,73 @@
 #include "json_text.h"
 
-#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <utility>
 #include <vector>
 
 #include "names.h"
-#include "surrogates.h"
 
 namespace ZQ7Tool {
 namespace {
 
-/// Builds a tree of what the parser finds, within the limits.
-class TreeBuilder final : public Json::json_sax_t {
+constexpr const char* kTooLarge = "a number is too large";
+
+/// The parser stops at a number that its type cannot hold; an id may pass the doubles.
+using WideJson = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool,
+                                      std::int64_t, std::uint64_t, long double>;
+
+/// Builds a tree of what the parser finds, within the limits, and writes the id.
+class LineBuilder final : public WideJson::json_sax_t {
  public:
-  explicit TreeBuilder(Json& root) : root_(root) {}
+  LineBuilder(Json& root, std::string* id) : root_(root), id_(id) {}
 
   bool null() override { return Add(nullptr); }
   bool boolean(bool value) override { return Add(value); }
-  bool number_integer(number_integer_t value) override { return Add(value); }
   bool number_unsigned(number_unsigned_t value) override { return Add(value); }
-  bool number_float(number_float_t value, const string_t& /*text*/) override { return Add(value); }
   bool string(string_t& value) override { return Add(std::move(value)); }
   bool binary(binary_t& /*value*/) override { return false; }
-  bool start_object(std::size_t /*size*/) override { return Open(Json::object()); }
-  bool start_array(std::size_t /*size*/) override { return Open(Json::array()); }
-  bool end_object() override { return Close(); }
-  bool end_array() override { return Close(); }
+  bool start_object(std::size_t /*size*/) override { return Open(Json::object(), "{"); }
+  bool start_array(std::size_t /*size*/) override { return Open(Json::array(), "["); }
+  bool end_object() override { return Close('}'); }
+  bool end_array() override { return Close(']'); }
+
+  // The parser calls this for numbers with a "-" alone.
+  bool number_integer(number_integer_t value) override {
+    return value == 0 ? AddNumber(value, "-0") : Add(value);
+  }
+
+  bool number_float(number_float_t /*wide*/, const string_t& text) override {
+    // The wide number would be rounded a second time.
+    const double number = std::strtod(text.c_str(), nullptr);
+    if (!in_id_ && !std::isfinite(number)) throw JsonError(kTooLarge);
+    return AddNumber(number, text);
+  }
 
   bool key(string_t& name) override {
     const Json& object = *open_.back();
     if (object.contains(name)) throw JsonError(Quoted(name) + " stands there twice");
     if (object.size() == kMaxJsonMembers) throw JsonError("an object has too many members");
+    if (open_.size() == 1) {
+      in_id_ = id_ != nullptr && name == "id";
+    } else if (in_id_) {
+      Echo(Json(name).dump() + ":");
+    }
     key_ = std::move(name);
     return true;
   }
 
   bool parse_error(std::size_t position, const std::string& /*token*/,
-                   const nlohmann::detail::exception& /*error*/) override {
-    throw JsonError("not JSON at byte " + std::to_string(position));
+                   const nlohmann::detail::exception& error) override {
+    constexpr int kOutOfRange = 406;
+    if (error.id == kOutOfRange) throw JsonError(kTooLarge);
+    // What went wrong comes before what was read, which may say "surrogate" as well.
+    const std::string_view what = error.what();
+    const bool surrogate = what.find("surrogate") < what.find("last read");
+    const std::string place = " at byte " + std::to_string(position);
+    if (!surrogate) throw JsonError("not JSON" + place);
+    throw JsonError("a lone surrogate" + place + R"(: write the text as {"utf16":"d83d 0041"})");
   }
 
  private:
@@ -51,99 +80,58 @@ class TreeBuilder final : public Json::json_sax_t {
   }
 
   bool Add(Json value) {
+    if (in_id_) Echo(value.dump());
     Put(std::move(value));
     return true;
   }
 
-  bool Open(Json container) {
+  bool AddNumber(Json number, std::string_view text) {
+    if (in_id_) Echo(text);
+    Put(std::move(number));
+    return true;
+  }
+
+  bool Open(Json container, std::string_view bracket) {
     if (open_.size() == kMaxJsonDepth) throw JsonError("nested too deep");
+    if (in_id_) Echo(bracket);
     open_.push_back(&Put(std::move(container)));
     return true;
   }
 
-  bool Close() {
+  bool Close(char bracket) {
     open_.pop_back();
+    if (in_id_ && !open_.empty()) *id_ += bracket;
     return true;
   }
 
+  /// Writes a key or the beginning of a value, after a comma where one is due.
+  void Echo(std::string_view text) {
+    constexpr std::string_view kNothingBefore = "[{:";
+    if (!id_->empty() && kNothingBefore.find(id_->back()) == std::string_view::npos) *id_ += ',';
+    *id_ += text;
+  }
+
   Json& root_;
+  std::string* id_;          // null if it is not wanted
+  bool in_id_ = false;       // within the member "id" of the root, which is wanted
   std::vector<Json*> open_;  // from the root to what is being filled
   std::string key_;
 };
 
-/// Walks over JSON that is known to be well formed.
-class Cursor {
- public:
-  explicit Cursor(std::string_view json) : rest_(json) {}
-
-  /// Takes what stands between keys and values, and tells whether an object goes on.
-  bool SkipToNext() {
-    rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t\r:,"), rest_.size()));
-    return !rest_.starts_with('}');
-  }
-
-  std::string_view TakeValue() {
-    const std::string_view begin = rest_;
-    int depth = 0;
-    do {
-      const char c = rest_.front();
-      if (c == '"') {
-        SkipString();
-      } else if (c == '{' || c == '[') {
-        ++depth;
-        rest_.remove_prefix(1);
-      } else if (c == '}' || c == ']') {
-        --depth;
-        rest_.remove_prefix(1);
-      } else {
-        rest_.remove_prefix(std::min(rest_.find_first_of("\"{}[], \t\r", 1), rest_.size()));
-      }
-    } while (depth > 0);
-    return begin.substr(0, begin.size() - rest_.size());
-  }
-
- private:
-  void SkipString() {
-    std::size_t end = rest_.find_first_of("\"\\", 1);
-    while (rest_[end] == '\\') end = rest_.find_first_of("\"\\", end + 2);
-    rest_.remove_prefix(end + 1);
-  }
-
-  std::string_view rest_;
-};
-
 }  // namespace
 
-Json ReadJson(std::string_view text) {
+Json ReadJson(std::string_view text, std::string* id) {
   // The parser takes a NUL for the end.
   if (text.find('\0') != std::string_view::npos) throw JsonError("a NUL byte in the line");
+  if (id != nullptr) id->clear();
   Json root;
-  TreeBuilder builder(root);
-  Json::sax_parse(JsonWithStandIns(text), &builder);
+  LineBuilder builder(root, id);
+  WideJson::sax_parse(text, &builder);
   return root;
 }
 
 std::string WriteJson(const Json& json) {
-  return JsonWithoutStandIns(json.dump());
-}
-
-std::string_view MemberText(std::string_view object, std::string_view name) {
-  Cursor cursor(object.substr(object.find('{') + 1));
-  while (cursor.SkipToNext()) {
-    const std::string_view key = cursor.TakeValue();
-    cursor.SkipToNext();
-    const std::string_view value = cursor.TakeValue();
-    if (ReadJson(key) == name) return value;
-  }
-  return {};
-}
-
-ZQ7Standard::Text TextOfJson(const std::string& string) {
-  return WithoutStandIns(ZQ7Standard::FromUtf8(string));
-}
-
-std::string JsonOfText(ZQ7Standard::TextView text) {
-  return ZQ7Standard::Utf8(WithStandIns(text));
+  return json.dump();
 }
 
 }  // namespace ZQ7Tool

@@ -1,8 +1,6 @@
 #ifndef ZQ7STANDARD_TOOLS_ZQ7_JSON_TEXT_H_
 #define ZQ7STANDARD_TOOLS_ZQ7_JSON_TEXT_H_
 
-#include <ZQ7Standard/Types.h>
-
 #include <cstddef>
 #include <nlohmann/json_fwd.hpp>
 #include <stdexcept>
@@ -25,20 +23,14 @@ inline constexpr std::size_t kMaxJsonDepth = 100;
 inline constexpr std::size_t kMaxJsonMembers = 1000;
 
 /// Reads one JSON text in UTF-8. `JsonError` for any other text, for two members of one
-/// name and for what passes the limits. A surrogate without its partner, which UTF-8
-/// cannot hold, is kept as surrogates.h says.
-Json ReadJson(std::string_view text);
+/// name, for a surrogate without its partner and for what passes the limits.
+///
+/// `id`, if given, is set to the value of the member "id" of an object as JSON with the
+/// digits of its numbers, which the tree has as doubles; empty if there is none.
+Json ReadJson(std::string_view text, std::string* id = nullptr);
 
 /// The JSON text in one line of UTF-8, which `ReadJson` reads as the same.
 std::string WriteJson(const Json& json);
-
-/// The text of a member of `object`, an object that `ReadJson` has read, as it stands
-/// there; empty for none.
-std::string_view MemberText(std::string_view object, std::string_view name);
-
-/// The UTF-16 text that a string of a `Json` stands for, and the other way round.
-ZQ7Standard::Text TextOfJson(const std::string& string);
-std::string JsonOfText(ZQ7Standard::TextView text);
 
 }  // namespace ZQ7Tool
 

@@ -84,9 +84,47 @@ Value DateOf(const Json& object) {
   return date;
 }
 
+/// The UTF-16 text of code units such as "d83d 0041", with blanks only between them.
+Text TextOfUnits(const Json& json) {
+  constexpr std::size_t kDigits = 4;
+  std::string_view rest = StringOf(json);
+  Text text;
+  while (!rest.empty()) {
+    if (!text.empty()) rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+    const std::string_view digits = rest.substr(0, kDigits);
+    rest.remove_prefix(digits.size());
+    std::uint16_t unit = 0;
+    const auto read = std::from_chars(digits.begin(), digits.end(), unit, 16);
+    const bool whole = digits.size() == kDigits && read.ptr == digits.end();
+    if (!whole || !(rest.empty() || rest.starts_with(' '))) {
+      Refuse(json, R"(not UTF-16 such as "d83d 0041")");
+    }
+    text += static_cast<char16_t>(unit);
+  }
+  return text;
+}
+
+std::string UnitsOf(TextView text) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string units;
+  for (const char16_t unit : text) {
+    if (!units.empty()) units += ' ';
+    for (const int shift : {12, 8, 4, 0}) units += kDigits[(unit >> shift) & 0xF];
+  }
+  return units;
+}
+
+bool IsUnits(const Json& json) {
+  return json.is_object() && json.size() == 1 && json.contains("utf16");
+}
+
+Text TextOf(const Json& json) {
+  return IsUnits(json) ? TextOfUnits(json["utf16"]) : FromUtf8(StringOf(json));
+}
+
 Value CurrencyOf(const Json& json) {
   try {
-    return Currency::FromText(TextOfJson(StringOf(json)));
+    return Currency::FromText(FromUtf8(StringOf(json)));
   } catch (const RunTimeError&) {
     Refuse(json, R"(no amount such as "10.3000")");
   }
@@ -113,7 +151,7 @@ Value Tagged(const Json& json, const NamedObjects& objects) {
 
 TextList ListOf(const Json& json) {
   TextList list;
-  for (const Json& item : json) list.push_back(TextOfJson(StringOf(item)));
+  for (const Json& item : json) list.push_back(TextOf(item));
   return list;
 }
 
@@ -150,7 +188,7 @@ struct JsonVisitor {
     return {{"date", IsoDateTime(date)},
             {"days", whole ? Json(static_cast<std::int32_t>(days)) : Json(days)}};
   }
-  Json operator()(Currency amount) const { return {{"currency", JsonOfText(amount.ToText())}}; }
+  Json operator()(Currency amount) const { return {{"currency", Utf8(amount.ToText())}}; }
   Json operator()(const TextList& list) const {
     Json items = Json::array();
     for (const Text& item : list) items.push_back(JsonOfText(item));
@@ -168,8 +206,14 @@ Value ValueOfJson(const Json& json, const NamedObjects& objects) {
   if (json.is_null()) return Omitted{};
   if (json.is_boolean()) return json.get<bool>();
   if (json.is_number()) return Number(json);
-  if (json.is_string()) return TextOfJson(StringOf(json));
+  if (json.is_string() || IsUnits(json)) return TextOf(json);
   return json.is_array() ? Value(ListOf(json)) : Tagged(json, objects);
+}
+
+Json JsonOfText(TextView text) {
+  std::string utf8 = Utf8(text);
+  if (FromUtf8(utf8) == text) return utf8;
+  return {{"utf16", UnitsOf(text)}};
 }
 
 Json JsonOfValue(const Value& value, const NamedObjects& objects) {

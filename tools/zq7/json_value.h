@@ -12,7 +12,8 @@
 /// Values as JSON, both ways:
 ///
 ///     left out             null
-///     text                 "ก"
+///     text                 "ก"; {"utf16":"d83d 0041"}, its code units, where UTF-8
+///                          cannot hold it
 ///     16- and 32-bit       7; a whole number beyond 32 bits is read as a double
 ///     single, double       7.5; {"double":"NaN"}, "Infinity", "-Infinity"
 ///     Boolean              true
@@ -27,6 +28,9 @@ using NamedObjects = std::map<std::string, ZQ7Standard::Automation::Object, std:
 
 /// `JsonError` for what is none of these.
 ZQ7Standard::Automation::Value ValueOfJson(const Json& json, const NamedObjects& objects = {});
+
+/// A text alone.
+Json JsonOfText(ZQ7Standard::TextView text);
 
 /// The name of an object without one is null.
 Json JsonOfValue(const ZQ7Standard::Automation::Value& value, const NamedObjects& objects = {});
