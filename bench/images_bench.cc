@@ -1,4 +1,5 @@
 #include <ZQ7Standard/CImageInfo.h>
+#include <ZQ7Standard/platform/path_text.h>
 #include <fcntl.h>
 #include <unistd.h>
 

@@ -1,5 +1,6 @@
 #include <ZQ7Standard/BahtStringObject.h>
 #include <ZQ7Standard/PrintObject.h>
+#include <ZQ7Standard/platform/printers.h>
 #include <cairo-pdf.h>
 #include <pango/pangocairo.h>
 

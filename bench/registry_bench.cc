@@ -1,4 +1,5 @@
 #include <ZQ7Standard/RegistryObject.h>
+#include <ZQ7Standard/platform/registry.h>
 
 #include "bench/measure.h"
 #include "bench/registry_inputs.h"

@@ -2,22 +2,13 @@
 
 #include <utility>
 
+#include "platform/service_set.h"
+
 namespace ZQ7Standard {
 
-StandardObject::StandardObject() : StandardObject(StandardServices{}) {}
+StandardObject::StandardObject() : StandardObject(Services{}) {}
 
-StandardObject::StandardObject(StandardServices services) : services_(std::move(services)) {
-  if (!services_.clock) services_.clock = SystemClock();
-  if (!services_.date_convention) services_.date_convention = SystemDateConvention();
-  if (!services_.random_source) services_.random_source = SystemRandomSource();
-}
-
-DateConvention StandardObject::Convention() const {
-  return services_.date_convention->Current();
-}
-
-OleDate StandardObject::Today() const {
-  return TrimDate(services_.clock->Now());
-}
+StandardObject::StandardObject(Services services)
+    : services_(std::make_shared<ServiceSet>(std::move(services))) {}
 
 }  // namespace ZQ7Standard

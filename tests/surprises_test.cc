@@ -1,6 +1,8 @@
 // The C++ of docs/surprises.md; tests/zq7/surprises compares the two.
 
 #include <ZQ7Standard/ASCIIObject.h>
+#include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/message_box.h>
 
 #include <sstream>
 

@@ -1,5 +1,7 @@
 #include <ZQ7Standard/ASCIIObject.h>
 #include <ZQ7Standard/DiskObject.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/path_text.h>
 #include <fcntl.h>
 #include <unistd.h>
 

@@ -2,6 +2,10 @@
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/RegistryObject.h>
 #include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/path_text.h>
+#include <ZQ7Standard/platform/printers.h>
+#include <ZQ7Standard/platform/registry.h>
 
 #include <functional>
 #include <memory>
@@ -102,7 +106,7 @@ class Disk {
   Folder folder_;
   Folder pages_ = folder_ / "pages";
   std::shared_ptr<CountingBox> box_ = std::make_shared<CountingBox>();
-  ASCIIObject object_{ASCIIServices{.message_box = box_}};
+  ASCIIObject object_{Services{.message_box = box_}};
   Folder database_ = folder_ / "registry";
   RegistryObject registry_{{.registry = SystemRegistry({database_, database_})}};
   PrintObject printer_{{.printers = SystemPrinters(pages_)}};

@@ -1,6 +1,9 @@
 #include <ZQ7Standard/ASCIIObject.h>
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/RegistryObject.h>
+#include <ZQ7Standard/platform/path_text.h>
+#include <ZQ7Standard/platform/printers.h>
+#include <ZQ7Standard/platform/registry.h>
 #include <signal.h>
 #include <unistd.h>
 
@@ -143,7 +146,7 @@ Work Pages(const Folder& folder) {
   return {"pages", last_there,
           [folder] {
             const auto printer =
-                std::make_shared<PrintObject>(PrintServices{.printers = SystemPrinters(folder)});
+                std::make_shared<PrintObject>(Services{.printers = SystemPrinters(folder)});
             return [printer](int /*number*/) {
               printer->PrintGraphicText(u"ใบกำกับภาษี", 20, 30);
               printer->PrintOut();

@@ -1,4 +1,5 @@
 #include <ZQ7Standard/ASCIIObject.h>
+#include <ZQ7Standard/platform/path_text.h>
 #include <fcntl.h>
 
 #include <algorithm>

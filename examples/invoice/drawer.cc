@@ -1,6 +1,7 @@
 #include "drawer.h"
 
 #include <ZQ7Standard/PeripheralObject.h>
+#include <ZQ7Standard/platform/serial_port.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <stdlib.h>

@@ -62,7 +62,7 @@ PdfFolder::PdfFolder(const fs::path& folder)
                              failure.message());
   }
   printer_ = std::make_unique<ZQ7Standard::PrintObject>(
-      ZQ7Standard::PrintServices{.printers = std::move(printers)});
+      ZQ7Standard::Services{.printers = std::move(printers)});
 }
 
 PdfFolder::~PdfFolder() {

@@ -2,32 +2,15 @@
 #define ZQ7STANDARD_ASCIIOBJECT_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/clock.h>
-#include <ZQ7Standard/platform/file_contents.h>
-#include <ZQ7Standard/platform/file_rewrite.h>
-#include <ZQ7Standard/platform/file_status.h>
-#include <ZQ7Standard/platform/message_box.h>
-#include <ZQ7Standard/platform/time_text.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
-#include <string_view>
 
 namespace ZQ7Standard {
 
-/// What an `ASCIIObject` needs of the machine. A service left empty is the machine's
-/// own.
-struct ASCIIServices {
-  std::shared_ptr<FileStatusSource> file_status = nullptr;
-  std::shared_ptr<FileReader> file_reader = nullptr;
-  std::shared_ptr<FileWriter> file_writer = nullptr;
-  std::shared_ptr<FileRewriter> file_rewriter = nullptr;
-  std::shared_ptr<MessageBox> message_box = nullptr;
-  std::shared_ptr<Clock> clock = nullptr;
-  std::shared_ptr<TimeTextSource> time_text = nullptr;
-};
+class ServiceSet;
 
 /// Settings, logs and whole texts in text files of the code page Windows-874.
 ///
@@ -50,7 +33,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   /// With the services of the machine.
   ASCIIObject();
   /// With services of the host's own.
-  explicit ASCIIObject(ASCIIServices services);
+  explicit ASCIIObject(Services services);
 
   // --- Messages to the user: src/io/files/ascii_object.cc ---
 
@@ -129,13 +112,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   void SaveStringToTextFile2(TextView iTextFile, TextView iValue, bool UseAppendMode = false) const;
 
  private:
-  void Warn(TextView problem) const;
-  void Attempt(const std::function<TextView()>& find_problem) const;
-  TextView FolderProblem(TextView path, TextView read_only_problem) const;
-  TextView WriteOrCreate(TextView path, const std::function<bool()>& write, std::string_view bytes,
-                         TextView read_only_problem) const;
-
-  ASCIIServices services_;
+  std::shared_ptr<ServiceSet> services_;
   std::int16_t disable_msg_level_ = 0;
 };
 

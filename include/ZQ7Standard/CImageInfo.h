@@ -3,18 +3,15 @@
 
 #include <ZQ7Standard/Enumerations.h>
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/file_contents.h>
 
 #include <cstdint>
 #include <memory>
 
 namespace ZQ7Standard {
 
-/// What a `CImageInfo` needs of the machine. A service left empty is the machine's own.
-struct ImageServices {
-  std::shared_ptr<FileReader> reader = nullptr;
-};
+class ServiceSet;
 
 /// The kind, size and colour depth of an image file, told from its first 65,536
 /// bytes without decoding the image: GIF, JPEG, PNG and BMP.
@@ -29,7 +26,7 @@ class ZQ7STANDARD_EXPORT CImageInfo {
   /// With the files of the machine.
   CImageInfo();
   /// With services of the host's own.
-  explicit CImageInfo(ImageServices services);
+  explicit CImageInfo(Services services);
 
   /// Reads the file `sFileName`, a full path, in one read. Unknown content is no
   /// failure: `ImageType` is `itUNKNOWN` and the rest 0. A file that does not exist
@@ -51,7 +48,7 @@ class ZQ7STANDARD_EXPORT CImageInfo {
   eImageType ImageType() const { return image_type_; }
 
  private:
-  ImageServices services_;
+  std::shared_ptr<ServiceSet> services_;
   std::int32_t width_ = 0;
   std::int32_t height_ = 0;
   std::uint8_t depth_ = 0;

@@ -2,23 +2,15 @@
 #define ZQ7STANDARD_DISKOBJECT_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/file_copier.h>
-#include <ZQ7Standard/platform/file_status.h>
-#include <ZQ7Standard/platform/folders.h>
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 
 namespace ZQ7Standard {
 
-/// What a `DiskObject` needs of the machine. A service left empty is the machine's own.
-struct DiskServices {
-  std::shared_ptr<FileStatusSource> status = nullptr;
-  std::shared_ptr<Folders> folders = nullptr;
-  std::shared_ptr<FileCopier> copier = nullptr;
-};
+class ServiceSet;
 
 /// Paths taken apart and shortened for display, folder chains made, files and folder
 /// trees copied.
@@ -31,7 +23,7 @@ class ZQ7STANDARD_EXPORT DiskObject {
   /// With the file system of the machine.
   DiskObject();
   /// With services of the host's own.
-  explicit DiskObject(DiskServices services);
+  explicit DiskObject(Services services);
 
   // --- Paths and the folders on them: src/io/paths/paths.cc ---
 
@@ -91,15 +83,7 @@ class ZQ7STANDARD_EXPORT DiskObject {
   std::int32_t XCopyFile(TextView from_file, TextView to_file) const;
 
  private:
-  // Nothing, and no folder, where the file system cannot tell.
-  std::optional<FileStatus> StatusOf(TextView path) const;
-  bool IsFolder(TextView path) const;
-  // Another process may make the folder at the same time.
-  void MakeFolder(TextView path) const;
-  std::int32_t CopyFolder(TextView from_file, TextView to_file) const;
-  bool HasTimeOf(const FileStatus& source, TextView path, const FileStatus& status) const;
-
-  DiskServices services_;
+  std::shared_ptr<ServiceSet> services_;
 };
 
 }  // namespace ZQ7Standard

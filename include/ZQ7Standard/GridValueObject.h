@@ -6,13 +6,11 @@
 
 #include <cstdint>
 #include <memory>
-#include <span>
-#include <string_view>
-#include <vector>
 
 namespace ZQ7Standard {
 
 class CellTable;
+class GridListeners;
 
 /// The numbers behind a grid on the screen: rows and columns of doubles, counted
 /// from 0, of which the first `FixedRows` rows and `FixedCols` columns are
@@ -112,22 +110,12 @@ class ZQ7STANDARD_EXPORT GridValueObject {
   void RemoveListener(const GridValueListener& listener);
 
  private:
-  class Event;
-
-  void Resize(std::int64_t rows, std::int32_t cols, std::string_view operation);
-  bool SetvalueOutside(std::int32_t row, std::int32_t col, double value);
-  std::span<double> DataOfRow(std::int32_t row) const;
-  void RaiseCellDataChange(std::int32_t row, std::int32_t col);
-
   std::int32_t rows_ = 1;
   std::int32_t cols_ = -1;
   std::int32_t fixed_rows_ = 0;
   std::int32_t fixed_cols_ = 0;
   std::unique_ptr<CellTable> cells_;
-  // A listener that leaves inside an event leaves its place empty until the end
-  // of the last event.
-  std::vector<std::shared_ptr<GridValueListener>> listeners_;
-  int events_under_way_ = 0;
+  std::unique_ptr<GridListeners> listeners_;  // null until the first one
 };
 
 }  // namespace ZQ7Standard

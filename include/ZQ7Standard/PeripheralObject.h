@@ -2,8 +2,8 @@
 #define ZQ7STANDARD_PERIPHERALOBJECT_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/serial_port.h>
 
 #include <cstdint>
@@ -11,11 +11,7 @@
 
 namespace ZQ7Standard {
 
-/// What a `PeripheralObject` needs of the machine. A service left empty is the
-/// machine's own.
-struct PeripheralServices {
-  std::shared_ptr<MessageBox> message_box = nullptr;
-};
+class ServiceSet;
 
 /// Commands to devices on a serial line, such as the cash drawer of a point of sale.
 /// The host owns the control of the line and hands it in on each call. An instance
@@ -24,7 +20,7 @@ class ZQ7STANDARD_EXPORT PeripheralObject {
  public:
   /// An object that shows its messages on the error stream.
   PeripheralObject();
-  explicit PeripheralObject(PeripheralServices services);
+  explicit PeripheralObject(Services services);
 
   // --- Devices on a serial line: src/io/peripherals/peripherals.cc; docs/devices.md ---
 
@@ -47,7 +43,7 @@ class ZQ7STANDARD_EXPORT PeripheralObject {
                         std::int16_t iPort) const;
 
  private:
-  PeripheralServices services_;
+  std::shared_ptr<ServiceSet> services_;
 };
 
 }  // namespace ZQ7Standard

@@ -2,26 +2,18 @@
 #define ZQ7STANDARD_PRINTOBJECT_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/platform/print_document.h>
 #include <ZQ7Standard/platform/print_picture.h>
-#include <ZQ7Standard/platform/printers.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
-#include <string_view>
 
 namespace ZQ7Standard {
 
-/// What a `PrintObject` needs of the machine. A service left empty is the machine's
-/// own.
-struct PrintServices {
-  std::shared_ptr<PrinterList> printers = nullptr;
-  /// The environment variable "OS"; nothing is that of the process, read when it is
-  /// needed.
-  std::optional<Text> os = std::nullopt;
-};
+class ServiceSet;
 
 /// Chooses the printer and its paper, tells papers and bins by name, and prints
 /// documents of one page, positions in millimetres from the top left corner.
@@ -47,7 +39,7 @@ class ZQ7STANDARD_EXPORT PrintObject {
   /// With the services of the machine.
   PrintObject();
   /// With services of the host's own.
-  explicit PrintObject(PrintServices services);
+  explicit PrintObject(Services services);
 
   // --- The printer and its paper: src/io/printing/printer_selection.cc ---
 
@@ -131,12 +123,7 @@ class ZQ7STANDARD_EXPORT PrintObject {
   std::int16_t PrintCancel();
 
  private:
-  void Attempt(const std::function<void()>& steps) const;
-  void Perform(std::string_view operation, const std::function<void()>& steps) const;
-  Printer MakeRememberedCurrent();
-  std::shared_ptr<PrintDocument> DocumentToPlaceIn();
-
-  PrintServices services_;
+  std::shared_ptr<ServiceSet> services_;
   std::optional<Text> device_name_;  // nullopt is the current printer's
   PagePosition last_;                // where the last text or picture was placed
 };

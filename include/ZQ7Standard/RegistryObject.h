@@ -1,20 +1,17 @@
 #ifndef ZQ7STANDARD_REGISTRYOBJECT_H_
 #define ZQ7STANDARD_REGISTRYOBJECT_H_
 
+#include <ZQ7Standard/Enumerations.h>
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/registry.h>
 
 #include <cstdint>
 #include <memory>
 
 namespace ZQ7Standard {
 
-/// What a `RegistryObject` needs of the machine. A service left empty is the
-/// machine's own.
-struct RegistryServices {
-  std::shared_ptr<Registry> registry = nullptr;
-};
+class ServiceSet;
 
 /// Numbers and texts in the registry, and the password cipher for texts that are
 /// kept there. An instance and its copies, which share its registry, belong to one
@@ -24,7 +21,7 @@ class ZQ7STANDARD_EXPORT RegistryObject {
   /// With the registry of the machine, which is not touched before the first call.
   RegistryObject();
   /// With services of the host's own.
-  explicit RegistryObject(RegistryServices services);
+  explicit RegistryObject(Services services);
 
   // --- Values of the registry: src/io/registry/registry_values.cc; docs/files.md ---
 
@@ -65,7 +62,7 @@ class ZQ7STANDARD_EXPORT RegistryObject {
   Text Decrypt(TextView EncryptedTextInput, TextView PassWord) const;
 
  private:
-  RegistryServices services_;
+  std::shared_ptr<ServiceSet> services_;
 };
 
 }  // namespace ZQ7Standard

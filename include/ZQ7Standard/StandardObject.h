@@ -3,11 +3,8 @@
 
 #include <ZQ7Standard/Enumerations.h>
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
-#include <ZQ7Standard/platform/block_cipher.h>
-#include <ZQ7Standard/platform/clock.h>
-#include <ZQ7Standard/platform/date_convention.h>
-#include <ZQ7Standard/platform/random_source.h>
 
 #include <cstdint>
 #include <memory>
@@ -16,14 +13,7 @@
 
 namespace ZQ7Standard {
 
-/// What a `StandardObject` needs of the machine. A service left empty is the
-/// machine's own; there is no block cipher then.
-struct StandardServices {
-  std::shared_ptr<Clock> clock = nullptr;
-  std::shared_ptr<DateConventionSource> date_convention = nullptr;
-  std::shared_ptr<RandomSource> random_source = nullptr;
-  BlockCipherFactory block_cipher = nullptr;
-};
+class ServiceSet;
 
 /// Dates in both calendars, payment terms, rounding and number text, lists, keys
 /// and bar codes, ciphers and digests.
@@ -42,7 +32,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// With the services of the machine.
   StandardObject();
   /// With services of the host's own.
-  explicit StandardObject(StandardServices services);
+  explicit StandardObject(Services services);
 
   // --- The system's era and date layout, sentinel dates: src/dates/era.cc ---
 
@@ -651,7 +641,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// The same as `EncryptBS`, which undoes itself.
   Text DecryptBS(TextView EncryptedTextInput, TextView PassWord) const;
 
-  /// Enciphers a text with the block cipher of `StandardServices`, made anew for
+  /// Enciphers a text with the block cipher of `Services`, made anew for
   /// the call. An empty text comes back as it is, also any text when the password
   /// is empty. Characters go through Windows-874, and one that is not in it
   /// becomes "?". Raises 429 when there is no cipher, and what the cipher raises.
@@ -673,11 +663,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
   Text CalculateMD5(TextView strMessage) const;
 
  private:
-  DateConvention Convention() const;
-  OleDate Today() const;
-  std::optional<OleDate> ReadDate(TextView text) const;
-
-  StandardServices services_;
+  std::shared_ptr<ServiceSet> services_;
 };
 
 }  // namespace ZQ7Standard

@@ -3,6 +3,7 @@
 
 #include <ZQ7Standard/automation/catalogue.h>
 #include <ZQ7Standard/platform/print_picture.h>
+#include <ZQ7Standard/platform/serial_port.h>
 
 #include <concepts>
 #include <cstddef>

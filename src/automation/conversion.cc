@@ -66,9 +66,8 @@ std::optional<double> NumberOf(TextView text, const Value& value, const Place& p
   return read;
 }
 
-std::optional<OleDate> DateOf(TextView text, const HostServices& services) {
-  const DateConvention convention = services.date_convention->Current();
-  return ReadDateText(text, convention, services.clock->Now().Year());
+std::optional<OleDate> DateOf(TextView text, ServiceSet& services) {
+  return ReadDateText(text, services.Convention(), services.Now().Year());
 }
 
 /// What a value is as a number, apart from a text, which the caller has looked at.
@@ -143,9 +142,7 @@ struct TextVisitor {
   Text operator()(const Text& text) const { return text; }
   Text operator()(Omitted /*missing*/) const { return {}; }
   Text operator()(bool flag) const { return flag ? u"True" : u"False"; }
-  Text operator()(OleDate date) const {
-    return DateText(date, place.call.services.date_convention->Current());
-  }
+  Text operator()(OleDate date) const { return DateText(date, place.call.services.Convention()); }
   Text operator()(Currency amount) const { return AmountText(amount); }
   Text operator()(float number) const {
     if (!std::isfinite(number)) RaiseOverflow(value, place);
@@ -241,8 +238,8 @@ std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name
     if (object->Class().name == class_name) return object->Get().object;
   } else if (const auto* name = std::get_if<Text>(&value)) {
     const ClassInfo& owner = *FindClass(class_name);
-    if (owner.from_text != nullptr) return owner.from_text(place.call.services, *name);
-    if (SameName(Utf8(*name), class_name)) return owner.create(place.call.services);
+    if (owner.from_text != nullptr) return owner.from_text(place.call.services.Given(), *name);
+    if (SameName(Utf8(*name), class_name)) return owner.create(place.call.services.Given());
   }
   RaiseMismatch(value, place);
 }

@@ -10,6 +10,8 @@
 #include <span>
 #include <string_view>
 
+#include "platform/service_set.h"
+
 namespace ZQ7Standard::Automation {
 
 /// The most parameters that an operation has.
@@ -19,7 +21,7 @@ inline constexpr std::size_t kMaxParameters = 30;
 struct CallContext {
   std::string_view member;                    ///< for the messages of errors
   std::span<const ParameterInfo> parameters;  ///< none while a property is set
-  const HostServices& services;               ///< clock and convention are there
+  ServiceSet& services;
 };
 
 /// Where a value is wanted: the parameter with that index, from 0.

@@ -5,13 +5,15 @@
 
 #include <memory>
 
+#include "platform/service_set.h"
+
 namespace ZQ7Standard::Automation {
 
 /// What an `Object` stands for.
 struct Instance {
   const ClassInfo* owner;
   std::shared_ptr<void> object;
-  HostServices services;  // with a clock and a convention
+  std::shared_ptr<ServiceSet> services;
 };
 
 }  // namespace ZQ7Standard::Automation

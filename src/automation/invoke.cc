@@ -14,12 +14,6 @@ namespace ZQ7Standard::Automation {
 
 namespace {
 
-HostServices Completed(HostServices services) {
-  if (!services.clock) services.clock = SystemClock();
-  if (!services.date_convention) services.date_convention = SystemDateConvention();
-  return services;
-}
-
 bool IsOmitted(const Value& value) {
   return std::holds_alternative<Omitted>(value);
 }
@@ -130,20 +124,20 @@ const ClassInfo& Object::Class() const {
 
 EventSink::~EventSink() = default;
 
-HostServices ExampleServices() {
+Services ExampleServices() {
   return {.clock = FixedClock(OleDate::FromParts(2024, 1, 15, 9, 30)),
           .date_convention = FixedDateConvention({FieldOrder::kDayFirst, Era::kBuddhist}),
           .registry = MemoryRegistry()};
 }
 
-Object Create(std::string_view class_name, const HostServices& services) {
+Object Create(std::string_view class_name, const Services& services) {
   const ClassInfo* owner = FindClass(class_name);
   if (owner == nullptr || owner->create == nullptr)
     throw RunTimeError({.number = static_cast<int>(Error::kCannotCreateObject),
                         .text = "cannot create object",
                         .class_name = std::string(class_name)});
   return Object(std::make_shared<const Instance>(
-      Instance{owner, owner->create(services), Completed(services)}));
+      Instance{owner, owner->create(services), std::make_shared<ServiceSet>(services)}));
 }
 
 Value Invoke(const Object& object, std::string_view operation, const Arguments& arguments) {
@@ -153,7 +147,7 @@ Value Invoke(const Object& object, std::string_view operation, const Arguments& 
   return Reported(*instance.owner, found->name, found->parameters, [&] {
     const Values values(*found, arguments);
     return found->invoke(instance.object.get(), values.Get(),
-                         {found->name, found->parameters, instance.services});
+                         {found->name, found->parameters, *instance.services});
   });
 }
 
@@ -170,7 +164,7 @@ void SetProperty(const Object& object, std::string_view property, const Value& v
   const PropertyInfo* found = FindProperty(*instance.owner, property);
   if (found == nullptr || found->write == nullptr) RaiseUnsupported(*instance.owner, property);
   Reported(*instance.owner, found->name, {}, [&] {
-    found->write(instance.object.get(), value, {found->name, {}, instance.services});
+    found->write(instance.object.get(), value, {found->name, {}, *instance.services});
   });
 }
 

@@ -53,7 +53,7 @@ ParameterRow ByRef(ParameterRow parameter) {
 OperationInfo Described(std::string_view name, std::span<const ParameterRow> parameters,
                         std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
                         std::span<const ExampleRow> examples) {
-  const HostServices services = ExampleServices();
+  ServiceSet services(ExampleServices());
   const CallContext context = {name, {}, services};
   OperationInfo info = {.name = name, .result = result, .help = help};
   for (std::size_t i = 0; i < types.size(); ++i) {

@@ -4,6 +4,7 @@
 
 #include "dates/date_math.h"
 #include "dates/first_day_of_month.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -30,14 +31,14 @@ OleDate NextOrSame(OleDate date, weekday wanted) {
 OleDate StandardObject::GETFirstMondayOfMonthYear(std::int16_t iMonth,
                                                   std::int16_t iYear2000) const {
   const OleDate first =
-      FirstDayOfMonth("GETFirstMondayOfMonthYear", iMonth, iYear2000, Convention().era);
+      FirstDayOfMonth("GETFirstMondayOfMonthYear", iMonth, iYear2000, services_->Convention().era);
   return NextOrSame(first, std::chrono::Monday);
 }
 
 OleDate StandardObject::GETFirstSaturdayOfMonthYear(std::int16_t iMonth,
                                                     std::int16_t iYear2000) const {
-  const OleDate first =
-      FirstDayOfMonth("GETFirstSaturdayOfMonthYear", iMonth, iYear2000, Convention().era);
+  const OleDate first = FirstDayOfMonth("GETFirstSaturdayOfMonthYear", iMonth, iYear2000,
+                                        services_->Convention().era);
   return NextOrSame(first, Saturday);
 }
 

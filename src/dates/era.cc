@@ -4,6 +4,7 @@
 #include <array>
 
 #include "dates/eras.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -31,19 +32,19 @@ constexpr std::array<local_days, 6> kBlankDays = {BlankDay(kBlankYear),
 }  // namespace
 
 std::int16_t StandardObject::GetEraDif() const {
-  return static_cast<std::int16_t>(EraDifference(Convention().era));
+  return static_cast<std::int16_t>(EraDifference(services_->Convention().era));
 }
 
 std::int16_t StandardObject::CTYEAR() const {
-  return static_cast<std::int16_t>(Today().Year() + GetEraDif());
+  return static_cast<std::int16_t>(services_->Today().Year() + GetEraDif());
 }
 
 std::int16_t StandardObject::Year2000(OleDate InDate) const {
-  return static_cast<std::int16_t>(YearInEra(InDate.Year(), Convention().era));
+  return static_cast<std::int16_t>(YearInEra(InDate.Year(), services_->Convention().era));
 }
 
 std::int16_t StandardObject::GetDateFormat() const {
-  const DateConvention convention = Convention();
+  const DateConvention convention = services_->Convention();
   const bool month_first = convention.order == FieldOrder::kMonthFirst;
   if (convention.era == Era::kBuddhist) return month_first ? ZQ7MDBBBB : ZQ7DMBBBB;
   return month_first ? ZQ7MDYYYY : ZQ7DMYYYY;

@@ -7,6 +7,7 @@
 #include "dates/date_math.h"
 #include "dates/date_pattern.h"
 #include "dates/eras.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -122,7 +123,7 @@ Text StandardObject::FormatTDateTime(OleDate InDate, bool ZeroLeader) const {
 }
 
 Text StandardObject::Format2000(OleDate InDate, TextView FormatText) const {
-  Text text = FormatPattern("Format2000", InDate, Day2000(InDate, Convention().era),
+  Text text = FormatPattern("Format2000", InDate, Day2000(InDate, services_->Convention().era),
                             FormatText.empty() ? u"d/m/yyyy" : FormatText);
   if (isBlankDate(InDate)) return {};
   return text;
@@ -166,17 +167,20 @@ Text StandardObject::FormatTime2(OleDate InDate, TextView FormatText) const {
   const TextView pattern = FormatText.empty() ? u"hh:nn:ss" : FormatText;
   const bool may_show_day = MayShowDay(pattern);  // most do not, and need no convention
   return FormatPattern("FormatTime2", InDate,
-                       may_show_day ? Day2000(InDate, Convention().era) : PatternDay{}, pattern);
+                       may_show_day ? Day2000(InDate, services_->Convention().era) : PatternDay{},
+                       pattern);
 }
 
 Text StandardObject::FormatPeriod(OleDate InDate) const {
   if (isBlankDate(InDate)) return {};
-  return FormatPattern("FormatPeriod", InDate, DayInEra(InDate, Convention().era), u"yyyy/mm");
+  return FormatPattern("FormatPeriod", InDate, DayInEra(InDate, services_->Convention().era),
+                       u"yyyy/mm");
 }
 
 Text StandardObject::FormatTPeriod(OleDate InDate) const {
   if (isBlankDate(InDate)) return {};
-  return FormatPattern("FormatTPeriod", InDate, DayInEra(InDate, Convention().era), u"mm/yyyy");
+  return FormatPattern("FormatTPeriod", InDate, DayInEra(InDate, services_->Convention().era),
+                       u"mm/yyyy");
 }
 
 }  // namespace ZQ7Standard

@@ -9,6 +9,7 @@
 #include "dates/civil.h"
 #include "dates/date_math.h"
 #include "dates/first_day_of_month.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -43,7 +44,7 @@ OleDate MonthsLater(std::string_view operation, OleDate start, int months, const
 
 OleDate StandardObject::AddMonth(OleDate InDate, std::int16_t NumberOfMonth) const {
   const int months = NumberOfMonth == 0 ? 1 : NumberOfMonth;
-  return MonthsLater("AddMonth", InDate, months, [this] { return Convention().era; });
+  return MonthsLater("AddMonth", InDate, months, [this] { return services_->Convention().era; });
 }
 
 OleDate StandardObject::AddYear(OleDate InDate, std::int16_t NumberOfYear) const {
@@ -52,11 +53,11 @@ OleDate StandardObject::AddYear(OleDate InDate, std::int16_t NumberOfYear) const
   if (months < Limits::min() || months > Limits::max()) {
     Raise(Error::kOverflow, {"AddYear", "NumberOfYear"}, NumberOfYear);
   }
-  return MonthsLater("AddYear", InDate, months, [this] { return Convention().era; });
+  return MonthsLater("AddYear", InDate, months, [this] { return services_->Convention().era; });
 }
 
 OleDate StandardObject::GETFirstDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const {
-  return FirstDayOfMonth("GETFirstDayOfMonthYear", iMonth, iYear2000, Convention().era);
+  return FirstDayOfMonth("GETFirstDayOfMonthYear", iMonth, iYear2000, services_->Convention().era);
 }
 
 OleDate StandardObject::GETLastDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const {

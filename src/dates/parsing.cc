@@ -14,6 +14,7 @@
 #include "dates/date_text.h"
 #include "dates/eras.h"
 #include "numbers/number_text.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -62,6 +63,10 @@ Period ReadPeriod(TextView text, Era era) {
   return {whole_number(year) - EraDifference(era), whole_number(month)};
 }
 
+std::optional<OleDate> ReadDate(ServiceSet& services, TextView text) {
+  return ReadDateText(text, services.Convention(), services.Today().Year());
+}
+
 }  // namespace
 
 OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*/) const {
@@ -74,7 +79,7 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
     if (count < fields.size()) fields[count] = *field;
   }
   if (count < 2) Raise(Error::kSubscriptOutOfRange, {"CTDATE", "iText"}, iText);
-  const DateConvention convention = Convention();
+  const DateConvention convention = services_->Convention();
   const auto [day, month, year] = InOrder(fields, convention.order);
   const auto date = ReadNamedMonthDate(month, day, year, convention.era);
   if (!date) Raise(Error::kTypeMismatch, {"CTDATE", "iText"}, iText);
@@ -94,29 +99,29 @@ bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/)
     fields[count] = *number;
   }
   if (count != fields.size()) return false;
-  const DateConvention convention = Convention();
+  const DateConvention convention = services_->Convention();
   const auto [day, month, year] = InOrder(fields, convention.order);
   return year >= kFirstTypedYear && year <= kLastTypedYear &&
          ReadNamedMonthDate(month, day, year, convention.era).has_value();
 }
 
 OleDate StandardObject::CDATE2000(TextView iText) const {
-  const auto date = ReadDate(iText);
+  const auto date = ReadDate(*services_, iText);
   if (!date) return GETBlankDate();
   return AddYears(*date, GetEraDif()).value_or(GETBlankDate());
 }
 
 OleDate StandardObject::GETValidDate(TextView DateString) const {
-  if (!IsTDateTime(DateString)) return Today();
+  if (!IsTDateTime(DateString)) return services_->Today();
   try {
     return CTDATE(DateString);
   } catch (const RunTimeError&) {
-    return Today();
+    return services_->Today();
   }
 }
 
 bool StandardObject::IsTDateTime(TextView iText) const {
-  return ReadDate(iText).has_value();
+  return ReadDate(*services_, iText).has_value();
 }
 
 bool StandardObject::isMounthYear(TextView inMMYYYY) const {
@@ -128,7 +133,7 @@ bool StandardObject::isMounthYear(TextView inMMYYYY) const {
 
 OleDate StandardObject::GETDateFromTextYYYYMMDD(TextView iDateYYYY_MM_DD) const {
   const OleDate unreadable = *DateSerial(GetEraDif(), 3, 3);
-  if (const auto date = ReadDate(iDateYYYY_MM_DD)) {
+  if (const auto date = ReadDate(*services_, iDateYYYY_MM_DD)) {
     const int year = Year2000(*date);
     if (year <= kLastGregorianKeyYear) return *date;
     return *DateSerial(year - kBuddhistOffset, date->Month(), date->Day());
@@ -146,24 +151,20 @@ OleDate StandardObject::GETDateFromTextYYYYMMDD(TextView iDateYYYY_MM_DD) const 
   Text dashed;
   AppendNumber(dashed, year, 4);
   dashed.append(u"-").append(digits, 4, 2).append(u"-").append(digits, 6, 2);
-  return ReadDate(dashed) ? *DateSerial(year, number(4, 2), number(6, 2)) : unreadable;
+  return ReadDate(*services_, dashed) ? *DateSerial(year, number(4, 2), number(6, 2)) : unreadable;
 }
 
 OleDate StandardObject::CTPeriod(TextView iText) const {
-  const Period period = ReadPeriod(iText, Convention().era);
+  const Period period = ReadPeriod(iText, services_->Convention().era);
   if (!period.IsValid()) {
-    const OleDate today = Today();
+    const OleDate today = services_->Today();
     return today.AddDays(1 - today.Day());
   }
   return *DateSerial(static_cast<int>(period.year), static_cast<int>(period.month), 1);
 }
 
 bool StandardObject::IsTPeriod(TextView iText) const {
-  return ReadPeriod(iText, Convention().era).IsValid();
-}
-
-std::optional<OleDate> StandardObject::ReadDate(TextView text) const {
-  return ReadDateText(text, Convention(), Today().Year());
+  return ReadPeriod(iText, services_->Convention().era).IsValid();
 }
 
 }  // namespace ZQ7Standard

@@ -10,6 +10,7 @@
 #include "dates/date_math.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -60,7 +61,7 @@ double DaysBetween(OleDate start, OleDate end) {
 
 OleDate StandardObject::TimeLeftDateTime(OleDate StartDate, double DoneCount,
                                          double TotalCount) const {
-  const double elapsed = DaysBetween(StartDate, services_.clock->Now());
+  const double elapsed = DaysBetween(StartDate, services_->Now());
   if (!(elapsed > 0 && DoneCount > 0 && DoneCount < TotalCount)) return {};
   return OleDate(std::min(elapsed * (TotalCount - DoneCount) / DoneCount, kLastDay));
 }
@@ -69,7 +70,7 @@ Text StandardObject::FormatTimeleft(double TimeLeft, std::optional<bool> UseThai
   if (!std::isfinite(TimeLeft)) {
     Raise(Error::kOverflow, {"FormatTimeleft", "TimeLeft"}, TimeLeft);
   }
-  const bool thai = UseThai ? *UseThai : Convention().era == Era::kBuddhist;
+  const bool thai = UseThai ? *UseThai : services_->Convention().era == Era::kBuddhist;
   const Counts counts = UnitsOf(std::max(TimeLeft, 0.0));
   Text text;
   int written = 0;

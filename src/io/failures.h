@@ -38,16 +38,6 @@ bool Try(const Steps& steps) {
   return !FailureOf(steps);
 }
 
-/// Does `steps` of printing. A failure without a number of its own becomes the printer
-/// error of `operation`.
-template <typename Steps>
-void Reported(std::string_view operation, const Steps& steps) {
-  const auto failure = FailureOf(steps);
-  if (!failure) return;
-  const RunTimeError nameless(Error::kPrinterError, failure->text);
-  RaiseNamed({operation}, failure->error ? RunTimeError(*failure->error) : nameless);
-}
-
 }  // namespace ZQ7Standard
 
 #endif  // ZQ7STANDARD_SRC_IO_FAILURES_H_

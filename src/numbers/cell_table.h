@@ -24,6 +24,9 @@ class CellTable {
   /// std::bad_alloc when they cannot be held, and changes nothing then.
   void Resize(std::size_t rows);
 
+  /// The number of cells of a row; 0 in a table without any.
+  std::size_t Width() const { return width_; }
+
   /// The first cell of a row.
   double* Row(std::int32_t row) { return cells_.get() + static_cast<std::size_t>(row) * width_; }
 

@@ -6,6 +6,7 @@
 #include <new>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "base/raise.h"
 #include "numbers/cell_table.h"
@@ -17,25 +18,87 @@ namespace {
   Raise(Error::kSubscriptOutOfRange, {operation, row < 0 ? "Row" : "Col"}, row < 0 ? row : col);
 }
 
+/// Makes room for rows and columns and their spare ones, which keep what they hold; raises
+/// 7 and changes nothing where the machine has none. Returns the rows.
+std::int32_t MakeRoom(std::unique_ptr<CellTable>& cells, std::int64_t rows, std::int32_t cols,
+                      std::string_view operation) {
+  try {
+    if (rows > std::numeric_limits<std::int32_t>::max()) throw std::bad_alloc();
+    const auto cell_rows = static_cast<std::size_t>(rows) + 1;
+    const auto width = static_cast<std::size_t>(cols) + 1;
+    if (cells->Width() == width) {
+      cells->Resize(cell_rows);
+    } else {
+      cells = std::make_unique<CellTable>(cell_rows, width);
+    }
+  } catch (const std::bad_alloc&) {
+    Raise(Error::kOutOfMemory, {operation},
+          std::to_string(rows) + " rows of " + std::to_string(cols) + " columns");
+  }
+  return static_cast<std::int32_t>(rows);
+}
+
 }  // namespace
 
 GridValueListener::~GridValueListener() = default;
 
 void GridValueListener::DataChange() {}
 
-/// While one lives, the places of the listeners stay as they are.
-class GridValueObject::Event {
+/// The listeners of a grid, which may come and go inside an event.
+class GridListeners {
  public:
-  explicit Event(GridValueObject& grid) : grid_(grid) { ++grid_.events_under_way_; }
+  /// Does nothing with one that listens already, or is null.
+  void Add(std::shared_ptr<GridValueListener> listener);
+  void Remove(const GridValueListener& listener);
+
+  /// Tells all that were there before the event and have not left since.
+  void TellCellDataChange(std::int32_t row, std::int32_t col);
+
+ private:
+  class Event;
+
+  // One that leaves inside an event leaves its place empty until the end of the last event.
+  std::vector<std::shared_ptr<GridValueListener>> places_;
+  int events_under_way_ = 0;
+};
+
+/// While one lives, the places of the listeners stay as they are.
+class GridListeners::Event {
+ public:
+  explicit Event(GridListeners& listeners) : listeners_(listeners) {
+    ++listeners_.events_under_way_;
+  }
   ~Event() {
-    if (--grid_.events_under_way_ == 0) std::erase(grid_.listeners_, nullptr);
+    if (--listeners_.events_under_way_ == 0) std::erase(listeners_.places_, nullptr);
   }
   Event(const Event&) = delete;
   Event& operator=(const Event&) = delete;
 
  private:
-  GridValueObject& grid_;
+  GridListeners& listeners_;
 };
+
+void GridListeners::Add(std::shared_ptr<GridValueListener> listener) {
+  if (!listener || std::ranges::find(places_, listener) != places_.end()) return;
+  places_.push_back(std::move(listener));
+}
+
+void GridListeners::Remove(const GridValueListener& listener) {
+  const auto place =
+      std::ranges::find(places_, &listener, &std::shared_ptr<GridValueListener>::get);
+  if (place == places_.end()) return;
+  const Event keeps_places(*this);
+  place->reset();
+}
+
+void GridListeners::TellCellDataChange(std::int32_t row, std::int32_t col) {
+  const Event event(*this);
+  const std::size_t count = places_.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::shared_ptr<GridValueListener> listener = places_[i];
+    if (listener) listener->CellDataChange(row, col);
+  }
+}
 
 GridValueObject::GridValueObject() : cells_(std::make_unique<CellTable>()) {}
 
@@ -44,27 +107,34 @@ GridValueObject::~GridValueObject() = default;
 bool GridValueObject::SetFirst(std::int32_t Rows, std::int32_t Cols, std::int32_t FixedCols,
                                std::int32_t FixedRows) {
   if (cols_ >= 0 || Cols <= 0 || Rows <= 0 || FixedCols < 0 || FixedRows < 0) return false;
-  Resize(rows_, Cols, "SetFirst");
+  MakeRoom(cells_, rows_, Cols, "SetFirst");
+  cols_ = Cols;
   if (FixedCols < cols_) fixed_cols_ = FixedCols;
   if (FixedRows < rows_) fixed_rows_ = FixedRows;
   return true;
 }
 
 void GridValueObject::SetRows(std::int32_t Rows) {
-  if (Rows > 0 && Rows > fixed_rows_) Resize(Rows, std::max(cols_, 0), "SetRows");
+  if (Rows <= 0 || Rows <= fixed_rows_) return;
+  const std::int32_t cols = std::max(cols_, 0);
+  rows_ = MakeRoom(cells_, Rows, cols, "SetRows");
+  cols_ = cols;
 }
 
 void GridValueObject::SetCols(std::int32_t Cols) {
-  if (cols_ < 0 && Cols > 0) Resize(rows_, Cols, "SetCols");
+  if (cols_ >= 0 || Cols <= 0) return;
+  MakeRoom(cells_, rows_, Cols, "SetCols");
+  cols_ = Cols;
 }
 
 bool GridValueObject::Setvalue(std::int32_t Row, std::int32_t Col, double Value) {
   if (Col >= cols_) return false;
   if (Row >= rows_ || Row < 0 || Col < 0) [[unlikely]] {
-    return SetvalueOutside(Row, Col, Value);
+    if (Row >= rows_) rows_ = MakeRoom(cells_, std::int64_t{Row} + 1, cols_, "Setvalue");
+    if (Row < 0 || Col < 0) RaiseNoCell("Setvalue", Row, Col);
   }
   cells_->Row(Row)[Col] = Value;
-  if (!listeners_.empty()) RaiseCellDataChange(Row, Col);
+  if (listeners_) listeners_->TellCellDataChange(Row, Col);
   return true;
 }
 
@@ -77,18 +147,20 @@ double GridValueObject::GetValue(std::int32_t Row, std::int32_t Col) const {
 
 void GridValueObject::RemaveItem(std::int32_t Row) {
   if (Row < 0 || Row >= rows_) return;
-  for (std::int32_t row = Row; row < rows_; ++row) {
-    std::ranges::copy(DataOfRow(row + 1), DataOfRow(row).begin());
+  for (std::int32_t row = Row; row < rows_ && cols_ > fixed_cols_; ++row) {
+    std::copy(cells_->Row(row + 1) + fixed_cols_, cells_->Row(row + 1) + cols_,
+              cells_->Row(row) + fixed_cols_);
   }
-  Resize(rows_ - 1, cols_, "RemaveItem");
+  rows_ = MakeRoom(cells_, rows_ - 1, cols_, "RemaveItem");
 }
 
 void GridValueObject::ResetRow(std::int32_t Row) {
-  if (Row >= 0 && Row < rows_) std::ranges::fill(DataOfRow(Row), 0.0);
+  if (Row < 0 || Row >= rows_ || cols_ <= fixed_cols_) return;
+  std::fill(cells_->Row(Row) + fixed_cols_, cells_->Row(Row) + cols_, 0.0);
 }
 
 void GridValueObject::Clear() {
-  Resize(fixed_rows_ + 1, cols_, "Clear");
+  rows_ = MakeRoom(cells_, fixed_rows_ + 1, cols_, "Clear");
   for (std::int32_t row = fixed_rows_; row <= rows_; ++row) {
     std::fill_n(cells_->Row(row) + fixed_cols_, cols_ + 1 - fixed_cols_, 0.0);
   }
@@ -104,63 +176,18 @@ double GridValueObject::SumCol(std::int32_t Col) const {
 double GridValueObject::SumRow(std::int32_t Row) const {
   if (Row >= rows_ || Row < fixed_rows_) return 0;
   double sum = 0;
-  for (const double value : DataOfRow(Row)) sum += value;
+  const double* const cells = cells_->Row(Row);
+  for (std::int32_t col = fixed_cols_; col < cols_; ++col) sum += cells[col];
   return sum;
 }
 
 void GridValueObject::AddListener(std::shared_ptr<GridValueListener> listener) {
-  if (!listener || std::ranges::find(listeners_, listener) != listeners_.end()) return;
-  listeners_.push_back(std::move(listener));
+  if (!listeners_) listeners_ = std::make_unique<GridListeners>();
+  listeners_->Add(std::move(listener));
 }
 
 void GridValueObject::RemoveListener(const GridValueListener& listener) {
-  const auto place =
-      std::ranges::find(listeners_, &listener, &std::shared_ptr<GridValueListener>::get);
-  if (place == listeners_.end()) return;
-  const Event keeps_places(*this);
-  place->reset();
-}
-
-/// Takes the number of rows and columns and the cells for them, the spare row
-/// and column included, or raises 7 and changes nothing.
-void GridValueObject::Resize(std::int64_t rows, std::int32_t cols, std::string_view operation) {
-  try {
-    if (rows > std::numeric_limits<std::int32_t>::max()) throw std::bad_alloc();
-    const auto cell_rows = static_cast<std::size_t>(rows) + 1;
-    if (cols == cols_) {
-      cells_->Resize(cell_rows);
-    } else {
-      cells_ = std::make_unique<CellTable>(cell_rows, static_cast<std::size_t>(cols) + 1);
-    }
-  } catch (const std::bad_alloc&) {
-    Raise(Error::kOutOfMemory, {operation},
-          std::to_string(rows) + " rows of " + std::to_string(cols) + " columns");
-  }
-  rows_ = static_cast<std::int32_t>(rows);
-  cols_ = cols;
-}
-
-std::span<double> GridValueObject::DataOfRow(std::int32_t row) const {
-  if (cols_ <= fixed_cols_) return {};
-  return {cells_->Row(row) + fixed_cols_, cells_->Row(row) + cols_};
-}
-
-/// `Setvalue` of a row past the last or a negative cell, kept apart for the speed
-/// of all others.
-bool GridValueObject::SetvalueOutside(std::int32_t row, std::int32_t col, double value) {
-  if (row >= rows_) Resize(std::int64_t{row} + 1, cols_, "Setvalue");
-  if (row < 0 || col < 0) RaiseNoCell("Setvalue", row, col);
-  return Setvalue(row, col, value);
-}
-
-/// A place that comes during the event is not called, one that empties neither.
-void GridValueObject::RaiseCellDataChange(std::int32_t row, std::int32_t col) {
-  const Event event(*this);
-  const std::size_t count = listeners_.size();
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::shared_ptr<GridValueListener> listener = listeners_[i];
-    if (listener) listener->CellDataChange(row, col);
-  }
+  if (listeners_) listeners_->Remove(listener);
 }
 
 }  // namespace ZQ7Standard

@@ -11,6 +11,7 @@
 
 #include "base/code_page.h"
 #include "base/raise.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -48,8 +49,8 @@ Text CombineShort(TextView text, TextView password, std::string_view operation) 
   return Combine(text, password, operation);
 }
 
-std::unique_ptr<BlockCipher> MakeCipher(const BlockCipherFactory& factory) {
-  auto cipher = factory ? factory() : nullptr;
+std::unique_ptr<BlockCipher> MakeCipher(const ServiceSet& services) {
+  auto cipher = services.NewCipher();
   if (!cipher) Raise(Error::kCannotCreateObject, {}, "the block cipher");
   return cipher;
 }
@@ -89,7 +90,7 @@ Text StandardObject::DecryptBS(TextView EncryptedTextInput, TextView PassWord) c
 Text StandardObject::Encrypt(TextView StringInput, TextView PassWord) const {
   if (StringInput.empty() || PassWord.empty()) return Text(StringInput);
   return Named({"Encrypt"}, [&] {
-    const auto cipher = MakeCipher(services_.block_cipher);
+    const auto cipher = MakeCipher(*services_);
     return Encipher(*cipher, StringInput, PassWord);
   });
 }
@@ -98,7 +99,7 @@ Text StandardObject::Decrypt(TextView EncryptedTextInput, TextView PassWord) con
   Text text(EncryptedTextInput);
   if (!text.empty() && !PassWord.empty()) {
     const auto plain = Named({"Decrypt"}, [&] {
-      const auto cipher = MakeCipher(services_.block_cipher);
+      const auto cipher = MakeCipher(*services_);
       return Decipher(*cipher, EncryptedTextInput, PassWord);
     });
     if (plain) text = *plain;

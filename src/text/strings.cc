@@ -12,6 +12,7 @@
 #include "base/raise.h"
 #include "base/search.h"
 #include "numbers/number_text.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -142,8 +143,8 @@ std::int32_t StandardObject::Instr2(std::int32_t start, TextView MainString, Tex
 }
 
 std::int32_t StandardObject::Random(std::int32_t Low, std::int32_t High) const {
-  services_.random_source->Reseed();
-  const float draw = services_.random_source->Next();
+  services_->Random().Reseed();
+  const float draw = services_->Random().Next();
   const std::int64_t difference = std::int64_t{High} - Low;
   const std::int64_t count = difference + 1;
   const auto offset = RoundToInteger<std::int32_t>(draw * static_cast<double>(count));

@@ -1,5 +1,7 @@
 #include "automation/conversion.h"
 
+#include <ZQ7Standard/platform/clock.h>
+#include <ZQ7Standard/platform/date_convention.h>
 #include <gtest/gtest.h>
 
 #include <array>
@@ -21,7 +23,7 @@ struct ConversionRow {
 };
 
 std::vector<std::string> Converted(const Value& value) {
-  const HostServices services = ExampleServices();
+  ServiceSet services(ExampleServices());
   const CallContext call = {"Test", {}, services};
   const Place place = {call};
   const auto outcome = [](const auto& convert) {
@@ -105,8 +107,8 @@ TEST(Conversion, EveryTypeToEveryType) {
 // A date as text reads back as the same date under every convention.
 TEST(Conversion, DatesRoundTripThroughText) {
   for (const DateConvention convention : kConventions) {
-    const HostServices services = {.clock = FixedClock(TestNow()),
-                                   .date_convention = FixedDateConvention(convention)};
+    ServiceSet services(
+        {.clock = FixedClock(TestNow()), .date_convention = FixedDateConvention(convention)});
     const CallContext call = {"Test", {}, services};
     for (const OleDate date : {OleDate::FromParts(2024, 2, 29), OleDate::FromParts(1999, 12, 31),
                                OleDate::FromParts(643, 1, 2, 23, 59, 58)}) {
@@ -116,7 +118,7 @@ TEST(Conversion, DatesRoundTripThroughText) {
 }
 
 TEST(Conversion, ListsStayLists) {
-  const HostServices services = ExampleServices();
+  ServiceSet services(ExampleServices());
   const CallContext call = {"Test", {}, services};
   EXPECT_EQ(ToTextList(TextList{u"a", u""}, {call}), (TextList{u"a", u""}));
   EXPECT_EQ(ErrorOf([&] { ToTextList(u"a", {call}); }), 13);

@@ -1,6 +1,7 @@
 // A path comes back from its parts, from its trimmed text, and from its native path.
 
 #include <ZQ7Standard/DiskObject.h>
+#include <ZQ7Standard/platform/path_text.h>
 
 #include "platform/linux/native_path.h"
 #include "tests/fuzz/check.h"

@@ -3,6 +3,7 @@
 #include <ZQ7Standard/BahtStringObject.h>
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
+#include <ZQ7Standard/platform/date_convention.h>
 
 #include <iostream>
 

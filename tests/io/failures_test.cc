@@ -5,6 +5,13 @@
 #include <ZQ7Standard/PeripheralObject.h>
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/RegistryObject.h>
+#include <ZQ7Standard/platform/file_contents.h>
+#include <ZQ7Standard/platform/file_copier.h>
+#include <ZQ7Standard/platform/file_status.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/printers.h>
+#include <ZQ7Standard/platform/registry.h>
+#include <ZQ7Standard/platform/serial_port.h>
 
 #include "tests/support/printers.h"
 #include "tests/support/rows.h"
@@ -67,8 +74,8 @@ TEST(Failures, OfServicesStayInsideOperationsThatRaiseNothing) {
     const auto thrower = std::make_shared<Thrower>(raise);
     ASCIIObject texts({.file_status = thrower, .file_reader = thrower, .message_box = thrower});
     texts.SetDisableMsgLevel(1);
-    const DiskObject blind({.status = thrower, .copier = thrower});
-    const DiskObject files({.copier = thrower});
+    const DiskObject blind({.file_status = thrower, .file_copier = thrower});
+    const DiskObject files({.file_copier = thrower});
     const RegistryObject values({.registry = thrower});
     const PeripheralObject devices({.message_box = thrower});
     const std::tuple<const char*, std::function<int()>, const char*> rows[] = {

@@ -2,6 +2,11 @@
 #define ZQ7STANDARD_TESTS_SUPPORT_ASCII_FILES_H_
 
 #include <ZQ7Standard/ASCIIObject.h>
+#include <ZQ7Standard/platform/clock.h>
+#include <ZQ7Standard/platform/file_rewrite.h>
+#include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/path_text.h>
+#include <ZQ7Standard/platform/time_text.h>
 
 #include <filesystem>
 #include <fstream>
@@ -20,8 +25,10 @@ struct FakeTimeText final : TimeTextSource {
 class AsciiFiles {
  public:
   explicit AsciiFiles(std::shared_ptr<FileRewriter> rewriter = nullptr) {
-    object = ASCIIObject({nullptr, nullptr, nullptr, rewriter, box_, FixedClock(TestNow()),
-                          std::make_shared<FakeTimeText>()});
+    object = ASCIIObject({.file_rewriter = rewriter,
+                          .clock = FixedClock(TestNow()),
+                          .time_text = std::make_shared<FakeTimeText>(),
+                          .message_box = box_});
     object.SetDisableMsgLevel(1);
   }
 

@@ -3,7 +3,12 @@
 
 #include <ZQ7Standard/RegistryObject.h>
 #include <ZQ7Standard/StandardObject.h>
+#include <ZQ7Standard/platform/block_cipher.h>
+#include <ZQ7Standard/platform/clock.h>
+#include <ZQ7Standard/platform/date_convention.h>
 #include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/random_source.h>
+#include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
 
 #include <array>

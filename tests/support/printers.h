@@ -3,6 +3,7 @@
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/print_picture.h>
+#include <ZQ7Standard/platform/printers.h>
 #include <ZQ7Standard/platform/recording_printers.h>
 
 #include <functional>

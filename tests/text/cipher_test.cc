@@ -1,6 +1,7 @@
 #include <ZQ7Standard/RegistryObject.h>
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
+#include <ZQ7Standard/platform/block_cipher.h>
 #include <gtest/gtest.h>
 
 #include <tuple>

@@ -2,6 +2,7 @@
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/automation/invoke.h>
+#include <ZQ7Standard/platform/message_box.h>
 #include <gtest/gtest.h>
 
 #include "host.h"

@@ -1,6 +1,7 @@
 #include "batch_session.h"
 
 #include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/message_box.h>
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

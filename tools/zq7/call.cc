@@ -106,7 +106,7 @@ std::string SignatureLine(const Member& member) {
 
 }  // namespace
 
-Value CallByWords(const CallWords& words, const HostServices& services) {
+Value CallByWords(const CallWords& words, const Services& services) {
   const Member member = FindOperationNamed(words.operation);
   WordArguments arguments(*member.operation);
   for (const std::string& word : words.arguments) arguments.Take(word);

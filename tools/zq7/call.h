@@ -20,7 +20,7 @@ struct CallWords {
 /// that the library converts, or the name of a member of the parameter's enumeration.
 /// Raises what the operation raises; `WrongUse` for words that are no call.
 ZQ7Standard::Automation::Value CallByWords(const CallWords& words,
-                                           const ZQ7Standard::Automation::HostServices& services);
+                                           const ZQ7Standard::Services& services);
 
 }  // namespace ZQ7Tool
 

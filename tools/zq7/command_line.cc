@@ -1,6 +1,7 @@
 #include "command_line.h"
 
 #include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/message_box.h>
 
 #include <array>
 #include <cerrno>

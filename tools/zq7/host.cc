@@ -1,5 +1,8 @@
 #include "host.h"
 
+#include <ZQ7Standard/platform/clock.h>
+#include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/recording_printers.h>
 
 #include <random>
@@ -25,7 +28,7 @@ std::filesystem::path NewFolder() {
   }
 }
 
-HostServices MachineServices() {
+Services MachineServices() {
   return {.clock = SystemClock(),
           .date_convention = SystemDateConvention(),
           .block_cipher = BuiltInBlockCipher()};

@@ -2,6 +2,7 @@
 #define ZQ7STANDARD_TOOLS_ZQ7_HOST_H_
 
 #include <ZQ7Standard/automation/invoke.h>
+#include <ZQ7Standard/platform/message_box.h>
 
 #include <filesystem>
 #include <memory>
@@ -26,10 +27,10 @@ class Host {
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
 
-  const ZQ7Standard::Automation::HostServices& Services() const { return services_; }
+  const ZQ7Standard::Services& Services() const { return services_; }
 
  private:
-  ZQ7Standard::Automation::HostServices services_;
+  ZQ7Standard::Services services_;
   std::filesystem::path example_drive_;  // empty for none
 };
 

@@ -2,6 +2,7 @@
 #define ZQ7STANDARD_AUTOMATION_CATALOGUE_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/automation/value.h>
 
 #include <cstdint>
@@ -89,7 +90,6 @@ struct EventInfo {
   std::string_view help = {};
 };
 
-struct HostServices;
 class EventSink;
 
 struct ClassInfo {
@@ -100,10 +100,10 @@ struct ClassInfo {
   std::vector<PropertyInfo> properties = {};
   std::vector<EventInfo> events = {};
   /// Null for a class whose instances are only made from a text.
-  std::shared_ptr<void> (*create)(const HostServices& services) = nullptr;
+  std::shared_ptr<void> (*create)(const Services& services) = nullptr;
   /// What a text stands for where an instance is wanted; null where only the name of the
   /// class stands for one, a new instance.
-  std::shared_ptr<void> (*from_text)(const HostServices& services, TextView text) = nullptr;
+  std::shared_ptr<void> (*from_text)(const Services& services, TextView text) = nullptr;
   /// Sends the events of an instance to `sink` until the result goes; null where the
   /// class has no events.
   std::shared_ptr<void> (*subscribe)(std::shared_ptr<void> instance,

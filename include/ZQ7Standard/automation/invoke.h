@@ -2,17 +2,9 @@
 #define ZQ7STANDARD_AUTOMATION_INVOKE_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/automation/catalogue.h>
 #include <ZQ7Standard/automation/value.h>
-#include <ZQ7Standard/platform/block_cipher.h>
-#include <ZQ7Standard/platform/clock.h>
-#include <ZQ7Standard/platform/date_convention.h>
-#include <ZQ7Standard/platform/message_box.h>
-#include <ZQ7Standard/platform/path_text.h>
-#include <ZQ7Standard/platform/printers.h>
-#include <ZQ7Standard/platform/random_source.h>
-#include <ZQ7Standard/platform/registry.h>
-#include <ZQ7Standard/platform/serial_port.h>
 
 #include <memory>
 #include <span>
@@ -20,23 +12,9 @@
 
 namespace ZQ7Standard::Automation {
 
-/// What instances made by name take of the host. A service left empty is the
-/// machine's own; there is no block cipher then.
-struct HostServices {
-  std::shared_ptr<Clock> clock = nullptr;
-  std::shared_ptr<DateConventionSource> date_convention = nullptr;
-  std::shared_ptr<RandomSource> random_source = nullptr;
-  BlockCipherFactory block_cipher = nullptr;
-  std::shared_ptr<MessageBox> message_box = nullptr;
-  SerialDevices serial_devices = {};
-  DriveMap drives = {};
-  std::shared_ptr<Registry> registry = nullptr;
-  std::shared_ptr<PrinterList> printers = nullptr;
-};
-
 /// What the examples of the catalogue run with, besides an empty folder C:\shop: a clock
 /// that stands, a date convention, and a registry in memory.
-ZQ7STANDARD_EXPORT HostServices ExampleServices();
+ZQ7STANDARD_EXPORT Services ExampleServices();
 
 struct NamedArgument {
   std::string_view name;
@@ -62,7 +40,7 @@ class ZQ7STANDARD_EXPORT EventSink {
 
 /// A new instance of a class. Raises 429 for a name that is none, and for a class whose
 /// instances are only made from a text.
-ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices& services = {});
+ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const Services& services = {});
 
 /// Calls an operation and returns its result, `Omitted` where it has none. Every failure
 /// is a `RunTimeError` that names class, operation and, where an argument is wrong, its

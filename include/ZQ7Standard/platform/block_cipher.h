@@ -5,8 +5,6 @@
 #include <ZQ7Standard/Types.h>
 
 #include <cstddef>
-#include <functional>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -68,9 +66,6 @@ class ZQ7STANDARD_EXPORT BlockCipher {
   /// The ciphertext that `text` carries; nothing when `Encode` did not write it.
   virtual std::optional<std::string> Decode(TextView text) = 0;
 };
-
-/// Makes a cipher for one call; nothing when it cannot.
-using BlockCipherFactory = std::function<std::unique_ptr<BlockCipher>()>;
 
 }  // namespace ZQ7Standard
 

@@ -2,18 +2,12 @@
 #define ZQ7STANDARD_PLATFORM_PATH_TEXT_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
 
 #include <filesystem>
-#include <map>
 
 namespace ZQ7Standard {
-
-/// The folders that the drives of path texts stand for, by the drive's letter in
-/// upper case: `{{'D', "/srv/shop"}}` makes "D:\set.ini" the file /srv/shop/set.ini, and
-/// "D:\..\set.ini" too. A drive without an entry is the root folder. docs/files.md tells
-/// what a path text means.
-using DriveMap = std::map<char, std::filesystem::path>;
 
 /// The path text of a native path: "C:\srv\app\set.ini" for /srv/app/set.ini. A
 /// relative path stays relative, "C:set.ini". A name that holds "\" or bytes that are

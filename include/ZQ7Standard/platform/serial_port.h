@@ -2,13 +2,12 @@
 #define ZQ7STANDARD_PLATFORM_SERIAL_PORT_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
 
 #include <chrono>
 #include <cstdint>
-#include <map>
 #include <memory>
-#include <string>
 
 namespace ZQ7Standard {
 
@@ -34,9 +33,6 @@ class ZQ7STANDARD_EXPORT SerialPort {
   /// Whether the port is open.
   virtual bool PortOpen() const = 0;
 };
-
-/// The devices of port numbers, such as {3, "/dev/serial/by-id/usb-..."}.
-using SerialDevices = std::map<std::int16_t, std::string>;
 
 /// A serial line of the operating system. Port n is `devices[n]`, or /dev/ttyS(n-1)
 /// where the map has no n. Without being set, it is port 1 with "9600,N,8,1". An

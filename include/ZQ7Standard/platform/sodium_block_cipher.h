@@ -2,6 +2,7 @@
 #define ZQ7STANDARD_PLATFORM_SODIUM_BLOCK_CIPHER_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/platform/block_cipher.h>
 
 #include <cstdint>
@@ -19,7 +20,7 @@ enum class KeyCost : std::uint8_t {
 
 /// Makes the cipher that comes with the library, on libsodium: a key by Argon2id
 /// with a random salt for each text, XChaCha20-Poly1305 for the text. Give it to
-/// `StandardServices::block_cipher`:
+/// `Services::block_cipher`:
 ///
 ///     StandardObject object({.block_cipher = SodiumBlockCipher()});
 ///

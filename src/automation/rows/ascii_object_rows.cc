@@ -10,14 +10,8 @@ namespace {
 
 constexpr auto kFile = u"C:\\shop\\set.ini";
 
-std::shared_ptr<void> CreateASCIIObject(const HostServices& services) {
-  return std::make_shared<ASCIIObject>(
-      ASCIIServices{.file_status = SystemFileStatus(services.drives),
-                    .file_reader = SystemFileReader(services.drives),
-                    .file_writer = SystemFileWriter(services.drives),
-                    .file_rewriter = SystemFileRewriter(services.drives),
-                    .message_box = services.message_box,
-                    .clock = services.clock});
+std::shared_ptr<void> CreateASCIIObject(const Services& services) {
+  return std::make_shared<ASCIIObject>(services);
 }
 
 void AddSettings(ClassInfo& info) {

@@ -18,7 +18,7 @@ const std::vector<ParameterRow> kMoneyText = {
 ClassInfo BahtStringObjectEntry() {
   ClassInfo info = {.name = "BahtStringObject",
                     .help = "Money amounts in Thai or English words.",
-                    .create = [](const HostServices&) -> std::shared_ptr<void> {
+                    .create = [](const Services&) -> std::shared_ptr<void> {
                       return std::make_shared<BahtStringObject>();
                     }};
   AddSubject(

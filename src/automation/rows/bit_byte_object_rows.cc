@@ -10,7 +10,7 @@ namespace ZQ7Standard::Automation {
 ClassInfo BitByteObjectEntry() {
   ClassInfo info = {.name = "BitByteObject",
                     .help = "Binary, octal and hexadecimal text, column letters and single bits.",
-                    .create = [](const HostServices&) -> std::shared_ptr<void> {
+                    .create = [](const Services&) -> std::shared_ptr<void> {
                       return std::make_shared<BitByteObject>();
                     }};
   AddSubject(

@@ -10,9 +10,8 @@ namespace ZQ7Standard::Automation {
 ClassInfo CImageInfoEntry() {
   ClassInfo info = {.name = "CImageInfo",
                     .help = "The kind, size and colour depth of an image file.",
-                    .create = [](const HostServices& services) -> std::shared_ptr<void> {
-                      return std::make_shared<CImageInfo>(
-                          ImageServices{.reader = SystemFileReader(services.drives)});
+                    .create = [](const Services& services) -> std::shared_ptr<void> {
+                      return std::make_shared<CImageInfo>(services);
                     }};
   info.properties = {Property<&CImageInfo::Width>("Width", "The width in pixels."),
                      Property<&CImageInfo::Height>("Height", "The height in pixels."),

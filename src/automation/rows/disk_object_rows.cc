@@ -8,10 +8,8 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-std::shared_ptr<void> CreateDiskObject(const HostServices& services) {
-  return std::make_shared<DiskObject>(DiskServices{.status = SystemFileStatus(services.drives),
-                                                   .folders = SystemFolders(services.drives),
-                                                   .copier = SystemFileCopier(services.drives)});
+std::shared_ptr<void> CreateDiskObject(const Services& services) {
+  return std::make_shared<DiskObject>(services);
 }
 
 void AddPaths(ClassInfo& info) {

@@ -54,7 +54,7 @@ ClassInfo GridValueObjectEntry() {
       .name = "GridValueObject",
       .help = "The numbers behind a grid on the screen, with sums and a change event.",
       .events = Events(),
-      .create = [](const HostServices&) -> std::shared_ptr<void> {
+      .create = [](const Services&) -> std::shared_ptr<void> {
         return std::make_shared<GridValueObject>();
       },
       .subscribe = SubscribeToGrid};

@@ -10,9 +10,8 @@ namespace ZQ7Standard::Automation {
 ClassInfo PeripheralObjectEntry() {
   ClassInfo info = {.name = "PeripheralObject",
                     .help = "Commands to devices on a serial line, such as a cash drawer.",
-                    .create = [](const HostServices& services) -> std::shared_ptr<void> {
-                      return std::make_shared<PeripheralObject>(
-                          PeripheralServices{.message_box = services.message_box});
+                    .create = [](const Services& services) -> std::shared_ptr<void> {
+                      return std::make_shared<PeripheralObject>(services);
                     }};
   AddSubject(
       info, "Devices on a serial line",
@@ -29,7 +28,7 @@ ClassInfo PeripheralObjectEntry() {
 ClassInfo SerialPortEntry() {
   ClassInfo info = {.name = "SerialPort",
                     .help = "A serial line, for the operations of `PeripheralObject`.",
-                    .create = [](const HostServices& services) -> std::shared_ptr<void> {
+                    .create = [](const Services& services) -> std::shared_ptr<void> {
                       return SystemSerialPort(services.serial_devices);
                     }};
   info.properties = {

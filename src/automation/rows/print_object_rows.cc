@@ -67,12 +67,11 @@ void AddPrinting(ClassInfo& info) {
 }  // namespace
 
 ClassInfo PrintObjectEntry() {
-  ClassInfo info = {
-      .name = "PrintObject",
-      .help = "Printers, papers and printed pages.",
-      .create = [](const HostServices& services) -> std::shared_ptr<void> {
-        return std::make_shared<PrintObject>(PrintServices{.printers = services.printers});
-      }};
+  ClassInfo info = {.name = "PrintObject",
+                    .help = "Printers, papers and printed pages.",
+                    .create = [](const Services& services) -> std::shared_ptr<void> {
+                      return std::make_shared<PrintObject>(services);
+                    }};
   for (const auto add : {AddSelection, AddTexts, AddPrinting}) add(info);
   return info;
 }
@@ -81,7 +80,7 @@ ClassInfo PrintPictureEntry() {
   ClassInfo info = {
       .name = "PrintPicture",
       .help = "A picture for `PrintObject`; a path makes one of a PNG or JPEG file.",
-      .from_text = [](const HostServices& services, TextView path) -> std::shared_ptr<void> {
+      .from_text = [](const Services& services, TextView path) -> std::shared_ptr<void> {
         return PictureFromFile(path, services.drives);
       }};
   info.properties = {Property<&PrintPicture::Width>("Width", "The width in millimetres."),

@@ -49,12 +49,11 @@ void AddCipher(ClassInfo& info) {
 }  // namespace
 
 ClassInfo RegistryObjectEntry() {
-  ClassInfo info = {
-      .name = "RegistryObject",
-      .help = "Registry values, and a password cipher for texts kept there.",
-      .create = [](const HostServices& services) -> std::shared_ptr<void> {
-        return std::make_shared<RegistryObject>(RegistryServices{.registry = services.registry});
-      }};
+  ClassInfo info = {.name = "RegistryObject",
+                    .help = "Registry values, and a password cipher for texts kept there.",
+                    .create = [](const Services& services) -> std::shared_ptr<void> {
+                      return std::make_shared<RegistryObject>(services);
+                    }};
   AddValues(info);
   AddCipher(info);
   return info;

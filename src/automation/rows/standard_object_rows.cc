@@ -11,12 +11,8 @@ ClassInfo StandardObjectEntry() {
   ClassInfo info = {
       .name = "StandardObject",
       .help = "Dates, payment terms, numbers, lists, keys, bar codes, ciphers and digests.",
-      .create = [](const HostServices& services) -> std::shared_ptr<void> {
-        return std::make_shared<StandardObject>(
-            StandardServices{.clock = services.clock,
-                             .date_convention = services.date_convention,
-                             .random_source = services.random_source,
-                             .block_cipher = services.block_cipher});
+      .create = [](const Services& services) -> std::shared_ptr<void> {
+        return std::make_shared<StandardObject>(services);
       }};
   AddDateOperations(info);
   AddNumberOperations(info);

@@ -3,6 +3,7 @@
 #include "base/ascii.h"
 #include "base/code_page.h"
 #include "formats/lines.h"
+#include "io/files/attempts.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -22,16 +23,16 @@ Text LogDate(OleDate moment) {
 
 void ASCIIObject::AddLog(TextView iTextFile, TextView iOwner, TextView iType, TextView iSuccess,
                          TextView iDescription) const {
-  Attempt([&] {
+  Attempt(*services_, disable_msg_level_, [&] {
     const TextView problem =
-        FolderProblem(iTextFile, u"Specified folder or no permission to updated.");
+        FolderProblem(*services_, iTextFile, u"Specified folder or no permission to updated.");
     if (!problem.empty()) return problem;
-    const OleDate now = services_.clock->Now();
-    Text line = LogDate(now) + u';' + services_.time_text->LongTime(now);
+    const OleDate now = services_->Now();
+    Text line = LogDate(now) + u';' + services_->TimeText().LongTime(now);
     for (const TextView field : {iOwner, iType, iSuccess, iDescription}) {
       line.append(u";").append(field);
     }
-    services_.file_writer->Append(iTextFile, ToCodePage(line).append(kLineEnd));
+    services_->FileWriter().Append(iTextFile, ToCodePage(line).append(kLineEnd));
     return problem;
   });
 }

@@ -9,6 +9,7 @@
 #include "base/raise.h"
 #include "formats/lines.h"
 #include "formats/path_parts.h"
+#include "io/files/attempts.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -40,14 +41,14 @@ bool IsDesktop(TextView folder) {
 
 Text ASCIIObject::GETAllTextFile(TextView iTextFile) const {
   const auto contents = Named({"GETAllTextFile", "iTextFile"},
-                              [&] { return services_.file_reader->ReadAll(iTextFile); });
+                              [&] { return services_->FileReader().ReadAll(iTextFile); });
   return contents ? FromCodePage(*JoinLines(*contents, LinesTaken(1, 0))) : Text();
 }
 
 Text ASCIIObject::GETLineTextFile(TextView iTextFile, std::int32_t FromLine,
                                   std::int32_t ToLine) const {
   const auto contents = Named({"GETLineTextFile", "iTextFile"},
-                              [&] { return services_.file_reader->ReadAll(iTextFile); });
+                              [&] { return services_->FileReader().ReadAll(iTextFile); });
   if (!contents) return {};
   const auto lines = JoinLines(*contents, LinesTaken(FromLine, ToLine));
   if (!lines) Raise(Error::kOverflow, {"GETLineTextFile", "ToLine"}, ToLine);
@@ -60,20 +61,20 @@ void ASCIIObject::SaveStringToTextFile(TextView iTextFile, TextView iValue) cons
 
 void ASCIIObject::SaveStringToTextFile2(TextView iTextFile, TextView iValue,
                                         bool UseAppendMode) const {
-  Attempt([&]() -> TextView {
+  Attempt(*services_, disable_msg_level_, [&]() -> TextView {
     const std::string bytes = ToCodePage(iValue);
     const auto append = [&] {
-      const auto file = services_.file_status->StatusOf(iTextFile);
+      const auto file = services_->FileStatus().StatusOf(iTextFile);
       if (!file || file->is_folder) return false;
-      services_.file_writer->Append(iTextFile, bytes);
+      services_->FileWriter().Append(iTextFile, bytes);
       return true;
     };
     const auto rewrite = [&] {
-      return services_.file_rewriter->Rewrite(iTextFile, [&](const auto&) { return bytes; });
+      return services_->FileRewriter().Rewrite(iTextFile, [&](const auto&) { return bytes; });
     };
     const bool desktop = IsDesktop(FolderPart(iTextFile));
     return WriteOrCreate(
-        iTextFile, [&] { return UseAppendMode ? append() : rewrite(); }, bytes,
+        *services_, iTextFile, [&] { return UseAppendMode ? append() : rewrite(); }, bytes,
         desktop ? u"" : u"Specified folder can not write.");
   });
 }

@@ -6,21 +6,22 @@
 
 #include "base/raise.h"
 #include "formats/image_header.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 
-CImageInfo::CImageInfo() : CImageInfo(ImageServices{}) {}
+CImageInfo::CImageInfo() : CImageInfo(Services{}) {}
 
-CImageInfo::CImageInfo(ImageServices services) : services_(std::move(services)) {
-  if (!services_.reader) services_.reader = SystemFileReader();
-}
+CImageInfo::CImageInfo(Services services)
+    : services_(std::make_shared<ServiceSet>(std::move(services))) {}
 
 void CImageInfo::ReadImageInfo(TextView sFileName) {
   width_ = height_ = depth_ = 0;
   image_type_ = itUNKNOWN;
   std::array<char, kImageHeaderSize> start;
-  const std::size_t size = Named({"ReadImageInfo", "sFileName"},
-                                 [&] { return services_.reader->ReadStart(sFileName, start); });
+  const std::size_t size = Named({"ReadImageInfo", "sFileName"}, [&] {
+    return services_->FileReader().ReadStart(sFileName, start);
+  });
   const ImageHeader header = ReadImageHeader({start.data(), size});
   if (header.depth > std::numeric_limits<std::uint8_t>::max()) {
     Raise(Error::kOverflow, {"ReadImageInfo", "sFileName"}, sFileName, "depth");

@@ -5,6 +5,7 @@
 
 #include "base/raise.h"
 #include "io/failures.h"
+#include "io/paths/folder_status.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -37,16 +38,16 @@ bool Contains(const FolderIdentities& folders, const FolderIdentity& folder) {
 /// counts it. The subfolders are filled after the files are copied. None of them may be
 /// one of `around`, the folders that `from` and `to` are in: it would hold the copy of
 /// itself.
-std::int32_t CopyEntries(const DiskServices& services, const Text& from, const Text& to,
+std::int32_t CopyEntries(ServiceSet& services, const Text& from, const Text& to,
                          FolderIdentities& around) {
-  const std::vector<FolderEntry> entries = services.folders->List(from);
+  const std::vector<FolderEntry> entries = services.Folders().List(from);
   for (const auto& [name, folder] : entries) {
     if (!folder) {
-      services.copier->Copy(from + name, to + name, ExistingTarget::kReplace);
+      services.FileCopier().Copy(from + name, to + name, ExistingTarget::kReplace);
       continue;
     }
     if (Contains(around, *folder)) RefuseEndlessCopy(from + name);
-    services.folders->Create(to + name);
+    services.Folders().Create(to + name);
   }
   auto count = static_cast<std::int32_t>(entries.size());
   for (const auto& [name, folder] : entries) {
@@ -58,47 +59,49 @@ std::int32_t CopyEntries(const DiskServices& services, const Text& from, const T
   return count;
 }
 
+/// Copies a folder as `XCopyFile` does.
+std::int32_t CopyFolder(ServiceSet& services, TextView from_file, TextView to_file) {
+  const FolderIdentities source = services.Folders().Enclosing(from_file);
+  if (!IsFolder(services, from_file) || source.empty()) return 0;
+  const Text from = AsFolder(from_file);
+  const Text to = AsFolder(to_file);
+  FolderIdentities around = services.Folders().Enclosing(to);
+  const bool is_source = IsFolder(services, to) && around == source;
+  if (Contains(around, source.front()) && !is_source) RefuseEndlessCopy(Text(to_file));
+  const bool is_target_there = Try([&] { MakeFolder(services, to); });
+  around = services.Folders().Enclosing(to);
+  around.push_back(source.front());
+  return (is_target_there ? 1 : 0) + CopyEntries(services, from, to, around);
+}
+
+/// Whether the file `path` has the last-modified time of `source`, as closely as its file
+/// system keeps times.
+bool HasTimeOf(ServiceSet& services, const FileStatus& source, TextView path,
+               const FileStatus& status) {
+  if (status.last_modified == source.last_modified) return true;
+  auto step = std::chrono::nanoseconds(1);
+  Try([&] { step = services.FileStatus().TimeStep(path); });
+  return step.count() > 0 && status.last_modified == CutTo(step, source.last_modified);
+}
+
 }  // namespace
 
 std::int16_t DiskObject::CopyFileCheck(TextView FromFile, TextView ToFile, bool OverwriteFile,
                                        std::int16_t /*CheckCondition*/) const {
-  const auto from = StatusOf(FromFile);
+  const auto from = StatusOf(*services_, FromFile);
   if (!from || from->is_folder) return 0;
-  const auto to = StatusOf(ToFile);
+  const auto to = StatusOf(*services_, ToFile);
   if (to && !to->is_folder) {
-    if (to->read_only) Try([&] { services_.status->ClearReadOnly(ToFile); });
-    if (HasTimeOf(*from, ToFile, *to)) return 0;
+    if (to->read_only) Try([&] { services_->FileStatus().ClearReadOnly(ToFile); });
+    if (HasTimeOf(*services_, *from, ToFile, *to)) return 0;
   }
   const auto existing = OverwriteFile ? ExistingTarget::kReplace : ExistingTarget::kRefuse;
-  Try([&] { services_.copier->Copy(FromFile, ToFile, existing); });
+  Try([&] { services_->FileCopier().Copy(FromFile, ToFile, existing); });
   return 1;
 }
 
 std::int32_t DiskObject::XCopyFile(TextView from_file, TextView to_file) const {
-  return Named({"XCopyFile"}, [&] { return CopyFolder(from_file, to_file); });
-}
-
-/// Copies a folder as `XCopyFile` does.
-std::int32_t DiskObject::CopyFolder(TextView from_file, TextView to_file) const {
-  const FolderIdentities source = services_.folders->Enclosing(from_file);
-  if (!IsFolder(from_file) || source.empty()) return 0;
-  const Text from = AsFolder(from_file);
-  const Text to = AsFolder(to_file);
-  FolderIdentities around = services_.folders->Enclosing(to);
-  const bool is_source = IsFolder(to) && around == source;
-  if (Contains(around, source.front()) && !is_source) RefuseEndlessCopy(Text(to_file));
-  const bool is_target_there = Try([&] { MakeFolder(to); });
-  around = services_.folders->Enclosing(to);
-  around.push_back(source.front());
-  return (is_target_there ? 1 : 0) + CopyEntries(services_, from, to, around);
-}
-
-bool DiskObject::HasTimeOf(const FileStatus& source, TextView path,
-                           const FileStatus& status) const {
-  if (status.last_modified == source.last_modified) return true;
-  auto step = std::chrono::nanoseconds(1);
-  Try([&] { step = services_.status->TimeStep(path); });
-  return step.count() > 0 && status.last_modified == CutTo(step, source.last_modified);
+  return Named({"XCopyFile"}, [&] { return CopyFolder(*services_, from_file, to_file); });
 }
 
 }  // namespace ZQ7Standard

@@ -6,7 +6,7 @@
 #include "base/pieces.h"
 #include "base/raise.h"
 #include "formats/path_parts.h"
-#include "io/failures.h"
+#include "io/paths/folder_status.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -32,13 +32,10 @@ TextView Head(TextView path, std::size_t length) {
 
 }  // namespace
 
-DiskObject::DiskObject() : DiskObject(DiskServices{}) {}
+DiskObject::DiskObject() : DiskObject(Services{}) {}
 
-DiskObject::DiskObject(DiskServices services) : services_(std::move(services)) {
-  if (!services_.status) services_.status = SystemFileStatus();
-  if (!services_.folders) services_.folders = SystemFolders();
-  if (!services_.copier) services_.copier = SystemFileCopier();
-}
+DiskObject::DiskObject(Services services)
+    : services_(std::make_shared<ServiceSet>(std::move(services))) {}
 
 Text DiskObject::FileName(TextView full_name) const {
   return Text(FileNamePart(full_name));
@@ -65,30 +62,10 @@ std::int16_t DiskObject::CreateFullPath(TextView FullPathName) const {
   Named({"CreateFullPath", "FullPathName"}, [&] {
     for (std::size_t end = 0; end < path.size(); ++end) {
       end = std::min(path.find(kSeparator, end), path.size());
-      MakeFolder(path.substr(0, end));
+      MakeFolder(*services_, path.substr(0, end));
     }
   });
-  return IsFolder(path) ? -1 : 0;
-}
-
-std::optional<FileStatus> DiskObject::StatusOf(TextView path) const {
-  std::optional<FileStatus> status;
-  Try([&] { status = services_.status->StatusOf(path); });
-  return status;
-}
-
-bool DiskObject::IsFolder(TextView path) const {
-  const auto status = StatusOf(path);
-  return status && status->is_folder;
-}
-
-void DiskObject::MakeFolder(TextView path) const {
-  if (IsFolder(path)) return;
-  try {
-    services_.folders->Create(path);
-  } catch (const RunTimeError&) {
-    if (!IsFolder(path)) throw;
-  }
+  return IsFolder(*services_, path) ? -1 : 0;
 }
 
 }  // namespace ZQ7Standard

@@ -5,6 +5,7 @@
 
 #include "base/raise.h"
 #include "io/failures.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -35,11 +36,10 @@ void Transmit(SerialPort* control, TextView code, std::int16_t port, TextView se
 
 }  // namespace
 
-PeripheralObject::PeripheralObject() : PeripheralObject(PeripheralServices{}) {}
+PeripheralObject::PeripheralObject() : PeripheralObject(Services{}) {}
 
-PeripheralObject::PeripheralObject(PeripheralServices services) : services_(std::move(services)) {
-  if (!services_.message_box) services_.message_box = ErrorStreamMessageBox();
-}
+PeripheralObject::PeripheralObject(Services services)
+    : services_(std::make_shared<ServiceSet>(std::move(services))) {}
 
 std::int16_t PeripheralObject::SendCommMsg(const std::shared_ptr<SerialPort>& iControl,
                                            TextView iCode, std::int16_t iPort,
@@ -54,7 +54,7 @@ std::int16_t PeripheralObject::OpenDraw(const std::shared_ptr<SerialPort>& iCont
     const std::string text =
         "Error! : " + std::to_string(ResultOf(failure)) + "\r\n" + failure->text;
     Try([&] {
-      services_.message_box->Show(
+      services_->MessageBox().Show(
           {.title = u"", .text = FromUtf8(text), .icon = MessageIcon::kCritical});
     });
   }

@@ -1,10 +1,11 @@
 #include <ZQ7Standard/PrintObject.h>
 
-#include <cstdlib>
 #include <utility>
 
 #include "base/case_mapping.h"
 #include "io/failures.h"
+#include "io/printing/current_printer.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -18,45 +19,23 @@ PrinterSettings& SettingsOf(const Printer& printer) {
   return *printer.settings;
 }
 
-/// Whether the environment variable "OS", or what the host put in its place, names
-/// the system that has papers of its own from 256 up.
-bool IsWindowsNt(const std::optional<Text>& os) {
-  if (os) return EqualsIgnoringCase(*os, u"WINDOWS_NT");
-  const char* const variable = std::getenv("OS");
-  return variable != nullptr && EqualsIgnoringCase(FromUtf8(variable), u"WINDOWS_NT");
+/// Whether the environment variable "OS" names the system that has papers of its own
+/// from 256 up.
+bool IsWindowsNt(const ServiceSet& services) {
+  const auto os = services.Os();
+  return os && EqualsIgnoringCase(*os, u"WINDOWS_NT");
 }
 
 }  // namespace
 
-PrintObject::PrintObject() : PrintObject(PrintServices{}) {}
+PrintObject::PrintObject() : PrintObject(Services{}) {}
 
-PrintObject::PrintObject(PrintServices services) : services_(std::move(services)) {
-  if (!services_.printers) {
-    services_.printers = SystemPrinters();
-  } else {
-    // Another object with the same printers may make another one current.
-    Attempt([this] { device_name_ = services_.printers->Current().device_name; });
-  }
-}
-
-/// Does `steps` as one operation, leaving out those after one that fails.
-void PrintObject::Attempt(const std::function<void()>& steps) const {
-  Try([&] { services_.printers->DoOperation(steps); });
-}
-
-/// Does `steps` as one operation, and reports its failure.
-void PrintObject::Perform(std::string_view operation, const std::function<void()>& steps) const {
-  Reported(operation, [&] { services_.printers->DoOperation(steps); });
-}
-
-Printer PrintObject::MakeRememberedCurrent() {
-  Printer current = services_.printers->Current();
-  if (!device_name_ || EqualsIgnoringCase(current.device_name, *device_name_)) return current;
-  for (const Printer& printer : services_.printers->Installed()) {
-    if (EqualsIgnoringCase(printer.device_name, *device_name_))
-      services_.printers->MakeCurrent(printer);
-  }
-  return services_.printers->Current();
+PrintObject::PrintObject(Services services)
+    : services_(std::make_shared<ServiceSet>(std::move(services))) {
+  if (!services_->Given().printers) return;
+  // Another object with the same printers may make another one current.
+  TryOperation(services_->Printers(),
+               [this] { device_name_ = services_->Printers().Current().device_name; });
 }
 
 std::int16_t PrintObject::SelectPrinter(TextView DeviceName, std::int16_t Orientation,
@@ -73,11 +52,11 @@ std::int16_t PrintObject::SelectPrinter2(TextView DeviceName, std::int16_t /*Ori
 
 std::int16_t PrintObject::CheckPaperSize(std::int16_t StartSize) {
   std::int16_t in_force = 0;
-  Attempt([&] {
-    const Printer printer = MakeRememberedCurrent();
+  TryOperation(services_->Printers(), [&] {
+    const Printer printer = MakeCurrent(services_->Printers(), device_name_);
     PrinterSettings& settings = SettingsOf(printer);
     in_force = settings.Get(PrinterSetting::kPaperSize);
-    const bool refused = StartSize >= kUserDefinedPaper && IsWindowsNt(services_.os);
+    const bool refused = StartSize >= kUserDefinedPaper && IsWindowsNt(*services_);
     if (StartSize >= 1 && !refused) in_force = StartSize;
     settings.Set(PrinterSetting::kPaperSize, in_force);
   });
@@ -86,8 +65,8 @@ std::int16_t PrintObject::CheckPaperSize(std::int16_t StartSize) {
 
 std::int16_t PrintObject::CheckPaperBin(std::int16_t StartBin) {
   std::int16_t in_force = 0;
-  Attempt([&] {
-    const Printer printer = MakeRememberedCurrent();
+  TryOperation(services_->Printers(), [&] {
+    const Printer printer = MakeCurrent(services_->Printers(), device_name_);
     PrinterSettings& settings = SettingsOf(printer);
     in_force = settings.Get(PrinterSetting::kPaperBin);
     if (StartBin >= 1 && StartBin != kDefaultBin) in_force = StartBin;

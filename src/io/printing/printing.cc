@@ -4,8 +4,10 @@
 
 #include "base/raise.h"
 #include "io/failures.h"
+#include "io/printing/current_printer.h"
 #include "io/printing/fitting_text.h"
 #include "numbers/number_text.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -76,11 +78,20 @@ void ChangeFont(PrintDocument& document, TextView name, double size, bool bold, 
   document.SetFont(font);
 }
 
+/// The document of `printer` to place something in; `last` starts at its position.
+std::shared_ptr<PrintDocument> DocumentToPlaceIn(const Printer& printer, PagePosition& last) {
+  auto document = DocumentOf(printer);
+  const PagePosition position = document->Position();
+  if (last.x == 0) last.x = position.x;
+  if (last.y == 0) last.y = position.y;
+  return document;
+}
+
 }  // namespace
 
 std::int16_t PrintObject::PrintStart() {
-  Perform("PrintStart", [this] {
-    const auto document = DocumentOf(services_.printers->Current());
+  DoOperation("PrintStart", services_->Printers(), [this] {
+    const auto document = DocumentOf(services_->Printers().Current());
     document->UseMillimetres();
     document->MoveTo({1, 1});
   });
@@ -88,8 +99,8 @@ std::int16_t PrintObject::PrintStart() {
 }
 
 std::int16_t PrintObject::PrintSet(float Row, float Col, std::uint8_t /*FSize*/, TextView message) {
-  Attempt([&] {
-    const auto document = DocumentOf(services_.printers->Current());
+  TryOperation(services_->Printers(), [&] {
+    const auto document = DocumentOf(services_->Printers().Current());
     Try([&] { document->SetFont(ThaiFont()); });
     Try([&] { SwitchBoldOff(*document); });
     Try([&] { document->MoveTo({Row, Col}); });
@@ -98,20 +109,13 @@ std::int16_t PrintObject::PrintSet(float Row, float Col, std::uint8_t /*FSize*/,
   return 0;
 }
 
-std::shared_ptr<PrintDocument> PrintObject::DocumentToPlaceIn() {
-  auto document = DocumentOf(MakeRememberedCurrent());
-  const PagePosition position = document->Position();
-  if (last_.x == 0) last_.x = position.x;
-  if (last_.y == 0) last_.y = position.y;
-  return document;
-}
-
 std::int16_t PrintObject::PrintGraphicText(TextView sMsg, std::int32_t x, std::int32_t y,
                                            std::int32_t MoveLine, std::int32_t Alignment,
                                            double MaxLenText, TextView FontName, double FontSize,
                                            bool FontBold, bool FontItalic) {
-  Perform(kText, [&] {
-    const auto document = DocumentToPlaceIn();
+  DoOperation(kText, services_->Printers(), [&] {
+    const auto document =
+        DocumentToPlaceIn(MakeCurrent(services_->Printers(), device_name_), last_);
     const TextView text = Shortened(sMsg, MaxLenText, *document);
     ChangeFont(*document, FontName, FontSize, FontBold, FontItalic);
     const PagePosition current = document->Position();
@@ -128,8 +132,9 @@ std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>
                                              std::int32_t x, std::int32_t y, float W, float H,
                                              std::int32_t MoveLine) {
   if (!Src) Raise(Error::kInvalidArgument, {kObject, "Src"}, "no picture");
-  Perform(kObject, [&] {
-    const auto document = DocumentToPlaceIn();
+  DoOperation(kObject, services_->Printers(), [&] {
+    const auto document =
+        DocumentToPlaceIn(MakeCurrent(services_->Printers(), device_name_), last_);
     const PagePosition current = document->Position();
     const float down = MoveLine != 0 ? PlaceOf(kObject, y, current.y) : last_.y;
     const PagePosition at{PlaceOf(kObject, x, current.x), down};
@@ -142,12 +147,14 @@ std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>
 }
 
 std::int16_t PrintObject::PrintOut() {
-  Perform("PrintOut", [this] { DocumentOf(services_.printers->Current())->End(); });
+  DoOperation("PrintOut", services_->Printers(),
+              [this] { DocumentOf(services_->Printers().Current())->End(); });
   return 0;
 }
 
 std::int16_t PrintObject::PrintCancel() {
-  Perform("PrintCancel", [this] { DocumentOf(services_.printers->Current())->Abort(); });
+  DoOperation("PrintCancel", services_->Printers(),
+              [this] { DocumentOf(services_->Printers().Current())->Abort(); });
   return 0;
 }
 

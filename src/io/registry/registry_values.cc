@@ -6,6 +6,7 @@
 
 #include "base/code_page.h"
 #include "io/failures.h"
+#include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -68,23 +69,22 @@ bool WriteFails(Registry& registry, std::int32_t root, TextView keyname, TextVie
 
 }  // namespace
 
-RegistryObject::RegistryObject() : RegistryObject(RegistryServices{}) {}
+RegistryObject::RegistryObject() : RegistryObject(Services{}) {}
 
-RegistryObject::RegistryObject(RegistryServices services) : services_(std::move(services)) {
-  if (!services_.registry) services_.registry = SystemRegistry();
-}
+RegistryObject::RegistryObject(Services services)
+    : services_(std::make_shared<ServiceSet>(std::move(services))) {}
 
 std::int32_t RegistryObject::GetKeyValueLong(std::int32_t keyroot, TextView keyname,
                                              TextView subkeyname) const {
   NumberBytes buffer{};
-  const auto value = Read(*services_.registry, keyroot, keyname, subkeyname, buffer);
+  const auto value = Read(services_->Registry(), keyroot, keyname, subkeyname, buffer);
   return value && value->type == kRegistryNumber ? NumberOf(buffer) : 0;
 }
 
 Text RegistryObject::GetKeyValueString(std::int32_t keyroot, TextView keyname,
                                        TextView subkeyname) const {
   std::array<char, kTextBuffer> buffer{};
-  const auto value = Read(*services_.registry, keyroot, keyname, subkeyname, buffer);
+  const auto value = Read(services_->Registry(), keyroot, keyname, subkeyname, buffer);
   if (!value || value->type != kRegistryText) return {};
   std::string_view bytes(buffer.data(), value->size);
   if (bytes.ends_with('\0')) bytes.remove_suffix(1);
@@ -94,13 +94,13 @@ Text RegistryObject::GetKeyValueString(std::int32_t keyroot, TextView keyname,
 bool RegistryObject::UpdateKeyValueLong(std::int32_t keyroot, TextView keyname, TextView subkeyname,
                                         std::int32_t keyval) const {
   const NumberBytes bytes = BytesOf(keyval);
-  return WriteFails(*services_.registry, keyroot, keyname, subkeyname, kRegistryNumber,
+  return WriteFails(services_->Registry(), keyroot, keyname, subkeyname, kRegistryNumber,
                     {bytes.data(), bytes.size()});
 }
 
 bool RegistryObject::UpdateKeyValueString(std::int32_t keyroot, TextView keyname,
                                           TextView subkeyname, TextView keyval) const {
-  return WriteFails(*services_.registry, keyroot, keyname, subkeyname, kRegistryText,
+  return WriteFails(services_->Registry(), keyroot, keyname, subkeyname, kRegistryText,
                     ToCodePage(keyval));
 }
 

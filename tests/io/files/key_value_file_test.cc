@@ -1,4 +1,5 @@
 #include <ZQ7Standard/ASCIIObject.h>
+#include <ZQ7Standard/platform/path_text.h>
 
 #include "tests/support/ascii_files.h"
 #include "tests/support/rows.h"

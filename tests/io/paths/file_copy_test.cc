@@ -1,4 +1,7 @@
 #include <ZQ7Standard/DiskObject.h>
+#include <ZQ7Standard/platform/file_copier.h>
+#include <ZQ7Standard/platform/file_status.h>
+#include <ZQ7Standard/platform/folders.h>
 #include <sched.h>
 #include <signal.h>
 #include <sys/mount.h>
@@ -49,7 +52,7 @@ TEST(CopyFileCheck, ComparesTimesAsTheTargetKeepsThem) {
     const TempFolder folder;
     folder.Run("touch -d @" + from + " from; touch -d @" + to + " to");
     const auto status = std::make_shared<SteppedTimes>(std::chrono::nanoseconds(step));
-    return DiskObject({.status = status}).CopyFileCheck(folder.Path("from"), folder.Path("to"));
+    return DiskObject({.file_status = status}).CopyFileCheck(folder.Path("from"), folder.Path("to"));
   }, {
       {{1, "61.5", "61.5"}, "0"}, {{1, "61.500000001", "61.5"}, "1"},
       {{2'000'000'000, "61.999999999", "60"}, "0"}, {{2'000'000'000, "62", "60"}, "1"},
@@ -98,9 +101,7 @@ TEST(XCopyFile, RefusesATargetInTheSourceByWhateverName) {
       return FromUtf8(text);
     };
     const std::string before = folder.Run("find");
-    const DriveMap drives = {{'T', folder.Native() / "t"}};
-    const DiskObject disk(
-        {SystemFileStatus(drives), SystemFolders(drives), SystemFileCopier(drives)});
+    const DiskObject disk({.drives = {{'T', folder.Native() / "t"}}});
     const std::string result = ResultOf([&] { return disk.XCopyFile(path(from), path(to)); });
     std::filesystem::current_path(current);
     return result + (folder.Run("find") == before ? "" : " and more");

@@ -1,4 +1,6 @@
 #include <ZQ7Standard/DiskObject.h>
+#include <ZQ7Standard/platform/file_status.h>
+#include <ZQ7Standard/platform/folders.h>
 
 #include "tests/support/rows.h"
 #include "tests/support/temp_folder.h"
@@ -26,7 +28,7 @@ TEST(Paths, AreSplitTrimmedAndShortened) {
 TEST(CreateFullPath, MakesEachFolderThatIsMissing) {
   const TempFolder folder;
   const DriveMap drives = {{'D', folder.Native()}, {'E', folder.Native() / "new"}};
-  const DiskObject disk({.status = SystemFileStatus(drives), .folders = SystemFolders(drives)});
+  const DiskObject disk({.drives = drives});
   const auto current = std::filesystem::current_path();
   std::filesystem::current_path(folder.Native());
   ExpectRows<Text>([&](const Text& path) { return disk.CreateFullPath(path); }, {

@@ -1,5 +1,6 @@
 #include <ZQ7Standard/PeripheralObject.h>
 #include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/message_box.h>
 
 #include "tests/support/rows.h"
 

@@ -1,5 +1,7 @@
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/print_picture.h>
+#include <ZQ7Standard/platform/printers.h>
 
 #include <cmath>
 

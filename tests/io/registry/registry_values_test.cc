@@ -1,4 +1,5 @@
 #include <ZQ7Standard/RegistryObject.h>
+#include <ZQ7Standard/platform/registry.h>
 
 #include "tests/support/rows.h"
 
@@ -41,7 +42,7 @@ TEST(Registry, IsAskedWithTheseArgumentsAndFailsToTheFallbacks) {
 
 TEST(Registry, ReadsByTypeAndSize) {
   const auto read = [](std::uint32_t type, const std::string& data) {
-    const RegistryServices services{.registry = MemoryRegistry()};
+    const Services services{.registry = MemoryRegistry()};
     services.registry->Create(kUser, u"K", {})->Set(u"V", type, data);
     const RegistryObject object(services);
     const Text text = object.GetKeyValueString(kUser, u"K", u"V");

@@ -2,6 +2,8 @@
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/file_contents.h>
+#include <ZQ7Standard/platform/file_rewrite.h>
+#include <ZQ7Standard/platform/message_box.h>
 #include <fcntl.h>
 #include <grp.h>
 #include <sched.h>

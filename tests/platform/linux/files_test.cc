@@ -1,6 +1,7 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/file_contents.h>
 #include <ZQ7Standard/platform/file_status.h>
+#include <ZQ7Standard/platform/path_text.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <stdlib.h>

@@ -1,5 +1,8 @@
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/path_text.h>
+#include <ZQ7Standard/platform/print_picture.h>
+#include <ZQ7Standard/platform/printers.h>
 #include <cairo.h>
 #include <cups/cups.h>
 #include <poll.h>

@@ -1,4 +1,5 @@
 #include <ZQ7Standard/PeripheralObject.h>
+#include <ZQ7Standard/platform/serial_port.h>
 #include <asm/termbits.h>
 #include <fcntl.h>
 #include <stdlib.h>

@@ -1,4 +1,5 @@
 #include <ZQ7Standard/RegistryObject.h>
+#include <ZQ7Standard/platform/registry.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sqlite3.h>
@@ -27,8 +28,10 @@ class SystemRegistryTest : public testing::Test {
  protected:
   SystemRegistryTest() { fs::permissions(folder_, fs::perms{0755}); }
 
-  RegistryServices Services() const { return {SystemRegistry({folder_ / "u", folder_ / "m"})}; }
-  RegistryObject Object() const { return RegistryObject(Services()); }
+  Services OwnServices() const {
+    return {.registry = SystemRegistry({folder_ / "u", folder_ / "m"})};
+  }
+  RegistryObject Object() const { return RegistryObject(OwnServices()); }
   fs::path File() const { return folder_ / "u/registry.db"; }
 
   /// Does what another program may do to the user's database.
@@ -81,7 +84,7 @@ TEST_F(SystemRegistryTest, KeepsKeysAsTheOneInMemoryDoes) {
                                                  {kUser, u"K\\" + long_name + u"ก\\"},
                                                  {kUser, deep + u"L"},
                                                  {kUser, Text(300'000, u'x')}};
-  for (const RegistryServices& services : {Services(), RegistryServices{MemoryRegistry()}}) {
+  for (const Services& services : {OwnServices(), Services{.registry = MemoryRegistry()}}) {
     const RegistryObject object(services);
     for (const auto& [written, read] : same) {
       const auto& [root, path, name] = written;
@@ -170,7 +173,8 @@ TEST_F(SystemRegistryTest, UsesNoFolderOfTheUsersThatOthersCanWrite) {
   for (const auto& [mode, expected] : {std::pair{0755U, true}, {0720U, false}, {0702U, false}}) {
     fs::permissions(folder, fs::perms{mode});
     EXPECT_EQ(CanUpdate(folder_), expected) << std::oct << mode;
-    EXPECT_FALSE(Update(RegistryObject({SystemRegistry({folder, ""})}), 7)) << "a host's word";
+    EXPECT_FALSE(Update(RegistryObject({.registry = SystemRegistry({folder, ""})}), 7))
+        << "a host's word";
   }
   fs::permissions(folder, fs::perms{0700});
   fs::rename(folder, folder_ / "elsewhere");

@@ -1,0 +1,86 @@
+#ifndef ZQ7STANDARD_SERVICES_H_
+#define ZQ7STANDARD_SERVICES_H_
+
+#include <ZQ7Standard/Types.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace ZQ7Standard {
+
+class BlockCipher;
+class Clock;
+class DateConventionSource;
+class FileCopier;
+class FileReader;
+class FileRewriter;
+class FileStatusSource;
+class FileWriter;
+class Folders;
+class MessageBox;
+class PrinterList;
+class RandomSource;
+class Registry;
+class TimeTextSource;
+
+/// Makes a cipher for one call; returns null if it cannot.
+using BlockCipherFactory = std::function<std::unique_ptr<BlockCipher>()>;
+
+/// The folders that the drives of path texts stand for, by the drive's letter in
+/// upper case: `{{'D', "/srv/shop"}}` makes "D:\set.ini" the file /srv/shop/set.ini, and
+/// "D:\..\set.ini" too. A drive without an entry is the root folder. docs/files.md tells
+/// what a path text means.
+using DriveMap = std::map<char, std::filesystem::path>;
+
+/// The devices of port numbers, such as {3, "/dev/serial/by-id/usb-..."}.
+using SerialDevices = std::map<std::int16_t, std::string>;
+
+/// What objects need of the machine. A host sets what it wants to replace:
+///
+///     StandardObject standard({.clock = FixedClock(day)});
+///
+/// What is left empty is the machine's own, made when it is first needed:
+///
+///     file_status ... file_copier   the machine's files, with `drives`
+///     clock                         the machine's clock, shared by all objects
+///     date_convention               the environment's locale, for the object alone
+///     time_text                     the same
+///     random_source                 seeded by the machine's clock, for the object alone
+///     block_cipher                  none: Encrypt and Decrypt raise 429
+///     message_box                   the error stream, shared by all objects
+///     serial_devices                port n is /dev/ttyS(n-1)
+///     drives                        every drive is the root folder
+///     registry                      the user's and the machine's, for the object alone
+///     printers                      the print server's, for the object alone
+///     os                            the environment variable "OS", asked each time
+///
+/// Copies of an object share its services. A host that gives the same services to objects
+/// in two threads answers for what they do at the same time.
+struct Services {
+  std::shared_ptr<FileStatusSource> file_status = nullptr;
+  std::shared_ptr<Folders> folders = nullptr;
+  std::shared_ptr<FileReader> file_reader = nullptr;
+  std::shared_ptr<FileWriter> file_writer = nullptr;
+  std::shared_ptr<FileRewriter> file_rewriter = nullptr;
+  std::shared_ptr<FileCopier> file_copier = nullptr;
+  std::shared_ptr<Clock> clock = nullptr;
+  std::shared_ptr<DateConventionSource> date_convention = nullptr;
+  std::shared_ptr<TimeTextSource> time_text = nullptr;
+  std::shared_ptr<RandomSource> random_source = nullptr;
+  BlockCipherFactory block_cipher = nullptr;
+  std::shared_ptr<MessageBox> message_box = nullptr;
+  SerialDevices serial_devices = {};
+  DriveMap drives = {};
+  std::shared_ptr<Registry> registry = nullptr;
+  std::shared_ptr<PrinterList> printers = nullptr;
+  std::optional<Text> os = std::nullopt;
+};
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SERVICES_H_
