@@ -1,0 +1,62 @@
+# Installs the components Runtime, Development and Documentation. tools/zq7 adds Tools.
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZQ7Standard)
+foreach(kind IN LISTS kinds)
+  install(TARGETS zq7standard_${kind} EXPORT zq7standard_${kind}
+    RUNTIME COMPONENT Runtime
+    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+    ARCHIVE COMPONENT Development)
+  install(EXPORT zq7standard_${kind} FILE ZQ7Standard-${kind}.cmake NAMESPACE ZQ7Standard::
+    DESTINATION ${package_dir} COMPONENT Development)
+endforeach()
+
+if(NOT zq7_has_sodium)
+  set(without_sodium PATTERN sodium_block_cipher.h EXCLUDE)
+endif()
+install(DIRECTORY include/ZQ7Standard TYPE INCLUDE COMPONENT Development ${without_sodium})
+install(FILES ${PROJECT_BINARY_DIR}/include/ZQ7Standard/Export.h
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/ZQ7Standard COMPONENT Development)
+
+# A host that links the static library links the system's libraries too.
+set(static_packages "")
+set(pc_requires "")
+set(pc_libs "")
+if(zq7_has_sodium)
+  list(APPEND static_packages ZQ7Sodium)
+  list(APPEND pc_requires libsodium)
+endif()
+if(zq7_has_sqlite)
+  list(APPEND static_packages SQLite3)
+  list(APPEND pc_requires sqlite3)
+endif()
+if(zq7_has_printing)
+  list(APPEND static_packages ZQ7Printing)
+  list(APPEND pc_requires cairo-pdf pangocairo fontconfig)
+  set(pc_libs -lcups)
+endif()
+set(pc_cflags "")
+if(NOT TARGET zq7standard_shared)
+  set(pc_cflags -DZQ7STANDARD_STATIC_DEFINE)
+endif()
+list(JOIN pc_requires " " pc_requires)
+file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+configure_file(cmake/ZQ7Standard.pc.in ZQ7Standard.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/ZQ7Standard.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
+
+configure_package_config_file(cmake/ZQ7StandardConfig.cmake.in ZQ7StandardConfig.cmake
+  INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(ZQ7StandardConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/ZQ7StandardConfig.cmake
+              ${PROJECT_BINARY_DIR}/ZQ7StandardConfigVersion.cmake
+  DESTINATION ${package_dir} COMPONENT Development)
+if(TARGET zq7standard_static)
+  install(FILES cmake/FindZQ7Sodium.cmake cmake/FindZQ7Printing.cmake
+    DESTINATION ${package_dir} COMPONENT Development)
+endif()
+
+# The pages link each other as they do in the source.
+set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/zq7standard)
+install(FILES CHANGELOG.md CONTRIBUTING.md LICENSE README.md SECURITY.md
+  DESTINATION ${doc_dir} COMPONENT Documentation)
+install(DIRECTORY docs DESTINATION ${doc_dir} COMPONENT Documentation
+  FILES_MATCHING PATTERN *.md PATTERN *.png)
