@@ -12,7 +12,6 @@ namespace ZQ7Standard::Bench {
 namespace {
 
 constexpr std::size_t kCount = 1024;
-constexpr int kBuddhistOffset = 543;
 
 /// Numbers that are the same on every run and with every standard library.
 class Picker {

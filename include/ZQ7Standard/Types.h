@@ -71,6 +71,10 @@ class ZQ7STANDARD_EXPORT OleDate {
   /// when that day is outside 0100-01-01 to 9999-12-31.
   OleDate AddDays(std::int64_t days) const;
 
+  /// "2024-01-15", with " 09:30:00" after it where there is a time of day, whatever the
+  /// date convention.
+  Text ToText() const;
+
   /// Dates compare as moments, not as day counts: -1.25 (06:00) is before -1.75
   /// (18:00 on the same day).
   friend ZQ7STANDARD_EXPORT bool operator==(OleDate a, OleDate b);
@@ -86,6 +90,9 @@ enum class FieldOrder { kMonthFirst, kDayFirst };
 /// How a typed year counts: as a Gregorian year, or as a Buddhist Era year,
 /// which is the Gregorian year plus 543.
 enum class Era { kGregorian, kBuddhist };
+
+/// A Buddhist Era year less the Gregorian year.
+inline constexpr int kBuddhistOffset = 543;
 
 /// How dates are typed and shown on a machine.
 struct DateConvention {

@@ -3,8 +3,6 @@
 #include <array>
 #include <charconv>
 
-#include "base/ascii.h"
-
 namespace ZQ7Standard {
 namespace {
 
@@ -15,19 +13,6 @@ ErrorDetails DetailsOf(Error error, const Where& where, std::string_view detail)
   return details;
 }
 
-/// "2024-01-15", with " 09:30:00" where there is a time of day.
-Text IsoText(OleDate date) {
-  Text text;
-  AppendNumber(text, date.Year(), 4);
-  AppendNumber(text += u'-', date.Month(), 2);
-  AppendNumber(text += u'-', date.Day(), 2);
-  if (date.TimeOfDay() == 0) return text;
-  AppendNumber(text += u' ', date.Hour(), 2);
-  AppendNumber(text += u':', date.Minute(), 2);
-  AppendNumber(text += u':', date.Second(), 2);
-  return text;
-}
-
 }  // namespace
 
 ErrorInput::ErrorInput(double number) {
@@ -35,8 +20,6 @@ ErrorInput::ErrorInput(double number) {
   const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
   text_ = FromUtf8({digits.data(), end});
 }
-
-ErrorInput::ErrorInput(OleDate date) : text_(IsoText(date)) {}
 
 void Raise(Error error, const Where& where, const ErrorInput& input, std::string_view detail) {
   ErrorDetails details = DetailsOf(error, where, detail);

@@ -22,7 +22,7 @@ class ErrorInput {
   ErrorInput(TextView text) : text_(text) {}
   ErrorInput(const Text& text) : text_(text) {}
   ErrorInput(double number);
-  ErrorInput(OleDate date);
+  ErrorInput(OleDate date) : text_(date.ToText()) {}
   ErrorInput(Currency amount) : text_(amount.ToText()) {}
   ErrorInput(std::integral auto number) : text_(FromUtf8(std::to_string(number))) {}
   // NOLINTEND(*-explicit-*)

@@ -6,9 +6,6 @@
 /// How the years of both eras are told apart, and the years that stand for no date.
 namespace ZQ7Standard {
 
-/// A Buddhist Era year less the Gregorian year.
-inline constexpr int kBuddhistOffset = 543;
-
 /// A date whose own year is this or later is taken to carry a Buddhist year
 /// already, so that no year is shifted twice.
 inline constexpr int kFirstBuddhistYear = 2400;

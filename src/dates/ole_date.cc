@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/ascii.h"
 #include "base/raise.h"
 #include "dates/date_math.h"
 
@@ -82,6 +83,18 @@ OleDate OleDate::AddDays(std::int64_t days) const {
   const auto later = DaysLater(*this, days);
   if (!later) Raise(Error::kInvalidArgument, {"OleDate::AddDays", "days"}, days);
   return *later;
+}
+
+Text OleDate::ToText() const {
+  Text text;
+  AppendNumber(text, Year(), 4);
+  AppendNumber(text += u'-', Month(), 2);
+  AppendNumber(text += u'-', Day(), 2);
+  if (TimeOfDay() == 0) return text;
+  AppendNumber(text += u' ', Hour(), 2);
+  AppendNumber(text += u':', Minute(), 2);
+  AppendNumber(text += u':', Second(), 2);
+  return text;
 }
 
 bool operator==(OleDate a, OleDate b) {

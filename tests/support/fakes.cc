@@ -135,10 +135,7 @@ int ErrorOf(const std::function<void()>& call) {
 }
 
 std::string IsoText(OleDate date) {
-  char text[80];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", date.Year(), date.Month(),
-                date.Day(), date.Hour(), date.Minute(), date.Second());
-  return {text, date.TimeOfDay() == 0 ? 10U : 19U};
+  return Utf8(date.ToText());
 }
 
 void PrintTo(OleDate date, std::ostream* stream) {

@@ -18,7 +18,6 @@ using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
 constexpr std::string_view kIndent = "  ";
-constexpr int kBuddhistOffset = 543;
 
 /// A date as it is typed day first in the Buddhist Era, which the examples run with.
 std::string TypedDate(OleDate date) {

@@ -11,15 +11,6 @@ namespace {
 
 using ZQ7Standard::OleDate;
 
-std::string Padded(int number, std::size_t width) {
-  const std::string digits = std::to_string(number);
-  return std::string(width - std::min(width, digits.size()), '0') + digits;
-}
-
-std::string IsoDay(OleDate date) {
-  return Padded(date.Year(), 4) + "-" + Padded(date.Month(), 2) + "-" + Padded(date.Day(), 2);
-}
-
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
@@ -47,12 +38,11 @@ int NumberAt(std::string_view text, std::size_t position, std::size_t length) {
 }  // namespace
 
 std::string IsoDateTime(OleDate date) {
-  return IsoDay(date) + " " + Padded(date.Hour(), 2) + ":" + Padded(date.Minute(), 2) + ":" +
-         Padded(date.Second(), 2);
+  return IsoDate(date) + (date.TimeOfDay() == 0 ? " 00:00:00" : "");
 }
 
 std::string IsoDate(OleDate date) {
-  return date.TimeOfDay() == 0 ? IsoDay(date) : IsoDateTime(date);
+  return ZQ7Standard::Utf8(date.ToText());
 }
 
 std::optional<OleDate> ReadIsoDate(std::string_view text) {
