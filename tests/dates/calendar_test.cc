@@ -7,14 +7,16 @@ using namespace ZQ7Standard;
 
 static const StandardObject kObject = ObjectWith(kDmy);
 
-// clang-format off
 TEST(Calendar, FirstMondayAndSaturday) {
   for (const DateConvention convention : kConventions) {
     const StandardObject object = ObjectWith(convention);
-    ExpectRows<std::int16_t, std::int16_t>([&](std::int16_t month, std::int16_t year) {
+    const auto call = [&](std::int16_t month, std::int16_t year) {
       return ResultOf([&] { return object.GETFirstMondayOfMonthYear(month, year); }) + " " +
              ResultOf([&] { return object.GETFirstSaturdayOfMonthYear(month, year); });
-    }, {{{1, 2024}, "2024-01-01 2024-01-06", "the 1st is a Monday"},
+    };
+    // clang-format off
+    ExpectRows<std::int16_t, std::int16_t>(call, {
+        {{1, 2024}, "2024-01-01 2024-01-06", "the 1st is a Monday"},
         {{6, 2024}, "2024-06-03 2024-06-01", "the 1st is a Saturday"},
         {{10, 2024}, "2024-10-07 2024-10-05", "the 1st is a Tuesday"},
         {{9, 2024}, "2024-09-02 2024-09-07", "the 1st is a Sunday"},
@@ -23,37 +25,44 @@ TEST(Calendar, FirstMondayAndSaturday) {
         {{13, 2024}, "2024-12-02 2024-12-07"}, {{-1, 2024}, "2024-01-01 2024-01-06"},
         {{12, 9999}, "9999-12-01 9999-12-06", "the weekdays of 9456"}, {{0, 2024}, "error 13 error 13"},
         {{1, 10000}, "error 13 error 13"}});
+    // clang-format on
   }
-  ExpectRows<DateConvention, std::int16_t>([](DateConvention convention, std::int16_t year) {
-    return ObjectWith(convention).GETFirstMondayOfMonthYear(1, year);
-  }, {{{kDmy, 24}, "2024-01-01"}, {{kDmyBe, 32767}, "error 6"}});
+  ExpectRows<DateConvention, std::int16_t>(
+      [](DateConvention convention, std::int16_t year) {
+        return ObjectWith(convention).GETFirstMondayOfMonthYear(1, year);
+      },
+      {{{kDmy, 24}, "2024-01-01"}, {{kDmyBe, 32767}, "error 6"}});
   try {
     kObject.GETFirstSaturdayOfMonthYear(0, 2024);
   } catch (const RunTimeError& error) {
-    EXPECT_STREQ(error.what(), "GETFirstSaturdayOfMonthYear: type mismatch (error 13): iMonth: \"0\"");
+    EXPECT_STREQ(error.what(),
+                 "GETFirstSaturdayOfMonthYear: type mismatch (error 13): iMonth: \"0\"");
   }
 }
 
 // The week, the pay period and whether it is a weekend.
 TEST(Calendar, PlacesADayInItsMonth) {
-  ExpectRows<int, int, int>([](int year, int month, int day) {
+  const auto call = [](int year, int month, int day) {
     const OleDate date = OleDate::FromParts(year, month, day, 23, 59, 59);
     return Shown(kObject.GETWeekOfMonth(date)) + " " + Shown(kObject.GETPeriodOfMonth(date)) + " " +
            Shown(kObject.ISWeekHoliday(date));
-  }, {{{2024, 6, 1}, "1 1 yes", "a Saturday alone in week 1"}, {{2024, 6, 2}, "2 1 yes"},
+  };
+  // clang-format off
+  ExpectRows<int, int, int>(call, {
+      {{2024, 6, 1}, "1 1 yes", "a Saturday alone in week 1"}, {{2024, 6, 2}, "2 1 yes"},
       {{2024, 6, 3}, "2 1 no"}, {{2024, 6, 15}, "3 1 yes"}, {{2024, 6, 16}, "4 2 yes"},
       {{2024, 6, 30}, "6 2 yes", "the most weeks"}, {{2015, 2, 28}, "4 2 yes", "the fewest"},
       {{2024, 2, 29}, "5 2 no"}, {{2567, 6, 1}, "1 1 yes", "as 2024"}, {{2567, 6, 2}, "2 1 yes"},
       {{2399, 1, 1}, "1 1 no", "the last year of its own"}, {{2400, 1, 3}, "1 1 yes", "as 1857"},
       {{2568, 2, 29}, "5 2 no", "28 February 2025, a Friday"},
       {{3333, 3, 3}, "1 1 no"}, {{8888, 8, 8}, "2 1 yes"}, {{1899, 12, 30}, "5 2 yes"}});
+  // clang-format on
   for (const OleDate blank : {kObject.GETBlankDate(), OleDate()}) {
     EXPECT_EQ(kObject.GETWeekOfMonth(blank), 0);
     EXPECT_EQ(kObject.GETPeriodOfMonth(blank), 0);
     EXPECT_FALSE(kObject.ISWeekHoliday(blank));
   }
 }
-// clang-format on
 
 // Every day of 400 years, in both eras, against a calendar that is kept by counting.
 TEST(CalendarBreadth, WeeksGoByCounting) {

@@ -7,7 +7,6 @@ using namespace ZQ7Standard;
 static const StandardObject kThai = ObjectWith(kDmyBe);
 static const StandardObject kGregorian = ObjectWith(kDmy);
 
-// clang-format off
 // The order is never guessed. CTDATE raises 9 without a slash, takes any year
 // and reads each field as far as it is a number, halves to even; IsTDate wants
 // the first typed year or a later one in four digits, and takes no notice of signs.
@@ -20,10 +19,13 @@ TEST(TypedDates, CTDATEReadsAndIsTDateChecks) {
   };
   ExpectTexts(typed(kMdy), {{"2024-01-15 yes", {u"1/15/2024"}}, {"error 13 no", {u"15/1/2024"}}});
   ExpectTexts(typed(kMdyBe), {{"2024-01-15 yes", {u"1/15/2567"}}});
+  // clang-format off
   ExpectTexts(typed(kDmyBe), {
       {"2024-01-15 yes", {u"15/1/2567"}}, {"error 13 no", {u"1/15/2567"}},
       {"2024-02-29 yes", {u"29/2/2567"}}, {"1957-01-15 no", {u"15/1"}},
       {"2024-01-15 no", {u"15/1/67"}}, {"0100-01-15 yes", {u"15/1/0643"}}});
+  // clang-format on
+  // clang-format off
   ExpectTexts(typed(kDmy), {
       {"2024-01-15 yes", {u"15/1/2024", u"15/1/2024/", u" 15/ 1/2024"}},
       {"2024-01-15 no", {u"15/1/2024/1", u"15/1/2024 "}}, {"2024-02-14 yes", {u"14.5/1.5/2024"}},
@@ -32,40 +34,54 @@ TEST(TypedDates, CTDATEReadsAndIsTDateChecks) {
       {"error 9 no", {u"15", u"15-01-2567"}}, {"2000-01-15 no", {u"15/1"}},
       {"2024-01-01 yes", {u"1,5/1/2024"}}, {"error 6 no", {u"15/1/40000", u"9999999999/1/2024"}},
       {"0642-01-15 no", {u"15/1/0642"}}, {"0643-01-15 yes", {u"15/1/0643"}}});
+  // clang-format on
 }
 
 TEST(TypedDates, CDATE2000CarriesTheSystemsYear) {
-  ExpectRows<DateConvention, TextView>([](DateConvention convention, TextView text) {
+  const auto call = [](DateConvention convention, TextView text) {
     return ObjectWith(convention).CDATE2000(text);
-  }, {{{kDmy, u"15/1/2024 9:30"}, "2024-01-15 09:30:00"}, {{kDmyBe, u"29/2/2567"}, "2567-02-28"},
+  };
+  // clang-format off
+  ExpectRows<DateConvention, TextView>(call, {
+      {{kDmy, u"15/1/2024 9:30"}, "2024-01-15 09:30:00"}, {{kDmyBe, u"29/2/2567"}, "2567-02-28"},
       {{kDmyBe, u"15/1/2567 9:30"}, "2567-01-15 09:30:00"}, {{kDmyBe, u"abc"}, "3333-03-03"},
       {{kDmyBe, u"6:00"}, "2442-12-30 06:00:00"}, {{kDmyBe, u"1/1/10000"}, "3333-03-03"}});
+  // clang-format on
 }
 
 // Both the date reader and CTDATE must take the text.
 TEST(TypedDates, GETValidDateFallsBackToToday) {
+  // clang-format off
   ExpectTexts([](TextView text) { return kThai.GETValidDate(text); }, {
       {"2023-12-31", {u"31/12/2566"}},
       {"2024-01-15", {u"abc", u"", u"31 Dec 2566", u"12/31/2566", u"15/2/2566/1", u"15/3 2560",
-                      u"15/3-2560"}}});
+      u"15/3-2560"}}});
+  // clang-format on
 }
 
 TEST(TypedDates, IsTDateTimeAndIsMounthYear) {
+  // clang-format off
   ExpectRows<TextView>([](TextView text) { return kThai.IsTDateTime(text); }, {
       {u"15/1/67", "yes"}, {u"9:30", "yes"}, {u"15 ม.ค. 2567 9:30", "yes"}, {u"29 Feb", "yes"}});
+  // clang-format on
   const StandardObject next_year = ObjectWith(kDmyBe, OleDate::FromParts(2025, 1, 1));
   EXPECT_FALSE(next_year.IsTDateTime(u"29 Feb"));
+  // clang-format off
   ExpectTexts([](TextView text) { return kThai.isMounthYear(text); }, {
       {"yes", {u"01/2567", u"12-0643", u"01 2567", u"1 x2567", u"1199999"}},
       {"no", {u"", u"13/2567", u"00/2567", u"12/0642", u"1/2567", u"01/25670"}}});
+  // clang-format on
 }
 
 // As a Gregorian and as a Buddhist system reads them.
 TEST(TypedDates, SortableKeys) {
-  ExpectRows<TextView>([](TextView text) {
+  const auto call = [](TextView text) {
     return Shown(kGregorian.GETDateFromTextYYYYMMDD(text)) + ", " +
            Shown(kThai.GETDateFromTextYYYYMMDD(text));
-  }, {{u"abc", "2000-03-03, 0543-03-03"}, {u"", "2000-03-03, 0543-03-03"},
+  };
+  // clang-format off
+  ExpectRows<TextView>(call, {
+      {u"abc", "2000-03-03, 0543-03-03"}, {u"", "2000-03-03, 0543-03-03"},
       {u"2024011", "2000-03-03, 0543-03-03"}, {u"2024O115", "2000-03-03, 0543-03-03"},
       {u"20240431", "2000-03-03, 0543-03-03"}, {u"20240115", "2024-01-15, 2024-01-15"},
       {u"25670115", "2024-01-15, 2024-01-15"}, {u" 2024_01 15 ", "2024-01-15, 2024-01-15"},
@@ -77,6 +93,7 @@ TEST(TypedDates, SortableKeys) {
       {u"2024-01-15 9:30", "2024-01-15 09:30:00, 1481-01-15 09:30:00"},
       {u"2567-01-15 9:30", "2024-01-15, 2024-01-15", "a Buddhist year drops the time"},
       {u"3333-03-03", "2790-03-03, 2247-03-03", "the blank date loses an era, or two"}});
+  // clang-format on
 }
 
 TEST(TypedDates, Periods) {
@@ -85,11 +102,14 @@ TEST(TypedDates, Periods) {
       return Shown(object.CTPeriod(text)) + (object.IsTPeriod(text) ? "" : " invalid");
     };
   };
+  // clang-format off
   ExpectTexts(period(kThai), {
       {"2024-03-01", {u"2567/03", u"2567/3", u"2567/003", u"2567/103", u"25679/3/9"}},
       {"2024-01-01 invalid", {u"543/01", u"3876/01", u"2567/3%", u"2567/9%"}}, {"3332-01-01", {u"3875/01"}}});
+  // clang-format on
+  // clang-format off
   ExpectTexts(period(kGregorian), {
       {"2024-12-01", {u"2024/12"}}, {"1950-01-01", {u"0050/1"}}, {"3332-01-01", {u"3332/1"}},
       {"2024-01-01 invalid", {u"3333/1", u"2024/13", u"2024/", u"202403", u"9E99/1", u"abc"}}});
+  // clang-format on
 }
-// clang-format on

@@ -6,12 +6,15 @@ using namespace ZQ7Standard;
 
 static const StandardObject kObject = ObjectWith(kDmyBe);
 
-// clang-format off
 TEST(TypedTimes, CTTimeAndIsTTimeTakeFourDigits) {
-  ExpectTexts([](TextView text) {
+  const auto call = [](TextView text) {
     return Shown(kObject.FormatTime(kObject.CTTime(text))) + " " + Shown(kObject.isTTime(text));
-  }, {{"09:30 yes", {u"0930"}}, {"00:00 yes", {u"0000"}}, {"23:59 yes", {u"2359"}},
+  };
+  // clang-format off
+  ExpectTexts(call, {
+      {"09:30 yes", {u"0930"}}, {"00:00 yes", {u"0000"}}, {"23:59 yes", {u"2359"}},
       {"00:00 no", {u"2360", u"2400", u"9:30", u"09:30", u"abcd", u"2359 ", u""}}});
+  // clang-format on
 }
 
 // To the last bit, as hosts compare them: the one divides the hours, the other the minutes.
@@ -28,25 +31,34 @@ TEST(TypedTimesBreadth, BitsOfEveryMinute) {
 
 // Noon and after wrap round when PM is added.
 TEST(TypedTimes, Str2TIMEAndStr2AddDay) {
+  // clang-format off
   ExpectTexts([](TextView text) { return kObject.FormatTime(kObject.Str2TIME(text)); }, {
       {"09:30", {u"9:30", u"0930", u"9.30", u"930", u"9:30:15", u"9:30 AM"}},
       {"19:30", {u"19:30:15"}}, {"21:30", {u"9:30 pm", u"9:30:15 PM"}},
       {"00:30", {u"12:30 PM", u"2430"}}, {"23:45", {u"12345"}},
       {"00:00", {u"0975", u"abc", u"", u"-930"}}});
-  ExpectRows<TextView, std::int16_t>([](TextView text, std::int16_t start) {
+  // clang-format on
+  const auto call = [](TextView text, std::int16_t start) {
     return kObject.Str2AddDay(text, start).Days();
-  }, {{{u"2400", 0}, "1"}, {{u"24:30", 7}, "1"}, {{u"23.59", 7}, "7"}, {{u"12:00", 0}, "0"},
+  };
+  // clang-format off
+  ExpectRows<TextView, std::int16_t>(call, {
+      {{u"2400", 0}, "1"}, {{u"24:30", 7}, "1"}, {{u"23.59", 7}, "7"}, {{u"12:00", 0}, "0"},
       {{u"24:00:00", 7}, "7"}, {{u"", -3}, "-3"}, {{u"abcd", 7}, "7"}});
+  // clang-format on
   EXPECT_EQ(kObject.Str2AddDay(u"x").Days(), 0);
 }
 
 // Days, hours, whether it is a day-time and whether it is an hour.
 TEST(Spans, DaysAndHours) {
-  ExpectRows<TextView>([](TextView text) {
+  const auto call = [](TextView text) {
     EXPECT_TRUE(kObject.isDayTime(text, true) && kObject.isHour(text, true)) << Utf8(text);
     return Shown(kObject.DAYTIME2DAY(text)) + " " + Shown(kObject.CTHour(text)) + " " +
            Shown(kObject.isDayTime(text)) + " " + Shown(kObject.isHour(text));
-  }, {{u"1:12:30", "1.5208333333333333 12.5 yes yes"},
+  };
+  // clang-format off
+  ExpectRows<TextView>(call, {
+      {u"1:12:30", "1.5208333333333333 12.5 yes yes"},
       {u"12:30", "0.5208333333333334 12.5 yes yes"}, {u"2.5", "2.5 2.5 no no"},
       {u"0:23:60", "1 24 yes yes", "one whole day"},
       {u"0:30:90", "1.0416666666666667 31 yes yes", "caps"},
@@ -60,16 +72,20 @@ TEST(Spans, DaysAndHours) {
       {u"1:50%", "0.041666666666666664 1 yes yes"}, {u"5%0%", "0.5 0.5 no no"},
       {u"a:b", "0 0 no no"}, {u"", "0 0 no no"}, {u"0130", "130 130 yes yes", "four digits"},
       {u"0000", "0 0 no no"}, {u"99999999999:0:0", "99999999999 0 yes no"}});
+  // clang-format on
 }
 
 TEST(Spans, DAY2DAYTIME) {
+  // clang-format off
   ExpectRows<double>([](double days) { return kObject.DAY2DAYTIME(days); }, {
       {0, "0:00:00"}, {1.5, "1:12:00"}, {-1.5, "1:12:00"}, {0.25, "0:06:00"},
       {1 + 1 / 24.0, "1:01:00"}, {1 / 1440.0, "0:00:01"}, {0.99999, "0:23:59"},
       {2 - 1e-12, "2:00:00"}, {1e-12, "0:00:00"}, {12345678.5, "12345678:12:00"},
       {kNan, "error 6"}, {kInfinity, "error 6"}});
+  // clang-format on
 }
 TEST(Spans, FormatHour) {
+  // clang-format off
   ExpectRows<double>([](double hours) { return kObject.FormatHour(hours); }, {
       {0, "0:00"}, {7.5, "7:30"}, {-1.5, "-1:30"}, {-0.25, "-0:15"}, {2.675, "2:41", "as printed"},
       {0.5 / 60, "0:01", "half a minute"}, {-0.5 / 60, "-0:01"}, {0.4 / 60, "0:00"},
@@ -78,8 +94,8 @@ TEST(Spans, FormatHour) {
       {999999999999999, "999999999999999:00"}, {999999999999999.25, "999999999999999:15"},
       {-999999999999999.875, "-999999999999999:53"}, {1e15, "error 6"}, {-1e15, "error 6"},
       {kInfinity, "error 6"}, {-kInfinity, "error 6"}, {kNan, "error 6"}});
+  // clang-format on
 }
-// clang-format on
 
 TEST(SpansBreadth, EveryMinuteOf200HoursGoesThroughTextAndBack) {
   for (int minute = -6000; minute <= 6000; ++minute) {

@@ -6,8 +6,8 @@
 
 using namespace ZQ7Standard;
 
-// clang-format off
 TEST(MoneyWords, Thai) {
+  // clang-format off
   ExpectRows<double>([](double amount) { return BahtStringObject().BahtString(amount); }, {
       {0, "ศูนย์บาทถ้วน"}, {1, "หนึ่งบาทถ้วน"}, {10, "สิบบาทถ้วน"}, {21, "ยี่สิบเอ็ดบาทถ้วน"},
       {101, "หนึ่งร้อยเอ็ดบาทถ้วน"}, {121.50, "หนึ่งร้อยยี่สิบเอ็ดบาทห้าสิบสตางค์"},
@@ -22,10 +22,12 @@ TEST(MoneyWords, Thai) {
       {-5.25, "ห้าถ้วน"}, {-5, "ห้าถ้วน"}, {-0.5, "ถ้วน"},
       {2.345, "สองบาทสามสิบห้าสตางค์", "tie of the printed value"}, {10000000000000, ""},
       {-kInfinity, ""}, {kNan, ""}});
+  // clang-format on
   EXPECT_NE(BahtStringObject().MoneyText(-9999999999999.99), u"");
 }
 
 TEST(MoneyWords, English) {
+  // clang-format off
   ExpectRows<double>([](double amount) { return BahtStringObject().BahtStringE(amount); }, {
       {0, "Zero baht"}, {1, "One baht"}, {44, "Forty four baht"}, {0.001, "Zero baht"},
       {1234.56, "One thousand two hundred thirty four baht and fifty six satang"},
@@ -34,25 +36,27 @@ TEST(MoneyWords, English) {
       {1000000001, "One billion one baht"}, {900100, "Nine hundred thousand one hundred baht"},
       {-7, "Negative seven baht"}, {-0.5, "Negative baht and fifty satang"},
       {1.999, "Two baht"}, {1e12, "One trillion baht"}, {1e15, "One ? baht"}, {kNan, ""}});
+  // clang-format on
 }
 
 TEST(MoneyWords, UnitsAndBreaks) {
-  ExpectRows<double, bool, bool, TextView, TextView>([](auto... row) {
-    return BahtStringObject().MoneyText(row...);
-  }, {{{1, true, false, u"", u""}, "=หนึ่งบาทถ้วน="}, {{0, true, false, u"", u""}, "ศูนย์บาทถ้วน"},
+  const auto call = [](auto... row) { return BahtStringObject().MoneyText(row...); };
+  // clang-format off
+  ExpectRows<double, bool, bool, TextView, TextView>(call, {
+      {{1, true, false, u"", u""}, "=หนึ่งบาทถ้วน="}, {{0, true, false, u"", u""}, "ศูนย์บาทถ้วน"},
       {{1, true, true, u"", u""}, "=One baht="}, {{0, true, true, u"", u""}, "Zerobaht"},
       {{0, false, true, u"THB", u""}, "ZeroTHB"}, {{1e14, true, true, u"", u""}, ""},
       {{0, false, false, u"Dollar", u""}, "ศูนย์บาทถ้วน", "Thai zero ignores the unit"},
       {{1234.56, false, true, u"Dollar", u""},
-       "One thousand two hundred thirty four dollar and fifty six cent"},
+      "One thousand two hundred thirty four dollar and fifty six cent"},
       {{1.5, false, true, u"Dollar", u"dime"}, "One dollar and fifty cent"},
       {{1.5, false, true, u"tHb", u"x"}, "One thb and fifty satang"},
       {{20.01, false, false, u"ดอลลาร์", u""}, "ยี่สิบดอลลาร์เอ็ดcent", "keeps the final one"},
       {{1.5, false, false, u"Baht", u""}, "หนึ่งBahtห้าสิบsatang"},
       {{1.5, false, true, u"Satang", u""}, "One cent and fifty cent"},
       {{2, false, true, u"ÉCU Ω", u""}, "Two écu ω", "lower case beyond A to Z"}});
+  // clang-format on
 }
-// clang-format on
 
 TEST(MoneyWords, AnInstanceKeepsItsLastUnits) {
   BahtStringObject object;

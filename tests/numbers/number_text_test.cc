@@ -74,8 +74,8 @@ TEST(FormatDecimalBreadth, PowersOfTwoAndTenAndTheirNeighbours) {
   }
 }
 
-// clang-format off
 TEST(FormatDecimal, WritesWhatTheBreadthLeavesOut) {
+  // clang-format off
   ExpectRows<double, int>([](double value, int decimals) { return Format(value, decimals); }, {
       {{0, 2}, "0.00"}, {{-0.0, 2}, "0.00"}, {{-0.004, 2}, "0.00"}, {{-2.345, 2}, "-2.35"},
       {{1.005, 2}, "1.01", "double below the tie"}, {{1234567.891, 2}, "1,234,567.89"},
@@ -84,21 +84,25 @@ TEST(FormatDecimal, WritesWhatTheBreadthLeavesOut) {
       {{12345678901234567890.0, 1}, "12,345,678,901,234,600,000.0"},
       {{1.5e-9, 10}, "0.0000000015"}, {{9.9e-3, 0}, "0", "16 places dropped"},
       {{0x1p-22, 21}, "0.000000238418579101563", "tie at the 16th digit, small"}});
+  // clang-format on
   EXPECT_EQ(Format(1e300, 0, Grouping::kNone), "1" + std::string(300, '0'));
   for (const double value : {kInfinity, -kInfinity, kNan}) EXPECT_FALSE(ToDecimal(value));
 }
 
 TEST(ShortestText, ChoosesBetweenDigitsAndExponent) {
+  // clang-format off
   ExpectRows<double>([](double value) { return ShortestText(*ToDecimal(value)); }, {
       {0, "0"}, {100, "100"}, {-1234.5, "-1234.5"}, {0.1 + 0.2, "0.3"}, {0.0001, "0.0001"},
       {0.00001, "1E-05"}, {1e14, "100000000000000"}, {1e15, "1E+15"}, {-1.5e20, "-1.5E+20"},
       {1.23456789012345678e300, "1.23456789012346E+300"}, {999999999999999.9, "1E+15"}});
+  // clang-format on
 }
 
 TEST(ReadLeadingNumber, TakesTheLongestNumberInFront) {
+  // clang-format off
   ExpectTexts(ReadLeadingNumber, {
       {"0", {u"", u"--5", u".", u"-0", u"E5", u"0x10", u"inf", u"nan", u"1e-400",
-          u"1e-99999999999", u"0e99999999999"}}, {"12", {u"  12", u"12 34"}},
+      u"1e-99999999999", u"0e99999999999"}}, {"12", {u"  12", u"12 34"}},
       {"1", {u"1,234", u"1E", u"1E+"}}, {"-5", {u"-5"}}, {"5", {u"+5", u"5."}},
       {"1.5", {u"1.5.5"}}, {"0.5", {u".5"}}, {"1000", {u"1E3"}}, {"0.01", {u"1d-2x"}},
       {"none", {u"1e309"}}, {"1e+22", {u"1e22"}}, {"1e+23", {u"1e23"}},
@@ -106,10 +110,10 @@ TEST(ReadLeadingNumber, TakesTheLongestNumberInFront) {
       {"12345678901234567168", {u"12345678901234567890"}},
       {"1e-30", {u"0.000000000000000000000000000001"}},
       {"2.225073858507201e-308", {u"2.2250738585072011e-308"}}});
+  // clang-format on
   EXPECT_FALSE(ReadLeadingNumber(Text(400, u'9')));
   EXPECT_EQ(ReadLeadingNumber(Text(400, u'0') + u"1e-400"), 0);
 }
-// clang-format on
 
 TEST(ReadNumberBreadth, ReadsBackWhatIsWritten) {
   std::mt19937_64 random(7);

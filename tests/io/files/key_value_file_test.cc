@@ -6,13 +6,14 @@
 
 using namespace ZQ7Standard;
 
-// clang-format off
 TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
   AsciiFiles files;
-  ExpectRows<std::string, TextView>([&](const std::string& bytes, TextView key) {
+  const auto call = [&](const std::string& bytes, TextView key) {
     files.Write(bytes);
     return Utf8(files.object.GetValue(files.Path(), key)) + files.TakeShown();
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string, TextView>(call, {
       {{"[A]=1\r\n[B]=2\r\n", u"B"}, "2"}, {{"[port]=5", u"PORT"}, "5", "no end of line"},
       {{"  [Port]=5\r\n", u"pORT"}, "5", "indented"}, {{"\t[A]=1", u"A"}, "", "a tab is no blank"},
       {{"[A] = abc  \r\n", u"A"}, " abc  ", "blanks behind the = stay"},
@@ -27,8 +28,10 @@ TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
       {{"[\xA1]=\xE0\xA1\x80", u"ก"}, "เก€"}, {{"[?]=1", u"é"}, "", "not in the code page"},
       {{"[S]=1", u"ſ"}, "1", "upper case of a letter outside the page"},
       {{"[A\r\nB]=1", u"A\r\nB"}, "", "no line holds a line end"}});
+  // clang-format on
   EXPECT_EQ(files.object.GetValue(PathText(files.Folder() / "none" / "x"), u"A"), u"");
-  EXPECT_EQ(files.object.GetValue(PathText(files.Folder()), u"A") + FromUtf8(files.TakeShown()), u"");
+  EXPECT_EQ(files.object.GetValue(PathText(files.Folder()), u"A") + FromUtf8(files.TakeShown()),
+            u"");
   EXPECT_EQ(files.object.GetValue(u"C:\\proc\\self\\mem", u"A"), u"");
   EXPECT_EQ(files.TakeShown(), "Warning: Not found specified file");
 }
@@ -36,9 +39,11 @@ TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
 TEST(KeyValueFile, SetvalueReplacesEveryLineOfTheKeyOrAppendsOne) {
   AsciiFiles files;
   using Bytes = std::optional<std::string>;
-  ExpectRows<Bytes, TextView, TextView>([&](const Bytes& bytes, TextView key, TextView value) {
+  const auto call = [&](const Bytes& bytes, TextView key, TextView value) {
     return files.After(bytes, [&] { files.object.Setvalue(files.Path(), key, value); });
-  }, {
+  };
+  // clang-format off
+  ExpectRows<Bytes, TextView, TextView>(call, {
       {{std::nullopt, u"Port", u"9600"}, "[Port]=9600\r\n", "as typed in a new file"},
       {{"[Port]=9600\r\n", u"port", u"1"}, "[PORT]=1\r\n", "in upper case afterwards"},
       {{"[A]=1\r\n  [b]x\r\n", u"a", u""}, "[A]=\r\n[b]x\r\n", "indentation goes"},
@@ -47,17 +52,20 @@ TEST(KeyValueFile, SetvalueReplacesEveryLineOfTheKeyOrAppendsOne) {
       {{"[AB]=1\r\n", u"A", u"é"}, "[AB]=1\r\n[A]=?\r\n"}, {{"", u"ก", u"฿"}, "[\xA1]=\xDF\r\n"},
       {{"[?]=1\r\n", u"é", u"2"}, "[?]=1\r\n[?]=2\r\n", "one more each time"},
       {{"", u"A", u"1\r\n[B]=2"}, "[A]=1\r\n[B]=2\r\n", "a value of two lines"}});
+  // clang-format on
 }
 
 TEST(KeyValueFile, DeleteValueDropsEveryLineOfTheKey) {
   AsciiFiles files;
-  ExpectRows<std::optional<std::string>>([&](const auto& bytes) {
+  const auto call = [&](const auto& bytes) {
     return files.After(bytes, [&] { files.object.DeleteValue(files.Path(), u"a"); });
-  }, {{{"[A]=1\r\n [B]=2\n[a]x"}, "[B]=2\r\n"}, {{"[A]=1"}, ""}, {{" x"}, "x\r\n"},
+  };
+  // clang-format off
+  ExpectRows<std::optional<std::string>>(call, {
+      {{"[A]=1\r\n [B]=2\n[a]x"}, "[B]=2\r\n"}, {{"[A]=1"}, ""}, {{" x"}, "x\r\n"},
       {{std::nullopt}, ""}});
+  // clang-format on
 }
-
-// clang-format on
 
 // What the operations that write tell of a new file in folders of all kinds.
 TEST(WriteMessages, TellAMissingFolderFromAReadOnlyOne) {

@@ -8,14 +8,15 @@
 
 using namespace ZQ7Standard;
 
-// clang-format off
 TEST(TextFile, GETLineTextFileReadsTheFirstLinesAndOverflowsBehindThem) {
   AsciiFiles files;
   constexpr int kMost = std::numeric_limits<std::int32_t>::max();
-  ExpectRows<std::string, int, int>([&](const std::string& bytes, int from, int to) {
+  const auto call = [&](const std::string& bytes, int from, int to) {
     files.Write(bytes);
     return files.object.GETLineTextFile(files.Path(), from, to);
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string, int, int>(call, {
       {{"a\r\nb\r\nc\r\n", 3, 0}, "a\r\nb\r\nc", "no line is skipped"},
       {{"a\nb\rc", 0, 0}, "a\r\nb\r\nc"}, {{"a\r\nb", 1, 2}, "a\r\nb"},
       {{"a\r\nb\r\nc", 1, 2}, "error 6", "passes without an end"}, {{"a\nb", 3, 4}, "a\r\nb"},
@@ -23,6 +24,7 @@ TEST(TextFile, GETLineTextFileReadsTheFirstLinesAndOverflowsBehindThem) {
       {{"", 2, 1}, ""}, {{"a\nb", kMost - 1, 0}, "a\r\nb"}, {{"a\nb", kMost, 0}, "error 6"},
       {{"a\nb", -5, 2}, "a\r\nb"}, {{"\n\n\na\n\nb\n\n", 1, 0}, "a\r\n\r\nb\r\n"},
       {{"\n\n", 1, 0}, ""}, {{"\xA1\x1A\xFF", 1, 0}, "ก\x1A\uF8C8"}});
+  // clang-format on
   EXPECT_EQ(files.object.GETAllTextFile(files.Path()), u"ก\x1A\uF8C8");
   EXPECT_EQ(files.object.GETAllTextFile(u"C:\\none\\x"), u"");
   EXPECT_EQ(ErrorOf([&] { files.object.GETAllTextFile(u"C:\\proc\\self\\mem"); }), 57);
@@ -30,10 +32,15 @@ TEST(TextFile, GETLineTextFileReadsTheFirstLinesAndOverflowsBehindThem) {
 
 TEST(TextFile, SaveStringWritesTheTextAsItIs) {
   AsciiFiles files;
-  ExpectRows<std::optional<std::string>, bool>([&](const auto& bytes, bool append) {
-    const Text path = files.Path();
-    return files.After(bytes, [&] { files.object.SaveStringToTextFile2(path, u"ก\nd", append); });
-  }, {{{"abc", true}, "abc\xA1\nd"}, {{"abc", false}, "\xA1\nd"}, {{std::nullopt, true}, "\xA1\nd"}});
+  ExpectRows<std::optional<std::string>, bool>(
+      [&](const auto& bytes, bool append) {
+        const Text path = files.Path();
+        return files.After(bytes,
+                           [&] { files.object.SaveStringToTextFile2(path, u"ก\nd", append); });
+      },
+      {{{"abc", true}, "abc\xA1\nd"},
+       {{"abc", false}, "\xA1\nd"},
+       {{std::nullopt, true}, "\xA1\nd"}});
   create_directory(files.Folder() / "DeskTop");
   permissions(files.Folder() / "DeskTop", std::filesystem::perms(0577));
   files.object.SaveStringToTextFile(PathText(files.Folder() / "DeskTop/a"), u"x");
@@ -49,4 +56,3 @@ TEST(Log, AddLogAppendsALineOfSemicolons) {
   files.object.AddLog(u"bare.log", u"", u"", u"", u"");
   EXPECT_EQ(files.TakeShown(), "Warning: Not found specified folder.");
 }
-// clang-format on

@@ -18,22 +18,26 @@ constexpr const char* kTarget =
     "find to \\( -type d -printf ' %P/\\n' -o -printf ' %P=' -exec cat {} \\; "
     "-printf ',%m,%TY\\n' \\) 2>&- | LC_ALL=C sort | tr -d '\\n'";
 
-// clang-format off
 TEST(CopyFileCheck, CopiesWhatHasAnotherTime) {
-  ExpectRows<std::string, bool>([](const std::string& change, bool overwrite) {
+  const auto call = [](const std::string& change, bool overwrite) {
     const TempFolder folder;
-    folder.Run("printf new >from; touch -d '2001-01-01 00:00:00.123456789' from;"
-               "printf older >to; touch -r from to; chmod 600 *;" + change);
+    folder.Run(
+        "printf new >from; touch -d '2001-01-01 00:00:00.123456789' from;"
+        "printf older >to; touch -r from to; chmod 600 *;" +
+        change);
     const Text to = folder.Path("to");
     const int result = DiskObject().CopyFileCheck(folder.Path("from"), to, overwrite);
     return Shown(result) + folder.Run(kTarget);
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string, bool>(call, {
       {{"rm from; chmod 400 to", true}, "0 =older,400,2001"}, {{"rm to", false}, "1 =new,600,2001"},
       {{"rm from; mkdir from; chmod 400 to", true}, "0 =older,400,2001"},
       {{"rm to; mkdir to", true}, "1 /"}, {{"chmod 400 to", false}, "0 =older,600,2001"},
       {{"touch -d 2002-01-01 to; chmod 440 to", false}, "1 =older,640,2002"},
       {{"touch -d 2002-01-01 to; chmod 440 to", true}, "1 =new,640,2001"},
       {{"touch -d '2001-01-01 00:00:00.123456788' to", true}, "1 =new,600,2001"}});
+  // clang-format on
 }
 
 /// The machine's files, on a file system that keeps times in steps.
@@ -48,12 +52,15 @@ struct SteppedTimes final : FileStatusSource {
 };
 
 TEST(CopyFileCheck, ComparesTimesAsTheTargetKeepsThem) {
-  ExpectRows<int, std::string, std::string>([](int step, const auto& from, const auto& to) {
+  const auto call = [](int step, const auto& from, const auto& to) {
     const TempFolder folder;
     folder.Run("touch -d @" + from + " from; touch -d @" + to + " to");
     const auto status = std::make_shared<SteppedTimes>(std::chrono::nanoseconds(step));
-    return DiskObject({.file_status = status}).CopyFileCheck(folder.Path("from"), folder.Path("to"));
-  }, {
+    return DiskObject({.file_status = status})
+        .CopyFileCheck(folder.Path("from"), folder.Path("to"));
+  };
+  // clang-format off
+  ExpectRows<int, std::string, std::string>(call, {
       {{1, "61.5", "61.5"}, "0"}, {{1, "61.500000001", "61.5"}, "1"},
       {{2'000'000'000, "61.999999999", "60"}, "0"}, {{2'000'000'000, "62", "60"}, "1"},
       {{2'000'000'000, "60", "62"}, "1"}, {{2'000'000'000, "61.5", "61.5"}, "0", "not cut yet"},
@@ -61,22 +68,27 @@ TEST(CopyFileCheck, ComparesTimesAsTheTargetKeepsThem) {
       {{100, "61.123456789", "61.123456788"}, "1", "no time of the target's"},
       {{2'000'000'000, "-0.5", "-2"}, "0", "before 1970"}, {{2'000'000'000, "-2", "-2"}, "0"},
       {{2'000'000'000, "-0.5", "0"}, "1"}, {{0, "61.5", "61"}, "1", "a step that is none"}});
+  // clang-format on
 }
 
 TEST(XCopyFile, CopiesATreeAndCountsIt) {
-  ExpectRows<std::string, std::string>([](const std::string& change, const std::string& to) {
+  const auto call = [](const std::string& change, const std::string& to) {
     const TempFolder folder;
-    folder.Run("mkdir -p from/c; printf one >from/a; printf two >from/.b; printf three >from/c/d;"
-               "touch -d 2001-01-01 from/a from/.b from/c/d; chmod 400 from/a;"
-               "chmod 600 from/.b from/c/d;" + change);
+    folder.Run(
+        "mkdir -p from/c; printf one >from/a; printf two >from/.b; printf three >from/c/d;"
+        "touch -d 2001-01-01 from/a from/.b from/c/d; chmod 400 from/a;"
+        "chmod 600 from/.b from/c/d;" +
+        change);
     const int count = DiskObject().XCopyFile(folder.Path("from"), folder.Path(to));
     return Shown(count) + folder.Run(kTarget);
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string, std::string>(call, {
       {{"", "to\\"}, "5 .b=two,600,2001 / a=one,400,2001 c/ c/d=three,600,2001"},
       {{"mkdir to; printf older >to/a; chmod 644 to/a", "from\\..\\to"},
-       "5 .b=two,600,2001 / a=one,644,2001 c/ c/d=three,600,2001"},
+      "5 .b=two,600,2001 / a=one,644,2001 c/ c/d=three,600,2001"},
       {{"rm from/a from/.b; ln -s c from/l", "to"},
-       "5 / c/ c/d=three,600,2001 l/ l/d=three,600,2001"},
+      "5 / c/ c/d=three,600,2001 l/ l/d=three,600,2001"},
       {{"rm -r from; mkdir from", "to"}, "1 /"}, {{"rm -r from; mkdir from", "no/to"}, "0"},
       {{"rm -r from; >from", "to"}, "0"}, {{"rm -r from", "to"}, "0"}, {{"", "no/to"}, "error 76"},
       {{"mkdir -p to/c", "to"}, "error 75"}, {{"mkdir -p to/a", "to"}, "error 75"},
@@ -84,14 +96,13 @@ TEST(XCopyFile, CopiesATreeAndCountsIt) {
       {{"rm -r from/c", "from"}, "error 70"}, {{"ln -s gone from/l", "to"}, "error 53"},
       {{"mkfifo from/p", "to"}, "error 75"}, {{"touch 'from/..\\x'", "to"}, "error 75"},
       {{"touch from/$(printf '\\377')", "to"}, "error 75"}});
+  // clang-format on
 }
 
 // Copies that would go on for ever. "@" in a path is the folder of the test.
 TEST(XCopyFile, RefusesATargetInTheSourceByWhateverName) {
   const auto current = std::filesystem::current_path();
-  ExpectRows<std::string, std::string, std::string>([&](const std::string& change,
-                                                        const std::string& from,
-                                                        const std::string& to) {
+  const auto call = [&](const std::string& change, const std::string& from, const std::string& to) {
     const TempFolder folder;
     folder.Run("mkdir -p t/c out; printf one >t/a; " + change);
     std::filesystem::current_path(folder.Native());
@@ -105,7 +116,9 @@ TEST(XCopyFile, RefusesATargetInTheSourceByWhateverName) {
     const std::string result = ResultOf([&] { return disk.XCopyFile(path(from), path(to)); });
     std::filesystem::current_path(current);
     return result + (folder.Run("find") == before ? "" : " and more");
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string, std::string, std::string>(call, {
       {{"", "C:@t", "C:@t\\x"}, "error 75"}, {{"", "C:@t", "c:@t\\x"}, "error 75"},
       {{"", "C:@t", "E:@t\\c\\x"}, "error 75"}, {{"", "@t\\", "C:@t\\c"}, "error 75"},
       {{"", "t", ".\\t\\x"}, "error 75"}, {{"", ".\\t", "C:@t\\x"}, "error 75"},
@@ -117,30 +130,37 @@ TEST(XCopyFile, RefusesATargetInTheSourceByWhateverName) {
       {{"", "t", "t"}, "error 75", "its own folder c is there"}, {{"rm -r t/c", "t", "t\\."}, "error 70"},
       {{"mkdir tt", "t", "tt"}, "3 and more", "no part of a name counts"},
       {{"ln -s ../out t/l; rm -r t/[ac]", "t", "t\\l"}, "error 75", "a link in it leads there"}});
+  // clang-format on
 }
 
 TEST(XCopyFile, StopsAtALinkThatWouldGoOnForEver) {
-  ExpectRows<std::string>([](const std::string& change) {
+  const auto call = [](const std::string& change) {
     const TempFolder folder;
     folder.Run("mkdir -p t/c out/d; " + change);
     const std::string error =
         ResultOf([&] { return DiskObject().XCopyFile(folder.Path("t"), folder.Path("to")); });
     return error + ", " + folder.Run("find to -mindepth 1 | LC_ALL=C sort | tr '\\n' ' '");
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string>(call, {
       {{"rmdir t/c; ln -s . t/l"}, "error 75, "}, {{"rmdir t/c; ln -s .. t/l"}, "error 75, "},
       {{"rmdir t/c; ln -s ../to t/l"}, "error 75, ", "the target itself"},
       {{"ln -s .. t/c/l"}, "error 75, to/c "}, {{"ln -s .. t/c/l; ln -s .. t/c/m"}, "error 75, to/c "},
       {{"rmdir t/c; ln -s ../out t/l; ln -s ../../t out/d/m"}, "error 75, to/l to/l/d "},
       {{"ln -s ../../out t/c/l; ln -s ../../out t/c/m"},
-       "6, to/c to/c/l to/c/l/d to/c/m to/c/m/d ", "one folder twice"}});
+      "6, to/c to/c/l to/c/l/d to/c/m to/c/m/d ", "one folder twice"}});
+  // clang-format on
 }
 
 // The first two folders have one number, on devices of their own.
 TEST(RootXCopyFile, TellsTheFoldersOfMountsApart) {
   constexpr int kNoMounts = 255;
-  const std::pair<const char*, int> rows[] = {
+  const std::pair<const char*, int> rows[] =
+      // clang-format off
+      {
       {"mount -t tmpfs none a; mount -t tmpfs none b", 1},
-      {"mkdir a/c; mount --bind a b", 75}, {"mkdir a/c; mount --bind a/c b", 75}};
+      {"mkdir a/c; mount --bind a b", 75}, {"mkdir a/c; mount --bind a/c b", 75}}  // clang-format on
+  ;
   for (const auto& [mounts, expected] : rows) {
     const TempFolder folder;
     folder.Run("mkdir a b");
@@ -175,7 +195,6 @@ TEST(RootXCopyFile, NeedsNoRightToTheFoldersAboveTheCurrentOne) {
   EXPECT_EQ(copy("d"), 1);
   EXPECT_EQ(copy("c\\x"), 75);
 }
-// clang-format on
 
 TEST(FileCopier, CopiesWholeFilesOrNone) {
   const TempFolder folder;

@@ -7,15 +7,19 @@
 
 using namespace ZQ7Standard;
 
-// clang-format off
 TEST(Paths, AreSplitTrimmedAndShortened) {
   const DiskObject disk;
+  // clang-format off
   ExpectRows<TextView>([&](auto it) { return disk.Pathname(it) + u"|" + disk.FileName(it); }, {
       {{u"C:\\a\\b.txt"}, "C:\\a|b.txt"}, {{u"C:\\b.txt"}, "C:|b.txt"}, {{u"b.txt"}, "|b.txt"},
       {{u"\\b.txt"}, "|b.txt"}, {{u"C:\\a\\"}, "C:\\a|"}, {{u"a/b"}, "|a/b"}, {{u""}, "|"}});
+  // clang-format on
+  // clang-format off
   ExpectTexts([&](TextView path) { return disk.trimPath(path); }, {
       {"C:\\a", {u"C:\\a", u"C:\\a\\\\\\"}}, {"\\a/", {u"\\a/"}}, {"", {u"", u"\\\\"}}});
+  // clang-format on
   // Spaces around the path go, but its name keeps its own, and they count in its length.
+  // clang-format off
   ExpectRows<TextView>([&](TextView path) { return disk.ScaleFullPath(path, 500); }, {
       {{u"C:\\Data\\Sales\\2024\\report.xls"}, "C:\\Data\\...\\report.xls"},
       {{u" C:\\Data\\report.xls"}, "C:\\Data\\report.xls"}, {{u"C:\\f.txt"}, "C:\\f.txt"},
@@ -23,6 +27,7 @@ TEST(Paths, AreSplitTrimmedAndShortened) {
       {{u"\\\\srv\\share\\a\\b\\f.txt"}, "\\\\srv\\share\\...\\f.txt"}, {{u""}, "\\...\\"},
       {{u"\\\\srv\\share\\f.txt"}, "\\\\srv\\share\\f.txt"}, {{u"f.txt"}, "\\...\\f.txt"},
       {{u"\\a\\b\\f.txt"}, "\\a\\...\\f.txt"}, {{u"C:\\Data\\Sales\\"}, "C:\\Data\\...\\"}});
+  // clang-format on
 }
 
 TEST(CreateFullPath, MakesEachFolderThatIsMissing) {
@@ -31,10 +36,12 @@ TEST(CreateFullPath, MakesEachFolderThatIsMissing) {
   const DiskObject disk({.drives = drives});
   const auto current = std::filesystem::current_path();
   std::filesystem::current_path(folder.Native());
+  // clang-format off
   ExpectRows<Text>([&](const Text& path) { return disk.CreateFullPath(path); }, {
       {{u"D:\\x\\y\\z\\\\"}, "-1"}, {{u"d:\\x\\y"}, "-1"}, {{u"D:\\x\\\\w"}, "-1"}, {{u"C:"}, "-1"},
       {{u"\\\\srv\\share"}, "-1"}, {{u"E:\\a"}, "-1"}, {{u""}, "0"}, {{u"\\\\"}, "0"},
       {{u"C:\\etc\\passwd\\x"}, "error 75"}, {{u"D:\\" + Text(300, u'x')}, "error 75"}});
+  // clang-format on
   std::filesystem::current_path(current);
   EXPECT_EQ(folder.Run("find -mindepth 1 -printf '%P\n' | sort | tr '\n' ' '"),
             "new new/a srv srv/share x x/w x/y x/y/z ");
@@ -58,4 +65,3 @@ TEST(CreateFullPath, TakesAFolderThatAnotherProcessMade) {
   EXPECT_EQ(disk.CreateFullPath(folder.Path("x/y")), -1);
   EXPECT_EQ(disk.XCopyFile(folder.Path("x/y"), folder.Path("to")), 1);
 }
-// clang-format on

@@ -78,11 +78,12 @@ TEST(Rewrite, AFailureOfAnyCallLeavesTheOldFileOrTheNewOne) {
   expect("[B]=2\r\n", "57", [&] { files.object.DeleteValue(files.Path(), u"A"); });
 }
 
-// clang-format off
 TEST(Rewrite, TakesEachErrorForWhatItMeans) {
   AsciiFiles files(FileRewriterBy(kHookedCalls));
   const auto& calls = kSystemCalls;
-  const std::tuple<const void*, int, int, const char*> rows[] = {
+  const std::tuple<const void*, int, int, const char*> rows[] =
+      // clang-format off
+      {
       {&calls.flock, 0, EBADF, "0, new"}, {&calls.flock, 0, ENOLCK, "0, new"},
       {&calls.flock, 0, EOPNOTSUPP, "0, new"}, {&calls.flock, 0, EACCES, "0, new"},
       {&calls.flock, 0, EINTR, "0, new"}, {&calls.flock, 0, EWOULDBLOCK, "0, new"},
@@ -90,7 +91,9 @@ TEST(Rewrite, TakesEachErrorForWhatItMeans) {
       {&calls.fsync, 0, ENOSPC, "61, old"}, {&calls.fsync, 0, EINTR, "0, new"},
       {&calls.renameat, 0, EROFS, "70, old"}, {&calls.openat, 3, EACCES, "0, new"},
       {&calls.openat, 3, EPERM, "0, new"}, {&calls.openat, 3, EIO, "57, new"},
-      {&calls.fsync, 1, EIO, "57, new"}, {&calls.fsync, 1, EINVAL, "0, new"}};
+      {&calls.fsync, 1, EIO, "57, new"}, {&calls.fsync, 1, EINVAL, "0, new"}}
+  // clang-format on
+  ;
   for (const auto& [call, number, error, expected] : rows) {
     const Fault fault(number, call, error);
     files.Write(kOld);
@@ -99,7 +102,6 @@ TEST(Rewrite, TakesEachErrorForWhatItMeans) {
     EXPECT_EQ(result + (files.Read() == kOld ? ", old" : ", new"), expected) << strerror(error);
   }
 }
-// clang-format on
 
 TEST(Rewrite, WaitsTenSecondsForAnother) {
   AsciiFiles files(FileRewriterBy(kHookedCalls));
@@ -233,15 +235,17 @@ TEST(Rewrite, AppendsToAFileThatAppearsInBetween) {
   EXPECT_EQ(files.Read(), "theirs, mine");
 }
 
-// clang-format off
 TEST(Rewrite, FollowsLinksAndReplacesFilesAlone) {
-  ExpectRows<std::string>([](const std::string& commands) {
+  const auto call = [](const std::string& commands) {
     const TempFolder folder;
     folder.Run("printf '[A]=1' >set.ini; mkdir sub; " + commands);
     const int error = ErrorOf([&] { ASCIIObject().DeleteValue(folder.Path("l"), u"a"); });
     ASCIIObject().Setvalue(folder.Path("l"), u"a", u"2");
-    return Shown(error) + folder.Run(": ; [ -h l ] && printf ' link'; [ -f l ] && printf ' ' && cat l set.ini");
-  }, {
+    return Shown(error) +
+           folder.Run(": ; [ -h l ] && printf ' link'; [ -f l ] && printf ' ' && cat l set.ini");
+  };
+  // clang-format off
+  ExpectRows<std::string>(call, {
       {{"ln -s set.ini l"}, "0 link [A]=2\r\n[A]=2\r\n"}, {{"ln set.ini l"}, "0 [A]=2\r\n[A]=1"},
       {{"ln -s sub/m l; ln -s ../set.ini sub/m"}, "0 link [A]=2\r\n[A]=2\r\n"},
       {{"ln -s $PWD/set.ini l; ln -s sub 'set.ini$$$$'"}, "0 link [A]=2\r\n[A]=2\r\n", "one in the way"},
@@ -249,8 +253,8 @@ TEST(Rewrite, FollowsLinksAndReplacesFilesAlone) {
       {{"ln -s none/new l"}, "0 link"}, {{"ln -s l l"}, "0 link"}, {{"mkdir l"}, "0"},
       {{"ln -s sub/ l"}, "0 link"}, {{"mkfifo l"}, "75"}, {{"ln -s /dev/zero l"}, "75 link"},
       {{"ln -s set.ini/ l"}, "0 link", "a file as a folder"}});
+  // clang-format on
 }
-// clang-format on
 
 /// Does `work` as a user of no rights, whose status is the result.
 int AsNobody(const std::function<int()>& work) {
@@ -262,10 +266,9 @@ int AsNobody(const std::function<int()>& work) {
 }
 
 // What a rewrite by root or by a user of no rights raises and leaves, after commands of root.
-// clang-format off
 TEST(RootRewrite, NeverWidensRights) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can act for another user";
-  ExpectRows<std::string, std::string>([](const std::string& who, const std::string& commands) {
+  const auto call = [](const std::string& who, const std::string& commands) {
     const TempFolder folder;
     folder.Run("umask 22; chmod 777 .; printf '[A]=1' >set.ini; " + commands);
     const ASCIIObject object;
@@ -273,9 +276,12 @@ TEST(RootRewrite, NeverWidensRights) {
     const auto erase = [&] { return ErrorOf([&] { object.DeleteValue(path, u"a"); }); };
     const auto save = [&] { return object.SaveStringToTextFile(path, u"x"), 0; };
     const int error = who == "root" ? erase() : who == "save" ? AsNobody(save) : AsNobody(erase);
-    return Shown(error) + folder.Run("stat -Lc ' %a %u:%g' set.ini | tr '\\n' ' '; "
-                                     "getfacl -cEsn set.ini | tr -s '\\n' ' '");
-  }, {
+    return Shown(error) + folder.Run(
+                              "stat -Lc ' %a %u:%g' set.ini | tr '\\n' ' '; "
+                              "getfacl -cEsn set.ini | tr -s '\\n' ' '");
+  };
+  // clang-format off
+  ExpectRows<std::string, std::string>(call, {
       {{"root", "chmod 450 set.ini; chown 1234:5678 set.ini"}, "0 650 1234:5678 ", "read-only"},
       {{"nobody", "chmod 755 ."}, "70 644 0:0 "}, {{"nobody", ""}, "0 644 65534:65534 "},
       {{"nobody", "chmod 664 set.ini"}, "0 644 65534:65534 ", "another group"},
@@ -285,11 +291,11 @@ TEST(RootRewrite, NeverWidensRights) {
       {{"save", "chmod 622 set.ini; chgrp 65534 set.ini"}, "0 600 65534:65534 ", "read by nobody"},
       {{"nobody", "chown 65534:65534 . set.ini; chmod 300 ."}, "0 644 65534:65534 ", "no list of names"},
       {{"root", "setfacl -m u:1:rw,u:2:-,g:3:r,m::r set.ini"},
-       "0 644 0:0 user::rw- user:1:rw- user:2:--- group::r-- group:3:r-- mask::r-- other::r-- "},
+      "0 644 0:0 user::rw- user:1:rw- user:2:--- group::r-- group:3:r-- mask::r-- other::r-- "},
       {{"root", "setfacl -dm u:1:rwx,o::rwx ."}, "0 644 0:0 ", "the folder's default is not the file's"},
       {{"root", "chmod 600 set.ini; setfacl -dm u:1:rwx ."}, "0 600 0:0 "},
       {{"root", "setfacl -dm u:1:rwx .; setfacl -m u:2:r set.ini"},
-       "0 644 0:0 user::rw- user:2:r-- group::r-- mask::r-- other::r-- "},
+      "0 644 0:0 user::rw- user:2:r-- group::r-- mask::r-- other::r-- "},
       {{"nobody", "setfacl -dm u:1:rwx ."}, "0 644 65534:65534 "},
       {{"nobody", "chgrp 65534 set.ini; setfacl -m u:1:rw set.ini"}, "0 644 65534:65534 ", "not the mask"},
       {{"nobody", "chgrp 65534 set.ini; setfacl -m u:1:r,g::rw,m::r set.ini"}, "0 644 65534:65534 "},
@@ -298,26 +304,30 @@ TEST(RootRewrite, NeverWidensRights) {
       {{"nobody", "chown 65534 set.ini; setfacl -m g:1:r,g::rw set.ini"}, "0 644 65534:65534 ", "another group"},
       {{"nobody", "mv set.ini f; ln -s f set.ini; chown 65534 f; chmod 1777 ."}, "0 644 65534:65534 "},
       {{"nobody", "mv set.ini f; ln -s f set.ini; chown 65534 f; chown -h 1 set.ini; chmod 1777 ."},
-       "70 644 65534:0 ", "a stranger's link"}});
+      "70 644 65534:0 ", "a stranger's link"}});
+  // clang-format on
 }
 
 TEST(RootRewrite, AFullDiskLeavesTheOldFileAndNoNewOne) {
   const TempFolder folder;
   const int result = End(Begin([&] {
     if (unshare(CLONE_NEWNS) != 0 || mount("", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        mount("zq7", folder.Native().c_str(), "tmpfs", 0, "size=80k") != 0) return 99;
+        mount("zq7", folder.Native().c_str(), "tmpfs", 0, "size=80k") != 0)
+      return 99;
     folder.Run("printf '[A]=1\\r\\n' >set.ini; head -c50000 /dev/zero >>set.ini");
     const auto erase = [&] { ASCIIObject().DeleteValue(folder.Path("set.ini"), u"A"); };
     EXPECT_EQ(ErrorOf(erase), 61);
-    const auto create = [&] { SystemFileWriter()->Create(folder.Path("new"), std::string(100'000, 'x')); };
+    const auto create = [&] {
+      SystemFileWriter()->Create(folder.Path("new"), std::string(100'000, 'x'));
+    };
     EXPECT_EQ(ErrorOf(create), 61);
-    EXPECT_EQ(folder.Run("rm 'set.ini$$$$'; ls; head -c5 set.ini; stat -c ,%s set.ini"), "set.ini\n[A]=1,50007\n");
+    EXPECT_EQ(folder.Run("rm 'set.ini$$$$'; ls; head -c5 set.ini; stat -c ,%s set.ini"),
+              "set.ini\n[A]=1,50007\n");
     return testing::Test::HasFailure() ? 1 : 0;
   }));
   if (result == 99) GTEST_SKIP() << "no right to mount";
   EXPECT_EQ(result, 0);
 }
-// clang-format on
 
 TEST(RewriteBreadth, AKillAtAnyMomentLeavesAWholeFile) {
   AsciiFiles files;

@@ -16,9 +16,9 @@
 
 using namespace ZQ7Standard;
 
-// clang-format off
 TEST(NativePath, DropsTheDriveAndTurnsTheSlashes) {
   const DriveMap drives = {{'D', "/srv/shop"}};
+  // clang-format off
   ExpectRows<TextView>([&](TextView path) { return NativePath(path, drives); }, {
       {u"C:\\srv\\app\\set.ini", "/srv/app/set.ini"}, {u"c:", "/"}, {u"C:\\", "/"},
       {u"D:\\a", "/srv/shop/a"}, {u"d:a", "/srv/shop/a"}, {u"D:", "/srv/shop/"}, {u"", ""},
@@ -28,8 +28,11 @@ TEST(NativePath, DropsTheDriveAndTurnsTheSlashes) {
       {u"D:\\link\\..\\b", "/srv/shop/b", "a link may lead out of the drive"},
       {u"D:\\..a\\b..\\...", "/srv/shop/..a/b../..."}, {u"C:\\a\\..\\..\\b", "/a/../../b"},
       {u"ก/\\ข", "ก//ข"}, {TextView(u"a\0b", 3), "a\uFFFD" "b", "never cut short"}});
+  // clang-format on
+  // clang-format off
   ExpectRows<const char*>([](const char* path) { return PathText(path); }, {
       {"/srv/app/set.ini", "C:\\srv\\app\\set.ini"}, {"ก", "C:ก"}, {"/", "C:\\"}});
+  // clang-format on
 }
 
 TEST(FileErrors, TellWhatIsMissingOrInTheWay) {
@@ -38,17 +41,21 @@ TEST(FileErrors, TellWhatIsMissingOrInTheWay) {
   const Text folder = PathText(files.Folder());
   const auto status = SystemFileStatus();
   const auto writer = SystemFileWriter();
+  // clang-format off
   ExpectRows<TextView>([&](TextView name) { writer->Append(folder + Text(name), "y"); return 0; }, {
       {u"", "error 75", "a folder"}, {u"\\set.ini", "0"}, {u"\\none\\a", "error 76"},
       {u"\\set.ini\\a", "error 76", "a file as folder"}});
+  // clang-format on
+  // clang-format off
   ExpectRows<TextView>([&](TextView name) { status->ClearReadOnly(folder + Text(name)); return 0; }, {
       {u"\\none", "error 53"}, {u"\\none\\a", "error 76"}, {u"\\set.ini", "0"}});
+  // clang-format on
 }
 
 TEST(FileContents, AreThoseOfRegularFilesThatAreNotReadOnly) {
   const auto reader = SystemFileReader();
   const auto writer = SystemFileWriter();
-  ExpectRows<std::string>([&](const std::string& commands) {
+  const auto call = [&](const std::string& commands) {
     const TempFolder folder;
     folder.Run(commands);
     const Text path = folder.Path("f");
@@ -58,7 +65,9 @@ TEST(FileContents, AreThoseOfRegularFilesThatAreNotReadOnly) {
     results += ", append " + ResultOf([&] { return writer->Append(path, "z"), 0; });
     results += ", create " + ResultOf([&] { return writer->Create(path, "new"); });
     return results + ", " + folder.Run("[ -f f ] && cat f; true");
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string>(call, {
       {{"printf xyz >f"}, "read xyz, start 2, append 0, create no, xyzz"},
       {{""}, "read none, start 0, append 0, create no, z"},
       {{"printf xyz >f; chmod 444 f"}, "read xyz, start error 70, append error 70, create no, xyz"},
@@ -69,14 +78,18 @@ TEST(FileContents, AreThoseOfRegularFilesThatAreNotReadOnly) {
       {{"mkdir f"}, "read none, start error 75, append error 75, create error 75, "},
       {{"ln -s f f"}, "read none, start error 75, append error 75, create error 53, "},
       {{"ln -s none/f f"}, "read none, start error 53, append error 53, create error 53, "}});
-  ExpectRows<std::string>([&](const std::string& commands) {
+  // clang-format on
+  const auto second_call = [&](const std::string& commands) {
     const TempFolder folder;
     folder.Run(commands);
     const std::string created = ResultOf([&] { return writer->Create(folder.Path("f"), "new"); });
     return created + ", " + folder.Run("cat f; ls -A | wc -l");
-  }, {
+  };
+  // clang-format off
+  ExpectRows<std::string>(second_call, {
       {{""}, "yes, new1\n"}, {{"mkdir d; ln -s d/g f"}, "yes, new2\n", "the file that a link names"},
       {{"printf old >f"}, "no, old1\n"}, {{"printf old >g; ln -s g f"}, "no, old2\n"}});
+  // clang-format on
   EXPECT_EQ(ErrorOf([&] { writer->Create(u"C:\\tmp\\none\\a", "x"); }), 76);
 }
 
@@ -115,8 +128,11 @@ TEST(FileStatus, TellsFoldersRightsAndTimes) {
     const auto found = status->StatusOf(path);
     return !found ? "none" : found->is_folder ? "folder" : found->read_only ? "read-only" : "file";
   };
-  ExpectRows<TextView>(shown, {{u"D:", "folder"}, {u"D:\\set.ini", "read-only", "for root too"},
-                               {u"D:\\none", "none"}, {u"", "none"}, {u"D:\\set.ini\\a", "none"}});
+  // clang-format off
+  ExpectRows<TextView>(shown, {
+      {u"D:", "folder"}, {u"D:\\set.ini", "read-only", "for root too"},
+      {u"D:\\none", "none"}, {u"", "none"}, {u"D:\\set.ini\\a", "none"}});
+  // clang-format on
   status->ClearReadOnly(u"D:\\set.ini");
   EXPECT_EQ(std::filesystem::status(files.File()).permissions(), std::filesystem::perms(0670));
   EXPECT_EQ(status->StatusOf(u"D:\\set.ini")->last_modified,
@@ -124,11 +140,12 @@ TEST(FileStatus, TellsFoldersRightsAndTimes) {
 }
 
 TEST(TimeStep, IsThatOfTheFileSystem) {
+  // clang-format off
   ExpectRows<unsigned>([](unsigned type) { return TimeStepOf(type).count(); }, {
       {0x4D44, "2000000000", "FAT"}, {0x2011BAB0, "10000000", "exFAT"}, {0x517B, "100", "SMB 1"},
       {0xFF534D42, "100", "CIFS"}, {0xFE534D42, "100", "SMB 2"}, {0xEF53, "1", "ext4"}, {0, "1"}});
+  // clang-format on
   const TempFolder folder;
   const auto status = SystemFileStatus();
   EXPECT_EQ(status->TimeStep(folder.Path("none")), std::chrono::nanoseconds(1));
 }
-// clang-format on
