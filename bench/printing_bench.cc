@@ -6,9 +6,9 @@
 
 #include "bench/inputs.h"
 #include "bench/measure.h"
-#include "platform/linux/handle.h"
-#include "platform/linux/named_settings.h"
-#include "platform/linux/page_document.h"
+#include "printing/handle.h"
+#include "printing/linux/named_settings.h"
+#include "printing/page_document.h"
 
 namespace ZQ7Standard::Bench {
 namespace {

@@ -79,6 +79,9 @@ class ZQ7STANDARD_EXPORT RunTimeError : public std::runtime_error {
   /// A failure with a number and a text of the host's own.
   RunTimeError(int number, std::string_view text);
   explicit RunTimeError(const ErrorDetails& details);
+  RunTimeError(const RunTimeError&) noexcept = default;
+  RunTimeError& operator=(const RunTimeError&) noexcept = default;
+  ~RunTimeError() override;
 
   int Number() const noexcept { return details_->number; }
   const ErrorDetails& Details() const noexcept { return *details_; }

@@ -71,6 +71,9 @@ std::span<const ErrorInfo> Errors() {
   return kErrors;
 }
 
+// Here, so that a module and its core have the type once.
+RunTimeError::~RunTimeError() = default;
+
 RunTimeError::RunTimeError(const ErrorDetails& details)
     : std::runtime_error(MessageOf(details)),
       details_(std::make_shared<const ErrorDetails>(details)) {}

@@ -24,7 +24,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/linux/printer_names.h"
+#include "printing/linux/printer_names.h"
 #include "tests/support/denied_calls.h"
 #include "tests/support/ipp_server.h"
 #include "tests/support/rows.h"

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_PLATFORM_LINUX_PAGE_DOCUMENT_H_
-#define ZQ7STANDARD_SRC_PLATFORM_LINUX_PAGE_DOCUMENT_H_
+#ifndef ZQ7STANDARD_MODULES_PRINTING_PAGE_DOCUMENT_H_
+#define ZQ7STANDARD_MODULES_PRINTING_PAGE_DOCUMENT_H_
 
 #include <ZQ7Standard/platform/print_document.h>
 
@@ -25,4 +25,4 @@ std::shared_ptr<PrintDocument> NewPageDocument(std::shared_ptr<PageTarget> targe
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_PLATFORM_LINUX_PAGE_DOCUMENT_H_
+#endif  // ZQ7STANDARD_MODULES_PRINTING_PAGE_DOCUMENT_H_

@@ -1,4 +1,4 @@
-#include "platform/linux/cups_server.h"
+#include "printing/linux/cups_server.h"
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/page_document.h"
+#include "printing/page_document.h"
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>
@@ -10,8 +10,8 @@
 #include <utility>
 
 #include "formats/picture_size.h"
-#include "platform/linux/handle.h"
-#include "platform/linux/page_text.h"
+#include "printing/handle.h"
+#include "printing/page_text.h"
 
 namespace ZQ7Standard {
 namespace {

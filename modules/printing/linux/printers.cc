@@ -1,4 +1,4 @@
-#include <ZQ7Standard/platform/printers.h>
+#include "printing/linux/printers.h"
 
 #include <algorithm>
 #include <map>
@@ -6,9 +6,9 @@
 #include <string>
 #include <utility>
 
-#include "platform/linux/cups_printers.h"
-#include "platform/linux/cups_server.h"
-#include "platform/linux/pdf_printer.h"
+#include "printing/linux/cups_printers.h"
+#include "printing/linux/cups_server.h"
+#include "printing/linux/pdf_printer.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -58,10 +58,12 @@ class LinuxPrinters final : public PrinterList {
   std::optional<Printer> current_;
 };
 
-}  // namespace
-
-std::shared_ptr<PrinterList> SystemPrinters(std::filesystem::path pdf_folder) {
+std::shared_ptr<PrinterList> NewPrinters(std::filesystem::path pdf_folder) {
   return std::make_shared<LinuxPrinters>(std::move(pdf_folder));
 }
+
+}  // namespace
+
+const PrintingFunctions kPrintingFunctions = {.system_printers = NewPrinters};
 
 }  // namespace ZQ7Standard

@@ -1,4 +1,4 @@
-#include "platform/linux/pdf_printer.h"
+#include "printing/linux/pdf_printer.h"
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/clock.h>
@@ -14,8 +14,8 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/linux/named_settings.h"
 #include "platform/linux/new_file.h"
+#include "printing/linux/named_settings.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_PLATFORM_LINUX_CUPS_SERVER_H_
-#define ZQ7STANDARD_SRC_PLATFORM_LINUX_CUPS_SERVER_H_
+#ifndef ZQ7STANDARD_MODULES_PRINTING_LINUX_CUPS_SERVER_H_
+#define ZQ7STANDARD_MODULES_PRINTING_LINUX_CUPS_SERVER_H_
 
 #include <cups/cups.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/linux/handle.h"
+#include "printing/handle.h"
 
 namespace ZQ7Standard {
 
@@ -81,4 +81,4 @@ class CupsServer {
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_PLATFORM_LINUX_CUPS_SERVER_H_
+#endif  // ZQ7STANDARD_MODULES_PRINTING_LINUX_CUPS_SERVER_H_

@@ -1,12 +1,12 @@
-#ifndef ZQ7STANDARD_SRC_PLATFORM_LINUX_PAGE_TEXT_H_
-#define ZQ7STANDARD_SRC_PLATFORM_LINUX_PAGE_TEXT_H_
+#ifndef ZQ7STANDARD_MODULES_PRINTING_PAGE_TEXT_H_
+#define ZQ7STANDARD_MODULES_PRINTING_PAGE_TEXT_H_
 
 #include <ZQ7Standard/platform/print_document.h>
 #include <pango/pangocairo.h>
 
 #include <map>
 
-#include "platform/linux/handle.h"
+#include "printing/handle.h"
 
 namespace ZQ7Standard {
 
@@ -44,4 +44,4 @@ class PageText {
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_PLATFORM_LINUX_PAGE_TEXT_H_
+#endif  // ZQ7STANDARD_MODULES_PRINTING_PAGE_TEXT_H_

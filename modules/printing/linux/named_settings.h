@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_PLATFORM_LINUX_NAMED_SETTINGS_H_
-#define ZQ7STANDARD_SRC_PLATFORM_LINUX_NAMED_SETTINGS_H_
+#ifndef ZQ7STANDARD_MODULES_PRINTING_LINUX_NAMED_SETTINGS_H_
+#define ZQ7STANDARD_MODULES_PRINTING_LINUX_NAMED_SETTINGS_H_
 
 #include <ZQ7Standard/platform/printers.h>
 
@@ -7,8 +7,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/linux/page_document.h"
-#include "platform/linux/printer_names.h"
+#include "printing/linux/printer_names.h"
+#include "printing/page_document.h"
 
 namespace ZQ7Standard {
 
@@ -48,4 +48,4 @@ Printer PrinterOn(Text device_name, const std::shared_ptr<NamedSettings>& printe
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_PLATFORM_LINUX_NAMED_SETTINGS_H_
+#endif  // ZQ7STANDARD_MODULES_PRINTING_LINUX_NAMED_SETTINGS_H_

@@ -1,4 +1,4 @@
-#include "platform/linux/page_text.h"
+#include "printing/page_text.h"
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>

@@ -1,4 +1,4 @@
-#include "platform/linux/cups_printers.h"
+#include "printing/linux/cups_printers.h"
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <cups/cups.h>
@@ -8,8 +8,8 @@
 #include <cstddef>
 #include <utility>
 
-#include "platform/linux/cups_server.h"
-#include "platform/linux/named_settings.h"
+#include "printing/linux/cups_server.h"
+#include "printing/linux/named_settings.h"
 
 namespace ZQ7Standard {
 namespace {

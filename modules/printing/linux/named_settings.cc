@@ -1,4 +1,4 @@
-#include "platform/linux/named_settings.h"
+#include "printing/linux/named_settings.h"
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <cups/cups.h>

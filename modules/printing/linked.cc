@@ -1,0 +1,11 @@
+#include "printing/linux/printers.h"
+
+namespace ZQ7Standard {
+
+/// Of a core that has the module linked in.
+const ModuleOf<PrintingFunctions>& PrintingModule() {
+  static const ModuleOf<PrintingFunctions> linked = {&kPrintingFunctions};
+  return linked;
+}
+
+}  // namespace ZQ7Standard

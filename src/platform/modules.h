@@ -1,0 +1,32 @@
+#ifndef ZQ7STANDARD_SRC_PLATFORM_MODULES_H_
+#define ZQ7STANDARD_SRC_PLATFORM_MODULES_H_
+
+#include <ZQ7Standard/platform/printers.h>
+
+#include <filesystem>
+#include <string>
+
+/// Modules hold what needs libraries that most hosts never use. A shared core loads a
+/// module at its first use; a static core has its modules linked in.
+namespace ZQ7Standard {
+
+/// What the printing module makes.
+struct PrintingFunctions {
+  std::shared_ptr<PrinterList> (*system_printers)(std::filesystem::path pdf_folder);
+};
+
+/// The functions of a module, or why they are not there.
+template <typename Functions>
+struct ModuleOf {
+  const Functions* functions = nullptr;
+  std::string problem = {};
+};
+
+/// Defined by the loader, by the modules themselves where they are linked in, and by
+/// src/platform/no_modules.cc where they are not built. The first call loads the module;
+/// its outcome is remembered.
+const ModuleOf<PrintingFunctions>& PrintingModule();
+
+}  // namespace ZQ7Standard
+
+#endif  // ZQ7STANDARD_SRC_PLATFORM_MODULES_H_
