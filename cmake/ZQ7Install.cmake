@@ -9,6 +9,11 @@ foreach(kind IN LISTS kinds)
     DESTINATION ${package_dir} COMPONENT Development)
 endforeach()
 
+if(TARGET zq7_printing_module)
+  install(TARGETS zq7_printing_module
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zq7standard COMPONENT Printing)
+endif()
+
 if(NOT zq7_has_sodium)
   set(without_sodium PATTERN sodium_block_cipher.h EXCLUDE)
 endif()

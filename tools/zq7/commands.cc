@@ -1,5 +1,7 @@
 #include "commands.h"
 
+#include <ZQ7Standard/Modules.h>
+
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
@@ -77,11 +79,21 @@ const CLI::App& SubcommandNamed(const std::string& word, const CLI::App& root) {
   throw WrongUse("There is no subcommand " + Quoted(word) + "." + Hint(word, names) + kMoreHelp);
 }
 
+std::string VersionLines() {
+  std::string lines = "zq7 " ZQ7_VERSION;
+  for (const auto& [name, problem] : ZQ7Standard::Modules()) {
+    lines.append("\nmodule ").append(name).append(": ");
+    lines.append(problem.empty() ? "ready" : problem);
+  }
+  return lines;
+}
+
 }  // namespace
 
 Commands::Commands() : app_("Calls the operations of the ZQ7Standard library by name.", "zq7") {
   app_.get_formatter()->column_width(22);
-  app_.set_version_flag("--version", "zq7 " ZQ7_VERSION, "Print the version.");
+  app_.set_version_flag("--version", VersionLines,
+                        "Print the version, and which modules can be used.");
   app_.set_help_flag("-h,--help", "Print what the tool, or a subcommand, takes.");
   app_.require_subcommand(1);
   app_.fallthrough();
