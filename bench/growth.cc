@@ -97,7 +97,7 @@ double Seconds(const Probe& probe, std::size_t size) {
   const std::vector<Value> arguments = probe.Arguments(size);
   const std::clock_t start = std::clock();
   try {
-    Invoke(object, probe.operation.name, {arguments});
+    Invoke(object, probe.operation, {arguments});
   } catch (const RunTimeError&) {
   }
   return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;

@@ -71,7 +71,7 @@ inline constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
 template <typename T>
 TypeInfo TypeInfoOf() {
   if constexpr (EnumerationType<T>) {
-    return {.type = Type::kLong, .enumeration = &kEnumerationOf<T>};
+    return {.type = Type::kLong, .enumeration = EnumerationOf<T>()};
   } else {
     static_assert(std::is_void_v<T> || kTypeOf<T> != Type::kNothing, "a type no value has");
     return {.type = kTypeOf<T>, .object_class = kClassNameOf<T>};

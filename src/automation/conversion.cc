@@ -240,7 +240,7 @@ std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name
   if (const auto* object = std::get_if<Object>(&value)) {
     if (object->Class().name == class_name) return object->Get().object;
   } else if (const auto* name = std::get_if<Text>(&value)) {
-    const ClassInfo& owner = *FindClass(class_name);
+    const ClassEntry& owner = *FindEntry(class_name);
     if (owner.from_text != nullptr) return owner.from_text(place.call.services, *name);
     if (SameName(Utf8(*name), class_name)) return owner.create(place.call.services);
   }

@@ -6,6 +6,7 @@
 #include <ZQ7Standard/automation/catalogue.h>
 #include <ZQ7Standard/platform/registry.h>
 
+#include <algorithm>
 #include <array>
 
 namespace ZQ7Standard::Automation {
@@ -107,8 +108,22 @@ struct EnumeratorsOf<ZQ7CompareMethod> {
 };
 
 template <typename Enumeration>
-inline constexpr EnumerationInfo kEnumerationOf = {EnumeratorsOf<Enumeration>::kName,
-                                                   EnumeratorsOf<Enumeration>::kMembers};
+inline constexpr EnumerationInfo kInfoOf = {EnumeratorsOf<Enumeration>::kName,
+                                            EnumeratorsOf<Enumeration>::kMembers};
+
+inline constexpr std::array kEnumerations = {kInfoOf<CTDateType>,
+                                             kInfoOf<eImageType>,
+                                             kInfoOf<KetRootType>,
+                                             kInfoOf<ZQ7ConditionType>,
+                                             kInfoOf<ZQ7ConditionOutputType>,
+                                             kInfoOf<ZQ7FixUnit>,
+                                             kInfoOf<ZQ7CompareMethod>};
+
+template <typename Enumeration>
+const EnumerationInfo* EnumerationOf() {
+  return std::ranges::find(kEnumerations, EnumeratorsOf<Enumeration>::kName,
+                           &EnumerationInfo::name);
+}
 
 }  // namespace ZQ7Standard::Automation
 

@@ -5,11 +5,13 @@
 
 #include <memory>
 
+#include "automation/entry.h"
+
 namespace ZQ7Standard::Automation {
 
 /// What an `Object` stands for.
 struct Instance {
-  const ClassInfo* owner;
+  const ClassEntry* owner;
   std::shared_ptr<void> object;
   HostServices services;  // with a clock and a convention
 };

@@ -50,12 +50,12 @@ ParameterRow ByRef(ParameterRow parameter) {
   return parameter;
 }
 
-OperationInfo Described(std::string_view name, std::span<const ParameterRow> parameters,
+OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
                         std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
                         std::span<const ExampleRow> examples) {
   const HostServices services = ExampleServices();
   const CallContext context = {name, {}, services};
-  OperationInfo info = {.name = name, .result = result, .help = help};
+  OperationInfo info = {.name = name, .number = number, .result = result, .help = help};
   for (std::size_t i = 0; i < types.size(); ++i) {
     const ParameterRow& row = parameters[i];
     info.parameters.push_back({.name = row.name,
@@ -71,9 +71,9 @@ OperationInfo Described(std::string_view name, std::span<const ParameterRow> par
   return info;
 }
 
-void AddSubject(ClassInfo& owner, std::string_view subject, std::vector<OperationInfo> operations) {
-  for (OperationInfo& operation : operations) {
-    operation.subject = subject;
+void AddSubject(ClassRow& owner, std::string_view subject, std::vector<OperationRow> operations) {
+  for (OperationRow& operation : operations) {
+    operation.info.subject = subject;
     owner.operations.push_back(std::move(operation));
   }
 }

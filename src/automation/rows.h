@@ -10,10 +10,12 @@
 #include <span>
 #include <string_view>
 #include <tuple>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "automation/binding.h"
+#include "automation/entry.h"
 
 /// How the rows of the catalogue are written: names, help and examples here, every type
 /// from the member itself.
@@ -35,7 +37,7 @@ struct ParameterRow {
 template <EnumerationType Enumeration>
 ParameterRow MemberOf(const char* name) {
   ParameterRow row(name);
-  row.enumeration = &kEnumerationOf<Enumeration>;
+  row.enumeration = EnumerationOf<Enumeration>();
   return row;
 }
 
@@ -56,9 +58,31 @@ struct ExampleRow {
   std::vector<Call> before = {};
 };
 
-/// The row of an operation but for its call. Raises where a default, or the result of an
+struct OperationRow {
+  OperationInfo info;
+  CallFunction call;
+};
+struct PropertyRow {
+  PropertyInfo info;
+  ReadFunction read = nullptr;
+  WriteFunction write = nullptr;
+};
+
+/// The rows of a class.
+struct ClassRow {
+  std::string_view name;
+  std::string_view help = {};
+  std::vector<EventInfo> events = {};
+  CreateFunction create = nullptr;
+  FromTextFunction from_text = nullptr;
+  SubscribeFunction subscribe = nullptr;
+  std::vector<PropertyRow> properties = {};
+  std::vector<OperationRow> operations = {};
+};
+
+/// What the catalogue tells of an operation. Raises where a default, or the result of an
 /// example, does not fit its type.
-OperationInfo Described(std::string_view name, std::span<const ParameterRow> parameters,
+OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
                         std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
                         std::span<const ExampleRow> examples);
 
@@ -70,41 +94,35 @@ std::array<TypeInfo, sizeof...(Parameters)> TypesOf(
 
 /// The row of an operation.
 template <auto Member>
-OperationInfo Operation(std::string_view name, std::span<const ParameterRow> parameters,
-                        std::string_view help, std::initializer_list<ExampleRow> examples) {
+OperationRow Operation(int number, std::string_view name, std::span<const ParameterRow> parameters,
+                       std::string_view help, std::initializer_list<ExampleRow> examples) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
-  OperationInfo info = Described(name, parameters, types, TypeInfoOf<ResultOf<Member>>(), help,
-                                 {examples.begin(), examples.size()});
-  info.invoke = CallMember<Member>;
-  return info;
+  return {Described(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(), help,
+                    {examples.begin(), examples.size()}),
+          CallMember<Member>};
 }
 
 /// The same with its parameters in braces, as many as the member has.
 template <auto Member, std::size_t N>
-OperationInfo Operation(std::string_view name,
-                        const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
-                        std::string_view help, std::initializer_list<ExampleRow> examples) {
+OperationRow Operation(int number, std::string_view name,
+                       const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
+                       std::string_view help, std::initializer_list<ExampleRow> examples) {
   static_assert(N == kParameterCount<Member>, "a name for each parameter");
-  return Operation<Member>(name, std::span<const ParameterRow>(parameters), help, examples);
+  return Operation<Member>(number, name, std::span<const ParameterRow>(parameters), help, examples);
 }
 
 /// The row of an operation without parameters.
 template <auto Member>
-OperationInfo Operation(std::string_view name, std::string_view help,
-                        std::initializer_list<ExampleRow> examples) {
+OperationRow Operation(int number, std::string_view name, std::string_view help,
+                       std::initializer_list<ExampleRow> examples) {
   static_assert(kParameterCount<Member> == 0, "a name for each parameter");
-  return Operation<Member>(name, std::span<const ParameterRow>(), help, examples);
+  return Operation<Member>(number, name, std::span<const ParameterRow>(), help, examples);
 }
 
-/// The row of a property that is only read.
+/// Reads a property.
 template <auto Getter>
-PropertyInfo Property(std::string_view name, std::string_view help) {
-  return {.name = name,
-          .type = TypeInfoOf<ResultOf<Getter>>(),
-          .help = help,
-          .read = [](void* instance) {
-            return ToValue(std::invoke(Getter, *static_cast<ClassOf<Getter>*>(instance)));
-          }};
+Value ReadProperty(void* instance) {
+  return ToValue(std::invoke(Getter, *static_cast<ClassOf<Getter>*>(instance)));
 }
 
 /// Sets a property.
@@ -114,25 +132,49 @@ void WriteProperty(void* instance, const Value& value, const CallContext& contex
   std::invoke(Setter, *static_cast<ClassOf<Setter>*>(instance), argument.Get());
 }
 
+/// The row of a property that is only read.
+template <auto Getter>
+PropertyRow Property(int number, std::string_view name, std::string_view help) {
+  return {.info = {.name = name,
+                   .number = number,
+                   .type = TypeInfoOf<ResultOf<Getter>>(),
+                   .readable = true,
+                   .help = help},
+          .read = ReadProperty<Getter>};
+}
+
 /// The row of a property that is only set.
 template <auto Setter>
-PropertyInfo SetOnlyProperty(std::string_view name, std::string_view help) {
-  return {.name = name,
-          .type = TypeInfoOf<std::tuple_element_t<0, ParametersOf<Setter>>>(),
-          .help = help,
+PropertyRow SetOnlyProperty(int number, std::string_view name, std::string_view help) {
+  return {.info = {.name = name,
+                   .number = number,
+                   .type = TypeInfoOf<std::tuple_element_t<0, ParametersOf<Setter>>>(),
+                   .writable = true,
+                   .help = help},
           .write = WriteProperty<Setter>};
 }
 
 /// The row of a property that is read and set.
 template <auto Getter, auto Setter>
-PropertyInfo Property(std::string_view name, std::string_view help) {
-  PropertyInfo info = Property<Getter>(name, help);
-  info.write = WriteProperty<Setter>;
-  return info;
+PropertyRow Property(int number, std::string_view name, std::string_view help) {
+  PropertyRow row = Property<Getter>(number, name, help);
+  row.info.writable = true;
+  row.write = WriteProperty<Setter>;
+  return row;
+}
+
+/// The row of an event, of which `Member` is what hears it.
+template <auto Member>
+EventInfo Event(int number, std::string_view name, std::initializer_list<ParameterRow> parameters,
+                std::string_view help) {
+  const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
+  OperationInfo call =
+      Described(number, name, {parameters.begin(), parameters.size()}, types, {}, help, {});
+  return {.name = name, .number = number, .parameters = std::move(call.parameters), .help = help};
 }
 
 /// Adds the operations of one subject to a class.
-void AddSubject(ClassInfo& owner, std::string_view subject, std::vector<OperationInfo> operations);
+void AddSubject(ClassRow& owner, std::string_view subject, std::vector<OperationRow> operations);
 
 /// A calendar day, for examples.
 OleDate Date(int year, int month, int day, int hour = 0, int minute = 0);

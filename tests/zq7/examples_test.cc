@@ -24,7 +24,7 @@ TEST(Catalogue, ExamplesHold) {
         Value result;
         int error = 0;
         try {
-          result = Invoke(object, operation.name, {example.arguments});
+          result = Invoke(object, operation, {example.arguments});
         } catch (const RunTimeError& raised) {
           error = raised.Number();
         }

@@ -184,10 +184,10 @@ Value BatchSession::CallOperation(const Object& object, const Json& request) con
   } else {
     throw JsonError(R"("args" is no list and no object)");
   }
-  if (const OperationInfo* const found = FindOperation(object.Class(), operation)) {
-    ReadMembers(*found, positional, named);
-  }
-  return Invoke(object, operation, {positional, named});
+  const OperationInfo* const found = FindOperation(object.Class(), operation);
+  if (found == nullptr) return Invoke(object, operation, {});  // raises that there is none
+  ReadMembers(*found, positional, named);
+  return Invoke(object, *found, {positional, named});
 }
 
 std::string ErrorLine(const std::string& message) {

@@ -23,7 +23,7 @@ constexpr int kArgumentNotOptional = 449;
 constexpr int kWrongNumberOfArguments = 450;
 
 Member FindOperationNamed(std::string_view name) {
-  const Member member = FindMember(name);
+  const Member member = MemberNamed(name);
   if (member.operation != nullptr) return member;
   if (member.property != nullptr) {
     throw WrongUse(Quoted(name) + " is a property. A batch gets and sets properties.");
@@ -113,7 +113,7 @@ Value CallByWords(const CallWords& words, const HostServices& services) {
   for (const std::string& word : words.verbatim) arguments.TakePositional(word);
   const Object object = Create(member.owner->name, services);
   try {
-    return Invoke(object, member.operation->name, arguments.Get());
+    return Invoke(object, *member.operation, arguments.Get());
   } catch (const RunTimeError& error) {
     constexpr std::array kWrongWords = {kArgumentNotOptional, kWrongNumberOfArguments};
     if (std::ranges::find(kWrongWords, error.Number()) == kWrongWords.end()) throw;

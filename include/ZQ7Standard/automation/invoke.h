@@ -88,14 +88,20 @@ ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const HostServices
 /// `PrintPicture` it is the path of a file.
 ZQ7STANDARD_EXPORT Value Invoke(const Object& object, std::string_view operation,
                                 const Arguments& arguments);
+/// The same with an operation that was found before. Raises 438 for one of another class.
+ZQ7STANDARD_EXPORT Value Invoke(const Object& object, const OperationInfo& operation,
+                                const Arguments& arguments);
 
 /// The value of a property. Raises 438 for a name that is none, and for a property that
-/// is only set.
+/// is only set or another class's.
 ZQ7STANDARD_EXPORT Value GetProperty(const Object& object, std::string_view property);
+ZQ7STANDARD_EXPORT Value GetProperty(const Object& object, const PropertyInfo& property);
 
 /// Sets a property, the value converted as `Invoke` does. Raises 438 for a name that
-/// is none, and for a property that is only read.
+/// is none, and for a property that is only read or another class's.
 ZQ7STANDARD_EXPORT void SetProperty(const Object& object, std::string_view property,
+                                    const Value& value);
+ZQ7STANDARD_EXPORT void SetProperty(const Object& object, const PropertyInfo& property,
                                     const Value& value);
 
 /// Sends the events of an instance to `sink` for as long as the result is kept. Null

@@ -11,16 +11,6 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-const std::vector<EventInfo>& Events() {
-  static const std::vector<EventInfo> events = {
-      {.name = "DataChange", .help = "Declared only, and never raised."},
-      {.name = "CellDataChange",
-       .parameters = {{.name = "Row", .type = {Type::kLong}, .by_reference = true},
-                      {.name = "Col", .type = {Type::kLong}, .by_reference = true}},
-       .help = "A cell was given a value and holds it. Rows and columns count from 0."}};
-  return events;
-}
-
 /// Passes the events of a grid on.
 class GridEvents final : public GridValueListener {
  public:
@@ -28,7 +18,8 @@ class GridEvents final : public GridValueListener {
 
   void CellDataChange(std::int32_t Row, std::int32_t Col) override {
     const std::array<Value, 2> arguments = {Row, Col};
-    sink_->Raise(Events()[1], arguments);
+    static const EventInfo& event = *FindEvent(*FindClass("GridValueObject"), "CellDataChange");
+    sink_->Raise(event, arguments);
   }
 
  private:
@@ -49,44 +40,48 @@ const std::vector<Call> kTwoRows = {
 
 }  // namespace
 
-ClassInfo GridValueObjectEntry() {
-  ClassInfo info = {
-      .name = "GridValueObject",
-      .help = "The numbers behind a grid on the screen, with sums and a change event.",
-      .events = Events(),
-      .create = [](const HostServices&) -> std::shared_ptr<void> {
-        return std::make_shared<GridValueObject>();
-      },
-      .subscribe = SubscribeToGrid};
+ClassRow GridValueObjectEntry() {
+  ClassRow info = {.name = "GridValueObject",
+                   .help = "The numbers behind a grid on the screen, with sums and a change event.",
+                   .create = [](const HostServices&) -> std::shared_ptr<void> {
+                     return std::make_shared<GridValueObject>();
+                   },
+                   .subscribe = SubscribeToGrid};
   info.properties = {
-      Property<&GridValueObject::Rows>("Rows", "The number of rows; 1 on a new grid."),
-      Property<&GridValueObject::Cols>("Cols", "The number of columns; -1 until they are set."),
-      Property<&GridValueObject::FixedRows>("FixedRows", "The number of heading rows."),
-      Property<&GridValueObject::FixedCols>("FixedCols", "The number of heading columns.")};
+      Property<&GridValueObject::Rows>(1, "Rows", "The number of rows; 1 on a new grid."),
+      Property<&GridValueObject::Cols>(2, "Cols", "The number of columns; -1 until they are set."),
+      Property<&GridValueObject::FixedRows>(3, "FixedRows", "The number of heading rows."),
+      Property<&GridValueObject::FixedCols>(4, "FixedCols", "The number of heading columns.")};
+  info.events = {Event<&GridValueListener::DataChange>(15, "DataChange", {},
+                                                       "Declared only, and never raised."),
+                 Event<&GridValueListener::CellDataChange>(
+                     16, "CellDataChange", {ByRef("Row"), ByRef("Col")},
+                     "A cell was given a value and holds it. Rows and columns count from 0.")};
   AddSubject(
       info, "",
-      {Operation<&GridValueObject::SetFirst>("SetFirst", {"Rows", "Cols", "FixedCols", "FixedRows"},
+      {Operation<&GridValueObject::SetFirst>(5, "SetFirst",
+                                             {"Rows", "Cols", "FixedCols", "FixedRows"},
                                              "Sets the columns of a new grid, and its headings.",
                                              {{{1, 3, 1, 0}, true}, {{1, 0, 0, 0}, false}}),
-       Operation<&GridValueObject::SetRows>("SetRows", {"Rows"}, "Sets the number of rows.",
+       Operation<&GridValueObject::SetRows>(6, "SetRows", {"Rows"}, "Sets the number of rows.",
                                             {{{5}}}),
-       Operation<&GridValueObject::SetCols>("SetCols", {"Cols"},
+       Operation<&GridValueObject::SetCols>(7, "SetCols", {"Cols"},
                                             "Sets the number of columns, once.", {{{3}}}),
        Operation<&GridValueObject::Setvalue>(
-           "Setvalue", {"Row", "Col", "Value"},
+           8, "Setvalue", {"Row", "Col", "Value"},
            "Stores a number in a cell and tells the listeners.",
            {{{4, 2, 12.5}, true, {{"SetCols", {3}}}}, {{0, 3, 12.5}, false, {{"SetCols", {3}}}}}),
-       Operation<&GridValueObject::GetValue>("GetValue", {"Row", "Col"}, "The number in a cell.",
+       Operation<&GridValueObject::GetValue>(9, "GetValue", {"Row", "Col"}, "The number in a cell.",
                                              {{{1, 1}, 2, kTwoRows}, {{0, 0}, Raises(9)}}),
-       Operation<&GridValueObject::RemaveItem>("RemaveItem", {"Row"}, "Deletes a row.",
+       Operation<&GridValueObject::RemaveItem>(10, "RemaveItem", {"Row"}, "Deletes a row.",
                                                {{{0}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::ResetRow>("ResetRow", {"Row"}, "Sets the data of a row to 0.",
-                                             {{{1}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::Clear>("Clear", "Leaves the headings and one blank row.",
+       Operation<&GridValueObject::ResetRow>(
+           11, "ResetRow", {"Row"}, "Sets the data of a row to 0.", {{{1}, Omitted{}, kTwoRows}}),
+       Operation<&GridValueObject::Clear>(12, "Clear", "Leaves the headings and one blank row.",
                                           {{{}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::SumCol>("SumCol", {"Col"}, "The sum of a column's data.",
+       Operation<&GridValueObject::SumCol>(13, "SumCol", {"Col"}, "The sum of a column's data.",
                                            {{{1}, 2, kTwoRows}}),
-       Operation<&GridValueObject::SumRow>("SumRow", {"Row"}, "The sum of a row's data.",
+       Operation<&GridValueObject::SumRow>(14, "SumRow", {"Row"}, "The sum of a row's data.",
                                            {{{1}, 3, kTwoRows}})});
   return info;
 }

@@ -8,7 +8,7 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-void AddValues(ClassInfo& info) {
+void AddValues(ClassRow& info) {
   constexpr auto kKey = u"Software\\Shop";
   const auto root = MemberOf<KetRootType>("keyroot");
   const std::vector<Call> number = {
@@ -17,39 +17,39 @@ void AddValues(ClassInfo& info) {
       {"UpdateKeyValueString", {HKEY_CURRENT_USER, kKey, u"Branch", u"สาขา 1"}}};
   AddSubject(info, "Values of the registry",
              {Operation<&RegistryObject::GetKeyValueLong>(
-                  "GetKeyValueLong", {root, "keyname", "subkeyname"},
+                  1, "GetKeyValueLong", {root, "keyname", "subkeyname"},
                   "The number that a value holds; 0 for none.",
                   {{{HKEY_CURRENT_USER, kKey, u"LastNumber"}, 42, number},
                    {{HKEY_CURRENT_USER, kKey, u"Branch"}, 0, text}}),
               Operation<&RegistryObject::GetKeyValueString>(
-                  "GetKeyValueString", {root, "keyname", "subkeyname"},
+                  2, "GetKeyValueString", {root, "keyname", "subkeyname"},
                   "The text that a value holds; empty for none.",
                   {{{HKEY_CURRENT_USER, kKey, u"Branch"}, u"สาขา 1", text}}),
               Operation<&RegistryObject::UpdateKeyValueLong>(
-                  "UpdateKeyValueLong", {root, "keyname", "subkeyname", "keyval"},
+                  3, "UpdateKeyValueLong", {root, "keyname", "subkeyname", "keyval"},
                   "Sets a value to a number; True when that FAILED.",
                   {{{HKEY_CURRENT_USER, kKey, u"LastNumber", 42}, false},
                    {{HKEY_PERFORMANCE_DATA, kKey, u"LastNumber", 42}, true}}),
               Operation<&RegistryObject::UpdateKeyValueString>(
-                  "UpdateKeyValueString", {root, "keyname", "subkeyname", "keyval"},
+                  4, "UpdateKeyValueString", {root, "keyname", "subkeyname", "keyval"},
                   "Sets a value to a text; True when that FAILED.",
                   {{{HKEY_CURRENT_USER, kKey, u"Branch", u"สาขา 1"}, false}})});
 }
 
-void AddCipher(ClassInfo& info) {
+void AddCipher(ClassRow& info) {
   AddSubject(
       info, "Texts under a password",
-      {Operation<&RegistryObject::Encrypt>("Encrypt", {"StringInput", "PassWord"},
+      {Operation<&RegistryObject::Encrypt>(5, "Encrypt", {"StringInput", "PassWord"},
                                            "Hides a text from a glance, under a password.",
                                            {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
-       Operation<&RegistryObject::Decrypt>("Decrypt", {"EncryptedTextInput", "PassWord"},
+       Operation<&RegistryObject::Decrypt>(6, "Decrypt", {"EncryptedTextInput", "PassWord"},
                                            "Undoes `Encrypt`.", {{{u"*)(", u"K"}, u"abc"}})});
 }
 
 }  // namespace
 
-ClassInfo RegistryObjectEntry() {
-  ClassInfo info = {
+ClassRow RegistryObjectEntry() {
+  ClassRow info = {
       .name = "RegistryObject",
       .help = "Registry values, and a password cipher for texts kept there.",
       .create = [](const HostServices& services) -> std::shared_ptr<void> {

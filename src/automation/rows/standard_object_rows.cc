@@ -7,8 +7,8 @@
 
 namespace ZQ7Standard::Automation {
 
-ClassInfo StandardObjectEntry() {
-  ClassInfo info = {
+ClassRow StandardObjectEntry() {
+  ClassRow info = {
       .name = "StandardObject",
       .help = "Dates, payment terms, numbers, lists, keys, bar codes, ciphers and digests.",
       .create = [](const HostServices& services) -> std::shared_ptr<void> {
