@@ -6,9 +6,8 @@
 #include <utility>
 
 #include "automation/classes.h"
-#include "automation/docstrings.h"
+#include "automation/documentation.h"
 #include "automation/entry.h"
-#include "automation/enumerations.h"
 #include "automation/rows.h"
 #include "base/ascii.h"
 
@@ -19,26 +18,45 @@ constexpr char16_t FoldedCharacter(char c) {
   return AsciiUpper(static_cast<unsigned char>(c));
 }
 
-/// The comments of the headers: on a property, of what reads it or else sets it.
-ClassInfo Documented(ClassInfo owner) {
-  owner.details = Docstring(owner.name);
-  for (auto& operation : owner.operations) {
-    operation.details = Docstring(QualifiedName(owner, operation.name));
+template <typename Info>
+void Document(Info& info, const Documentation& said) {
+  info.help = said.help;
+  info.details = said.details;
+}
+
+void DocumentParameters(std::vector<ParameterInfo>& parameters, const std::string& member) {
+  for (ParameterInfo& parameter : parameters) {
+    parameter.help = ParameterHelp(member, parameter.name);
   }
-  for (auto& property : owner.properties) {
-    property.details = Docstring(QualifiedName(owner, property.name));
-    if (!property.details.empty() || !property.writable) continue;
-    property.details = Docstring(QualifiedName(owner, "Set" + std::string(property.name)));
+}
+
+/// Fills in what the headers say: of a property, of what reads it or else sets it.
+void DocumentAll(ClassInfo& owner) {
+  Document(owner, DocumentationOf(owner.name));
+  for (OperationInfo& operation : owner.operations) {
+    const std::string name = QualifiedName(owner, operation.name);
+    const Documentation said = DocumentationOf(name);
+    operation.subject = said.subject;
+    Document(operation, said);
+    DocumentParameters(operation.parameters, name);
   }
-  return owner;
+  for (PropertyInfo& property : owner.properties) {
+    const std::string name = property.readable ? "" : "Set";
+    Document(property, DocumentationOf(QualifiedName(owner, name + std::string(property.name))));
+  }
+  for (EventInfo& event : owner.events) {
+    const std::string name = QualifiedName(owner, event.name);
+    Document(event, DocumentationOf(name));
+    DocumentParameters(event.parameters, name);
+  }
 }
 
 ClassInfo InfoOf(const ClassRow& row) {
-  ClassInfo info = {
-      .name = row.name, .help = row.help, .events = row.events, .creatable = row.create != nullptr};
+  ClassInfo info = {.name = row.name, .events = row.events, .creatable = row.create != nullptr};
   for (const OperationRow& operation : row.operations) info.operations.push_back(operation.info);
   for (const PropertyRow& property : row.properties) info.properties.push_back(property.info);
-  return Documented(std::move(info));
+  DocumentAll(info);
+  return info;
 }
 
 /// Fills in what finds the members.
@@ -50,8 +68,7 @@ void AddMember(ClassEntry& entry, std::string_view name, int number, const Membe
 }
 
 ClassEntry EntryOf(const ClassRow& row, const ClassInfo& owner) {
-  ClassEntry entry = {
-      .info = &owner, .create = row.create, .from_text = row.from_text, .subscribe = row.subscribe};
+  ClassEntry entry = {.info = &owner, .create = row.create, .subscribe = row.subscribe};
   for (std::size_t i = 0; i < row.operations.size(); ++i) {
     const OperationInfo& info = owner.operations[i];
     AddMember(entry, info.name, info.number,
@@ -137,10 +154,6 @@ const MemberEntry* FindMemberEntry(const ClassEntry& owner, std::string_view nam
 
 std::span<const ClassInfo> Classes() {
   return Catalogue::Get().Classes();
-}
-
-std::span<const EnumerationInfo> Enumerations() {
-  return kEnumerations;
 }
 
 const ClassInfo* FindClass(std::string_view name) {

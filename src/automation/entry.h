@@ -25,8 +25,6 @@ using WriteFunction = void (*)(void* instance, const Value& value, const CallCon
 
 /// Makes an instance.
 using CreateFunction = std::shared_ptr<void> (*)(const HostServices& services);
-/// Makes what a text stands for where an instance is wanted.
-using FromTextFunction = std::shared_ptr<void> (*)(const HostServices& services, TextView text);
 /// Sends the events of an instance to `sink` until the result goes.
 using SubscribeFunction = std::shared_ptr<void> (*)(std::shared_ptr<void> instance,
                                                     std::shared_ptr<EventSink> sink);
@@ -51,7 +49,6 @@ using NameIndex = std::unordered_map<std::string_view, Found, NameHash, NamesAre
 struct ClassEntry {
   const ClassInfo* info;
   CreateFunction create = nullptr;
-  FromTextFunction from_text = nullptr;
   SubscribeFunction subscribe = nullptr;
   std::vector<MemberEntry> members = {};  ///< by their numbers
   NameIndex<int> numbers = {};            ///< of operations and properties

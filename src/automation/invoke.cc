@@ -164,6 +164,13 @@ void WriteMember(const Instance& instance, const MemberEntry* member, std::strin
   });
 }
 
+Object Wrapped(std::string_view class_name, std::shared_ptr<void> object,
+               const HostServices& services) {
+  if (object == nullptr) throw RunTimeError(Error::kObjectNotSet);
+  return Object(std::make_shared<const Instance>(
+      Instance{FindEntry(class_name), std::move(object), Completed(services)}));
+}
+
 }  // namespace
 
 Object::Object(std::shared_ptr<const Instance> instance) : instance_(std::move(instance)) {}
@@ -186,8 +193,15 @@ Object Create(std::string_view class_name, const HostServices& services) {
     throw RunTimeError({.number = static_cast<int>(Error::kCannotCreateObject),
                         .text = "cannot create object",
                         .class_name = std::string(class_name)});
-  return Object(std::make_shared<const Instance>(
-      Instance{owner, owner->create(services), Completed(services)}));
+  return Wrapped(owner->info->name, owner->create(services), services);
+}
+
+Object Wrap(std::shared_ptr<SerialPort> port, const HostServices& services) {
+  return Wrapped("SerialPort", std::move(port), services);
+}
+
+Object Wrap(std::shared_ptr<PrintPicture> picture, const HostServices& services) {
+  return Wrapped("PrintPicture", std::move(picture), services);
 }
 
 Value Invoke(const Object& object, std::string_view operation, const Arguments& arguments) {

@@ -17,8 +17,8 @@
 #include "automation/binding.h"
 #include "automation/entry.h"
 
-/// How the rows of the catalogue are written: names, help and examples here, every type
-/// from the member itself.
+/// How the rows of the catalogue are written: names, numbers and examples here, every type
+/// from the member itself, and what is said of it from the headers.
 namespace ZQ7Standard::Automation {
 
 /// A parameter as a row names it.
@@ -30,6 +30,7 @@ struct ParameterRow {
   bool optional = false;
   Value default_value = Omitted{};
   bool by_reference = false;
+  bool nullable = false;
   const EnumerationInfo* enumeration = nullptr;
 };
 
@@ -37,12 +38,15 @@ struct ParameterRow {
 template <EnumerationType Enumeration>
 ParameterRow MemberOf(const char* name) {
   ParameterRow row(name);
-  row.enumeration = EnumerationOf<Enumeration>();
+  row.enumeration = FindEnumeration(kEnumerationName<Enumeration>);
   return row;
 }
 
 /// One that may be left out, and what it is then.
 ParameterRow Optional(const char* name, Value default_value = Omitted{});
+
+/// One that counts as missing where it is null.
+ParameterRow Nullable(ParameterRow parameter);
 
 /// One that is passed by reference where hosts bind to the class itself.
 ParameterRow ByRef(ParameterRow parameter);
@@ -71,10 +75,8 @@ struct PropertyRow {
 /// The rows of a class.
 struct ClassRow {
   std::string_view name;
-  std::string_view help = {};
   std::vector<EventInfo> events = {};
   CreateFunction create = nullptr;
-  FromTextFunction from_text = nullptr;
   SubscribeFunction subscribe = nullptr;
   std::vector<PropertyRow> properties = {};
   std::vector<OperationRow> operations = {};
@@ -83,7 +85,7 @@ struct ClassRow {
 /// What the catalogue tells of an operation. Raises where a default, or the result of an
 /// example, does not fit its type.
 OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
-                        std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
+                        std::span<const TypeInfo> types, TypeInfo result,
                         std::span<const ExampleRow> examples);
 
 template <typename... Parameters>
@@ -95,9 +97,9 @@ std::array<TypeInfo, sizeof...(Parameters)> TypesOf(
 /// The row of an operation.
 template <auto Member>
 OperationRow Operation(int number, std::string_view name, std::span<const ParameterRow> parameters,
-                       std::string_view help, std::initializer_list<ExampleRow> examples) {
+                       std::initializer_list<ExampleRow> examples) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
-  return {Described(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(), help,
+  return {Described(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(),
                     {examples.begin(), examples.size()}),
           CallMember<Member>};
 }
@@ -106,17 +108,17 @@ OperationRow Operation(int number, std::string_view name, std::span<const Parame
 template <auto Member, std::size_t N>
 OperationRow Operation(int number, std::string_view name,
                        const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
-                       std::string_view help, std::initializer_list<ExampleRow> examples) {
+                       std::initializer_list<ExampleRow> examples) {
   static_assert(N == kParameterCount<Member>, "a name for each parameter");
-  return Operation<Member>(number, name, std::span<const ParameterRow>(parameters), help, examples);
+  return Operation<Member>(number, name, std::span<const ParameterRow>(parameters), examples);
 }
 
 /// The row of an operation without parameters.
 template <auto Member>
-OperationRow Operation(int number, std::string_view name, std::string_view help,
+OperationRow Operation(int number, std::string_view name,
                        std::initializer_list<ExampleRow> examples) {
   static_assert(kParameterCount<Member> == 0, "a name for each parameter");
-  return Operation<Member>(number, name, std::span<const ParameterRow>(), help, examples);
+  return Operation<Member>(number, name, std::span<const ParameterRow>(), examples);
 }
 
 /// Reads a property.
@@ -134,30 +136,28 @@ void WriteProperty(void* instance, const Value& value, const CallContext& contex
 
 /// The row of a property that is only read.
 template <auto Getter>
-PropertyRow Property(int number, std::string_view name, std::string_view help) {
+PropertyRow Property(int number, std::string_view name) {
   return {.info = {.name = name,
                    .number = number,
                    .type = TypeInfoOf<ResultOf<Getter>>(),
-                   .readable = true,
-                   .help = help},
+                   .readable = true},
           .read = ReadProperty<Getter>};
 }
 
 /// The row of a property that is only set.
 template <auto Setter>
-PropertyRow SetOnlyProperty(int number, std::string_view name, std::string_view help) {
+PropertyRow SetOnlyProperty(int number, std::string_view name) {
   return {.info = {.name = name,
                    .number = number,
                    .type = TypeInfoOf<std::tuple_element_t<0, ParametersOf<Setter>>>(),
-                   .writable = true,
-                   .help = help},
+                   .writable = true},
           .write = WriteProperty<Setter>};
 }
 
 /// The row of a property that is read and set.
 template <auto Getter, auto Setter>
-PropertyRow Property(int number, std::string_view name, std::string_view help) {
-  PropertyRow row = Property<Getter>(number, name, help);
+PropertyRow Property(int number, std::string_view name) {
+  PropertyRow row = Property<Getter>(number, name);
   row.info.writable = true;
   row.write = WriteProperty<Setter>;
   return row;
@@ -165,16 +165,15 @@ PropertyRow Property(int number, std::string_view name, std::string_view help) {
 
 /// The row of an event, of which `Member` is what hears it.
 template <auto Member>
-EventInfo Event(int number, std::string_view name, std::initializer_list<ParameterRow> parameters,
-                std::string_view help) {
+EventInfo Event(int number, std::string_view name, std::initializer_list<ParameterRow> parameters) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
   OperationInfo call =
-      Described(number, name, {parameters.begin(), parameters.size()}, types, {}, help, {});
-  return {.name = name, .number = number, .parameters = std::move(call.parameters), .help = help};
+      Described(number, name, {parameters.begin(), parameters.size()}, types, {}, {});
+  return {.name = name, .number = number, .parameters = std::move(call.parameters)};
 }
 
-/// Adds the operations of one subject to a class.
-void AddSubject(ClassRow& owner, std::string_view subject, std::vector<OperationRow> operations);
+/// Adds operations to a class.
+void AddOperations(ClassRow& owner, std::vector<OperationRow> operations);
 
 /// A calendar day, for examples.
 OleDate Date(int year, int month, int day, int hour = 0, int minute = 0);

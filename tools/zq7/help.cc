@@ -144,7 +144,8 @@ std::string PropertyHelp(const std::string& name, const PropertyInfo& property, 
 }
 
 std::string EventHelp(const std::string& name, const EventInfo& event, std::size_t width) {
-  return Documentation(name, event.help, Declaration(name, event.parameters, {}, width), "", width);
+  return Documentation(name, event.help, Declaration(name, event.parameters, {}, width),
+                       event.details, width);
 }
 
 std::string ClassHelp(const ClassInfo& owner, std::size_t width) {

@@ -24,11 +24,14 @@ namespace ZQ7Standard::Automation {
 struct EnumeratorInfo {
   std::string_view name;
   std::int32_t value;
+  std::string_view help = {};  ///< may be empty
 };
 
 struct EnumerationInfo {
   std::string_view name;
   std::span<const EnumeratorInfo> members;
+  std::string_view help = {};
+  std::string_view details = {};
 };
 
 /// The type of a parameter, a property or a result.
@@ -47,6 +50,9 @@ struct ParameterInfo {
   Value default_value = {};
   /// Passed by reference where hosts bind to the class itself. No operation writes to one.
   bool by_reference = false;
+  /// `Null` is taken: as a missing value, or as no object.
+  bool nullable = false;
+  std::string_view help = {};  ///< what the operation's documentation says of it; may be empty
 };
 
 /// A call on an instance.
@@ -57,6 +63,9 @@ struct Call {
 
 /// A worked example of an operation: what a call on a new instance gives at 2024-01-15
 /// 09:30 (`ExampleServices`) where dates are typed day first in the Buddhist Era.
+///
+/// A text in place of an object says what the host makes beforehand: an instance of the
+/// class by its name, and in place of a `PrintPicture` the picture of the file.
 struct Example {
   std::vector<Call> before = {};      ///< calls on the same instance that come first
   std::vector<Value> arguments = {};  ///< in the order of the parameters
@@ -69,10 +78,10 @@ struct OperationInfo {
   int number = 0;
   std::vector<ParameterInfo> parameters = {};
   TypeInfo result = {};
-  std::string_view help = {};  ///< one line
-  std::vector<Example> examples = {};
+  std::string_view help = {};     ///< one line, the first of the documentation
+  std::string_view details = {};  ///< the rest, paragraphs parted by blank lines; may be empty
   std::string_view subject = {};  ///< shared by operations that belong together; may be empty
-  std::string_view details = {};  ///< the whole documentation, paragraphs parted by blank lines
+  std::vector<Example> examples = {};
 };
 
 struct PropertyInfo {
@@ -90,6 +99,7 @@ struct EventInfo {
   int number = 0;
   std::vector<ParameterInfo> parameters = {};
   std::string_view help = {};
+  std::string_view details = {};
 };
 
 struct ClassInfo {

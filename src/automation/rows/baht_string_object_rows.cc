@@ -17,38 +17,31 @@ const std::vector<ParameterRow> kMoneyText = {
 
 ClassRow BahtStringObjectEntry() {
   ClassRow info = {.name = "BahtStringObject",
-                   .help = "Money amounts in Thai or English words.",
                    .create = [](const HostServices&) -> std::shared_ptr<void> {
                      return std::make_shared<BahtStringObject>();
                    }};
-  AddSubject(
-      info, "",
+  AddOperations(
+      info,
       {Operation<&BahtStringObject::MoneyText>(
-           1, "MoneyText", kMoneyText, "An amount in words, with a currency of your own.",
+           1, "MoneyText", kMoneyText,
            {{{121.5}, u"หนึ่งร้อยยี่สิบเอ็ดบาทห้าสิบสตางค์"},
             {{121.5, false, true}, u"One hundred twenty one baht and fifty satang"},
             {{0}, u"ศูนย์บาทถ้วน"}}),
-       Operation<&BahtStringObject::BahtString>(
-           2, "BahtString", kMoneyText, "The same as `MoneyText`.", {{{20, true}, u"=ยี่สิบบาทถ้วน="}}),
+       Operation<&BahtStringObject::BahtString>(2, "BahtString", kMoneyText,
+                                                {{{20, true}, u"=ยี่สิบบาทถ้วน="}}),
        Operation<&BahtStringObject::MoneyTextT>(
            3, "MoneyTextT", {ByRef("inDouble")},
-           "An amount in Thai words with the unit words of the last `MoneyText`.",
            {{{20}, u"ยี่สิบบาทถ้วน"},
             {{20}, u"ยี่สิบดอลลาร์ถ้วน", {{"MoneyText", {1.0, false, false, u"ดอลลาร์"}}}}}),
        Operation<&BahtStringObject::BahtStringT>(4, "BahtStringT", {ByRef("inDouble")},
-                                                 "The same as `MoneyTextT`.",
                                                  {{{1}, u"หนึ่งบาทถ้วน"}}),
        Operation<&BahtStringObject::MoneyTextE>(5, "MoneyTextE", {ByRef("inDouble")},
-                                                "An amount in English words with baht and satang.",
                                                 {{{0.56}, u" baht and fifty six satang"}}),
        Operation<&BahtStringObject::BahtStringE>(6, "BahtStringE", {ByRef("inDouble")},
-                                                 "The same as `MoneyTextE`.",
                                                  {{{0}, u"Zero baht"}}),
-       Operation<&BahtStringObject::MonthText>(7, "MonthText",
-                                               {"MonthNumber", "FullText", ByRef("UseThai")},
-                                               "Always the empty text.", {{{1, true, true}, u""}}),
-       Operation<&BahtStringObject::About>(8, "About", "Who made the library.",
-                                           {{{}, BahtStringObject().About()}})});
+       Operation<&BahtStringObject::MonthText>(
+           7, "MonthText", {"MonthNumber", "FullText", ByRef("UseThai")}, {{{1, true, true}, u""}}),
+       Operation<&BahtStringObject::About>(8, "About", {{{}, BahtStringObject().About()}})});
   return info;
 }
 
