@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "host.h"
+#include "objects.h"
 #include "tests/support/temp_folder.h"
 
 namespace {
@@ -95,10 +96,11 @@ double Seconds(const Probe& probe, std::size_t size) {
   for (const Call& call : probe.operation.examples.front().before) {
     Invoke(object, call.operation, {call.arguments});
   }
-  const std::vector<Value> arguments = probe.Arguments(size);
+  ZQ7Tool::TypedCall call = {probe.owner, probe.operation, probe.Arguments(size)};
   const std::clock_t start = std::clock();
   try {
-    Invoke(object, probe.operation.name, {arguments});
+    ZQ7Tool::MakeObjects(call, host.Services());
+    Invoke(object, probe.operation, {call.positional});
   } catch (const RunTimeError&) {
   }
   return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;

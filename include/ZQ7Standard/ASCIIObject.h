@@ -12,7 +12,9 @@ namespace ZQ7Standard {
 
 class ServiceSet;
 
-/// Settings, logs and whole texts in text files of the code page Windows-874.
+/// Settings, logs and whole texts in text files.
+///
+/// The code page of the files is Windows-874.
 ///
 /// Every operation names its file by a path text, "C:\srv\app\set.ini"
 /// (docs/files.md), and leaves no file open. A line ends at CR LF, LF or CR when it is
@@ -37,9 +39,11 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
 
   // --- Messages to the user: src/io/files/ascii_object.cc ---
 
-  /// Problems are shown in a message box titled "Warning" from level 1 up. At 0, the
-  /// level of a new object, every operation is silent: the name says the opposite.
-  /// docs/surprises.md shows a host that records them.
+  /// Messages are shown from level 1 up.
+  ///
+  /// They tell of problems, in a message box titled "Warning". At 0, the level of a new
+  /// object, every operation is silent: the name says the opposite. docs/surprises.md
+  /// shows a host that records them.
   std::int16_t DisableMsgLevel() const;
   void SetDisableMsgLevel(std::int16_t DisableMsgLevel);
 
@@ -48,6 +52,8 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   // A line belongs to a key when it begins with the key in brackets, in any case, after
   // blanks (U+0020). All other lines are kept as they are, without those blanks.
 
+  /// The value of a key.
+  ///
   /// The value of the first line of the key that has a "=", and empty when there is no
   /// such line or file. Blanks between "]" and "=" do not count, those behind "=" are
   /// part of the value.
@@ -57,6 +63,8 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   /// empty text and the message "Not found specified file".
   Text GetValue(TextView iTextFile, TextView IKey) const;
 
+  /// Sets the value of a key.
+  ///
   /// Sets every line of the key to `[IKEY]=iValue`, with the key in upper case, and
   /// appends such a line when there is none. A new file gets the key as it is typed. A
   /// line break in `iValue` makes further lines (docs/surprises.md).
@@ -66,15 +74,19 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   /// "Not found specified folder or no permission to write.".
   void Setvalue(TextView iTextFile, TextView IKey, TextView iValue) const;
 
+  /// Drops a key.
+  ///
   /// Drops every line of the key; a file that is not there is left so. Shows no
   /// message: raises 57, 61, 70, 75 or 76, and the file stays as it was.
   void DeleteValue(TextView iTextFile, TextView IKey) const;
 
   // --- Logs: src/io/files/log.cc ---
 
-  /// Appends the line "3/7/2024;9:05:07 AM;iOwner;iType;iSuccess;iDescription": month,
-  /// day and Gregorian year of the clock, the locale's time text, and the fields as
-  /// they are, also with a ";" in them. A file that is not there is made.
+  /// Appends a line with date and time to a log.
+  ///
+  /// The line is "3/7/2024;9:05:07 AM;iOwner;iType;iSuccess;iDescription": month, day and
+  /// Gregorian year of the clock, the locale's time text, and the fields as they are,
+  /// also with a ";" in them. A file that is not there is made.
   ///
   /// Messages: "Not found specified folder.", also for a path without "\"; "Specified
   /// folder or no permission to updated." for a read-only folder, also when the file is
@@ -85,13 +97,16 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
 
   // --- Whole texts: src/io/files/text_file.cc ---
 
-  /// All lines, joined by CR LF, without empty lines at the front. Empty when there is
-  /// no such file. Raises 57, 70 or 75 when it cannot be read.
+  /// All lines of a file.
+  ///
+  /// They are joined by CR LF, without empty lines at the front. Empty when there is no
+  /// such file. Raises 57, 70 or 75 when it cannot be read.
   Text GETAllTextFile(TextView iTextFile) const;
 
-  /// The first lines of a file, as many as there are numbers from `FromLine` (at least
-  /// 1) to `ToLine`; all of them when `ToLine` is 0. Joined by CR LF, without empty
-  /// lines at the front.
+  /// The first lines of a file, as many as the numbers from `FromLine` to `ToLine`.
+  ///
+  /// A `FromLine` below 1 counts as 1; with a `ToLine` of 0 they are all lines. Joined by
+  /// CR LF, without empty lines at the front.
   ///
   /// `FromLine` skips no line: 3 to 4 gives lines 1 and 2. A file with more lines than
   /// that raises 6, so only a reader that knows the count gives a `ToLine`. Raises 57,
@@ -99,12 +114,16 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
   Text GETLineTextFile(TextView iTextFile, std::int32_t FromLine = 0,
                        std::int32_t ToLine = 0) const;
 
-  /// Makes `iValue` the whole content of the file, with no line end added.
-  /// `SaveStringToTextFile2` tells the messages.
+  /// Makes a text the content of a file.
+  ///
+  /// `iValue` is the whole content, with no line end added. `SaveStringToTextFile2` tells
+  /// the messages.
   void SaveStringToTextFile(TextView iTextFile, TextView iValue) const;
 
-  /// The same, or with `UseAppendMode` adds `iValue` at the end of a file that is
-  /// there and not read-only, where a full disk can leave a part of it.
+  /// Makes a text the content of a file, or adds it.
+  ///
+  /// As `SaveStringToTextFile`, or with `UseAppendMode` adds `iValue` at the end of a
+  /// file that is there and not read-only, where a full disk can leave a part of it.
   ///
   /// Messages: "Not found specified folder."; "Specified folder can not write." for a
   /// new file in a read-only folder, unless the folder's name is Desktop; "Not found

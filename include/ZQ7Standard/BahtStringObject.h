@@ -8,7 +8,9 @@
 
 namespace ZQ7Standard {
 
-/// Money amounts in Thai or English words, for cheques, receipts and invoices.
+/// Money amounts in Thai or English words.
+///
+/// For cheques, receipts and invoices.
 ///
 /// Amounts are rounded to satang as they print: to 15 significant digits, then
 /// half away from zero. Infinities and NaN give the empty text; nothing raises.
@@ -16,13 +18,15 @@ namespace ZQ7Standard {
 /// An instance keeps the unit words of its last `MoneyText`, and `MoneyTextT`
 /// uses them; so an instance belongs to one thread at a time. Distinct
 /// instances are independent.
-///
-/// The operations are defined in src/numbers/money_words.cc.
+//
+// The operations are defined in src/numbers/money_words.cc.
 class ZQ7STANDARD_EXPORT BahtStringObject {
  public:
-  /// The amount in words: 121.50 is "หนึ่งร้อยยี่สิบเอ็ดบาทห้าสิบสตางค์", with
-  /// `useEnglish` "One hundred twenty one baht and fifty satang". `useBreak`
-  /// puts "=" at both ends. Empty beyond 9999999999999.99 either way.
+  /// An amount in words, with a currency of your own.
+  ///
+  /// 121.50 is "หนึ่งร้อยยี่สิบเอ็ดบาทห้าสิบสตางค์", with `useEnglish` "One hundred
+  /// twenty one baht and fifty satang". `useBreak` puts "=" at both ends. Empty beyond
+  /// 9999999999999.99 either way.
   ///
   /// `NewUnit` replaces the currency word, in lower case in English, without a
   /// plural. `NewSubUnit` has no effect: the sub-unit follows from the unit,
@@ -41,21 +45,26 @@ class ZQ7STANDARD_EXPORT BahtStringObject {
   Text BahtString(double inDouble, bool useBreak = false, bool useEnglish = false,
                   TextView NewUnit = {}, TextView NewSubUnit = {});
 
-  /// The amount in Thai words with the unit words of the last `MoneyText` on
-  /// this instance ("บาท" and "สตางค์" on a new one). No bound on the amount.
+  /// An amount in Thai words with the unit words of the last `MoneyText`.
+  ///
+  /// It was the last on this instance; on a new one they are "บาท" and "สตางค์". No bound
+  /// on the amount.
   Text MoneyTextT(double inDouble);
   /// The same as `MoneyTextT`.
   Text BahtStringT(double inDouble);
 
-  /// The amount in English words with "baht" and "satang". No bound on the
-  /// amount; groups from 10^15 up have " ?" for their scale. 0 is "Zero baht";
-  /// 0.56 is " baht and fifty six satang", which begins with a blank
+  /// An amount in English words with baht and satang.
+  ///
+  /// No bound on the amount; groups from 10^15 up have " ?" for their scale. 0 is "Zero
+  /// baht"; 0.56 is " baht and fifty six satang", which begins with a blank
   /// (docs/surprises.md).
   Text MoneyTextE(double inDouble);
   /// The same as `MoneyTextE`.
   Text BahtStringE(double inDouble);
 
-  /// Always the empty text: month names come from `StandardObject`.
+  /// Always the empty text.
+  ///
+  /// Month names come from `StandardObject`.
   Text MonthText(std::int16_t MonthNumber, bool FullText, bool UseThai) const;
 
   /// Who made the library.

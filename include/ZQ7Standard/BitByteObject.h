@@ -8,98 +8,127 @@
 
 namespace ZQ7Standard {
 
-/// Numbers as binary, octal and hexadecimal text, spreadsheet columns as
-/// letters, and the single bits of a number.
+/// Binary, octal and hexadecimal text, column letters and single bits.
 ///
 /// Texts have the most significant digit first. Hosts keep texts and numbers
 /// made here in their files, so the limits of 16 bits and the zeros in front are
 /// as they always were. There is no state: distinct instances, and one instance
 /// between calls, are independent.
-///
-/// The operations are defined in src/numbers/bits.cc.
+//
+// The operations are defined in src/numbers/bits.cc.
 class ZQ7STANDARD_EXPORT BitByteObject {
  public:
+  /// A binary text as octal digits.
+  ///
   /// One octal digit for three bits, after zeros are put in front to fill the
   /// first group: "1000" is "10". Three characters with any but "0" and "1"
   /// among them give no digit; the other groups still do.
   Text Bin2Oct(TextView BinString) const;
 
+  /// A binary text as hexadecimal digits.
+  ///
   /// One hexadecimal digit in upper case for four bits, otherwise as `Bin2Oct`:
   /// "101" is "5".
   Text Bin2hex(TextView BinString) const;
 
-  /// The number of a binary text; 0 for the empty text and for one with any
-  /// character but "0" and "1". Raises 6 above 13815: its octal digits, 32767,
-  /// are the last that read as a 16-bit decimal number, and callers take the
-  /// error as the end of the range.
+  /// The number of a binary text.
+  ///
+  /// 0 for the empty text and for one with any character but "0" and "1". Raises 6 above
+  /// 13815: its octal digits, 32767, are the last that read as a 16-bit decimal number,
+  /// and callers take the error as the end of the range.
   std::int16_t Bin2Dec(TextView BinString) const;
 
+  /// Octal digits as binary text.
+  ///
   /// Three bits for each octal digit; other characters add nothing. Without
   /// `KeepZeroFront` the zeros in front are dropped, all of them: "0" and "000"
   /// are then the empty text, which callers show as a blank box.
   Text Oct2Bin(TextView OctString, bool KeepZeroFront = false) const;
 
+  /// Hexadecimal digits as binary text.
+  ///
   /// Four bits for each hexadecimal digit of either case, otherwise as `Oct2Bin`.
   Text Hex2Bin(TextView HexString, bool KeepZeroFront = false) const;
 
+  /// Octal digits as hexadecimal digits.
+  ///
   /// `Bin2hex` of `Oct2Bin` without zeros in front: "17" is "F", "0" is empty.
   Text Oct2hex(TextView OctString) const;
 
+  /// Hexadecimal digits as octal digits.
+  ///
   /// `Bin2Oct` of `Hex2Bin` without zeros in front: "F" is "17", "0" is empty.
   Text Hex2Oct(TextView HexString) const;
 
-  /// The decimal digits of `OctString` read as octal: 17 gives 15. The reading
-  /// stops at a digit 8 or 9 (187 gives 1), and a negative number gives 0.
+  /// Decimal digits read as an octal number.
+  ///
+  /// They are those of `OctString`: 17 gives 15. The reading stops at a digit 8 or 9 (187
+  /// gives 1), and a negative number gives 0.
   std::int16_t Oct2Dec(std::int16_t OctString) const;
 
-  /// The decimal digits of `HexString` read as hexadecimal: 10 gives 16, and
-  /// 9999, which has the sign bit of 16, gives -26215. A negative number gives
-  /// 0. Raises 6 from five digits up.
+  /// Decimal digits read as a hexadecimal number.
+  ///
+  /// They are those of `HexString`: 10 gives 16, and 9999, which has the sign bit of 16,
+  /// gives -26215. A negative number gives 0. Raises 6 from five digits up.
   std::int16_t Hex2Dec(std::int16_t HexString) const;
 
-  /// The number of the hexadecimal digits, of either case, in front of the first
-  /// other character; 0 when there are none. Up to FFFF the number is 16-bit
-  /// signed ("FFFF" is -1), above it 32-bit signed, so that the `Dec2hex` of a
-  /// negative 16-bit number reads back. Raises 6 outside 16 bits.
+  /// The number of hexadecimal digits.
+  ///
+  /// They are of either case, in front of the first other character; 0 when there are
+  /// none. Up to FFFF the number is 16-bit signed ("FFFF" is -1), above it 32-bit signed,
+  /// so that the `Dec2hex` of a negative 16-bit number reads back. Raises 6 outside 16
+  /// bits.
   std::int16_t Hex2Dec2(TextView HexString) const;
 
-  /// The octal digits of `DecNumber`; a negative number as 32-bit two's
-  /// complement: -1 is "37777777777".
+  /// A number as octal digits.
+  ///
+  /// A negative `DecNumber` counts as 32-bit two's complement: -1 is "37777777777".
   Text Dec2Oct(std::int32_t DecNumber) const;
 
-  /// The hexadecimal digits, in upper case, of `DecNumber`; a negative number as
-  /// 32-bit two's complement: -1 is "FFFFFFFF".
+  /// A number as hexadecimal digits.
+  ///
+  /// They are in upper case. A negative `DecNumber` counts as 32-bit two's complement: -1
+  /// is "FFFFFFFF".
   Text Dec2hex(std::int32_t DecNumber) const;
 
+  /// A number as binary text, three bits a group.
+  ///
   /// The bits of the octal digits of `Dec`, three for each: 5 is "101", 8 is
   /// "001000", 0 is "000", and a negative number has 33. `KeepZeroFront` has no
   /// effect: callers cut the text into groups of three from its front.
   Text Dec2Bin(std::int32_t Dec, bool KeepZeroFront = false) const;
 
-  /// The number of a spreadsheet column: "A" is 1, "Z" 26, "AA" 27. Any
-  /// character but "A" to "Z", lower case included, makes the result 0, which
-  /// callers take for "no such column". Raises 6 above 2147483647 ("FXSHRXW").
+  /// The number of a spreadsheet column.
+  ///
+  /// "A" is 1, "Z" 26, "AA" 27. Any character but "A" to "Z", lower case included, makes
+  /// the result 0, which callers take for "no such column". Raises 6 above 2147483647
+  /// ("FXSHRXW").
   std::int32_t Base26To10(TextView Base26) const;
 
-  /// The letters of a spreadsheet column: 27 is "AA", 702 is "ZZ". Empty for 0
-  /// and negative numbers.
+  /// The letters of a spreadsheet column.
+  ///
+  /// 27 is "AA", 702 is "ZZ". Empty for 0 and negative numbers.
   Text Base10To26(std::int16_t colNum) const;
 
-  /// -1 when the bit is set, else 0. `BitDigitFormBack` counts from the right,
-  /// from 1; a position that the number's `Dec2Bin` does not have gives 0. A
-  /// negative number has bits up to position 32.
+  /// Whether a bit is set, counted from the right from 1.
+  ///
+  /// -1 when the bit is set, else 0. A `BitDigitFormBack` that the number's `Dec2Bin`
+  /// does not have gives 0. A negative number has bits up to position 32.
   std::int16_t BitRead(std::int16_t DecNumber, std::uint8_t BitDigitFormBack) const;
 
-  /// `DecNumber` with the bit set where `NewValue` is exactly 1, and cleared for
-  /// any other value: the -1 of `BitRead` clears, as callers that copy a bit
-  /// with it know. 0 for a position that the number's `Dec2Bin` does not have:
-  /// `BitWrite(5, 4, 1)` is 0 (docs/surprises.md). Raises 6 where the result is negative or above
-  /// 13815, as `Bin2Dec` does.
+  /// A number with a bit set by 1, cleared by any other value.
+  ///
+  /// It is set only where `NewValue` is exactly 1: the -1 of `BitRead` clears, as callers
+  /// that copy a bit with it know. 0 for a position that the number's `Dec2Bin` does not have:
+  /// `BitWrite(5, 4, 1)` is 0 (docs/surprises.md). Raises 6 where the result is negative or
+  /// above 13815, as `Bin2Dec` does.
   std::int16_t BitWrite(std::int16_t DecNumber, std::uint8_t BitDigitFormBack,
                         std::int16_t NewValue) const;
 
-  /// `DecNumber` with the bit cleared, and never set: hosts take a flag away
-  /// with it, and a second call must not give it back. Otherwise as `BitWrite`.
+  /// A number with a bit cleared.
+  ///
+  /// It is never set: hosts take a flag away with it, and a second call must not give it
+  /// back. Otherwise as `BitWrite`.
   std::int16_t BitSwitch(std::int16_t DecNumber, std::uint8_t BitDigitFormBack) const;
 };
 

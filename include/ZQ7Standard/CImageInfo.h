@@ -13,14 +13,15 @@ namespace ZQ7Standard {
 
 class ServiceSet;
 
-/// The kind, size and colour depth of an image file, told from its first 65,536
-/// bytes without decoding the image: GIF, JPEG, PNG and BMP.
+/// The kind, size and colour depth of an image file.
+///
+/// Told from its first 65,536 bytes without decoding the image: GIF, JPEG, PNG and BMP.
 ///
 /// The properties describe the last file read; before the first and after an error
 /// all four are 0. An instance belongs to one thread at a time; distinct instances
 /// are independent.
-///
-/// The operations are defined in src/io/images/image_info.cc.
+//
+// The operations are defined in src/io/images/image_info.cc.
 class ZQ7STANDARD_EXPORT CImageInfo {
  public:
   /// With the files of the machine.
@@ -28,9 +29,11 @@ class ZQ7STANDARD_EXPORT CImageInfo {
   /// With services of the host's own.
   explicit CImageInfo(Services services);
 
-  /// Reads the file `sFileName`, a full path, in one read. Unknown content is no
-  /// failure: `ImageType` is `itUNKNOWN` and the rest 0. A file that does not exist
-  /// is made, empty, and is unknown too.
+  /// Reads a file, for the properties to tell.
+  ///
+  /// `sFileName` is a full path, and the file is read in one read. Unknown content is no
+  /// failure: `ImageType` is `itUNKNOWN` and the rest 0. A file that does not exist is
+  /// made, empty, and is unknown too.
   ///
   /// Sizes have 16 bits: a PNG 70,000 pixels wide has the `Width` 4,464, and a BMP
   /// stored top down the `Height` 65,536 less its own. The frame header of a JPEG
@@ -42,10 +45,10 @@ class ZQ7STANDARD_EXPORT CImageInfo {
   /// read-only one whoever asks, and 75 for a folder, a pipe or a device.
   void ReadImageInfo(TextView sFileName);
 
-  std::int32_t Width() const { return width_; }    ///< in pixels
-  std::int32_t Height() const { return height_; }  ///< in pixels
-  std::uint8_t Depth() const { return depth_; }    ///< in bits per pixel
-  eImageType ImageType() const { return image_type_; }
+  std::int32_t Width() const { return width_; }         ///< The width in pixels.
+  std::int32_t Height() const { return height_; }       ///< The height in pixels.
+  std::uint8_t Depth() const { return depth_; }         ///< Bits per pixel.
+  eImageType ImageType() const { return image_type_; }  ///< The kind of file.
 
  private:
   std::shared_ptr<ServiceSet> services_;

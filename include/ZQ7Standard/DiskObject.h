@@ -12,8 +12,7 @@ namespace ZQ7Standard {
 
 class ServiceSet;
 
-/// Paths taken apart and shortened for display, folder chains made, files and folder
-/// trees copied.
+/// Paths taken apart and shortened, folders made, files copied.
 ///
 /// Paths are texts with "\" as their one separator: "/" is a character like any
 /// other. It keeps nothing between calls. An instance belongs to one thread at a
@@ -27,28 +26,35 @@ class ZQ7STANDARD_EXPORT DiskObject {
 
   // --- Paths and the folders on them: src/io/paths/paths.cc ---
 
-  /// The text behind the last "\": "b.txt" of "C:\a\b.txt", empty for "C:\a\"; the
-  /// whole text when it has none.
+  /// The text behind the last "\".
+  ///
+  /// "b.txt" of "C:\a\b.txt", empty for "C:\a\"; the whole text when it has no "\".
   Text FileName(TextView full_name) const;
 
-  /// The text before the last "\": "C:\a" of "C:\a\b.txt", "C:" of "C:\b.txt";
-  /// empty when it has none.
+  /// The text before the last "\".
+  ///
+  /// "C:\a" of "C:\a\b.txt", "C:" of "C:\b.txt"; empty when it has no "\".
   Text Pathname(TextView full_name) const;
 
-  /// `Path` without the "\" that it ends in, however many: "C:\a" of "C:\a\\".
+  /// A path without the "\" at its end.
+  ///
+  /// However many `Path` ends in: "C:\a" of "C:\a\\".
   Text trimPath(TextView Path) const;
 
-  /// A path for display, its folders between the first and the file name left out:
-  /// "C:\Data\...\report.xls", "\\srv\share\...\f.txt". One that has none of them
-  /// comes back as it is without the spaces around it. `MaxLen` is ignored: it stays
-  /// for callers that give it, and a path is shortened at any length. A bare file
-  /// name gains the front "\...\".
+  /// A path shortened for display.
+  ///
+  /// Its folders between the first and the file name are left out:
+  /// "C:\Data\...\report.xls", "\\srv\share\...\f.txt". One that has none of them comes
+  /// back as it is without the spaces around it. `MaxLen` is ignored: it stays for
+  /// callers that give it, and a path is shortened at any length. A bare file name gains
+  /// the front "\...\".
   Text ScaleFullPath(TextView inFullPath, std::int32_t MaxLen = 0) const;
 
-  /// Makes each folder of the path that is not there and returns -1; 0 when the path
-  /// is empty or only of "\". Other processes may make them at the same time. Every "\"
-  /// at its ends is dropped first, so a network path counts as relative to the current
-  /// folder.
+  /// Makes every folder of a path that is not there.
+  ///
+  /// Returns -1; 0 when the path is empty or only of "\". Other processes may make them
+  /// at the same time. Every "\" at its ends is dropped first, so a network path counts
+  /// as relative to the current folder.
   ///
   /// Raises what the file system does where a folder cannot be made: 70 without the
   /// right to, 75 where a file has its name. Those before it stay.
@@ -56,6 +62,8 @@ class ZQ7STANDARD_EXPORT DiskObject {
 
   // --- Files and folders copied: src/io/paths/file_copy.cc ---
 
+  /// Copies a file when it changed; 1 when it tried to.
+  ///
   /// Copies `FromFile` to `ToFile` when that is not there or has another last-modified
   /// time, older or newer, which it then takes over. Times are compared exactly, or as
   /// closely as the file system of `ToFile` is known to keep them. Returns 1 when it
@@ -69,6 +77,8 @@ class ZQ7STANDARD_EXPORT DiskObject {
   std::int16_t CopyFileCheck(TextView FromFile, TextView ToFile, bool OverwriteFile = false,
                              std::int16_t CheckCondition = 0) const;
 
+  /// Copies a folder tree; the number of entries.
+  ///
   /// Copies the folder `from_file` with all it holds into the folder `to_file`, which
   /// it makes in a folder that is there. Returns the number of entries copied and,
   /// unless `to_file` could not be made, one more; 0 when `from_file` is no folder.

@@ -6,8 +6,10 @@
 
 namespace ZQ7Standard {
 
-/// Layouts of a date. D is the day, M the month, YYYY a Gregorian year, BBBB a
-/// Buddhist Era year. The values 1 to 4 are also the codes of `GetDateFormat`.
+/// Layouts of a date.
+///
+/// D is the day, M the month, YYYY a Gregorian year, BBBB a Buddhist Era year. The
+/// values 1 to 4 are also the codes of `GetDateFormat`.
 enum CTDateType : std::int32_t {
   ZQ7Detect = 0,            ///< the system's own of the layouts 1 to 4
   ZQ7MDYYYY = 1,            ///< 1/15/2024

@@ -13,14 +13,16 @@ class ZQ7STANDARD_EXPORT GridValueListener {
  public:
   virtual ~GridValueListener();
 
-  /// Never called: it keeps its place in the interface for hosts that implement
-  /// it, and a change of any cell comes as `CellDataChange`.
+  /// Declared only, and never raised.
+  ///
+  /// It keeps its place in the interface for hosts that implement it; a change of any
+  /// cell comes as `CellDataChange`.
   virtual void DataChange();
 
-  /// The cell at (`Row`, `Col`), both from 0, was given a value and holds it.
+  /// A cell was given a value and holds it. Rows and columns count from 0.
   ///
-  /// May call any operation of the grid, add and remove listeners, itself among
-  /// them, and throw; it must not destroy the grid.
+  /// The cell is at (`Row`, `Col`). Who hears of it may call any operation of the grid,
+  /// add and remove listeners, itself among them, and fail; it must not destroy the grid.
   virtual void CellDataChange(std::int32_t Row, std::int32_t Col) = 0;
 };
 

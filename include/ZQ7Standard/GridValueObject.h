@@ -12,13 +12,15 @@ namespace ZQ7Standard {
 class CellTable;
 class GridListeners;
 
-/// The numbers behind a grid on the screen: rows and columns of doubles, counted
-/// from 0, of which the first `FixedRows` rows and `FixedCols` columns are
-/// headings. The data, which sums, deletion and blanking act on, is the rest.
+/// The numbers behind a grid on the screen, with sums and a change event.
+///
+/// They are rows and columns of doubles, counted from 0, of which the first `FixedRows`
+/// rows and `FixedCols` columns are headings. The data, which sums, deletion and blanking
+/// act on, is the rest.
 ///
 /// A new grid has one row, no headings, and columns not yet set: until they are,
 /// there are no cells. Columns are set once; rows come and go. Behind the last
-/// row and column stands a spare one, at the index `Rows()` and `Cols()`, that
+/// row and column stands a spare one, at the index `Rows` and `Cols`, that
 /// only `GetValue` shows: when rows are dropped, the first of them becomes the
 /// spare row with what it holds, and comes back with it. New cells are 0.
 ///
@@ -28,8 +30,8 @@ class GridListeners;
 ///
 /// An instance belongs to one thread at a time; distinct instances are
 /// independent.
-///
-/// The operations are defined in src/numbers/grid.cc.
+//
+// The operations are defined in src/numbers/grid.cc.
 class ZQ7STANDARD_EXPORT GridValueObject {
  public:
   GridValueObject();
@@ -37,11 +39,13 @@ class ZQ7STANDARD_EXPORT GridValueObject {
   GridValueObject(const GridValueObject&) = delete;
   GridValueObject& operator=(const GridValueObject&) = delete;
 
-  std::int32_t Rows() const { return rows_; }
-  std::int32_t Cols() const { return cols_; }  ///< -1 until columns are set
-  std::int32_t FixedRows() const { return fixed_rows_; }
-  std::int32_t FixedCols() const { return fixed_cols_; }
+  std::int32_t Rows() const { return rows_; }  ///< The number of rows; 1 on a new grid.
+  std::int32_t Cols() const { return cols_; }  ///< The number of columns; -1 until they are set.
+  std::int32_t FixedRows() const { return fixed_rows_; }  ///< The number of heading rows.
+  std::int32_t FixedCols() const { return fixed_cols_; }  ///< The number of heading columns.
 
+  /// Sets the columns of a new grid, and its headings.
+  ///
   /// Sets the columns and returns true when they are not set yet, `Rows` and
   /// `Cols` are above 0 and the headings 0 or more; else false, and nothing
   /// changes.
@@ -53,51 +57,62 @@ class ZQ7STANDARD_EXPORT GridValueObject {
   bool SetFirst(std::int32_t Rows, std::int32_t Cols, std::int32_t FixedCols,
                 std::int32_t FixedRows);
 
-  /// Sets the number of rows when it is above 0 and above `FixedRows`, else does
-  /// nothing. Columns not yet set are 0 from then on, for good: hosts set
-  /// columns first (docs/surprises.md).
+  /// Sets the number of rows.
+  ///
+  /// The number must be above 0 and above `FixedRows`; else nothing is done. Columns not
+  /// yet set are 0 from then on, for good: hosts set columns first (docs/surprises.md).
   void SetRows(std::int32_t Rows);
 
-  /// Sets the columns when they are not set yet and `Cols` is above 0, else does
-  /// nothing.
+  /// Sets the number of columns, once.
+  ///
+  /// Does nothing when they are set already, or `Cols` is not above 0.
   void SetCols(std::int32_t Cols);
 
-  /// Stores `Value`, tells the listeners and returns true. False, and nothing
-  /// happens, when `Col` is not below `Cols`. A row past the last makes the grid
-  /// grow up to it. Headings are cells like others, so hosts may keep numbers
-  /// there that no sum counts. A listener that throws does so to the caller: the
-  /// value is stored by then, and the listeners after it are not told.
+  /// Stores a number in a cell and tells the listeners.
+  ///
+  /// Returns true. False, and nothing happens, when `Col` is not below `Cols`. A row past
+  /// the last makes the grid grow up to it. Headings are cells like others, so hosts may
+  /// keep numbers there that no sum counts. A listener that throws does so to the caller:
+  /// the value is stored by then, and the listeners after it are not told.
   ///
   /// Raises 9 for a negative cell; a negative column in a row past the last has
   /// made the grid grow by then, which gives a grid without columns the rows
   /// that `SetFirst` wants before it keeps `FixedRows`.
   bool Setvalue(std::int32_t Row, std::int32_t Col, double Value);
 
-  /// The value of a cell. A row or column past the end reads the spare one at
-  /// its end, so that loops that run one too far read 0 and no error. Raises 9
-  /// for a negative cell, and for every cell until columns are set.
+  /// The number in a cell.
+  ///
+  /// A row or column past the end reads the spare one at its end, so that loops that run
+  /// one too far read 0 and no error. Raises 9 for a negative cell, and for every cell
+  /// until columns are set.
   double GetValue(std::int32_t Row, std::int32_t Col) const;
 
-  /// Deletes a row, heading rows included; nothing for one that is not there.
-  /// The data of the rows below moves up, the spare row's into the last.
-  /// Heading columns and the spare column stay where they are, so that a
-  /// heading which numbers the rows still does.
+  /// Deletes a row.
+  ///
+  /// Heading rows are deleted too; does nothing for a row that is not there. The data of
+  /// the rows below moves up, the spare row's into the last. Heading columns and the
+  /// spare column stay where they are, so that a heading which numbers the rows still
+  /// does.
   void RemaveItem(std::int32_t Row);
 
-  /// Sets the data of a row to 0, heading columns left as they are; nothing for
-  /// a row that is not there.
+  /// Sets the data of a row to 0.
+  ///
+  /// Heading columns are left as they are; does nothing for a row that is not there.
   void ResetRow(std::int32_t Row);
 
-  /// Leaves the heading rows and one blank data row. The heading columns keep
-  /// what they hold.
+  /// Leaves the headings and one blank row.
+  ///
+  /// The heading columns keep what they hold.
   void Clear();
 
-  /// The sum of a column's data, added from the top down; 0 for a heading and
-  /// for a column that is not there.
+  /// The sum of a column's data.
+  ///
+  /// Added from the top down; 0 for a heading and for a column that is not there.
   double SumCol(std::int32_t Col) const;
 
-  /// The sum of a row's data, added from left to right; 0 for a heading and for
-  /// a row that is not there.
+  /// The sum of a row's data.
+  ///
+  /// Added from left to right; 0 for a heading and for a row that is not there.
   double SumRow(std::int32_t Row) const;
 
   /// Tells `listener` of every change from now on, after those that came before

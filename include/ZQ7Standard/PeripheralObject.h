@@ -13,7 +13,8 @@ namespace ZQ7Standard {
 
 class ServiceSet;
 
-/// Commands to devices on a serial line, such as the cash drawer of a point of sale.
+/// Commands to devices on a serial line, such as a cash drawer.
+///
 /// The host owns the control of the line and hands it in on each call. An instance
 /// belongs to one thread at a time; distinct instances are independent.
 class ZQ7STANDARD_EXPORT PeripheralObject {
@@ -24,6 +25,8 @@ class ZQ7STANDARD_EXPORT PeripheralObject {
 
   // --- Devices on a serial line: src/io/peripherals/peripherals.cc; docs/devices.md ---
 
+  /// Sends a text to a device; 0, or the error number.
+  ///
   /// Opens port `iPort` of `iControl` with the line settings `Setting`, writes `iCode`
   /// as it is and closes the port. Returns 0, or the error number of the first step
   /// that failed: the low 16 bits of the control's own number, or 440 where those are 0
@@ -35,10 +38,11 @@ class ZQ7STANDARD_EXPORT PeripheralObject {
   std::int16_t SendCommMsg(const std::shared_ptr<SerialPort>& iControl, TextView iCode,
                            std::int16_t iPort, TextView Setting = u"9600,N,8,1") const;
 
-  /// Opens a cash drawer: sends its kick code `iCode` with the settings "9600,N,8,1".
-  /// Always returns 1, which callers have come to count on. A failure is told by a
-  /// message box alone: "Error! : ", the number of `SendCommMsg`, and on the next line
-  /// the text of the control.
+  /// Opens a cash drawer; always 1.
+  ///
+  /// Sends its kick code `iCode` with the settings "9600,N,8,1". Callers have come to
+  /// count on the 1. A failure is told by a message box alone: "Error! : ", the number of
+  /// `SendCommMsg`, and on the next line the text of the control.
   std::int16_t OpenDraw(const std::shared_ptr<SerialPort>& iControl, TextView iCode,
                         std::int16_t iPort) const;
 

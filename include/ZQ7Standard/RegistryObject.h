@@ -13,9 +13,10 @@ namespace ZQ7Standard {
 
 class ServiceSet;
 
-/// Numbers and texts in the registry, and the password cipher for texts that are
-/// kept there. An instance and its copies, which share its registry, belong to one
-/// thread at a time; distinct instances are independent.
+/// Registry values, and a password cipher for texts kept there.
+///
+/// The values are numbers and texts. An instance and its copies, which share its
+/// registry, belong to one thread at a time; distinct instances are independent.
 class ZQ7STANDARD_EXPORT RegistryObject {
  public:
   /// With the registry of the machine, which is not touched before the first call.
@@ -31,33 +32,44 @@ class ZQ7STANDARD_EXPORT RegistryObject {
   // ends the name. There is no key with a name of more than 255 characters, nor at more
   // than 512 levels. No failure raises: reads give 0 or no text, updates true.
 
-  /// The number that the value holds; 0 when there is none, or it holds anything
-  /// but a number, be it a text of digits. A key that the user may read but not
-  /// write counts as none.
+  /// The number that a value holds; 0 for none.
+  ///
+  /// 0 also for a value that holds anything but a number, be it a text of digits. A key
+  /// that the user may read but not write counts as none.
   std::int32_t GetKeyValueLong(std::int32_t keyroot, TextView keyname, TextView subkeyname) const;
 
-  /// The text that the value holds, less one character 0 at its end; empty when
-  /// there is none, it has more than 1,024 bytes, or it holds anything but a plain
-  /// text. A key that the user may read but not write counts as none.
+  /// The text that a value holds; empty for none.
+  ///
+  /// One character 0 at its end is left out. Empty also for a text of more than 1,024
+  /// bytes, and for a value that holds anything but a plain text. A key that the user may
+  /// read but not write counts as none.
   Text GetKeyValueString(std::int32_t keyroot, TextView keyname, TextView subkeyname) const;
 
-  /// Sets the value to a number, making the key and those above it where they are
-  /// not there. False (0) says that it was done, true (-1) that it FAILED: callers
-  /// test for 0.
+  /// Sets a value to a number; True when that FAILED.
+  ///
+  /// The key and those above it are made where they are not there. False (0) says that it
+  /// was done, true (-1) that it FAILED: callers test for 0.
   bool UpdateKeyValueLong(std::int32_t keyroot, TextView keyname, TextView subkeyname,
                           std::int32_t keyval) const;
 
-  /// The same for a text, which is stored in Windows-874 with one byte for each
-  /// character and no zero behind it. A text of more than 1,024 characters is
+  /// Sets a value to a text; True when that FAILED.
+  ///
+  /// Otherwise as `UpdateKeyValueLong`. The text is stored in Windows-874 with one byte
+  /// for each character and no zero behind it. A text of more than 1,024 characters is
   /// stored, but `GetKeyValueString` does not read it.
   bool UpdateKeyValueString(std::int32_t keyroot, TextView keyname, TextView subkeyname,
                             TextView keyval) const;
 
   // --- Texts under a password: src/text/cipher.cc; docs/security.md ---
 
-  /// The same as `StandardObject::EncryptBS`, for a text of any length. Raises 11
-  /// for an empty password, unless the text is empty.
+  /// Hides a text from a glance, under a password.
+  ///
+  /// The same as `StandardObject.EncryptBS`, for a text of any length. Raises 11 for an
+  /// empty password, unless the text is empty.
   Text Encrypt(TextView StringInput, TextView PassWord) const;
+
+  /// Undoes `Encrypt`.
+  ///
   /// The same as `Encrypt`, which undoes itself.
   Text Decrypt(TextView EncryptedTextInput, TextView PassWord) const;
 

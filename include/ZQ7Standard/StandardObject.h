@@ -15,8 +15,7 @@ namespace ZQ7Standard {
 
 class ServiceSet;
 
-/// Dates in both calendars, payment terms, rounding and number text, lists, keys
-/// and bar codes, ciphers and digests.
+/// Dates, payment terms, numbers, lists, keys, bar codes, ciphers and digests.
 ///
 /// Every operation runs to its end on the caller's thread and keeps nothing for
 /// the next one. The system's date convention is asked anew on each call. An
@@ -36,36 +35,46 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- The system's era and date layout, sentinel dates: src/dates/era.cc ---
 
-  /// The system's year less the Gregorian year: 543 where years are read in the
-  /// Buddhist Era, else 0.
+  /// The system's year less the Gregorian year: 543 or 0.
+  ///
+  /// 543 where years are read in the Buddhist Era, else 0.
   std::int16_t GetEraDif() const;
 
-  /// The current year in the system's era: 2567 or 2024.
+  /// The current year in the system's era.
+  ///
+  /// 2567 or 2024, for one.
   std::int16_t CTYEAR() const;
 
-  /// The year of `InDate` in the system's era. A year of 2400 or more is
-  /// Buddhist already and stays. The years of blank dates are themselves:
-  /// 8888 gives 8888, and 3333, also when it was shifted down an era once or
+  /// The year of a date in the system's era.
+  ///
+  /// A year of 2400 or more is Buddhist already and stays. The years of blank dates are
+  /// themselves: 8888 gives 8888, and 3333, also when it was shifted down an era once or
   /// twice (2247, 1704), gives 3333.
   std::int16_t Year2000(OleDate InDate) const;
 
-  /// The layout of the system's short date: 1 m/d/yyyy, 2 d/m/yyyy, 3 and 4 the
-  /// same with Buddhist years.
+  /// The code of the system's date layout, 1 to 4.
+  ///
+  /// 1 is m/d/yyyy, 2 d/m/yyyy; 3 and 4 are the same with Buddhist years.
   std::int16_t GetDateFormat() const;
 
+  /// The date layout of a code, "m/d/yyyy" or "d/m/yyyy".
+  ///
   /// "m/d/yyyy" for the codes 1 and 3, "d/m/yyyy" for 2 and 4, else empty.
   Text GetDateFormatString(std::int16_t DateFormat) const;
 
   /// The date that stands for no date, 3333-03-03.
   OleDate GETBlankDate() const;
 
-  /// The largest date, 3333-03-03: deliberately the blank date's value.
+  /// The largest date, 3333-03-03.
+  ///
+  /// It is deliberately the blank date's value.
   OleDate GETMAXDate() const;
 
-  /// Whether `iDate` stands for no date: midnight of 3333-03-03, 8888-08-08,
-  /// one of those that went through an era conversion too many (3876-03-03,
-  /// 2790-03-03, 8345-08-08), or the zero date. With any other time of day it
-  /// is a date like others.
+  /// Whether a date stands for no date.
+  ///
+  /// Blank are midnight of 3333-03-03, of 8888-08-08 and of those that went through an
+  /// era conversion too many (3876-03-03, 2790-03-03, 8345-08-08), and the zero date.
+  /// With any other time of day `iDate` is a date like others.
   bool isBlankDate(OleDate iDate) const;
 
   /// The same day at 00:00.
@@ -73,35 +82,43 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Spans of days, hours and minutes: src/dates/day_time.cc ---
 
-  /// Reads "D:H:M", "H:M" or a bare number of days. Fields are whole numbers,
-  /// halves to even; minutes above 60 count as 60, hours above 24 as 24, so
-  /// "0:23:60" is one day. What is no number reads as 0; fields further left
-  /// are ignored. "0130" is 130 days (docs/surprises.md).
+  /// Reads "D:H:M" as a number of days.
+  ///
+  /// "H:M" and a bare number of days are read too. Fields are whole numbers, halves to
+  /// even; minutes above 60 count as 60, hours above 24 as 24, so "0:23:60" is one day.
+  /// What is no number reads as 0; fields further left are ignored. "0130" is 130 days
+  /// (docs/surprises.md).
   double DAYTIME2DAY(TextView iDDHHMMText) const;
 
-  /// Writes a number of days as "D:HH:MM", the sign dropped: 1.5 and -1.5 are
-  /// "1:12:00", 0 is "0:00:00". Rounded to the millisecond, then cut to the
-  /// minute. Raises 6 when `iDay` is infinite or no number.
+  /// Writes a number of days as "D:HH:MM".
+  ///
+  /// The sign is dropped: 1.5 and -1.5 are "1:12:00", 0 is "0:00:00". Rounded to the
+  /// millisecond, then cut to the minute. Raises 6 when `iDay` is infinite or no number.
   Text DAY2DAYTIME(double iDay) const;
 
-  /// Writes a number of hours as "H:MM", rounded to the minute as the number of
-  /// minutes prints (to 15 significant digits, a half away from zero): 7.5 is
-  /// "7:30", 2.675 "2:41", -1.5 "-1:30", -0.001 "0:00". `CTHour` reads it back.
-  /// Raises 6 from 1E+15 hours on and for infinities and NaN.
+  /// Writes a number of hours as "H:MM".
+  ///
+  /// It is rounded to the minute as the number of minutes prints (to 15 significant digits, a
+  /// half away from zero): 7.5 is "7:30", 2.675 "2:41", -1.5 "-1:30", -0.001 "0:00".
+  /// `CTHour` reads it back. Raises 6 from 1E+15 hours on and for infinities and NaN.
   Text FormatHour(double iHour) const;
 
-  /// Whether a "D:H:M" text, or four characters "HHMM", amounts to anything but
-  /// zero; with `AcceptZeroValue` always true. The ranges of hours and minutes
-  /// are not looked at, and a bare number of other than four characters is not such
-  /// a text. `DAYTIME2DAY` does not read "HHMM" (docs/surprises.md).
+  /// Whether a "D:H:M" text amounts to anything but zero.
+  ///
+  /// Four characters "HHMM" are such a text too; with `AcceptZeroValue` the result is
+  /// always True. The ranges of hours and minutes are not looked at, and a bare number of
+  /// other than four characters is not such a text. `DAYTIME2DAY` does not read "HHMM"
+  /// (docs/surprises.md).
   bool isDayTime(TextView IDayTimeText, bool AcceptZeroValue = false) const;
 
   // --- Dates typed by users: src/dates/parsing.cc ---
 
-  /// Reads "15/1/2567" in the system's field order and era; a year of one or
-  /// two digits is completed (Gregorian 00-29 to 2000-2029, 30-99 to 1930-1999;
-  /// Buddhist 00-72 to 2500-2572, 73-99 to 2473-2499). The order is never
-  /// guessed: "1/15/2567" fails on a day-first system.
+  /// Reads a date as a user types it in a date box.
+  ///
+  /// "15/1/2567" is read in the system's field order and era; a year of one or two digits
+  /// is completed (Gregorian 00-29 to 2000-2029, 30-99 to 1930-1999; Buddhist 00-72 to
+  /// 2500-2572, 73-99 to 2473-2499). The order is never guessed: "1/15/2567" fails on a
+  /// day-first system.
   ///
   /// The empty text is the zero date, and a missing year is year 0. Raises 13
   /// for a month outside 1 to 12 or a day that the month does not have, 9 for a
@@ -110,36 +127,46 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// ask before.
   OleDate CTDATE(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
 
-  /// Whether `iText` is a date of exactly three fields with "/" between, the
-  /// year of four characters from 643 to 9999, in the system's field order and
-  /// era. Signs are dropped ("-15/1/2567" is one), so `CTDATE` need not read what
-  /// this takes (docs/surprises.md). The flag is ignored.
+  /// Whether a text is a date with a year of four digits.
+  ///
+  /// `iText` has exactly three fields with "/" between, in the system's field order and
+  /// era; the year has four characters and is from 643 to 9999. Signs are dropped
+  /// ("-15/1/2567" is one), so `CTDATE` need not read what this takes
+  /// (docs/surprises.md). The flag is ignored.
   bool IsTDate(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
 
-  /// Reads any date that `IsTDateTime` recognises and adds the era difference
-  /// to its year: on a Buddhist system the result carries the Buddhist year as
-  /// its own (29 February moves to the 28th where that year has none;
-  /// docs/surprises.md). Other text gives the blank date, and so does a year that
-  /// leaves the range of dates.
+  /// Reads any date and adds the era difference to its year.
+  ///
+  /// Any date that `IsTDateTime` recognises is read. On a Buddhist system the result
+  /// carries the Buddhist year as its own (29 February moves to the 28th where that year
+  /// has none; docs/surprises.md). Other text gives the blank date, and so does a year
+  /// that leaves the range of dates.
   OleDate CDATE2000(TextView iText) const;
 
+  /// Reads a date; today for a text that is none.
+  ///
   /// `CTDATE` of a text that `IsTDateTime` recognises; today's date for any
   /// other, and where `CTDATE` would fail, as for a date without "/"
   /// (docs/surprises.md).
   OleDate GETValidDate(TextView DateString) const;
 
-  /// Whether `iText` is a date, a time or both: "15/1/2567 9:30",
-  /// "January 15, 2013", "15 ม.ค. 2567", "9:30 PM". docs/dates.md lists the
-  /// forms that are read.
+  /// Whether a text is a date, a time or both.
+  ///
+  /// "15/1/2567 9:30", "January 15, 2013", "15 ม.ค. 2567" and "9:30 PM" are such texts.
+  /// docs/dates.md lists the forms that are read.
   bool IsTDateTime(TextView iText) const;
 
-  /// Whether `inMMYYYY` is two digits of a month, any one character and a year
-  /// from 643 in the last four: "01/2567". No upper bound on the year.
+  /// Whether a text is a month and a year, "MM/YYYY".
+  ///
+  /// `inMMYYYY` is two digits of a month, any one character and a year from 643 in the
+  /// last four: "01/2567". No upper bound on the year.
   bool isMounthYear(TextView inMMYYYY) const;
 
-  /// Reads a year-first date of a sortable key: "2024-01-15", "25670115"; a
-  /// Buddhist year becomes Gregorian. Text that cannot be read gives 3 March of
-  /// the year 2000, or of 543 on a Buddhist system, which callers test for.
+  /// Reads a date of a sortable key, the year first.
+  ///
+  /// Such as "2024-01-15" or "25670115"; a Buddhist year becomes Gregorian. Text that
+  /// cannot be read gives 3 March of the year 2000, or of 543 on a Buddhist system, which
+  /// callers test for.
   ///
   /// A text that the system recognises as it stands is read in the system's
   /// era, so on a Buddhist system "2024-01-15" is the Buddhist year 2024; and an
@@ -147,69 +174,91 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// there (the Buddhist year 2024 has no 29 February).
   OleDate GETDateFromTextYYYYMMDD(TextView iDateYYYY_MM_DD) const;
 
-  /// The first day of a month typed year first in the system's era: "2567/03".
-  /// The first day of the current month when the month is not 1 to 12 or the
-  /// Gregorian year not 1 to 3332. Years 0 to 99 are completed to 1930-2029.
+  /// The first day of a month typed year first.
+  ///
+  /// The year is of the system's era: "2567/03". The first day of the current month when
+  /// the month is not 1 to 12 or the Gregorian year not 1 to 3332. Years 0 to 99 are
+  /// completed to 1930-2029.
   OleDate CTPeriod(TextView iText) const;
 
-  /// Whether `CTPeriod` reads `iText` as it stands.
+  /// Whether `CTPeriod` reads a text as it stands.
   bool IsTPeriod(TextView iText) const;
 
   // --- Times typed by users: src/dates/time_parsing.cc ---
 
-  /// The time of day of four digits "HHMM", on day 0; any other text, "9:30"
-  /// and "2400" included, gives 00:00, which is the blank date
-  /// (docs/surprises.md).
+  /// The time of day of four digits "HHMM".
+  ///
+  /// It is on day 0. Any other text, "9:30" and "2400" included, gives 00:00, which is
+  /// the blank date (docs/surprises.md).
   OleDate CTTime(TextView ITimeText) const;
 
-  /// Whether `ITimeText` is four digits from "0000" to "2359".
+  /// Whether a text is four digits "HHMM".
+  ///
+  /// From "0000" to "2359".
   bool isTTime(TextView ITimeText) const;
 
-  /// The day that a typed clock time carries over to: 1 when the four digits
-  /// left without ":" and "." are 2400 or more, else `StartValue`.
+  /// The day that a clock time past midnight carries over to.
+  ///
+  /// 1 when the four digits left without ":" and "." are 2400 or more, else `StartValue`.
   OleDate Str2AddDay(TextView InTime, std::int16_t StartValue = 0) const;
 
-  /// Reads a clock time such as "9:30", "0930", "9:30:15" (seconds dropped) or
-  /// "9:30 PM" to a time of day; other text gives 00:00. "PM" adds 12 hours to
-  /// any hour and the day wraps at 24, so "12:30 PM" is 00:30.
+  /// Reads a clock time such as "9:30" or "9:30 PM".
+  ///
+  /// "0930" and "9:30:15" (seconds dropped) are read too, all to a time of day; other
+  /// text gives 00:00. "PM" adds 12 hours to any hour and the day wraps at 24, so "12:30
+  /// PM" is 00:30.
   OleDate Str2TIME(TextView InTime) const;
 
-  /// Reads "H:M" as hours, minutes above 60 counting as 60; a "-" in front is the
-  /// sign of the whole text, so "-1:30" is -1.5. A text without ":" is a bare
-  /// number of hours.
+  /// Reads "H:M" as hours.
+  ///
+  /// Minutes above 60 count as 60; a "-" in front is the sign of the whole text, so
+  /// "-1:30" is -1.5. A text without ":" is a bare number of hours.
   double CTHour(TextView ITimeText) const;
 
-  /// Whether an "H:M" text, or four characters "HHMM", amounts to anything but
-  /// zero; with `AcceptZeroValue` always true.
+  /// Whether an "H:M" text amounts to anything but zero.
+  ///
+  /// Four characters "HHMM" are such a text too; with `AcceptZeroValue` the result is
+  /// always True.
   bool isHour(TextView IHourText, bool AcceptZeroValue = false) const;
 
   // --- Month and day names: src/dates/names.cc ---
 
-  /// The 12 month names, full or short, Thai or English; element 0 is empty, so
-  /// that the month's number is the index. The spellings are fixed ("Febuary").
+  /// The 12 month names; element 0 is empty.
+  ///
+  /// They are full or short, Thai or English, and the month's number is the index. The
+  /// spellings are fixed ("Febuary").
   std::vector<Text> GETMonthTextArray(bool FullText, bool UseThai) const;
 
-  /// The 7 day names from Sunday; element 0 is empty, so that the weekday's
-  /// number (1 = Sunday) is the index. The spellings are fixed ("Thusday").
+  /// The 7 day names from Sunday; element 0 is empty.
+  ///
+  /// The weekday's number (1 = Sunday) is the index. The spellings are fixed ("Thusday").
   std::vector<Text> GETDayTextArray(bool FullText, bool UseThai) const;
 
-  /// The name of a month. 0 gives the empty text, but a negative number gives
-  /// January and one above 12 December.
+  /// The name of a month.
+  ///
+  /// 0 gives the empty text, but a negative number gives January and one above 12
+  /// December.
   Text MonthText(std::int16_t MonthNumber, bool FullText, bool UseThai) const;
 
-  /// The name of the weekday of `iDate`.
+  /// The name of a date's weekday.
   Text DayText(OleDate iDate, bool FullText, bool UseThai) const;
 
+  /// The month and year of a date in English.
+  ///
   /// `FormatTDate2` with the layout `ZQ7MMMYYYY`: "January 2024".
   Text MonthYearTextFull(OleDate InDate) const;
 
   // --- Dates and times as text: src/dates/formatting.cc ---
 
-  /// `FormatTDate2` with the system's own layout: "15/1/2567".
+  /// Writes a date in the system's own layout.
+  ///
+  /// `FormatTDate2` with that layout: "15/1/2567".
   Text FormatTDate(OleDate InDate, bool ZeroLeader = false) const;
 
-  /// Writes `InDate` in the layout `DateType`; a value that names no layout
-  /// counts as `ZQ7Detect`. `ZeroLeader` writes day and month with two digits.
+  /// Writes a date in one of the layouts of `CTDateType`.
+  ///
+  /// A `DateType` that names no layout counts as `ZQ7Detect`. `ZeroLeader` writes day and
+  /// month with two digits.
   ///
   /// A blank date gives the empty text. The year of another date is Buddhist
   /// already when it is 2400 or more: BBBB shows it as it stands, YYYY shows it
@@ -217,14 +266,17 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// have at least four digits.
   Text FormatTDate2(OleDate InDate, CTDateType DateType, bool ZeroLeader = false) const;
 
+  /// Writes a date in the system's own layout and the time of day.
+  ///
   /// `FormatTDate`, a blank and the time of day: "15/1/2567 09:30". Empty for a
   /// blank date.
   Text FormatTDateTime(OleDate InDate, bool ZeroLeader = false) const;
 
-  /// Writes `InDate` by a pattern. "yyyy" and "bbbb" are both the year that
-  /// `Year2000` returns; names are Thai on a Buddhist system, where the default
-  /// pattern writes "15/1/2567", and English on others: "15/1/2024". An empty
-  /// pattern counts as left out.
+  /// Writes a date by a pattern, in the system's era and language.
+  ///
+  /// "yyyy" and "bbbb" are both the year that `Year2000` returns; names are Thai on a
+  /// Buddhist system, where the default pattern writes "15/1/2567", and English on
+  /// others: "15/1/2024". An empty pattern counts as left out.
   ///
   /// In a pattern d, m, y, b, h, n and s stand for day, month, Gregorian and
   /// Buddhist year, hour, minute and second, AM/PM makes 12 hours, and text in
@@ -236,115 +288,146 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// quotes or in a single "\", for a blank date too.
   Text Format2000(OleDate InDate, TextView FormatText = u"d/m/yyyy") const;
 
-  /// Writes `InDate` by a pattern as `Format2000` does, with Thai names and the
-  /// Buddhist year for "yyyy" and "bbbb": "15 มกราคม 2567". Years are numbered as
-  /// in `FormatTDate2`.
+  /// Writes a date by a pattern, with Thai names and Buddhist years.
+  ///
+  /// The pattern is as for `Format2000`; "yyyy" and "bbbb" are both the Buddhist year:
+  /// "15 มกราคม 2567". Years are numbered as in `FormatTDate2`.
   Text FormatThai(OleDate InDate, TextView FormatText = u"d mmmm bbbb") const;
 
-  /// The Thai date reversed, for sorting: "2567/01/15". Empty for a blank date.
-  /// `GETDateFromTextYYYYMMDD` reads it back.
+  /// Writes the Thai date reversed, for sorting.
+  ///
+  /// 15 January 2024 is "2567/01/15". Empty for a blank date. `GETDateFromTextYYYYMMDD`
+  /// reads it back.
   Text FormatThaiRevere(OleDate InDate) const;
 
-  /// Writes `InDate` by a pattern as `Format2000` does, with English names and the
-  /// Gregorian year for "yyyy" and "bbbb": "15 January 2024". Years are numbered
-  /// as in `FormatTDate2`.
+  /// Writes a date by a pattern, with English names and Gregorian years.
+  ///
+  /// The pattern is as for `Format2000`; "yyyy" and "bbbb" are both the Gregorian year:
+  /// "15 January 2024". Years are numbered as in `FormatTDate2`.
   Text FormatEnglish(OleDate InDate, TextView FormatText = u"d mmmm yyyy") const;
 
-  /// The Gregorian day for a database query, the same in every convention:
-  /// "2024-01-15"; NULL for a blank date. The quotes are the host's, and none go
-  /// around NULL:
+  /// Writes a date for a database query; NULL for a blank date.
   ///
-  ///     const Text day = standard.FormatQuery(date);
-  ///     query += day == u"NULL" ? day : u"'" + day + u"'";
+  /// The Gregorian day, the same in every convention: "2024-01-15". The quotes are the
+  /// host's, and none go around NULL.
+  //
+  //     const Text day = standard.FormatQuery(date);
+  //     query += day == u"NULL" ? day : u"'" + day + u"'";
   ///
   /// A Buddhist 29 February whose Gregorian year has none is the 28th.
   Text FormatQuery(OleDate InDate) const;
 
-  /// `FormatQuery` with the time of day: "2024-01-15 09:30:00"; NULL for a blank
-  /// date.
+  /// Writes a date and its time for a database query; NULL for a blank date.
+  ///
+  /// "2024-01-15 09:30:00"; otherwise as `FormatQuery`.
   Text FormatQueryTime(OleDate InDate) const;
 
-  /// The time of day of `InDate` as "HH:MM".
+  /// Writes the time of day as "HH:MM".
   Text FormatTime(OleDate InDate) const;
 
-  /// Writes the time of day by a pattern: "09:30:00". Letters of the date write it
-  /// as `Format2000` does. No date is blank here: midnight of any day is
-  /// "00:00:00". Raises 5 as `Format2000` does.
+  /// Writes the time of day by a pattern.
+  ///
+  /// The default pattern writes "09:30:00". Letters of the date write it as `Format2000`
+  /// does. No date is blank here: midnight of any day is "00:00:00". Raises 5 as
+  /// `Format2000` does.
   Text FormatTime2(OleDate InDate, TextView FormatText = u"hh:nn:ss") const;
 
-  /// The month of `InDate`, year first, as `CTPeriod` reads it: "2567/01". The
-  /// year is the one that `FormatTDate` shows. Empty for a blank date.
+  /// Writes the month of a date, the year first.
+  ///
+  /// As `CTPeriod` reads it: "2567/01". The year is the one that `FormatTDate` shows.
+  /// Empty for a blank date.
   Text FormatPeriod(OleDate InDate) const;
 
-  /// The same, month first, as `isMounthYear` accepts it: "01/2567".
+  /// Writes the month of a date, the month first.
+  ///
+  /// As `isMounthYear` accepts it: "01/2567"; otherwise as `FormatPeriod`.
   Text FormatTPeriod(OleDate InDate) const;
 
   // --- Month arithmetic: src/dates/months.cc ---
 
-  /// `InDate` moved by single months, at 00:00; 0 counts as 1 (docs/surprises.md).
-  /// A day that a month does not have is cut back to its last and stays cut back:
-  /// 31 January plus 2 months is 28 March (29 in a leap year).
+  /// Moves a date by single months, cut back to the last day of each.
+  ///
+  /// The result is at 00:00; a `NumberOfMonth` of 0 counts as 1 (docs/surprises.md). A
+  /// day that a month does not have is cut back to its last and stays cut back: 31
+  /// January plus 2 months is 28 March (29 in a leap year).
   ///
   /// Raises 5 beyond December 9999, and before January 100 on a Buddhist
   /// system; on a Gregorian one the month before January 100 is read as
   /// December of "99", which is 1999.
   OleDate AddMonth(OleDate InDate, std::int16_t NumberOfMonth = 0) const;
 
+  /// Moves a date by years of twelve single months.
+  ///
   /// `AddMonth` by 12 months a year; 0 counts as 1 year. Raises 6 when the
   /// months pass 16 bits.
   OleDate AddYear(OleDate InDate, std::int16_t NumberOfYear = 0) const;
 
-  /// The first day of a month of a Gregorian year. A month below 0 counts as
-  /// 1, one above 12 as 12. Raises 13 for month 0 and for a year that the
-  /// system does not read; a year of one or two digits is read as `CTDATE`
+  /// The first day of a month of a Gregorian year.
+  ///
+  /// A month below 0 counts as 1, one above 12 as 12. Raises 13 for month 0 and for a
+  /// year that the system does not read; a year of one or two digits is read as `CTDATE`
   /// reads it. Raises 6 when the system's year passes 16 bits.
   OleDate GETFirstDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
 
-  /// The last day of a month of a Gregorian year. A month outside 1 to 12
-  /// carries into other years (13 is January of the next one); years 0 to 29
-  /// are 2000 to 2029, 30 to 99 are 1930 to 1999. Raises 5 outside 100 to 9999.
+  /// The last day of a month of a Gregorian year.
+  ///
+  /// A month outside 1 to 12 carries into other years (13 is January of the next one);
+  /// years 0 to 29 are 2000 to 2029, 30 to 99 are 1930 to 1999. Raises 5 outside 100 to
+  /// 9999.
   OleDate GETLastDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
 
   // --- Weekdays and weeks: src/dates/calendar.cc ---
 
+  /// The first Monday of a month of a Gregorian year.
+  ///
   /// The first Monday on or after `GETFirstDayOfMonthYear(iMonth, iYear2000)`, which
   /// also says what is raised. A year of 2400 or more, but for 3333 and 8888, has the
   /// weekdays of the Gregorian year that it means: for January 2567 the result is
   /// 2567-01-01, because 2024-01-01 is a Monday.
   OleDate GETFirstMondayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
-  /// The first Saturday in the same way.
+
+  /// The first Saturday of a month of a Gregorian year.
+  ///
+  /// Otherwise as `GETFirstMondayOfMonthYear`.
   OleDate GETFirstSaturdayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
 
-  /// The week of the month that `InDate` is in, 1 to 6: weeks begin on Sunday, and the
-  /// 1st is in week 1. A blank date gives 0.
+  /// The week of the month that a date is in, 1 to 6.
+  ///
+  /// Weeks begin on Sunday, and the 1st is in week 1. A blank date gives 0.
   ///
   /// A year of 2400 or more, but for 3333 and 8888, has the weekdays of the Gregorian
   /// year that it means. A 29 February that this year does not have counts as the 28th.
   std::int16_t GETWeekOfMonth(OleDate InDate) const;
 
-  /// The pay period of the month that `InDate` is in: 1 for the days 1 to 15, 2 from the
-  /// 16th on. A blank date gives 0.
+  /// The pay period of the month that a date is in, 1 or 2.
+  ///
+  /// 1 for the days 1 to 15, 2 from the 16th on. A blank date gives 0.
   std::int16_t GETPeriodOfMonth(OleDate InDate) const;
 
-  /// Whether `InDate` is a Saturday or a Sunday, with the weekdays of
-  /// `GETWeekOfMonth`. A blank date is not.
+  /// Whether a date is a Saturday or a Sunday.
+  ///
+  /// The weekdays are those of `GETWeekOfMonth`. A blank date is neither.
   bool ISWeekHoliday(OleDate InDate) const;
 
   // --- Time left of long work: src/dates/time_left.cc ---
 
-  /// Estimates the time that work started at `StartDate` still takes from what is done
-  /// by now: elapsed × (total − done) ÷ done, a span in days of at most 2958465. 0 when
-  /// nothing or everything is done, and for a start in the future.
+  /// Estimates the days that work still takes from what is done by now.
+  ///
+  /// The work started at `StartDate`: elapsed × (total − done) ÷ done, a span in days of
+  /// at most 2958465. 0 when nothing or everything is done, and for a start in the future.
   OleDate TimeLeftDateTime(OleDate StartDate, double DoneCount, double TotalCount) const;
 
-  /// Writes a span of days, rounded to the second, as its two largest units that are
-  /// not 0, the rest cut off: "1 day 2 hours", "1 day 5 minutes", "3 minutes 5 seconds",
-  /// "0 seconds", or "1 วัน 2 ชั่วโมง". Thai when `UseThai` is True, and on a Buddhist
-  /// system when it is left out.
+  /// Writes a span of days as its two largest units.
+  ///
+  /// Rounded to the second; units that are 0 do not count, and the rest is cut off: "1
+  /// day 2 hours", "1 day 5 minutes", "3 minutes 5 seconds", "0 seconds", or "1 วัน 2
+  /// ชั่วโมง". Thai when `UseThai` is True, and on a Buddhist system when it is left out.
   ///
   /// A negative span is "0 seconds". Raises 6 when `TimeLeft` is infinite or no number.
   Text FormatTimeleft(double TimeLeft, std::optional<bool> UseThai = std::nullopt) const;
 
+  /// The text of the time that work still takes.
+  ///
   /// `FormatTimeleft` of `TimeLeftDateTime`; the empty text while nothing is done and
   /// something is left, when no estimate can be made.
   Text TimeLeftText(OleDate StartDate, double DoneCount, double TotalCount,
@@ -367,8 +450,10 @@ class ZQ7STANDARD_EXPORT StandardObject {
   OleDate GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionType ConditionType,
                               std::int16_t NetDay, std::int16_t DeliveryDay) const;
 
-  /// Writes a payment term in trade notation: "2.0/10, N/30 AID" is a discount
-  /// of 2.0 % within 10 days, net 30 days after the invoice date.
+  /// Writes a payment term in trade notation.
+  ///
+  /// "2.0/10, N/30 AID" is a discount of 2.0 % within 10 days, net 30 days after the
+  /// invoice date.
   ///
   /// "CASH" alone when `ConditionDay` (days) is 0 or less. The discount
   /// `Condition1` (percent, one decimal) stands in front when it and
@@ -378,19 +463,21 @@ class ZQ7STANDARD_EXPORT StandardObject {
                         ZQ7ConditionType ConditionType, ZQ7ConditionOutputType OutputType,
                         float ConditionDay) const;
 
-  /// `FormatCondition2` with the event and the output rounded to whole numbers,
-  /// halves to even.
+  /// `FormatCondition2` with the event and the output as numbers.
+  ///
+  /// They are rounded to whole numbers, halves to even.
   Text FormatCondition(float Condition1, std::int16_t ConditionDay1, float ConditionType,
                        float OutputType, float ConditionDay) const;
 
   // --- Rounding: src/numbers/rounding.cc ---
 
-  /// Rounds the number as it prints: to 15 significant digits, then half away
-  /// from zero at `DecimalDigit` decimals, so 2.345 at 2 gives 2.35 although the
-  /// double lies below it. With `IgnoreNextDigit` it is rounded at two more
-  /// decimals and those are then cut off: 1.2349 at 2 gives 1.23, but 1.23996
-  /// gives 1.24. Raises 5 for a negative `DecimalDigit` and 6 for infinities and
-  /// NaN, as do the operations below that use it.
+  /// Rounds a number as it prints, half away from zero.
+  ///
+  /// It prints to 15 significant digits, and these are rounded at `DecimalDigit`
+  /// decimals, so 2.345 at 2 gives 2.35 although the double lies below it. With
+  /// `IgnoreNextDigit` it is rounded at two more decimals and those are then cut off:
+  /// 1.2349 at 2 gives 1.23, but 1.23996 gives 1.24. Raises 5 for a negative
+  /// `DecimalDigit` and 6 for infinities and NaN, as do the operations below that use it.
   double FixNumber2(double iValue, std::int16_t DecimalDigit, bool IgnoreNextDigit) const;
 
   /// `FixNumber2` without `IgnoreNextDigit`.
@@ -398,22 +485,29 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// The same as `FixNumber`.
   double Round(double iValue, std::int16_t DecimalDigit) const;
 
-  /// `FixNumber2` at 0 decimals with `IgnoreNextDigit`: a cut toward zero after
-  /// rounding to two decimals, so -2.5 gives -2 and 2.999 gives 3.
+  /// Cuts a number toward zero.
+  ///
+  /// `FixNumber2` at 0 decimals with `IgnoreNextDigit`, so the number is rounded to two
+  /// decimals before: -2.5 gives -2 and 2.999 gives 3.
   double Floor(double iValue) const;
 
-  /// `Floor`, plus 1 when the number is above it: 2.001 gives 3, -2.5 gives -2.
+  /// `Floor`, plus 1 when the number is above it.
+  ///
+  /// 2.001 gives 3, -2.5 gives -2.
   double Ceiling(double iValue) const;
 
-  /// Rounds to `DecimalDigit` decimals and then brings the result to a whole
-  /// unit as `CutMode` says, whatever `DecimalDigit` is: 12.345 at 2 gives 12.35
-  /// (none), 12 (five up), 13 (all up), 12 (all down). Any other mode counts as
-  /// none. All up leaves a negative number with a fraction as it is.
+  /// Rounds a number and brings it to a whole unit.
+  ///
+  /// It is rounded to `DecimalDigit` decimals and then brought to a whole unit as
+  /// `CutMode` says, whatever `DecimalDigit` is: 12.345 at 2 gives 12.35 (none), 12 (five
+  /// up), 13 (all up), 12 (all down). Any other mode counts as none. All up leaves a
+  /// negative number with a fraction as it is.
   double FixNumberWithCutMode(double iValue, std::int16_t DecimalDigit, ZQ7FixUnit CutMode) const;
 
-  /// Brings a positive amount with a fraction to a whole unit, up with
-  /// `IncreaseToCeiling`, else down; other amounts come back unchanged. Raises 6
-  /// when the unit above is out of range.
+  /// Brings an amount to a whole unit.
+  ///
+  /// A positive amount with a fraction goes up with `IncreaseToCeiling`, else down; other
+  /// amounts come back unchanged. Raises 6 when the unit above is out of range.
   ///
   /// `CelingList`, a list of satang steps such as "25;50;75", has no effect: each
   /// step is rounded to 0 or 1 unit before it is compared, and both ends of the
@@ -423,26 +517,40 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Numbers from text: src/numbers/reading.cc ---
 
-  /// Reads the number at the front of a typed text; blanks, "," and "%" are
-  /// skipped wherever they stand, tabs and line breaks, which pasted cells bring,
-  /// in front. "1,234.50" is 1234.5, "12.5%" is 0.125, "abc" is 0. An exponent (E
-  /// or D) needs a digit. Never fails: a number too large for a double gives 0.
+  /// Reads the number at the front of a typed text.
+  ///
+  /// Blanks, "," and "%" are skipped wherever they stand, tabs and line breaks, which
+  /// pasted cells bring, in front. "1,234.50" is 1234.5, "12.5%" is 0.125, "abc" is 0. An
+  /// exponent (E or D) needs a digit. Never fails: a number too large for a double gives
+  /// 0.
   double StrVal(TextView istr) const;
 
-  /// `StrVal`, rounded as `FixNumber` does to `DecimalDigit` decimals; -1 does
-  /// not round. A `DecimalDigit` that `FixNumber` does not take gives 0.
+  /// `StrVal`, rounded; -1 does not round.
+  ///
+  /// It is rounded as `FixNumber` does, to `DecimalDigit` decimals. A `DecimalDigit` that
+  /// `FixNumber` does not take gives 0.
   double StrVal2(TextView istr, std::int32_t DecimalDigit) const;
 
-  /// `StrVal2` as a 16-bit integer, a half going to even. Raises 6 beyond it.
+  /// `StrVal2` as a 16-bit integer, a half going to even.
+  ///
+  /// Raises 6 beyond it.
   std::int16_t StrInt(TextView istr, std::int32_t DecimalDigit = -1) const;
-  /// `StrVal2` as a 32-bit integer, a half going to even. Raises 6 beyond it.
+
+  /// `StrVal2` as a 32-bit integer, a half going to even.
+  ///
+  /// Raises 6 beyond it.
   std::int32_t StrLng(TextView istr, std::int32_t DecimalDigit = -1) const;
-  /// `StrVal2` as a 32-bit float. Raises 6 beyond its range.
+
+  /// `StrVal2` as a 32-bit float.
+  ///
+  /// Raises 6 beyond its range.
   float StrSng(TextView istr, std::int32_t DecimalDigit = -1) const;
 
-  /// `InputValue`, or 0 for a missing one.
+  /// A number, or 0 for a missing one.
   double Null2Zero(std::optional<double> InputValue = std::nullopt) const;
 
+  /// The digits of a text.
+  ///
   /// The characters "0" to "9" of `iText`, with `IncludeDot` also ".", with
   /// `IncludeSign` also "+" and "-".
   Text Numb(TextView iText, bool IncludeDot = false, bool IncludeSign = false) const;
@@ -454,16 +562,19 @@ class ZQ7STANDARD_EXPORT StandardObject {
   double h2d(double iHour) const;    ///< Hours to days.
   double m2d(double iMinute) const;  ///< Minutes to days.
 
-  /// The shortest decimal text of a number taken to 15 significant digits, with
-  /// an exponent from 1E+15 up and below 1E-04: "1234.5", "1E+15". Raises 6 for
-  /// infinities and NaN.
+  /// The shortest text of a number.
+  ///
+  /// The number is taken to 15 significant digits and written in decimals, with an
+  /// exponent from 1E+15 up and below 1E-04: "1234.5", "1E+15". Raises 6 for infinities
+  /// and NaN.
   Text d2Str(double iValue) const;
 
   // --- Cost prices in letters: src/numbers/cost_codes.cc ---
 
-  /// Writes a cost price in letters that only staff can read, for a price tag. The
-  /// ten units of `CodeWord` stand for the digits 1 to 9 and 0: with "BLACKHORSE",
-  /// 125.50 is "BLK.KE" and 0 is "E".
+  /// Writes a cost price in the letters of a code word.
+  ///
+  /// Only staff can read the letters on a price tag. The ten units of `CodeWord` stand
+  /// for the digits 1 to 9 and 0: with "BLACKHORSE", 125.50 is "BLK.KE" and 0 is "E".
   ///
   /// `Price` is rounded to two decimals as `FixNumber` does, and a ".00" is left out.
   /// Raises 5 for a word that is not ten different UTF-16 units (A to Z in either
@@ -471,6 +582,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// for more than 15 digits before the ".", and for infinities and NaN.
   Text FormatCostCode(double Price, TextView CodeWord) const;
 
+  /// The same with a character for each repeated digit.
+  ///
   /// `FormatCostCode` with `RepeatCharacter` for each digit that is the same as the one
   /// before it, the "." not counted: with "BLACKHORSE" and "X", 5000 is "KEXX" and
   /// 55.50 is "KX.XE".
@@ -479,25 +592,31 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// not be in any word; also where no digit is repeated.
   Text FormatCostCode2(double Price, TextView CodeWord, TextView RepeatCharacter) const;
 
-  /// Reads the price that `FormatCostCode` wrote: "-" where it is negative, letters of
-  /// the word in either case of A to Z, perhaps "." and more letters, with blanks
-  /// before and after only. The empty code and blanks alone are 0. A code longer than
-  /// that of any price gives the nearest double.
+  /// Reads the price that `FormatCostCode` wrote.
+  ///
+  /// The code has "-" where the price is negative, letters of the word in either case of
+  /// A to Z, perhaps "." and more letters, with blanks before and after only. The empty
+  /// code and blanks alone are 0. A code longer than that of any price gives the nearest
+  /// double.
   ///
   /// Raises 13 for any other text; the message tells the place of the first unit that
   /// does not belong, from 1, one past the end where a letter is missing. Raises 6
   /// beyond the doubles, and 5 for a word as `FormatCostCode` does.
   double DeFormatCostCode(TextView CostCode, TextView CodeWord) const;
 
-  /// `DeFormatCostCode` for codes of `FormatCostCode2`. A repeated letter may stand for
-  /// itself: "KEX" and "KEE" are both 500. Raises 13 also for a `RepeatCharacter` with
-  /// no letter before it, and 5 for one that `FormatCostCode2` does not take.
+  /// Reads the price that `FormatCostCode2` wrote.
+  ///
+  /// Otherwise as `DeFormatCostCode`. A repeated letter may stand for itself: "KEX" and
+  /// "KEE" are both 500. Raises 13 also for a `RepeatCharacter` with no letter before it,
+  /// and 5 for one that `FormatCostCode2` does not take.
   double DeFormatCostCode2(TextView CostCode, TextView CodeWord, TextView RepeatCharacter) const;
 
   // --- Lists in one text, arrays from arguments: src/text/lists.cc ---
 
-  /// Adds `iAdd` to a list unless it holds exactly that item: "a;b" and "c" give
-  /// "a;b;c". An empty `iAdd` is an item like others.
+  /// Adds an item to a list unless it is there.
+  ///
+  /// It is there where the list holds exactly `iAdd`: "a;b" and "c" give "a;b;c". An
+  /// empty `iAdd` is an item like others.
   ///
   /// The list given is split at ";", the result joined by `SeparateChar` (";"
   /// when empty): with "," the list "a;b" comes back as "a,b,c", but "a,b" is one
@@ -513,6 +632,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
                                 TextView i17 = {}, TextView i18 = {}, TextView i19 = {},
                                 TextView i20 = {}) const;
 
+  /// The texts that are not empty, as an array.
+  ///
   /// The texts in their order, those of `i2` to `i30` that are empty left out.
   /// `i1` is the first element also when it is empty, but with nothing else it
   /// then gives no element at all. A text is parted wherever it holds ";;".
@@ -527,40 +648,49 @@ class ZQ7STANDARD_EXPORT StandardObject {
                                  TextView i26 = {}, TextView i27 = {}, TextView i28 = {},
                                  TextView i29 = {}, TextView i30 = {}) const;
 
-  /// The items of a comma-separated list from last to first, each followed by
-  /// ",": "a,b,c" and "a,b,c," give "c,b,a,".
+  /// A comma-separated list from last to first.
+  ///
+  /// Each item is followed by ",": "a,b,c" and "a,b,c," give "c,b,a,".
   Text ReverseList(TextView iList) const;
 
-  /// The whole number in the field `iNum`, counted from 1, of a comma-separated
-  /// list, as decimal text; halves go to even. The empty text when there is no
-  /// such field, and for a last field of a single character: "1,2,3" has no
-  /// third, "1,2,34" has.
+  /// The whole number in a field of a comma-separated list.
+  ///
+  /// The field is `iNum`, counted from 1, and the number is written as decimal text;
+  /// halves go to even. The empty text when there is no such field, and for a last field
+  /// of a single character: "1,2,3" has no third, "1,2,34" has.
   ///
   /// Raises 13 when the field is no number and 6 when it passes 32 bits.
   Text TrimN(TextView istr, std::int16_t iNum) const;
 
   // --- Blanks, numbered keys, searching, random numbers: src/text/strings.cc ---
 
-  /// The UTF-16 code units of `iString` from last to first. Surrogates and Thai
-  /// marks come out in front of what they belong to.
+  /// The characters from last to first.
+  ///
+  /// They are UTF-16 code units: surrogates and Thai marks come out in front of what they
+  /// belong to.
   Text ReverseString(TextView iString) const;
 
-  /// Shrinks every run of blanks (U+0020) to one. Blanks at the front and at the
-  /// back go, or shrink to one where the flag is off.
+  /// Shrinks every run of blanks to one.
+  ///
+  /// A blank is U+0020. Blanks at the front and at the back go, or shrink to one where
+  /// the flag is off.
   Text TrimSpaceToOne(TextView inString, bool TrimFront = true, bool TrimBack = true) const;
 
-  /// Counts up the number at the end of a key, by 1 or by `AddStringNumber`, and
-  /// keeps its width: "INV0099" gives "INV0100", "A999" gives "A1000", "A009" and
-  /// "5" give "A014". An `AddStringNumber` that is not above 0 adds nothing.
+  /// Counts up the number at the end of a key.
+  ///
+  /// By 1 or by `AddStringNumber`; its width is kept: "INV0099" gives "INV0100", "A999"
+  /// gives "A1000", "A009" and "5" give "A014". An `AddStringNumber` that is not above 0
+  /// adds nothing.
   ///
   /// Zeros alone are no number: "A000" comes back unchanged, as does any key
   /// without a number, with `AddStringNumber` behind it. A number of more than
   /// 15 digits comes out in the form of `d2Str`. Raises 6 beyond the doubles.
   Text IncreaseString(TextView InputString, TextView AddStringNumber = {}) const;
 
-  /// Fills the number at the end of a text with zeros, so that texts sort by it:
-  /// "inv12" at 8 gives "INV00012". The number is what `StrVal` reads above 0
-  /// from each place on; its front is cut off where it is too long.
+  /// Fills the number at the end of a text with zeros, to sort by.
+  ///
+  /// "inv12" at 8 gives "INV00012". The number is what `StrVal` reads above 0 from each
+  /// place on; its front is cut off where it is too long.
   ///
   /// A text without one, or with a "0" at its end, is filled with zeros and a
   /// "1" instead, and only then keeps its case: "abc" at 5 gives "abc01". Raises
@@ -568,10 +698,12 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// when twice `Length` passes 16 bits and there is a number.
   Text FormatTextSort(TextView InputString, std::int16_t Length) const;
 
-  /// The position of `SearchString` in `MainString`, from 1 in UTF-16 code units,
-  /// the first at or after `start`; 0 for none and for a `start` beyond the end.
-  /// An empty `SearchString` is found at `start`. Raises 5 for a `start` below 1 and for a
-  /// `Compare` that is not a member of its enumeration.
+  /// The position of a text in another, from 1; 0 for none.
+  ///
+  /// It is that of the first `SearchString` in `MainString` at or after `start`, in
+  /// UTF-16 code units; 0 also for a `start` beyond the end. An empty `SearchString` is
+  /// found at `start`. Raises 5 for a `start` below 1 and for a `Compare` that is not a
+  /// member of its enumeration.
   ///
   /// With `SearchFromBack` the position of the last one in the whole text;
   /// `start` and `Compare` have no effect, and an empty `SearchString` gives 0.
@@ -579,16 +711,20 @@ class ZQ7STANDARD_EXPORT StandardObject {
                       ZQ7CompareMethod Compare = ZQ7CompareBinary,
                       bool SearchFromBack = false) const;
 
-  /// A random whole number from `Low` to `High` + 1; these two come half as often
-  /// as those between. `High` below `Low` is allowed. Raises 6 when the span
-  /// `High` - `Low` + 1, or the result, passes 32 bits.
+  /// A random whole number.
+  ///
+  /// It is from `Low` to `High` + 1; these two come half as often as those between.
+  /// `High` below `Low` is allowed. Raises 6 when the span `High` - `Low` + 1, or the
+  /// result, passes 32 bits.
   std::int32_t Random(std::int32_t Low, std::int32_t High) const;
 
   // --- Record keys, serial numbers, bar codes, addresses: src/text/keys.cc ---
 
-  /// Cleans a record key as typed: drops "'", ";", ",", "%" and line breaks, the
-  /// blanks around it and, unless `AcceptInsideSpace`, those inside. An option is
-  /// on only at the value 1; -1, which other operations take for true, is off.
+  /// Cleans a record key as typed.
+  ///
+  /// Drops "'", ";", ",", "%" and line breaks, the blanks around it and, unless
+  /// `AcceptInsideSpace`, those inside. An option is on only at the value 1; -1, which
+  /// other operations take for true, is off.
   ///
   /// `NumberOnly` keeps "0" to "9", `AutoUpperCase` turns to upper case (any
   /// script), `AcceptOnlyEnglishCharAndNumber` keeps A to Z, a to z and "0" to
@@ -602,53 +738,71 @@ class ZQ7STANDARD_EXPORT StandardObject {
                         std::int16_t AcceptInsideMultiSpace = 0, std::int16_t Reserve2 = 0,
                         std::int16_t Reserve3 = 0, std::int16_t Reserve4 = 0) const;
 
+  /// Cleans a serial number as typed.
+  ///
   /// `FormatPrimaryKey` with those options. `MaxLen` has no effect.
   Text FormatSerialNo(TextView InputKeyValue, std::int16_t MaxLen = 30,
                       std::int16_t AcceptInsideSpace = 0, std::int16_t NumberOnly = 0,
                       std::int16_t AutoUpperCase = 0,
                       std::int16_t AcceptOnlyEnglishCharAndNumber = 0) const;
 
-  /// The letters A to Z, in upper case, and digits of a bar code as typed:
-  /// " 885-1234 abc " gives "8851234ABC". `BarcodeType` has no effect.
+  /// The letters and digits of a bar code as typed.
+  ///
+  /// Letters are A to Z, in upper case: " 885-1234 abc " gives "8851234ABC".
+  /// `BarcodeType` has no effect.
   Text FormatBarCode(TextView InputBarCodeValue, std::int16_t BarcodeType = 0) const;
 
-  /// A network address of four parts, or six when `ForceIPV4` is off, without
-  /// leading zeros and signs: "010.001.002.003" gives "10.1.2.3". The empty text
-  /// for any other number of parts, or a part above 256 (256 itself is taken).
-  /// Parts are read by `StrInt`, which raises 6 for one beyond 16 bits.
+  /// A network address without leading zeros; empty for what is none.
+  ///
+  /// It has four parts, or six when `ForceIPV4` is off, and comes back without signs too:
+  /// "010.001.002.003" gives "10.1.2.3". The empty text for any other number of parts, or
+  /// a part above 256 (256 itself is taken). Parts are read by `StrInt`, which raises 6
+  /// for one beyond 16 bits.
   Text FormatIP(TextView StringIP, bool ForceIPV4 = true) const;
 
-  // --- Check digits of bar codes (GS1 General Specifications): src/text/barcodes.cc ---
+  // --- Check digits of bar codes: src/text/barcodes.cc ---
 
-  /// The EAN-13 check digit, 0 to 9, of the first 12 characters; -1 when there
-  /// are fewer. What is no digit "0" to "9" counts as 0.
+  /// The EAN-13 check digit of the first 12 characters.
+  ///
+  /// It is 0 to 9; -1 when there are fewer characters. What is no digit "0" to "9" counts
+  /// as 0.
   std::int16_t GetEAN13ChekDigit(TextView sCodice) const;
 
-  /// The same for ITF-14 (GTIN-14), of the first 13 characters.
+  /// The ITF-14 check digit of the first 13 characters.
+  ///
+  /// ITF-14 is GTIN-14; otherwise as `GetEAN13ChekDigit`.
   std::int16_t GetITF14ChekDigit(TextView sCodice) const;
 
   // --- Texts under a password: src/text/cipher.cc; docs/security.md ---
 
-  /// Combines each character's byte with the password's, the password repeated,
-  /// by exclusive or. It hides a text from a glance and from nothing else; kept
-  /// for the data that exists.
+  /// Hides a text from a glance, under a password.
+  ///
+  /// Combines each character's byte with the password's, the password repeated, by
+  /// exclusive or. It hides a text from nothing else; kept for the data that exists.
   ///
   /// "ABC" with "A" gives the characters 0, 3 and 2. The result may hold any
   /// character of the code page, also 0. Characters go through Windows-874, and
   /// one that is not in it counts as "?". The empty text gives the empty text;
   /// raises 6 for more than 32767 characters, 11 for an empty password.
   Text EncryptBS(TextView StringInput, TextView PassWord) const;
+
+  /// Undoes `EncryptBS`.
+  ///
   /// The same as `EncryptBS`, which undoes itself.
   Text DecryptBS(TextView EncryptedTextInput, TextView PassWord) const;
 
-  /// Enciphers a text with the block cipher of `Services`, made anew for
-  /// the call. An empty text comes back as it is, also any text when the password
-  /// is empty. Characters go through Windows-874, and one that is not in it
-  /// becomes "?". Raises 429 when there is no cipher, and what the cipher raises.
+  /// Enciphers a text with the host's block cipher.
+  ///
+  /// The cipher is made anew for the call. An empty text comes back as it is, also any
+  /// text when the password is empty. Characters go through Windows-874, and one that is
+  /// not in it becomes "?". Raises 429 when there is no cipher, and what the cipher
+  /// raises.
   Text Encrypt(TextView StringInput, TextView PassWord) const;
 
-  /// The text that `Encrypt` enciphered. A text that it did not write, and the
-  /// wrong password where the cipher can tell, give `EncryptedTextInput` itself.
+  /// The text that `Encrypt` enciphered.
+  ///
+  /// A text that it did not write, and the wrong password where the cipher can tell, give
+  /// `EncryptedTextInput` itself.
   ///
   /// Characters of code 0 are removed from the result in every case: they are the
   /// padding of block ciphers. Raises as `Encrypt` does.
@@ -656,10 +810,12 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Digests: src/text/digest.cc ---
 
-  /// The MD5 digest (RFC 1321) of the Windows-874 bytes of `strMessage`, as 32
-  /// hexadecimal digits in lower case. A character that is not in the code page
-  /// counts as "?". It tells apart texts that differ by accident: whoever wants two
-  /// texts with one digest can make them.
+  /// The MD5 digest of a text.
+  ///
+  /// It is the digest (RFC 1321) of the Windows-874 bytes of `strMessage`, as 32
+  /// hexadecimal digits in lower case. A character that is not in the code page counts as
+  /// "?". It tells apart texts that differ by accident: whoever wants two texts with one
+  /// digest can make them.
   Text CalculateMD5(TextView strMessage) const;
 
  private:

@@ -72,7 +72,8 @@ inline constexpr std::string_view kClassNameOf<SerialPort> = "SerialPort";
 template <typename T>
 TypeInfo TypeInfoOf() {
   if constexpr (EnumerationType<T>) {
-    return {.type = Type::kLong, .enumeration = &kEnumerationOf<T>};
+    static_assert(!kEnumerationName<T>.empty(), "an enumeration that no value has");
+    return {.type = Type::kLong, .enumeration = FindEnumeration(kEnumerationName<T>)};
   } else {
     static_assert(std::is_void_v<T> || kTypeOf<T> != Type::kNothing, "a type no value has");
     return {.type = kTypeOf<T>, .object_class = kClassNameOf<T>};
@@ -146,12 +147,19 @@ class Argument<std::shared_ptr<T>> {
   std::shared_ptr<T> object_;
 };
 
+/// Whether a value is null, and may be so.
+inline bool IsNullTaken(const Source& source) {
+  const auto& [call, parameter] = source.place;
+  return std::holds_alternative<Null>(source.value) && !call.parameters.empty() &&
+         call.parameters[parameter].nullable;
+}
+
 /// An argument that the operation itself finds missing.
 template <typename T>
 class Argument<std::optional<T>> {
  public:
   explicit Argument(const Source& source) {
-    if (!std::holds_alternative<Omitted>(source.value)) {
+    if (!std::holds_alternative<Omitted>(source.value) && !IsNullTaken(source)) {
       value_ = ToParameter<T>(source.value, source.place);
     }
   }

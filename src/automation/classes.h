@@ -1,33 +1,33 @@
 #ifndef ZQ7STANDARD_SRC_AUTOMATION_CLASSES_H_
 #define ZQ7STANDARD_SRC_AUTOMATION_CLASSES_H_
 
-#include <ZQ7Standard/automation/catalogue.h>
+#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 
-// The entry of each public class, without what the headers say.
+// The rows of each public class, without what the headers say.
 
-ClassInfo ASCIIObjectEntry();
-ClassInfo BahtStringObjectEntry();
-ClassInfo BitByteObjectEntry();
-ClassInfo CImageInfoEntry();
-ClassInfo DiskObjectEntry();
-ClassInfo GridValueObjectEntry();
-ClassInfo PeripheralObjectEntry();
-ClassInfo PrintObjectEntry();
-ClassInfo RegistryObjectEntry();
-ClassInfo StandardObjectEntry();
+ClassRow ASCIIObjectEntry();
+ClassRow BahtStringObjectEntry();
+ClassRow BitByteObjectEntry();
+ClassRow CImageInfoEntry();
+ClassRow DiskObjectEntry();
+ClassRow GridValueObjectEntry();
+ClassRow PeripheralObjectEntry();
+ClassRow PrintObjectEntry();
+ClassRow RegistryObjectEntry();
+ClassRow StandardObjectEntry();
 
 // The same of what hosts hand in to operations.
 
-ClassInfo PrintPictureEntry();
-ClassInfo SerialPortEntry();
+ClassRow PrintPictureEntry();
+ClassRow SerialPortEntry();
 
 // The operations of `StandardObject`, by subsystem.
 
-void AddDateOperations(ClassInfo& owner);
-void AddNumberOperations(ClassInfo& owner);
-void AddTextOperations(ClassInfo& owner);
+void AddDateOperations(ClassRow& owner);
+void AddNumberOperations(ClassRow& owner);
+void AddTextOperations(ClassRow& owner);
 
 }  // namespace ZQ7Standard::Automation
 

@@ -32,6 +32,7 @@ struct ShownVisitor {
   ErrorInput operator()(const Arithmetic auto& number) const { return number; }
   ErrorInput operator()(OleDate date) const { return date; }
   ErrorInput operator()(Currency amount) const { return amount; }
+  ErrorInput operator()(Null /*null*/) const { return TextView(u"a null"); }
   ErrorInput operator()(const TextList& /*list*/) const { return TextView(u"a list"); }
   ErrorInput operator()(const auto& /*object*/) const { return TextView(u"an object"); }
 };
@@ -236,10 +237,8 @@ std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name
                                  const Place& place) {
   if (const auto* object = std::get_if<Object>(&value)) {
     if (object->Class().name == class_name) return object->Get().object;
-  } else if (const auto* name = std::get_if<Text>(&value)) {
-    const ClassInfo& owner = *FindClass(class_name);
-    if (owner.from_text != nullptr) return owner.from_text(place.call.services.Given(), *name);
-    if (SameName(Utf8(*name), class_name)) return owner.create(place.call.services.Given());
+  } else if (std::holds_alternative<Null>(value)) {
+    return nullptr;
   }
   RaiseMismatch(value, place);
 }

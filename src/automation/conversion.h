@@ -42,7 +42,7 @@ OleDate ToDate(const Value& value, const Place& place);
 Currency ToCurrency(const Value& value, const Place& place);
 Text ToText(const Value& value, const Place& place);
 TextList ToTextList(const Value& value, const Place& place);
-/// What the object of a class is, or a new one for the name of the class.
+/// What the object of a class is; null for a null.
 std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name,
                                  const Place& place);
 

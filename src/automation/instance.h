@@ -5,13 +5,14 @@
 
 #include <memory>
 
+#include "automation/entry.h"
 #include "platform/service_set.h"
 
 namespace ZQ7Standard::Automation {
 
 /// What an `Object` stands for.
 struct Instance {
-  const ClassInfo* owner;
+  const ClassEntry* owner;
   std::shared_ptr<void> object;
   std::shared_ptr<ServiceSet> services;
 };

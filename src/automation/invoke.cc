@@ -114,12 +114,63 @@ auto Reported(const ClassInfo& owner, std::string_view member,
   }
 }
 
+/// The member that `info` describes; null where the class of the instance has no such one.
+/// The number finds it. The name tells a member of another class, which may have that
+/// number too.
+template <typename Info>
+const MemberEntry* MemberOf(const Instance& instance, const Info& info) {
+  const auto& members = instance.owner->members;
+  const auto place = static_cast<std::size_t>(info.number);
+  if (place >= members.size()) return nullptr;
+  const auto& [operation, property] = members[place].info;
+  const std::string_view name = operation != nullptr  ? operation->name
+                                : property != nullptr ? property->name
+                                                      : std::string_view();
+  return name == info.name ? &members[place] : nullptr;
+}
+
+Value InvokeMember(const Instance& instance, const MemberEntry* member, std::string_view name,
+                   const Arguments& arguments) {
+  const ClassInfo& owner = *instance.owner->info;
+  if (member == nullptr || member->call == nullptr) RaiseUnsupported(owner, name);
+  const OperationInfo& operation = *member->info.operation;
+  return Reported(owner, operation.name, operation.parameters, [&] {
+    const Values values(operation, arguments);
+    return member->call(instance.object.get(), values.Get(),
+                        {operation.name, operation.parameters, *instance.services});
+  });
+}
+
+Value ReadMember(const Instance& instance, const MemberEntry* member, std::string_view name) {
+  const ClassInfo& owner = *instance.owner->info;
+  if (member == nullptr || member->read == nullptr) RaiseUnsupported(owner, name);
+  return Reported(owner, member->info.property->name, {},
+                  [&] { return member->read(instance.object.get()); });
+}
+
+void WriteMember(const Instance& instance, const MemberEntry* member, std::string_view name,
+                 const Value& value) {
+  const ClassInfo& owner = *instance.owner->info;
+  if (member == nullptr || member->write == nullptr) RaiseUnsupported(owner, name);
+  const std::string_view property = member->info.property->name;
+  Reported(owner, property, {}, [&] {
+    member->write(instance.object.get(), value, {property, {}, *instance.services});
+  });
+}
+
+Object Wrapped(std::string_view class_name, std::shared_ptr<void> object,
+               const Services& services) {
+  if (object == nullptr) throw RunTimeError(Error::kObjectNotSet);
+  return Object(std::make_shared<const Instance>(
+      Instance{FindEntry(class_name), std::move(object), std::make_shared<ServiceSet>(services)}));
+}
+
 }  // namespace
 
 Object::Object(std::shared_ptr<const Instance> instance) : instance_(std::move(instance)) {}
 
 const ClassInfo& Object::Class() const {
-  return *instance_->owner;
+  return *instance_->owner->info;
 }
 
 EventSink::~EventSink() = default;
@@ -131,41 +182,50 @@ Services ExampleServices() {
 }
 
 Object Create(std::string_view class_name, const Services& services) {
-  const ClassInfo* owner = FindClass(class_name);
+  const ClassEntry* owner = FindEntry(class_name);
   if (owner == nullptr || owner->create == nullptr)
     throw RunTimeError({.number = static_cast<int>(Error::kCannotCreateObject),
                         .text = "cannot create object",
                         .class_name = std::string(class_name)});
-  return Object(std::make_shared<const Instance>(
-      Instance{owner, owner->create(services), std::make_shared<ServiceSet>(services)}));
+  return Wrapped(owner->info->name, owner->create(services), services);
+}
+
+Object Wrap(std::shared_ptr<SerialPort> port, const Services& services) {
+  return Wrapped("SerialPort", std::move(port), services);
+}
+
+Object Wrap(std::shared_ptr<PrintPicture> picture, const Services& services) {
+  return Wrapped("PrintPicture", std::move(picture), services);
 }
 
 Value Invoke(const Object& object, std::string_view operation, const Arguments& arguments) {
   const Instance& instance = object.Get();
-  const OperationInfo* found = FindOperation(*instance.owner, operation);
-  if (found == nullptr) RaiseUnsupported(*instance.owner, operation);
-  return Reported(*instance.owner, found->name, found->parameters, [&] {
-    const Values values(*found, arguments);
-    return found->invoke(instance.object.get(), values.Get(),
-                         {found->name, found->parameters, *instance.services});
-  });
+  return InvokeMember(instance, FindMemberEntry(*instance.owner, operation), operation, arguments);
+}
+
+Value Invoke(const Object& object, const OperationInfo& operation, const Arguments& arguments) {
+  const Instance& instance = object.Get();
+  return InvokeMember(instance, MemberOf(instance, operation), operation.name, arguments);
 }
 
 Value GetProperty(const Object& object, std::string_view property) {
   const Instance& instance = object.Get();
-  const PropertyInfo* found = FindProperty(*instance.owner, property);
-  if (found == nullptr || found->read == nullptr) RaiseUnsupported(*instance.owner, property);
-  return Reported(*instance.owner, found->name, {},
-                  [&] { return found->read(instance.object.get()); });
+  return ReadMember(instance, FindMemberEntry(*instance.owner, property), property);
+}
+
+Value GetProperty(const Object& object, const PropertyInfo& property) {
+  const Instance& instance = object.Get();
+  return ReadMember(instance, MemberOf(instance, property), property.name);
 }
 
 void SetProperty(const Object& object, std::string_view property, const Value& value) {
   const Instance& instance = object.Get();
-  const PropertyInfo* found = FindProperty(*instance.owner, property);
-  if (found == nullptr || found->write == nullptr) RaiseUnsupported(*instance.owner, property);
-  Reported(*instance.owner, found->name, {}, [&] {
-    found->write(instance.object.get(), value, {found->name, {}, *instance.services});
-  });
+  WriteMember(instance, FindMemberEntry(*instance.owner, property), property, value);
+}
+
+void SetProperty(const Object& object, const PropertyInfo& property, const Value& value) {
+  const Instance& instance = object.Get();
+  WriteMember(instance, MemberOf(instance, property), property.name, value);
 }
 
 std::shared_ptr<void> Subscribe(const Object& object, std::shared_ptr<EventSink> sink) {

@@ -1,5 +1,7 @@
 #include "automation/rows.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace ZQ7Standard::Automation {
@@ -45,24 +47,30 @@ ParameterRow Optional(const char* name, Value default_value) {
   return row;
 }
 
+ParameterRow Nullable(ParameterRow parameter) {
+  parameter.nullable = true;
+  return parameter;
+}
+
 ParameterRow ByRef(ParameterRow parameter) {
   parameter.by_reference = true;
   return parameter;
 }
 
-OperationInfo Described(std::string_view name, std::span<const ParameterRow> parameters,
-                        std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
+OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
+                        std::span<const TypeInfo> types, TypeInfo result,
                         std::span<const ExampleRow> examples) {
   ServiceSet services(ExampleServices());
   const CallContext context = {name, {}, services};
-  OperationInfo info = {.name = name, .result = result, .help = help};
+  OperationInfo info = {.name = name, .number = number, .result = result};
   for (std::size_t i = 0; i < types.size(); ++i) {
     const ParameterRow& row = parameters[i];
     info.parameters.push_back({.name = row.name,
                                .type = types[i],
                                .optional = row.optional,
                                .default_value = Typed(row.default_value, types[i], context),
-                               .by_reference = row.by_reference});
+                               .by_reference = row.by_reference,
+                               .nullable = row.nullable || types[i].type == Type::kObject});
     if (row.enumeration != nullptr) info.parameters.back().type.enumeration = row.enumeration;
   }
   for (const ExampleRow& row : examples) {
@@ -71,11 +79,8 @@ OperationInfo Described(std::string_view name, std::span<const ParameterRow> par
   return info;
 }
 
-void AddSubject(ClassInfo& owner, std::string_view subject, std::vector<OperationInfo> operations) {
-  for (OperationInfo& operation : operations) {
-    operation.subject = subject;
-    owner.operations.push_back(std::move(operation));
-  }
+void AddOperations(ClassRow& owner, std::vector<OperationRow> operations) {
+  std::ranges::move(operations, std::back_inserter(owner.operations));
 }
 
 OleDate Date(int year, int month, int day, int hour, int minute) {

@@ -10,13 +10,15 @@
 #include <span>
 #include <string_view>
 #include <tuple>
+#include <utility>
 #include <variant>
 #include <vector>
 
 #include "automation/binding.h"
+#include "automation/entry.h"
 
-/// How the rows of the catalogue are written: names, help and examples here, every type
-/// from the member itself.
+/// How the rows of the catalogue are written: names, numbers and examples here, every type
+/// from the member itself, and what is said of it from the headers.
 namespace ZQ7Standard::Automation {
 
 /// A parameter as a row names it.
@@ -28,6 +30,7 @@ struct ParameterRow {
   bool optional = false;
   Value default_value = Omitted{};
   bool by_reference = false;
+  bool nullable = false;
   const EnumerationInfo* enumeration = nullptr;
 };
 
@@ -35,12 +38,15 @@ struct ParameterRow {
 template <EnumerationType Enumeration>
 ParameterRow MemberOf(const char* name) {
   ParameterRow row(name);
-  row.enumeration = &kEnumerationOf<Enumeration>;
+  row.enumeration = FindEnumeration(kEnumerationName<Enumeration>);
   return row;
 }
 
 /// One that may be left out, and what it is then.
 ParameterRow Optional(const char* name, Value default_value = Omitted{});
+
+/// One that counts as missing where it is null.
+ParameterRow Nullable(ParameterRow parameter);
 
 /// One that is passed by reference where hosts bind to the class itself.
 ParameterRow ByRef(ParameterRow parameter);
@@ -56,10 +62,30 @@ struct ExampleRow {
   std::vector<Call> before = {};
 };
 
-/// The row of an operation but for its call. Raises where a default, or the result of an
+struct OperationRow {
+  OperationInfo info;
+  CallFunction call;
+};
+struct PropertyRow {
+  PropertyInfo info;
+  ReadFunction read = nullptr;
+  WriteFunction write = nullptr;
+};
+
+/// The rows of a class.
+struct ClassRow {
+  std::string_view name;
+  std::vector<EventInfo> events = {};
+  CreateFunction create = nullptr;
+  SubscribeFunction subscribe = nullptr;
+  std::vector<PropertyRow> properties = {};
+  std::vector<OperationRow> operations = {};
+};
+
+/// What the catalogue tells of an operation. Raises where a default, or the result of an
 /// example, does not fit its type.
-OperationInfo Described(std::string_view name, std::span<const ParameterRow> parameters,
-                        std::span<const TypeInfo> types, TypeInfo result, std::string_view help,
+OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
+                        std::span<const TypeInfo> types, TypeInfo result,
                         std::span<const ExampleRow> examples);
 
 template <typename... Parameters>
@@ -70,41 +96,35 @@ std::array<TypeInfo, sizeof...(Parameters)> TypesOf(
 
 /// The row of an operation.
 template <auto Member>
-OperationInfo Operation(std::string_view name, std::span<const ParameterRow> parameters,
-                        std::string_view help, std::initializer_list<ExampleRow> examples) {
+OperationRow Operation(int number, std::string_view name, std::span<const ParameterRow> parameters,
+                       std::initializer_list<ExampleRow> examples) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
-  OperationInfo info = Described(name, parameters, types, TypeInfoOf<ResultOf<Member>>(), help,
-                                 {examples.begin(), examples.size()});
-  info.invoke = CallMember<Member>;
-  return info;
+  return {Described(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(),
+                    {examples.begin(), examples.size()}),
+          CallMember<Member>};
 }
 
 /// The same with its parameters in braces, as many as the member has.
 template <auto Member, std::size_t N>
-OperationInfo Operation(std::string_view name,
-                        const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
-                        std::string_view help, std::initializer_list<ExampleRow> examples) {
+OperationRow Operation(int number, std::string_view name,
+                       const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
+                       std::initializer_list<ExampleRow> examples) {
   static_assert(N == kParameterCount<Member>, "a name for each parameter");
-  return Operation<Member>(name, std::span<const ParameterRow>(parameters), help, examples);
+  return Operation<Member>(number, name, std::span<const ParameterRow>(parameters), examples);
 }
 
 /// The row of an operation without parameters.
 template <auto Member>
-OperationInfo Operation(std::string_view name, std::string_view help,
-                        std::initializer_list<ExampleRow> examples) {
+OperationRow Operation(int number, std::string_view name,
+                       std::initializer_list<ExampleRow> examples) {
   static_assert(kParameterCount<Member> == 0, "a name for each parameter");
-  return Operation<Member>(name, std::span<const ParameterRow>(), help, examples);
+  return Operation<Member>(number, name, std::span<const ParameterRow>(), examples);
 }
 
-/// The row of a property that is only read.
+/// Reads a property.
 template <auto Getter>
-PropertyInfo Property(std::string_view name, std::string_view help) {
-  return {.name = name,
-          .type = TypeInfoOf<ResultOf<Getter>>(),
-          .help = help,
-          .read = [](void* instance) {
-            return ToValue(std::invoke(Getter, *static_cast<ClassOf<Getter>*>(instance)));
-          }};
+Value ReadProperty(void* instance) {
+  return ToValue(std::invoke(Getter, *static_cast<ClassOf<Getter>*>(instance)));
 }
 
 /// Sets a property.
@@ -114,25 +134,46 @@ void WriteProperty(void* instance, const Value& value, const CallContext& contex
   std::invoke(Setter, *static_cast<ClassOf<Setter>*>(instance), argument.Get());
 }
 
+/// The row of a property that is only read.
+template <auto Getter>
+PropertyRow Property(int number, std::string_view name) {
+  return {.info = {.name = name,
+                   .number = number,
+                   .type = TypeInfoOf<ResultOf<Getter>>(),
+                   .readable = true},
+          .read = ReadProperty<Getter>};
+}
+
 /// The row of a property that is only set.
 template <auto Setter>
-PropertyInfo SetOnlyProperty(std::string_view name, std::string_view help) {
-  return {.name = name,
-          .type = TypeInfoOf<std::tuple_element_t<0, ParametersOf<Setter>>>(),
-          .help = help,
+PropertyRow SetOnlyProperty(int number, std::string_view name) {
+  return {.info = {.name = name,
+                   .number = number,
+                   .type = TypeInfoOf<std::tuple_element_t<0, ParametersOf<Setter>>>(),
+                   .writable = true},
           .write = WriteProperty<Setter>};
 }
 
 /// The row of a property that is read and set.
 template <auto Getter, auto Setter>
-PropertyInfo Property(std::string_view name, std::string_view help) {
-  PropertyInfo info = Property<Getter>(name, help);
-  info.write = WriteProperty<Setter>;
-  return info;
+PropertyRow Property(int number, std::string_view name) {
+  PropertyRow row = Property<Getter>(number, name);
+  row.info.writable = true;
+  row.write = WriteProperty<Setter>;
+  return row;
 }
 
-/// Adds the operations of one subject to a class.
-void AddSubject(ClassInfo& owner, std::string_view subject, std::vector<OperationInfo> operations);
+/// The row of an event, of which `Member` is what hears it.
+template <auto Member>
+EventInfo Event(int number, std::string_view name, std::initializer_list<ParameterRow> parameters) {
+  const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
+  OperationInfo call =
+      Described(number, name, {parameters.begin(), parameters.size()}, types, {}, {});
+  return {.name = name, .number = number, .parameters = std::move(call.parameters)};
+}
+
+/// Adds operations to a class.
+void AddOperations(ClassRow& owner, std::vector<OperationRow> operations);
 
 /// A calendar day, for examples.
 OleDate Date(int year, int month, int day, int hour = 0, int minute = 0);

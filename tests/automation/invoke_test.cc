@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/printers.h"
 #include "tests/support/rows.h"
 
 namespace ZQ7Standard::Automation {
@@ -68,6 +69,47 @@ TEST(Invoke, TakesArgumentsByPositionAndByName) {
         << row.operation << " gave " << Outcome(object, row) << ", not " << row.expected;
   }
   EXPECT_EQ(ErrorOf([] { Create("Standard"); }), 429);
+}
+
+TEST(Invoke, TakesObjectsAndNulls) {
+  const Object printer = Create("PrintObject", {.printers = RecordingPrinters()});
+  const Object devices =
+      Create("PeripheralObject", {.message_box = std::make_shared<RecordingMessageBox>()});
+  const Object standard = Create("StandardObject", ExampleServices());
+  const Object picture = Wrap(std::make_shared<PlainPicture>());
+  const auto control = std::make_shared<RecordingSerialPort>();
+  control->on_call = [](const std::string& /*calls*/) {};
+  const Object port = Wrap(control);
+  const struct {
+    const Object& object;
+    const char* operation;
+    std::vector<Value> arguments;
+    Value expected;  // or the number of the error
+  } rows[] = {
+      {printer, "PrintGraphicObject", {picture}, std::int16_t{0}},
+      {printer, "PrintGraphicObject", {Null{}}, 5},
+      {printer, "PrintGraphicObject", {u"C:\\shop\\logo.png"}, 13},
+      {printer, "PrintGraphicObject", {port}, 13},
+      {devices, "SendCommMsg", {port, u"x", 1}, std::int16_t{0}},
+      {devices, "SendCommMsg", {Null{}, u"x", 1}, std::int16_t{91}},
+      {devices, "SendCommMsg", {u"SerialPort", u"x", 1}, 13},
+      {devices, "SendCommMsg", {port, Null{}, 1}, 13},
+      {standard, "Null2Zero", {Null{}}, 0.0},
+      {standard, "FormatTimeleft", {1.5, Null{}}, 13},
+      {standard, "TrimSpaceToOne", {u"a", Null{}}, 13},
+      {standard, "ReverseString", {Null{}}, 13},
+  };
+  for (const auto& row : rows) {
+    Value result;
+    const int error = ErrorOf([&] { result = Invoke(row.object, row.operation, {row.arguments}); });
+    EXPECT_EQ(error == 0 ? result : Value(error), row.expected)
+        << row.operation << " " << &row - rows;
+  }
+  SetProperty(port, "PortOpen", true);
+  EXPECT_TRUE(control->calls.ends_with(" close open")) << control->calls;
+  EXPECT_EQ(GetProperty(port, "PortOpen"), Value(false));
+  EXPECT_EQ(ErrorOf([&] { SetProperty(port, "PortOpen", Null{}); }), 13);
+  EXPECT_EQ(ErrorOf([] { Wrap(std::shared_ptr<SerialPort>()); }), 91);
 }
 
 TEST(Invoke, ReadsProperties) {

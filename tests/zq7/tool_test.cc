@@ -88,8 +88,8 @@ TEST(Tool, StreamsAndStatus) {
        0,
        "StandardObject.ReverseString: The characters from last to first.\n\n"
        "  StandardObject.ReverseString(iString As Text) As Text\n\n"
-       "The UTF-16 code units of `iString` from last to first. Surrogates and Thai marks\n"
-       "come out in front of what they belong to.\n\n"
+       "They are UTF-16 code units: surrogates and Thai marks come out in front of what\n"
+       "they belong to.\n\n"
        "Parameters\n  iString  Text\n\nResult\n  Text\n\n"
        "Examples, on 2024-01-15 09:30, dates typed day first in the Buddhist Era\n"
        "  zq7 call --example StandardObject.ReverseString abc\n  cba\n",
@@ -118,8 +118,9 @@ std::string ThereAndBack(const std::string& json) {
   static const NamedObjects objects = {{"it", Create("GridValueObject")}};
   try {
     const Value value = ValueOfJson(ReadJson(json), objects);
-    constexpr const char* kKinds[] = {"left out", "text", "int16", "long",      "single", "double",
-                                      "Boolean",  "date", "money", "text list", "object"};
+    constexpr const char* kKinds[] = {"left out", "null",   "text",      "int16",
+                                      "long",     "single", "double",    "Boolean",
+                                      "date",     "money",  "text list", "object"};
     return std::string(kKinds[value.index()]) + " " + WriteJson(JsonOfValue(value, objects));
   } catch (const JsonError& error) {
     return std::string("error: ") + error.what();

@@ -10,6 +10,7 @@
 
 #include "enumerators.h"
 #include "names.h"
+#include "objects.h"
 
 namespace ZQ7Tool {
 
@@ -104,20 +105,6 @@ void ReadMember(const OperationInfo& operation, const ParameterInfo& parameter, 
   value = *member;
 }
 
-/// Reads the members of enumerations among the arguments of a call. An argument of which
-/// there is no parameter is left to the call.
-void ReadMembers(const OperationInfo& operation, std::vector<Value>& positional,
-                 std::vector<NamedArgument>& named) {
-  const auto& parameters = operation.parameters;
-  const std::size_t count = std::min(positional.size(), parameters.size());
-  for (std::size_t i = 0; i < count; ++i) ReadMember(operation, parameters[i], positional[i]);
-  for (auto& [name, value] : named) {
-    for (const ParameterInfo& parameter : parameters) {
-      if (SameName(parameter.name, name)) ReadMember(operation, parameter, value);
-    }
-  }
-}
-
 }  // namespace
 
 BatchSession::BatchSession(const Settings& settings)
@@ -185,10 +172,14 @@ Value BatchSession::CallOperation(const Object& object, const Json& request) con
   } else {
     throw JsonError(R"("args" is no list and no object)");
   }
-  if (const OperationInfo* const found = FindOperation(object.Class(), operation)) {
-    ReadMembers(*found, positional, named);
-  }
-  return Invoke(object, operation, {positional, named});
+  const OperationInfo* const found = FindOperation(object.Class(), operation);
+  if (found == nullptr) return Invoke(object, operation, {});  // raises that there is none
+  TypedCall call = {object.Class(), *found, std::move(positional), std::move(named)};
+  ForEachArgument(call, [&](const ParameterInfo& parameter, Value& value) {
+    ReadMember(*found, parameter, value);
+  });
+  MakeObjects(call, host_.Services());
+  return Invoke(object, *found, {call.positional, call.named});
 }
 
 std::string ErrorLine(const std::string& message) {

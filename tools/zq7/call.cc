@@ -10,6 +10,7 @@
 #include "layout.h"
 #include "members.h"
 #include "names.h"
+#include "objects.h"
 #include "signature.h"
 #include "wrong_use.h"
 
@@ -23,7 +24,7 @@ constexpr int kArgumentNotOptional = 449;
 constexpr int kWrongNumberOfArguments = 450;
 
 Member FindOperationNamed(std::string_view name) {
-  const Member member = FindMember(name);
+  const Member member = MemberNamed(name);
   if (member.operation != nullptr) return member;
   if (member.property != nullptr) {
     throw WrongUse(Quoted(name) + " is a property. A batch gets and sets properties.");
@@ -74,7 +75,7 @@ class WordArguments {
     positional_.push_back(ValueOfWord(word, type));
   }
 
-  Arguments Get() const { return {positional_, named_}; }
+  TypedCall In(const ClassInfo& owner) const { return {owner, operation_, positional_, named_}; }
 
  private:
   const ParameterInfo& ParameterNamed(std::string_view name) const {
@@ -113,7 +114,9 @@ Value CallByWords(const CallWords& words, const Services& services) {
   for (const std::string& word : words.verbatim) arguments.TakePositional(word);
   const Object object = Create(member.owner->name, services);
   try {
-    return Invoke(object, member.operation->name, arguments.Get());
+    TypedCall call = arguments.In(*member.owner);
+    MakeObjects(call, services);
+    return Invoke(object, call.operation, {call.positional, call.named});
   } catch (const RunTimeError& error) {
     constexpr std::array kWrongWords = {kArgumentNotOptional, kWrongNumberOfArguments};
     if (std::ranges::find(kWrongWords, error.Number()) == kWrongWords.end()) throw;

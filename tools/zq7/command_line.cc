@@ -29,7 +29,7 @@ void List(const Commands& commands, const Streams& streams) {
     streams.out << ClassList(streams.width);
     return;
   }
-  const ClassInfo& owner = *FindMember(commands.Name()).owner;
+  const ClassInfo& owner = *MemberNamed(commands.Name()).owner;
   streams.out << ClassLine(owner, streams.width) << MemberList(owner, streams.width);
 }
 

@@ -28,8 +28,8 @@ std::string Section(std::string_view title, const std::string& lines) {
 
 /// What a property is for, where it is not for both.
 std::string_view Access(const PropertyInfo& property) {
-  if (property.write == nullptr) return ", only read";
-  return property.read == nullptr ? ", only set" : "";
+  if (!property.writable) return ", only read";
+  return !property.readable ? ", only set" : "";
 }
 
 std::string PropertyRows(const ClassInfo& owner, std::size_t width) {
@@ -144,7 +144,8 @@ std::string PropertyHelp(const std::string& name, const PropertyInfo& property, 
 }
 
 std::string EventHelp(const std::string& name, const EventInfo& event, std::size_t width) {
-  return Documentation(name, event.help, Declaration(name, event.parameters, {}, width), "", width);
+  return Documentation(name, event.help, Declaration(name, event.parameters, {}, width),
+                       event.details, width);
 }
 
 std::string ClassHelp(const ClassInfo& owner, std::size_t width) {
@@ -172,7 +173,7 @@ std::string MemberList(const ClassInfo& owner, std::size_t width) {
 }
 
 std::string Help(std::string_view name, std::size_t width) {
-  const Member member = FindMember(name);
+  const Member member = MemberNamed(name);
   const ClassInfo& owner = *member.owner;
   const auto qualified = [&](std::string_view member_name) {
     return std::string(owner.name).append(".").append(member_name);

@@ -169,6 +169,7 @@ struct JsonVisitor {
   const NamedObjects& objects;
 
   Json operator()(Omitted /*none*/) const { return nullptr; }
+  Json operator()(Null /*null*/) const { return nullptr; }
   Json operator()(const Text& text) const { return JsonOfText(text); }
   Json operator()(bool flag) const { return flag; }
   Json operator()(std::integral auto number) const { return number; }

@@ -108,8 +108,7 @@ std::string ClassSections() {
 
 Fields ManPageFields() {
   const Commands commands;
-  return {{"DATE", ZQ7_DATE},
-          {"VERSION", ZQ7_VERSION},
+  return {{"VERSION", ZQ7_VERSION},
           {"SYNOPSIS", Synopsis(commands.App())},
           {"OPTIONS", OptionParagraphs(commands.App())},
           {"SUBCOMMANDS", Subcommands(commands.App())},

@@ -37,7 +37,7 @@ std::string MemberHint(const ClassInfo& owner, std::string_view name) {
 
 }  // namespace
 
-Member FindMember(std::string_view name) {
+Member MemberNamed(std::string_view name) {
   const std::size_t point = std::min(name.find('.'), name.size());
   const std::string class_name(name.substr(0, point));
   Member found = {.owner = FindClass(class_name)};
@@ -46,11 +46,10 @@ Member FindMember(std::string_view name) {
   }
   if (point == name.size()) return found;
   const std::string_view member = name.substr(point + 1);
-  found.operation = FindOperation(*found.owner, member);
-  found.property = FindProperty(*found.owner, member);
-  const auto event = std::ranges::find_if(
-      found.owner->events, [&](const EventInfo& info) { return SameName(info.name, member); });
-  if (event != found.owner->events.end()) found.event = &*event;
+  const MemberInfo info = FindMember(*found.owner, member);
+  found.operation = info.operation;
+  found.property = info.property;
+  found.event = FindEvent(*found.owner, member);
   if (found.operation == nullptr && found.property == nullptr && found.event == nullptr) {
     throw WrongUse("There is no " + Quoted(QualifiedName(*found.owner, member)) + "." +
                    MemberHint(*found.owner, member));

@@ -16,7 +16,7 @@ struct Member {
 };
 
 /// The class or the member with that name; `WrongUse` with the nearest one for none.
-Member FindMember(std::string_view name);
+Member MemberNamed(std::string_view name);
 
 }  // namespace ZQ7Tool
 

@@ -4,8 +4,8 @@
 #include <map>
 #include <string>
 
-/// What is installed beside the tool: zq7.1.in and zq7.bash.in, each "@NAME@" in them
-/// filled from the catalogue and the command line when the tool is built.
+/// What is installed beside the tool: zq7.1 and zq7.bash, which are zq7.1.in and zq7.bash.in
+/// with each "@NAME@" filled from the catalogue and the command line by scripts/pages.
 namespace ZQ7Tool {
 
 /// The text for each "@NAME@", in lines.

@@ -28,6 +28,7 @@ std::string FloatingText(std::floating_point auto number) {
 
 struct PlainVisitor {
   std::string operator()(Omitted /*none*/) const { return ""; }
+  std::string operator()(Null /*null*/) const { return ""; }
   std::string operator()(const Text& text) const { return Utf8(text); }
   std::string operator()(bool flag) const { return flag ? "True" : "False"; }
   std::string operator()(std::integral auto number) const { return std::to_string(number); }

@@ -2,7 +2,6 @@
 #define ZQ7STANDARD_AUTOMATION_CATALOGUE_H_
 
 #include <ZQ7Standard/Export.h>
-#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/automation/value.h>
 
 #include <cstdint>
@@ -14,16 +13,25 @@
 /// The catalogue of the public classes, for whatever calls them by name or writes
 /// bindings for another language. Names are ASCII and are found without regard to
 /// case; texts for people are UTF-8.
+///
+/// Everything here is plain data: a copy of it works wherever the catalogue's own does.
+///
+/// The members of a class have numbers: its operations, properties and events share one
+/// sequence that begins at 1. A number that was released stays its member's for good, so a
+/// binding may keep numbers where it can keep no names.
 namespace ZQ7Standard::Automation {
 
 struct EnumeratorInfo {
   std::string_view name;
   std::int32_t value;
+  std::string_view help = {};  ///< may be empty
 };
 
 struct EnumerationInfo {
   std::string_view name;
   std::span<const EnumeratorInfo> members;
+  std::string_view help = {};
+  std::string_view details = {};
 };
 
 /// The type of a parameter, a property or a result.
@@ -42,6 +50,9 @@ struct ParameterInfo {
   Value default_value = {};
   /// Passed by reference where hosts bind to the class itself. No operation writes to one.
   bool by_reference = false;
+  /// `Null` is taken: as a missing value, or as no object.
+  bool nullable = false;
+  std::string_view help = {};  ///< what the operation's documentation says of it; may be empty
 };
 
 /// A call on an instance.
@@ -52,6 +63,9 @@ struct Call {
 
 /// A worked example of an operation: what a call on a new instance gives at 2024-01-15
 /// 09:30 (`ExampleServices`) where dates are typed day first in the Buddhist Era.
+///
+/// A text in place of an object says what the host makes beforehand: an instance of the
+/// class by its name, and in place of a `PrintPicture` the picture of the file.
 struct Example {
   std::vector<Call> before = {};      ///< calls on the same instance that come first
   std::vector<Value> arguments = {};  ///< in the order of the parameters
@@ -59,38 +73,34 @@ struct Example {
   int error = 0;  ///< the run-time error number that it raises instead, if any
 };
 
-struct CallContext;
-
 struct OperationInfo {
   std::string_view name;
+  int number = 0;
   std::vector<ParameterInfo> parameters = {};
   TypeInfo result = {};
-  std::string_view help = {};  ///< one line
-  std::vector<Example> examples = {};
+  std::string_view help = {};     ///< one line, the first of the documentation
+  std::string_view details = {};  ///< the rest, paragraphs parted by blank lines; may be empty
   std::string_view subject = {};  ///< shared by operations that belong together; may be empty
-  std::string_view details = {};  ///< the whole documentation, paragraphs parted by blank lines
-  /// The call itself, for `Invoke`: a value for every parameter.
-  Value (*invoke)(void* instance, std::span<const Value* const> arguments,
-                  const CallContext& context) = nullptr;
+  std::vector<Example> examples = {};
 };
 
-/// A property; `read` or `write` is null where it can only be set or read.
 struct PropertyInfo {
   std::string_view name;
+  int number = 0;
   TypeInfo type = {};
+  bool readable = false;
+  bool writable = false;
   std::string_view help = {};
   std::string_view details = {};
-  Value (*read)(void* instance) = nullptr;
-  void (*write)(void* instance, const Value& value, const CallContext& context) = nullptr;
 };
 
 struct EventInfo {
   std::string_view name;
+  int number = 0;
   std::vector<ParameterInfo> parameters = {};
   std::string_view help = {};
+  std::string_view details = {};
 };
-
-class EventSink;
 
 struct ClassInfo {
   std::string_view name;
@@ -99,15 +109,13 @@ struct ClassInfo {
   std::vector<OperationInfo> operations = {};
   std::vector<PropertyInfo> properties = {};
   std::vector<EventInfo> events = {};
-  /// Null for a class whose instances are only made from a text.
-  std::shared_ptr<void> (*create)(const Services& services) = nullptr;
-  /// What a text stands for where an instance is wanted; null where only the name of the
-  /// class stands for one, a new instance.
-  std::shared_ptr<void> (*from_text)(const Services& services, TextView text) = nullptr;
-  /// Sends the events of an instance to `sink` until the result goes; null where the
-  /// class has no events.
-  std::shared_ptr<void> (*subscribe)(std::shared_ptr<void> instance,
-                                     std::shared_ptr<EventSink> sink) = nullptr;
+  bool creatable = false;  ///< by `Create`
+};
+
+/// What a name of a class stands for; both are null where it is neither.
+struct MemberInfo {
+  const OperationInfo* operation = nullptr;
+  const PropertyInfo* property = nullptr;
 };
 
 /// Whether two names of the catalogue are the same: the case of A to Z does not count.
@@ -116,14 +124,20 @@ ZQ7STANDARD_EXPORT bool SameName(std::string_view a, std::string_view b);
 /// The full name of a member: "StandardObject.CTDATE".
 ZQ7STANDARD_EXPORT std::string QualifiedName(const ClassInfo& owner, std::string_view member);
 
-/// Every public class.
+/// Every public class, and every enumeration that their members take or return.
 ZQ7STANDARD_EXPORT std::span<const ClassInfo> Classes();
+ZQ7STANDARD_EXPORT std::span<const EnumerationInfo> Enumerations();
 
-/// The class, or the member of a class, with that name; null for none.
+/// The class, the enumeration, or the member of a class, with that name; null if there is
+/// none. What is found is the catalogue's own, which lasts as long as the program, also
+/// where `owner` is a copy.
 ZQ7STANDARD_EXPORT const ClassInfo* FindClass(std::string_view name);
+ZQ7STANDARD_EXPORT const EnumerationInfo* FindEnumeration(std::string_view name);
+ZQ7STANDARD_EXPORT MemberInfo FindMember(const ClassInfo& owner, std::string_view name);
 ZQ7STANDARD_EXPORT const OperationInfo* FindOperation(const ClassInfo& owner,
                                                       std::string_view name);
 ZQ7STANDARD_EXPORT const PropertyInfo* FindProperty(const ClassInfo& owner, std::string_view name);
+ZQ7STANDARD_EXPORT const EventInfo* FindEvent(const ClassInfo& owner, std::string_view name);
 
 }  // namespace ZQ7Standard::Automation
 

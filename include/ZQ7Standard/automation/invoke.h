@@ -10,6 +10,11 @@
 #include <span>
 #include <string_view>
 
+namespace ZQ7Standard {
+class PrintPicture;
+class SerialPort;
+}  // namespace ZQ7Standard
+
 namespace ZQ7Standard::Automation {
 
 /// What the examples of the catalogue run with, besides an empty folder C:\shop: a clock
@@ -38,9 +43,16 @@ class ZQ7STANDARD_EXPORT EventSink {
   virtual void Raise(const EventInfo& event, std::span<const Value> arguments) = 0;
 };
 
-/// A new instance of a class. Raises 429 for a name that is none, and for a class whose
-/// instances are only made from a text.
+/// A new instance of a class. Raises 429 for a name that is none, and for a class that is
+/// not `creatable`.
 ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const Services& services = {});
+
+/// A device or a picture of the host's own, to pass to operations. Its properties are read
+/// and set by name as well, with the date convention and the clock of `services` where
+/// values are converted. Raises 91 for an empty pointer.
+ZQ7STANDARD_EXPORT Object Wrap(std::shared_ptr<SerialPort> port, const Services& services = {});
+ZQ7STANDARD_EXPORT Object Wrap(std::shared_ptr<PrintPicture> picture,
+                               const Services& services = {});
 
 /// Calls an operation and returns its result, `Omitted` where it has none. Every failure
 /// is a `RunTimeError` that names class, operation and, where an argument is wrong, its
@@ -51,7 +63,7 @@ ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const Services& se
 ///   text is wanted, it is the empty text instead,
 /// - 450 for too many arguments, or two for one parameter,
 /// - 13 for a text that is no number (no date, no Boolean) where one is wanted, and
-///   for a list or an object where none is wanted,
+///   for a list, an object or a null where none is wanted,
 /// - 6 for a number that does not fit the type wanted.
 ///
 /// Values become what the parameter wants as automation has it. Whole numbers are
@@ -61,19 +73,24 @@ ZQ7STANDARD_EXPORT Object Create(std::string_view class_name, const Services& se
 /// and "," between digits left out; as "True" or "False" in any case, or a number; as
 /// a date by the services' convention (docs/dates.md), or a day count. A date as text
 /// is d/m/yyyy or m/d/yyyy in the convention's order and era, and h:mm:ss where it has
-/// a time of day; the time alone on day 0. A text where an object is wanted is the name
-/// of its class, of which a new instance is made with the services of `object`; for a
-/// `PrintPicture` it is the path of a file.
+/// a time of day; the time alone on day 0. Nothing becomes an object: a text raises 13
+/// where one is wanted, so that no script opens a device by a slip.
 ZQ7STANDARD_EXPORT Value Invoke(const Object& object, std::string_view operation,
+                                const Arguments& arguments);
+/// The same with an operation that was found before. Raises 438 for one of another class.
+ZQ7STANDARD_EXPORT Value Invoke(const Object& object, const OperationInfo& operation,
                                 const Arguments& arguments);
 
 /// The value of a property. Raises 438 for a name that is none, and for a property that
-/// is only set.
+/// is only set or another class's.
 ZQ7STANDARD_EXPORT Value GetProperty(const Object& object, std::string_view property);
+ZQ7STANDARD_EXPORT Value GetProperty(const Object& object, const PropertyInfo& property);
 
 /// Sets a property, the value converted as `Invoke` does. Raises 438 for a name that
-/// is none, and for a property that is only read.
+/// is none, and for a property that is only read or another class's.
 ZQ7STANDARD_EXPORT void SetProperty(const Object& object, std::string_view property,
+                                    const Value& value);
+ZQ7STANDARD_EXPORT void SetProperty(const Object& object, const PropertyInfo& property,
                                     const Value& value);
 
 /// Sends the events of an instance to `sink` for as long as the result is kept. Null

@@ -19,9 +19,15 @@ struct Omitted {
   friend bool operator==(Omitted, Omitted) = default;
 };
 
+/// A value that is there and is null, as hosts with such a value have it. It converts to
+/// nothing: only parameters that are `nullable` take one.
+struct Null {
+  friend bool operator==(Null, Null) = default;
+};
+
 using TextList = std::vector<Text>;
 
-/// An instance of a public class, made by `Create`. Copies are the same instance,
+/// An instance of a public class, made by `Create` or `Wrap`. Copies are the same instance,
 /// which lives as long as one of them; it belongs to one thread at a time.
 class ZQ7STANDARD_EXPORT Object {
  public:
@@ -39,8 +45,8 @@ class ZQ7STANDARD_EXPORT Object {
 /// What crosses a call by name. Numbers, texts, Booleans, dates and currency are
 /// converted to the type that an operation wants by the rules of automation;
 /// `Invoke` tells them.
-using Value = std::variant<Omitted, Text, std::int16_t, std::int32_t, float, double, bool, OleDate,
-                           Currency, TextList, Object>;
+using Value = std::variant<Omitted, Null, Text, std::int16_t, std::int32_t, float, double, bool,
+                           OleDate, Currency, TextList, Object>;
 
 /// The types of parameters and results.
 enum class Type : std::uint8_t {

@@ -10,13 +10,13 @@
 
 namespace ZQ7Standard {
 
-/// A picture that can be printed, with the size that it has of itself.
+/// A picture for `PrintObject`, with the size that it has of itself.
 class ZQ7STANDARD_EXPORT PrintPicture {
  public:
   virtual ~PrintPicture();
 
-  virtual float Width() = 0;   ///< millimetres
-  virtual float Height() = 0;  ///< millimetres
+  virtual float Width() = 0;   ///< The width in millimetres.
+  virtual float Height() = 0;  ///< The height in millimetres.
 
   /// The bytes of a PNG or JPEG file, which last as long as the picture.
   virtual std::string_view Picture() = 0;

@@ -11,6 +11,8 @@
 
 namespace ZQ7Standard {
 
+/// A serial line, for the operations of `PeripheralObject`.
+///
 /// A communications control: one serial line, chosen, set up, opened, written to and
 /// closed by setting its properties in that order. A host may bring its own. A
 /// property that cannot be set raises a `RunTimeError` whose number and text reach
@@ -19,14 +21,20 @@ class ZQ7STANDARD_EXPORT SerialPort {
  public:
   virtual ~SerialPort();
 
-  /// The number of the port to open, from 1.
+  /// The number of the port, from 1.
   virtual void SetCommPort(std::int16_t port) = 0;
-  /// Baud, parity, data bits and stop bits of the line, such as "9600,N,8,1".
+  /// Baud, parity, data bits and stop bits.
+  ///
+  /// Such as "9600,N,8,1".
   virtual void SetSettings(TextView settings) = 0;
-  /// How many characters one reading takes; 0 is all that are there.
+  /// How many characters a reading takes.
+  ///
+  /// 0 is all that are there.
   virtual void SetInputLen(std::int16_t length) = 0;
   /// Opens or closes the port.
   virtual void SetPortOpen(bool open) = 0;
+  /// The text to write.
+  ///
   /// Writes `text` to the open port.
   virtual void SetOutput(TextView text) = 0;
 

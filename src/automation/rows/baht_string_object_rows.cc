@@ -15,38 +15,33 @@ const std::vector<ParameterRow> kMoneyText = {
 
 }  // namespace
 
-ClassInfo BahtStringObjectEntry() {
-  ClassInfo info = {.name = "BahtStringObject",
-                    .help = "Money amounts in Thai or English words.",
-                    .create = [](const Services&) -> std::shared_ptr<void> {
-                      return std::make_shared<BahtStringObject>();
-                    }};
-  AddSubject(
-      info, "",
+ClassRow BahtStringObjectEntry() {
+  ClassRow info = {.name = "BahtStringObject",
+                   .create = [](const Services&) -> std::shared_ptr<void> {
+                     return std::make_shared<BahtStringObject>();
+                   }};
+  AddOperations(
+      info,
       {Operation<&BahtStringObject::MoneyText>(
-           "MoneyText", kMoneyText, "An amount in words, with a currency of your own.",
+           1, "MoneyText", kMoneyText,
            {{{121.5}, u"หนึ่งร้อยยี่สิบเอ็ดบาทห้าสิบสตางค์"},
             {{121.5, false, true}, u"One hundred twenty one baht and fifty satang"},
             {{0}, u"ศูนย์บาทถ้วน"}}),
-       Operation<&BahtStringObject::BahtString>(
-           "BahtString", kMoneyText, "The same as `MoneyText`.", {{{20, true}, u"=ยี่สิบบาทถ้วน="}}),
+       Operation<&BahtStringObject::BahtString>(2, "BahtString", kMoneyText,
+                                                {{{20, true}, u"=ยี่สิบบาทถ้วน="}}),
        Operation<&BahtStringObject::MoneyTextT>(
-           "MoneyTextT", {ByRef("inDouble")},
-           "An amount in Thai words with the unit words of the last `MoneyText`.",
+           3, "MoneyTextT", {ByRef("inDouble")},
            {{{20}, u"ยี่สิบบาทถ้วน"},
             {{20}, u"ยี่สิบดอลลาร์ถ้วน", {{"MoneyText", {1.0, false, false, u"ดอลลาร์"}}}}}),
-       Operation<&BahtStringObject::BahtStringT>(
-           "BahtStringT", {ByRef("inDouble")}, "The same as `MoneyTextT`.", {{{1}, u"หนึ่งบาทถ้วน"}}),
-       Operation<&BahtStringObject::MoneyTextE>("MoneyTextE", {ByRef("inDouble")},
-                                                "An amount in English words with baht and satang.",
+       Operation<&BahtStringObject::BahtStringT>(4, "BahtStringT", {ByRef("inDouble")},
+                                                 {{{1}, u"หนึ่งบาทถ้วน"}}),
+       Operation<&BahtStringObject::MoneyTextE>(5, "MoneyTextE", {ByRef("inDouble")},
                                                 {{{0.56}, u" baht and fifty six satang"}}),
-       Operation<&BahtStringObject::BahtStringE>(
-           "BahtStringE", {ByRef("inDouble")}, "The same as `MoneyTextE`.", {{{0}, u"Zero baht"}}),
-       Operation<&BahtStringObject::MonthText>("MonthText",
-                                               {"MonthNumber", "FullText", ByRef("UseThai")},
-                                               "Always the empty text.", {{{1, true, true}, u""}}),
-       Operation<&BahtStringObject::About>("About", "Who made the library.",
-                                           {{{}, BahtStringObject().About()}})});
+       Operation<&BahtStringObject::BahtStringE>(6, "BahtStringE", {ByRef("inDouble")},
+                                                 {{{0}, u"Zero baht"}}),
+       Operation<&BahtStringObject::MonthText>(
+           7, "MonthText", {"MonthNumber", "FullText", ByRef("UseThai")}, {{{1, true, true}, u""}}),
+       Operation<&BahtStringObject::About>(8, "About", {{{}, BahtStringObject().About()}})});
   return info;
 }
 

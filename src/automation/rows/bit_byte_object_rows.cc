@@ -7,62 +7,46 @@
 
 namespace ZQ7Standard::Automation {
 
-ClassInfo BitByteObjectEntry() {
-  ClassInfo info = {.name = "BitByteObject",
-                    .help = "Binary, octal and hexadecimal text, column letters and single bits.",
-                    .create = [](const Services&) -> std::shared_ptr<void> {
-                      return std::make_shared<BitByteObject>();
-                    }};
-  AddSubject(
-      info, "",
-      {Operation<&BitByteObject::Bin2Oct>("Bin2Oct", {"BinString"},
-                                          "A binary text as octal digits.", {{{u"1000"}, u"10"}}),
-       Operation<&BitByteObject::Bin2hex>(
-           "Bin2hex", {"BinString"}, "A binary text as hexadecimal digits.", {{{u"101"}, u"5"}}),
-       Operation<&BitByteObject::Bin2Dec>("Bin2Dec", {"BinString"}, "The number of a binary text.",
+ClassRow BitByteObjectEntry() {
+  ClassRow info = {.name = "BitByteObject", .create = [](const Services&) -> std::shared_ptr<void> {
+                     return std::make_shared<BitByteObject>();
+                   }};
+  AddOperations(
+      info,
+      {Operation<&BitByteObject::Bin2Oct>(1, "Bin2Oct", {"BinString"}, {{{u"1000"}, u"10"}}),
+       Operation<&BitByteObject::Bin2hex>(2, "Bin2hex", {"BinString"}, {{{u"101"}, u"5"}}),
+       Operation<&BitByteObject::Bin2Dec>(3, "Bin2Dec", {"BinString"},
                                           {{{u"1010"}, 10}, {{u"111111111111111"}, Raises(6)}}),
-       Operation<&BitByteObject::Oct2Bin>(
-           "Oct2Bin", {"OctString", Optional("KeepZeroFront", false)},
-           "Octal digits as binary text.", {{{u"17"}, u"1111"}, {{u"17", true}, u"001111"}}),
-       Operation<&BitByteObject::Hex2Bin>(
-           "Hex2Bin", {"HexString", Optional("KeepZeroFront", false)},
-           "Hexadecimal digits as binary text.", {{{u"5"}, u"101"}, {{u"5", true}, u"0101"}}),
-       Operation<&BitByteObject::Oct2hex>("Oct2hex", {"OctString"},
-                                          "Octal digits as hexadecimal digits.",
+       Operation<&BitByteObject::Oct2Bin>(4, "Oct2Bin",
+                                          {"OctString", Optional("KeepZeroFront", false)},
+                                          {{{u"17"}, u"1111"}, {{u"17", true}, u"001111"}}),
+       Operation<&BitByteObject::Hex2Bin>(5, "Hex2Bin",
+                                          {"HexString", Optional("KeepZeroFront", false)},
+                                          {{{u"5"}, u"101"}, {{u"5", true}, u"0101"}}),
+       Operation<&BitByteObject::Oct2hex>(6, "Oct2hex", {"OctString"},
                                           {{{u"17"}, u"F"}, {{u"0"}, u""}}),
-       Operation<&BitByteObject::Hex2Oct>("Hex2Oct", {"HexString"},
-                                          "Hexadecimal digits as octal digits.", {{{u"F"}, u"17"}}),
-       Operation<&BitByteObject::Oct2Dec>("Oct2Dec", {"OctString"},
-                                          "Decimal digits read as an octal number.",
-                                          {{{17}, 15}, {{187}, 1}}),
-       Operation<&BitByteObject::Hex2Dec>("Hex2Dec", {"HexString"},
-                                          "Decimal digits read as a hexadecimal number.",
+       Operation<&BitByteObject::Hex2Oct>(7, "Hex2Oct", {"HexString"}, {{{u"F"}, u"17"}}),
+       Operation<&BitByteObject::Oct2Dec>(8, "Oct2Dec", {"OctString"}, {{{17}, 15}, {{187}, 1}}),
+       Operation<&BitByteObject::Hex2Dec>(9, "Hex2Dec", {"HexString"},
                                           {{{10}, 16}, {{9999}, -26215}}),
-       Operation<&BitByteObject::Hex2Dec2>("Hex2Dec2", {"HexString"},
-                                           "The number of hexadecimal digits.",
+       Operation<&BitByteObject::Hex2Dec2>(10, "Hex2Dec2", {"HexString"},
                                            {{{u"FF"}, 255}, {{u"FFFF"}, -1}}),
-       Operation<&BitByteObject::Dec2Oct>("Dec2Oct", {"DecNumber"}, "A number as octal digits.",
+       Operation<&BitByteObject::Dec2Oct>(11, "Dec2Oct", {"DecNumber"},
                                           {{{8}, u"10"}, {{-1}, u"37777777777"}}),
-       Operation<&BitByteObject::Dec2hex>("Dec2hex", {"DecNumber"},
-                                          "A number as hexadecimal digits.",
+       Operation<&BitByteObject::Dec2hex>(12, "Dec2hex", {"DecNumber"},
                                           {{{255}, u"FF"}, {{-1}, u"FFFFFFFF"}}),
-       Operation<&BitByteObject::Dec2Bin>("Dec2Bin", {"Dec", Optional("KeepZeroFront", false)},
-                                          "A number as binary text, three bits a group.",
+       Operation<&BitByteObject::Dec2Bin>(13, "Dec2Bin", {"Dec", Optional("KeepZeroFront", false)},
                                           {{{5}, u"101"}, {{8}, u"001000"}}),
-       Operation<&BitByteObject::Base26To10>("Base26To10", {"Base26"},
-                                             "The number of a spreadsheet column.",
+       Operation<&BitByteObject::Base26To10>(14, "Base26To10", {"Base26"},
                                              {{{u"AA"}, 27}, {{u"a"}, 0}}),
-       Operation<&BitByteObject::Base10To26>(
-           "Base10To26", {"colNum"}, "The letters of a spreadsheet column.", {{{702}, u"ZZ"}}),
-       Operation<&BitByteObject::BitRead>("BitRead", {"DecNumber", "BitDigitFormBack"},
-                                          "Whether a bit is set, counted from the right from 1.",
+       Operation<&BitByteObject::Base10To26>(15, "Base10To26", {"colNum"}, {{{702}, u"ZZ"}}),
+       Operation<&BitByteObject::BitRead>(16, "BitRead", {"DecNumber", "BitDigitFormBack"},
                                           {{{5, 1}, -1}, {{5, 2}, 0}}),
-       Operation<&BitByteObject::BitWrite>(
-           "BitWrite", {"DecNumber", "BitDigitFormBack", "NewValue"},
-           "A number with a bit set by 1, cleared by any other value.",
-           {{{5, 2, 1}, 7}, {{5, 1, -1}, 4}, {{5, 4, 1}, 0}}),
-       Operation<&BitByteObject::BitSwitch>("BitSwitch", {"DecNumber", "BitDigitFormBack"},
-                                            "A number with a bit cleared.", {{{5, 1}, 4}})});
+       Operation<&BitByteObject::BitWrite>(17, "BitWrite",
+                                           {"DecNumber", "BitDigitFormBack", "NewValue"},
+                                           {{{5, 2, 1}, 7}, {{5, 1, -1}, 4}, {{5, 4, 1}, 0}}),
+       Operation<&BitByteObject::BitSwitch>(18, "BitSwitch", {"DecNumber", "BitDigitFormBack"},
+                                            {{{5, 1}, 4}})});
   return info;
 }
 

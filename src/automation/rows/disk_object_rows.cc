@@ -12,49 +12,40 @@ std::shared_ptr<void> CreateDiskObject(const Services& services) {
   return std::make_shared<DiskObject>(services);
 }
 
-void AddPaths(ClassInfo& info) {
-  AddSubject(
-      info, "Paths and the folders on them",
-      {Operation<&DiskObject::FileName>("FileName", {"full_name"},
-                                        R"(The text behind the last "\".)",
+void AddPaths(ClassRow& info) {
+  AddOperations(
+      info,
+      {Operation<&DiskObject::FileName>(1, "FileName", {"full_name"},
                                         {{{u"C:\\a\\b.txt"}, u"b.txt"}}),
-       Operation<&DiskObject::Pathname>("Pathname", {"full_name"},
-                                        R"(The text before the last "\".)",
+       Operation<&DiskObject::Pathname>(2, "Pathname", {"full_name"},
                                         {{{u"C:\\a\\b.txt"}, u"C:\\a"}, {{u"b.txt"}, u""}}),
-       Operation<&DiskObject::trimPath>("trimPath", {"Path"},
-                                        R"(A path without the "\" at its end.)",
-                                        {{{u"C:\\a\\\\"}, u"C:\\a"}}),
+       Operation<&DiskObject::trimPath>(3, "trimPath", {"Path"}, {{{u"C:\\a\\\\"}, u"C:\\a"}}),
        Operation<&DiskObject::ScaleFullPath>(
-           "ScaleFullPath", {"inFullPath", Optional("MaxLen", 0)}, "A path shortened for display.",
+           4, "ScaleFullPath", {"inFullPath", Optional("MaxLen", 0)},
            {{{u"C:\\Data\\Sales\\2024\\report.xls"}, u"C:\\Data\\...\\report.xls"},
             {{u"C:\\Data\\report.xls"}, u"C:\\Data\\report.xls"}}),
-       Operation<&DiskObject::CreateFullPath>("CreateFullPath", {"FullPathName"},
-                                              "Makes every folder of a path that is not there.",
+       Operation<&DiskObject::CreateFullPath>(5, "CreateFullPath", {"FullPathName"},
                                               {{{u"C:\\shop\\2567\\01"}, -1}, {{u""}, 0}})});
 }
 
-void AddCopies(ClassInfo& info) {
-  AddSubject(info, "Files and folders copied",
-             {Operation<&DiskObject::CopyFileCheck>(
-                  "CopyFileCheck",
-                  {"FromFile", "ToFile", ByRef(Optional("OverwriteFile", false)),
-                   Optional("CheckCondition", 0)},
-                  "Copies a file when it changed; 1 when it tried to.",
-                  {{{u"C:\\shop\\none.txt", u"C:\\shop\\copy.txt"}, 0}}),
-              Operation<&DiskObject::XCopyFile>("XCopyFile", {"from_file", "to_file"},
-                                                "Copies a folder tree; the number of entries.",
-                                                {{{u"C:\\shop\\2567", u"C:\\shop\\old"},
-                                                  2,
-                                                  {{"CreateFullPath", {u"C:\\shop\\2567\\01"}}}},
-                                                 {{u"C:\\shop\\none", u"C:\\shop\\old"}, 0}})});
+void AddCopies(ClassRow& info) {
+  AddOperations(info,
+                {Operation<&DiskObject::CopyFileCheck>(
+                     6, "CopyFileCheck",
+                     {"FromFile", "ToFile", ByRef(Optional("OverwriteFile", false)),
+                      Optional("CheckCondition", 0)},
+                     {{{u"C:\\shop\\none.txt", u"C:\\shop\\copy.txt"}, 0}}),
+                 Operation<&DiskObject::XCopyFile>(7, "XCopyFile", {"from_file", "to_file"},
+                                                   {{{u"C:\\shop\\2567", u"C:\\shop\\old"},
+                                                     2,
+                                                     {{"CreateFullPath", {u"C:\\shop\\2567\\01"}}}},
+                                                    {{u"C:\\shop\\none", u"C:\\shop\\old"}, 0}})});
 }
 
 }  // namespace
 
-ClassInfo DiskObjectEntry() {
-  ClassInfo info = {.name = "DiskObject",
-                    .help = "Paths taken apart and shortened, folders made, files copied.",
-                    .create = CreateDiskObject};
+ClassRow DiskObjectEntry() {
+  ClassRow info = {.name = "DiskObject", .create = CreateDiskObject};
   AddPaths(info);
   AddCopies(info);
   return info;

@@ -11,16 +11,6 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-const std::vector<EventInfo>& Events() {
-  static const std::vector<EventInfo> events = {
-      {.name = "DataChange", .help = "Declared only, and never raised."},
-      {.name = "CellDataChange",
-       .parameters = {{.name = "Row", .type = {Type::kLong}, .by_reference = true},
-                      {.name = "Col", .type = {Type::kLong}, .by_reference = true}},
-       .help = "A cell was given a value and holds it. Rows and columns count from 0."}};
-  return events;
-}
-
 /// Passes the events of a grid on.
 class GridEvents final : public GridValueListener {
  public:
@@ -28,7 +18,8 @@ class GridEvents final : public GridValueListener {
 
   void CellDataChange(std::int32_t Row, std::int32_t Col) override {
     const std::array<Value, 2> arguments = {Row, Col};
-    sink_->Raise(Events()[1], arguments);
+    static const EventInfo& event = *FindEvent(*FindClass("GridValueObject"), "CellDataChange");
+    sink_->Raise(event, arguments);
   }
 
  private:
@@ -49,45 +40,37 @@ const std::vector<Call> kTwoRows = {
 
 }  // namespace
 
-ClassInfo GridValueObjectEntry() {
-  ClassInfo info = {
-      .name = "GridValueObject",
-      .help = "The numbers behind a grid on the screen, with sums and a change event.",
-      .events = Events(),
-      .create = [](const Services&) -> std::shared_ptr<void> {
-        return std::make_shared<GridValueObject>();
-      },
-      .subscribe = SubscribeToGrid};
-  info.properties = {
-      Property<&GridValueObject::Rows>("Rows", "The number of rows; 1 on a new grid."),
-      Property<&GridValueObject::Cols>("Cols", "The number of columns; -1 until they are set."),
-      Property<&GridValueObject::FixedRows>("FixedRows", "The number of heading rows."),
-      Property<&GridValueObject::FixedCols>("FixedCols", "The number of heading columns.")};
-  AddSubject(
-      info, "",
-      {Operation<&GridValueObject::SetFirst>("SetFirst", {"Rows", "Cols", "FixedCols", "FixedRows"},
-                                             "Sets the columns of a new grid, and its headings.",
+ClassRow GridValueObjectEntry() {
+  ClassRow info = {.name = "GridValueObject",
+                   .create = [](const Services&) -> std::shared_ptr<void> {
+                     return std::make_shared<GridValueObject>();
+                   },
+                   .subscribe = SubscribeToGrid};
+  info.properties = {Property<&GridValueObject::Rows>(1, "Rows"),
+                     Property<&GridValueObject::Cols>(2, "Cols"),
+                     Property<&GridValueObject::FixedRows>(3, "FixedRows"),
+                     Property<&GridValueObject::FixedCols>(4, "FixedCols")};
+  info.events = {Event<&GridValueListener::DataChange>(15, "DataChange", {}),
+                 Event<&GridValueListener::CellDataChange>(16, "CellDataChange",
+                                                           {ByRef("Row"), ByRef("Col")})};
+  AddOperations(
+      info,
+      {Operation<&GridValueObject::SetFirst>(5, "SetFirst",
+                                             {"Rows", "Cols", "FixedCols", "FixedRows"},
                                              {{{1, 3, 1, 0}, true}, {{1, 0, 0, 0}, false}}),
-       Operation<&GridValueObject::SetRows>("SetRows", {"Rows"}, "Sets the number of rows.",
-                                            {{{5}}}),
-       Operation<&GridValueObject::SetCols>("SetCols", {"Cols"},
-                                            "Sets the number of columns, once.", {{{3}}}),
+       Operation<&GridValueObject::SetRows>(6, "SetRows", {"Rows"}, {{{5}}}),
+       Operation<&GridValueObject::SetCols>(7, "SetCols", {"Cols"}, {{{3}}}),
        Operation<&GridValueObject::Setvalue>(
-           "Setvalue", {"Row", "Col", "Value"},
-           "Stores a number in a cell and tells the listeners.",
+           8, "Setvalue", {"Row", "Col", "Value"},
            {{{4, 2, 12.5}, true, {{"SetCols", {3}}}}, {{0, 3, 12.5}, false, {{"SetCols", {3}}}}}),
-       Operation<&GridValueObject::GetValue>("GetValue", {"Row", "Col"}, "The number in a cell.",
+       Operation<&GridValueObject::GetValue>(9, "GetValue", {"Row", "Col"},
                                              {{{1, 1}, 2, kTwoRows}, {{0, 0}, Raises(9)}}),
-       Operation<&GridValueObject::RemaveItem>("RemaveItem", {"Row"}, "Deletes a row.",
+       Operation<&GridValueObject::RemaveItem>(10, "RemaveItem", {"Row"},
                                                {{{0}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::ResetRow>("ResetRow", {"Row"}, "Sets the data of a row to 0.",
-                                             {{{1}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::Clear>("Clear", "Leaves the headings and one blank row.",
-                                          {{{}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::SumCol>("SumCol", {"Col"}, "The sum of a column's data.",
-                                           {{{1}, 2, kTwoRows}}),
-       Operation<&GridValueObject::SumRow>("SumRow", {"Row"}, "The sum of a row's data.",
-                                           {{{1}, 3, kTwoRows}})});
+       Operation<&GridValueObject::ResetRow>(11, "ResetRow", {"Row"}, {{{1}, Omitted{}, kTwoRows}}),
+       Operation<&GridValueObject::Clear>(12, "Clear", {{{}, Omitted{}, kTwoRows}}),
+       Operation<&GridValueObject::SumCol>(13, "SumCol", {"Col"}, {{{1}, 2, kTwoRows}}),
+       Operation<&GridValueObject::SumRow>(14, "SumRow", {"Row"}, {{{1}, 3, kTwoRows}})});
   return info;
 }
 

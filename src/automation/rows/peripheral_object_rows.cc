@@ -7,38 +7,31 @@
 
 namespace ZQ7Standard::Automation {
 
-ClassInfo PeripheralObjectEntry() {
-  ClassInfo info = {.name = "PeripheralObject",
-                    .help = "Commands to devices on a serial line, such as a cash drawer.",
-                    .create = [](const Services& services) -> std::shared_ptr<void> {
-                      return std::make_shared<PeripheralObject>(services);
-                    }};
-  AddSubject(
-      info, "Devices on a serial line",
+ClassRow PeripheralObjectEntry() {
+  ClassRow info = {.name = "PeripheralObject",
+                   .create = [](const Services& services) -> std::shared_ptr<void> {
+                     return std::make_shared<PeripheralObject>(services);
+                   }};
+  AddOperations(
+      info,
       {Operation<&PeripheralObject::SendCommMsg>(
-           "SendCommMsg", {"iControl", "iCode", "iPort", Optional("Setting", u"9600,N,8,1")},
-           "Sends a text to a device; 0, or the error number.",
+           1, "SendCommMsg", {"iControl", "iCode", "iPort", Optional("Setting", u"9600,N,8,1")},
            {{{u"SerialPort", u"READY", 99}, 8002}, {{u"SerialPort", u"READY", 99, u"9600"}, 380}}),
-       Operation<&PeripheralObject::OpenDraw>("OpenDraw", {"iControl", "iCode", "iPort"},
-                                              "Opens a cash drawer; always 1.",
+       Operation<&PeripheralObject::OpenDraw>(2, "OpenDraw", {"iControl", "iCode", "iPort"},
                                               {{{u"SerialPort", u"\x1bp0", 99}, 1}})});
   return info;
 }
 
-ClassInfo SerialPortEntry() {
-  ClassInfo info = {.name = "SerialPort",
-                    .help = "A serial line, for the operations of `PeripheralObject`.",
-                    .create = [](const Services& services) -> std::shared_ptr<void> {
-                      return SystemSerialPort(services.serial_devices);
-                    }};
-  info.properties = {
-      SetOnlyProperty<&SerialPort::SetCommPort>("CommPort", "The number of the port, from 1."),
-      SetOnlyProperty<&SerialPort::SetSettings>("Settings",
-                                                "Baud, parity, data bits and stop bits."),
-      SetOnlyProperty<&SerialPort::SetInputLen>("InputLen", "How many characters a reading takes."),
-      Property<&SerialPort::PortOpen, &SerialPort::SetPortOpen>("PortOpen",
-                                                                "Whether the port is open."),
-      SetOnlyProperty<&SerialPort::SetOutput>("Output", "The text to write.")};
+ClassRow SerialPortEntry() {
+  ClassRow info = {.name = "SerialPort",
+                   .create = [](const Services& services) -> std::shared_ptr<void> {
+                     return SystemSerialPort(services.serial_devices);
+                   }};
+  info.properties = {SetOnlyProperty<&SerialPort::SetCommPort>(1, "CommPort"),
+                     SetOnlyProperty<&SerialPort::SetSettings>(2, "Settings"),
+                     SetOnlyProperty<&SerialPort::SetInputLen>(3, "InputLen"),
+                     Property<&SerialPort::PortOpen, &SerialPort::SetPortOpen>(4, "PortOpen"),
+                     SetOnlyProperty<&SerialPort::SetOutput>(5, "Output")};
   return info;
 }
 

@@ -8,83 +8,69 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-void AddSelection(ClassInfo& info) {
-  AddSubject(
-      info, "The printer and its paper",
-      {Operation<&PrintObject::SelectPrinter>(
-           "SelectPrinter", {"DeviceName", "Orientation", "PaperSize", "PaperBin"},
-           "Remembers a printer and its paper; always 1.", {{{u"PDF", 1, 9, 7}, 1}}),
-       Operation<&PrintObject::SelectPrinter2>(
-           "SelectPrinter2", {"DeviceName", "Orientation", "PaperSize", "PaperBin", "PrintQuality"},
-           "Remembers a printer, its paper and its quality; always 1.",
-           {{{u"PDF", 1, 9, 7, -4}, 1}}),
-       Operation<&PrintObject::CheckPaperSize>("CheckPaperSize", {Optional("StartSize", 0)},
-                                               "Sets the paper and returns the one in force.",
-                                               {{{11}, 11}}),
-       Operation<&PrintObject::CheckPaperBin>("CheckPaperBin", {Optional("StartBin", 0)},
-                                              "Sets the bin and returns the one in force.",
-                                              {{{1}, 1}})});
+void AddSelection(ClassRow& info) {
+  AddOperations(
+      info, {Operation<&PrintObject::SelectPrinter>(
+                 1, "SelectPrinter", {"DeviceName", "Orientation", "PaperSize", "PaperBin"},
+                 {{{u"PDF", 1, 9, 7}, 1}}),
+             Operation<&PrintObject::SelectPrinter2>(
+                 2, "SelectPrinter2",
+                 {"DeviceName", "Orientation", "PaperSize", "PaperBin", "PrintQuality"},
+                 {{{u"PDF", 1, 9, 7, -4}, 1}}),
+             Operation<&PrintObject::CheckPaperSize>(3, "CheckPaperSize",
+                                                     {Optional("StartSize", 0)}, {{{11}, 11}}),
+             Operation<&PrintObject::CheckPaperBin>(4, "CheckPaperBin", {Optional("StartBin", 0)},
+                                                    {{{1}, 1}})});
 }
 
-void AddTexts(ClassInfo& info) {
-  AddSubject(info, "Papers, bins and orientations by name",
-             {Operation<&PrintObject::GETPaperSizeText>(
-                  "GETPaperSizeText", {"PaperSize"}, "The name of a paper.",
-                  {{{9}, u"A4, 210 x 297 mm"}, {{300}, u"Custom Size: ( 300 )"}}),
-              Operation<&PrintObject::GETPaperBinText>("GETPaperBinText", {"PaperBin"},
-                                                       "The name of a bin.", {{{1}, u"Upper Bin"}}),
-              Operation<&PrintObject::GETPaperOrientationText>(
-                  "GETPaperOrientationText", {"Orientation"}, R"("Landscape" or "Portrait".)",
-                  {{{2}, u"Landscape"}, {{99}, u"Portrait"}})});
+void AddTexts(ClassRow& info) {
+  AddOperations(info, {Operation<&PrintObject::GETPaperSizeText>(
+                           5, "GETPaperSizeText", {"PaperSize"},
+                           {{{9}, u"A4, 210 x 297 mm"}, {{300}, u"Custom Size: ( 300 )"}}),
+                       Operation<&PrintObject::GETPaperBinText>(6, "GETPaperBinText", {"PaperBin"},
+                                                                {{{1}, u"Upper Bin"}}),
+                       Operation<&PrintObject::GETPaperOrientationText>(
+                           7, "GETPaperOrientationText", {"Orientation"},
+                           {{{2}, u"Landscape"}, {{99}, u"Portrait"}})});
 }
 
-void AddPrinting(ClassInfo& info) {
+void AddPrinting(ClassRow& info) {
   const std::vector<Call> line = {{"PrintStart"}, {"PrintGraphicText", {u"ใบเสร็จ", 105, 20, 1, 1}}};
-  AddSubject(
-      info, "Printing",
-      {Operation<&PrintObject::PrintStart>(
-           "PrintStart", "Makes the printer count in millimetres, and goes to 1, 1.", {{{}, 0}}),
-       Operation<&PrintObject::PrintSet>("PrintSet", {"Row", "Col", "FSize", "message"},
-                                         "Prints a line in the Thai font.",
+  AddOperations(
+      info,
+      {Operation<&PrintObject::PrintStart>(8, "PrintStart", {{{}, 0}}),
+       Operation<&PrintObject::PrintSet>(9, "PrintSet", {"Row", "Col", "FSize", "message"},
                                          {{{20, 30, 10, u"สวัสดี"}, 0}}),
        Operation<&PrintObject::PrintGraphicText>(
-           "PrintGraphicText",
+           10, "PrintGraphicText",
            {"sMsg", Optional("x", -1), Optional("y", -1), Optional("MoveLine", 1),
             Optional("Alignment", 0), Optional("MaxLenText", 0), Optional("FontName", u""),
             Optional("FontSize", 0), Optional("FontBold", false), Optional("FontItalic", false)},
-           "Prints a line of text, aligned to a place.", {{{u"ใบเสร็จ", 105, 20, 1, 1}, 0}}),
+           {{{u"ใบเสร็จ", 105, 20, 1, 1}, 0}}),
        Operation<&PrintObject::PrintGraphicObject>(
-           "PrintGraphicObject",
+           11, "PrintGraphicObject",
            {"Src", Optional("x", -1), Optional("y", -1), Optional("W", 0), Optional("H", 0),
             Optional("MoveLine", 1)},
-           "Draws a picture.", {{{u"C:\\none\\logo.png", 10, 10}, Raises(53)}}),
-       Operation<&PrintObject::PrintOut>("PrintOut", "Ends the document, which is then printed.",
-                                         {{{}, 0, line}}),
-       Operation<&PrintObject::PrintCancel>("PrintCancel", "Throws the document away.",
-                                            {{{}, 0, line}})});
+           {{{u"C:\\none\\logo.png", 10, 10}, Raises(53)}}),
+       Operation<&PrintObject::PrintOut>(12, "PrintOut", {{{}, 0, line}}),
+       Operation<&PrintObject::PrintCancel>(13, "PrintCancel", {{{}, 0, line}})});
 }
 
 }  // namespace
 
-ClassInfo PrintObjectEntry() {
-  ClassInfo info = {.name = "PrintObject",
-                    .help = "Printers, papers and printed pages.",
-                    .create = [](const Services& services) -> std::shared_ptr<void> {
-                      return std::make_shared<PrintObject>(services);
-                    }};
+ClassRow PrintObjectEntry() {
+  ClassRow info = {.name = "PrintObject",
+                   .create = [](const Services& services) -> std::shared_ptr<void> {
+                     return std::make_shared<PrintObject>(services);
+                   }};
   for (const auto add : {AddSelection, AddTexts, AddPrinting}) add(info);
   return info;
 }
 
-ClassInfo PrintPictureEntry() {
-  ClassInfo info = {
-      .name = "PrintPicture",
-      .help = "A picture for `PrintObject`; a path makes one of a PNG or JPEG file.",
-      .from_text = [](const Services& services, TextView path) -> std::shared_ptr<void> {
-        return PictureFromFile(path, services.drives);
-      }};
-  info.properties = {Property<&PrintPicture::Width>("Width", "The width in millimetres."),
-                     Property<&PrintPicture::Height>("Height", "The height in millimetres.")};
+ClassRow PrintPictureEntry() {
+  ClassRow info = {.name = "PrintPicture"};
+  info.properties = {Property<&PrintPicture::Width>(1, "Width"),
+                     Property<&PrintPicture::Height>(2, "Height")};
   return info;
 }
 

@@ -8,52 +8,45 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-void AddValues(ClassInfo& info) {
+void AddValues(ClassRow& info) {
   constexpr auto kKey = u"Software\\Shop";
   const auto root = MemberOf<KetRootType>("keyroot");
   const std::vector<Call> number = {
       {"UpdateKeyValueLong", {HKEY_CURRENT_USER, kKey, u"LastNumber", 42}}};
   const std::vector<Call> text = {
       {"UpdateKeyValueString", {HKEY_CURRENT_USER, kKey, u"Branch", u"สาขา 1"}}};
-  AddSubject(info, "Values of the registry",
-             {Operation<&RegistryObject::GetKeyValueLong>(
-                  "GetKeyValueLong", {root, "keyname", "subkeyname"},
-                  "The number that a value holds; 0 for none.",
-                  {{{HKEY_CURRENT_USER, kKey, u"LastNumber"}, 42, number},
-                   {{HKEY_CURRENT_USER, kKey, u"Branch"}, 0, text}}),
-              Operation<&RegistryObject::GetKeyValueString>(
-                  "GetKeyValueString", {root, "keyname", "subkeyname"},
-                  "The text that a value holds; empty for none.",
-                  {{{HKEY_CURRENT_USER, kKey, u"Branch"}, u"สาขา 1", text}}),
-              Operation<&RegistryObject::UpdateKeyValueLong>(
-                  "UpdateKeyValueLong", {root, "keyname", "subkeyname", "keyval"},
-                  "Sets a value to a number; True when that FAILED.",
-                  {{{HKEY_CURRENT_USER, kKey, u"LastNumber", 42}, false},
-                   {{HKEY_PERFORMANCE_DATA, kKey, u"LastNumber", 42}, true}}),
-              Operation<&RegistryObject::UpdateKeyValueString>(
-                  "UpdateKeyValueString", {root, "keyname", "subkeyname", "keyval"},
-                  "Sets a value to a text; True when that FAILED.",
-                  {{{HKEY_CURRENT_USER, kKey, u"Branch", u"สาขา 1"}, false}})});
+  AddOperations(info, {Operation<&RegistryObject::GetKeyValueLong>(
+                           1, "GetKeyValueLong", {root, "keyname", "subkeyname"},
+                           {{{HKEY_CURRENT_USER, kKey, u"LastNumber"}, 42, number},
+                            {{HKEY_CURRENT_USER, kKey, u"Branch"}, 0, text}}),
+                       Operation<&RegistryObject::GetKeyValueString>(
+                           2, "GetKeyValueString", {root, "keyname", "subkeyname"},
+                           {{{HKEY_CURRENT_USER, kKey, u"Branch"}, u"สาขา 1", text}}),
+                       Operation<&RegistryObject::UpdateKeyValueLong>(
+                           3, "UpdateKeyValueLong", {root, "keyname", "subkeyname", "keyval"},
+                           {{{HKEY_CURRENT_USER, kKey, u"LastNumber", 42}, false},
+                            {{HKEY_PERFORMANCE_DATA, kKey, u"LastNumber", 42}, true}}),
+                       Operation<&RegistryObject::UpdateKeyValueString>(
+                           4, "UpdateKeyValueString", {root, "keyname", "subkeyname", "keyval"},
+                           {{{HKEY_CURRENT_USER, kKey, u"Branch", u"สาขา 1"}, false}})});
 }
 
-void AddCipher(ClassInfo& info) {
-  AddSubject(
-      info, "Texts under a password",
-      {Operation<&RegistryObject::Encrypt>("Encrypt", {"StringInput", "PassWord"},
-                                           "Hides a text from a glance, under a password.",
+void AddCipher(ClassRow& info) {
+  AddOperations(
+      info,
+      {Operation<&RegistryObject::Encrypt>(5, "Encrypt", {"StringInput", "PassWord"},
                                            {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
-       Operation<&RegistryObject::Decrypt>("Decrypt", {"EncryptedTextInput", "PassWord"},
-                                           "Undoes `Encrypt`.", {{{u"*)(", u"K"}, u"abc"}})});
+       Operation<&RegistryObject::Decrypt>(6, "Decrypt", {"EncryptedTextInput", "PassWord"},
+                                           {{{u"*)(", u"K"}, u"abc"}})});
 }
 
 }  // namespace
 
-ClassInfo RegistryObjectEntry() {
-  ClassInfo info = {.name = "RegistryObject",
-                    .help = "Registry values, and a password cipher for texts kept there.",
-                    .create = [](const Services& services) -> std::shared_ptr<void> {
-                      return std::make_shared<RegistryObject>(services);
-                    }};
+ClassRow RegistryObjectEntry() {
+  ClassRow info = {.name = "RegistryObject",
+                   .create = [](const Services& services) -> std::shared_ptr<void> {
+                     return std::make_shared<RegistryObject>(services);
+                   }};
   AddValues(info);
   AddCipher(info);
   return info;

@@ -6,93 +6,75 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-void AddRounding(ClassInfo& info) {
-  AddSubject(
-      info, "Rounding",
+void AddRounding(ClassRow& info) {
+  AddOperations(
+      info,
       {Operation<&StandardObject::FixNumber2>(
-           "FixNumber2", {"iValue", "DecimalDigit", "IgnoreNextDigit"},
-           "Rounds a number as it prints, half away from zero.",
+           62, "FixNumber2", {"iValue", "DecimalDigit", "IgnoreNextDigit"},
            {{{2.345, 2, false}, 2.35}, {{1.2349, 2, true}, 1.23}, {{1.5, -1, false}, Raises(5)}}),
-       Operation<&StandardObject::FixNumber>("FixNumber", {"iValue", "DecimalDigit"},
-                                             "`FixNumber2` without `IgnoreNextDigit`.",
+       Operation<&StandardObject::FixNumber>(63, "FixNumber", {"iValue", "DecimalDigit"},
                                              {{{1.005, 2}, 1.01}}),
-       Operation<&StandardObject::Round>("Round", {"iValue", "DecimalDigit"},
-                                         "The same as `FixNumber`.", {{{-2.5, 0}, -3}}),
-       Operation<&StandardObject::Floor>("Floor", {"iValue"}, "Cuts a number toward zero.",
-                                         {{{-2.5}, -2}, {{2.999}, 3}}),
-       Operation<&StandardObject::Ceiling>("Ceiling", {"iValue"},
-                                           "`Floor`, plus 1 when the number is above it.",
-                                           {{{2.001}, 3}, {{-2.5}, -2}}),
+       Operation<&StandardObject::Round>(64, "Round", {"iValue", "DecimalDigit"},
+                                         {{{-2.5, 0}, -3}}),
+       Operation<&StandardObject::Floor>(65, "Floor", {"iValue"}, {{{-2.5}, -2}, {{2.999}, 3}}),
+       Operation<&StandardObject::Ceiling>(66, "Ceiling", {"iValue"}, {{{2.001}, 3}, {{-2.5}, -2}}),
        Operation<&StandardObject::FixNumberWithCutMode>(
-           "FixNumberWithCutMode", {"iValue", "DecimalDigit", "CutMode"},
-           "Rounds a number and brings it to a whole unit.",
+           67, "FixNumberWithCutMode", {"iValue", "DecimalDigit", "CutMode"},
            {{{12.345, 2, ZQ7FixUnitNone}, 12.35}, {{12.345, 2, ZQ7FixUnitAllUp}, 13}}),
        Operation<&StandardObject::FixMoneyDecimal>(
-           "FixMoneyDecimal", {"iValue", "IncreaseToCeiling", Optional("CelingList", u"")},
-           "Brings an amount to a whole unit.",
+           68, "FixMoneyDecimal", {"iValue", "IncreaseToCeiling", Optional("CelingList", u"")},
            {{{Currency(12.25), true}, 13}, {{Currency(12.75), false, u"25;50;75"}, 12}})});
 }
 
-void AddReading(ClassInfo& info) {
+void AddReading(ClassRow& info) {
   const auto digits = Optional("DecimalDigit", -1);
   const auto dot = Optional("IncludeDot", false);
   const auto sign = Optional("IncludeSign", false);
-  AddSubject(
-      info, "Numbers from text",
+  AddOperations(
+      info,
       {Operation<&StandardObject::StrVal>(
-           "StrVal", {"istr"}, "Reads the number at the front of a typed text.",
+           69, "StrVal", {"istr"},
            {{{u"1,234.50 baht"}, 1234.5}, {{u"12.5%"}, 0.125}, {{u"abc"}, 0}}),
-       Operation<&StandardObject::StrVal2>("StrVal2", {"istr", "DecimalDigit"},
-                                           "`StrVal`, rounded; -1 does not round.",
+       Operation<&StandardObject::StrVal2>(70, "StrVal2", {"istr", "DecimalDigit"},
                                            {{{u"1.005", 2}, 1.01}}),
-       Operation<&StandardObject::StrInt>("StrInt", {"istr", digits},
-                                          "`StrVal2` as a 16-bit integer, a half going to even.",
+       Operation<&StandardObject::StrInt>(71, "StrInt", {"istr", digits},
                                           {{{u"2.5"}, 2}, {{u"40,000"}, Raises(6)}}),
-       Operation<&StandardObject::StrLng>("StrLng", {"istr", digits},
-                                          "`StrVal2` as a 32-bit integer, a half going to even.",
-                                          {{{u"40,000"}, 40000}}),
-       Operation<&StandardObject::StrSng>("StrSng", {"istr", digits},
-                                          "`StrVal2` as a 32-bit float.", {{{u"1.5"}, 1.5}}),
-       Operation<&StandardObject::Null2Zero>("Null2Zero", {Optional("InputValue")},
-                                             "A number, or 0 for a missing one.",
+       Operation<&StandardObject::StrLng>(72, "StrLng", {"istr", digits}, {{{u"40,000"}, 40000}}),
+       Operation<&StandardObject::StrSng>(73, "StrSng", {"istr", digits}, {{{u"1.5"}, 1.5}}),
+       Operation<&StandardObject::Null2Zero>(74, "Null2Zero", {Nullable(Optional("InputValue"))},
                                              {{{1.5}, 1.5}, {{}, 0}}),
        Operation<&StandardObject::Numb>(
-           "Numb", {"iText", dot, sign}, "The digits of a text.",
+           75, "Numb", {"iText", dot, sign},
            {{{u"INV-0042.5"}, u"00425"}, {{u"-42.5", true, true}, u"-42.5"}}),
-       Operation<&StandardObject::Trim2Number>("Trim2Number", {"iText", dot, sign},
-                                               "The same as `Numb`.", {{{u"02-123"}, u"02123"}}),
-       Operation<&StandardObject::d2h>("d2h", {"iDay"}, "Days to hours.", {{{0.5}, 12}}),
-       Operation<&StandardObject::d2m>("d2m", {"iDay"}, "Days to minutes.", {{{0.5}, 720}}),
-       Operation<&StandardObject::h2d>("h2d", {"iHour"}, "Hours to days.", {{{12}, 0.5}}),
-       Operation<&StandardObject::m2d>("m2d", {"iMinute"}, "Minutes to days.", {{{720}, 0.5}}),
-       Operation<&StandardObject::d2Str>("d2Str", {"iValue"}, "The shortest text of a number.",
+       Operation<&StandardObject::Trim2Number>(76, "Trim2Number", {"iText", dot, sign},
+                                               {{{u"02-123"}, u"02123"}}),
+       Operation<&StandardObject::d2h>(77, "d2h", {"iDay"}, {{{0.5}, 12}}),
+       Operation<&StandardObject::d2m>(78, "d2m", {"iDay"}, {{{0.5}, 720}}),
+       Operation<&StandardObject::h2d>(79, "h2d", {"iHour"}, {{{12}, 0.5}}),
+       Operation<&StandardObject::m2d>(80, "m2d", {"iMinute"}, {{{720}, 0.5}}),
+       Operation<&StandardObject::d2Str>(81, "d2Str", {"iValue"},
                                          {{{1234.5}, u"1234.5"}, {{1e15}, u"1E+15"}})});
 }
 
-void AddCostCodes(ClassInfo& info) {
-  AddSubject(
-      info, "Cost prices in letters",
-      {Operation<&StandardObject::FormatCostCode>(
-           "FormatCostCode", {"Price", "CodeWord"},
-           "Writes a cost price in the letters of a code word.",
-           {{{125.5, u"BLACKHORSE"}, u"BLK.KE"}, {{125.5, u"BLACK"}, Raises(5)}}),
-       Operation<&StandardObject::FormatCostCode2>(
-           "FormatCostCode2", {"Price", "CodeWord", "RepeatCharacter"},
-           "The same with a character for each repeated digit.",
-           {{{5000, u"BLACKHORSE", u"X"}, u"KEXX"}, {{55.5, u"BLACKHORSE", u"X"}, u"KX.XE"}}),
-       Operation<&StandardObject::DeFormatCostCode>(
-           "DeFormatCostCode", {"CostCode", "CodeWord"},
-           "Reads the price that `FormatCostCode` wrote.",
-           {{{u"BLK.KE", u"BLACKHORSE"}, 125.5}, {{u"BLK-", u"BLACKHORSE"}, Raises(13)}}),
-       Operation<&StandardObject::DeFormatCostCode2>(
-           "DeFormatCostCode2", {"CostCode", "CodeWord", "RepeatCharacter"},
-           "Reads the price that `FormatCostCode2` wrote.",
-           {{{u"KEXX", u"BLACKHORSE", u"X"}, 5000}})});
+void AddCostCodes(ClassRow& info) {
+  AddOperations(
+      info, {Operation<&StandardObject::FormatCostCode>(
+                 82, "FormatCostCode", {"Price", "CodeWord"},
+                 {{{125.5, u"BLACKHORSE"}, u"BLK.KE"}, {{125.5, u"BLACK"}, Raises(5)}}),
+             Operation<&StandardObject::FormatCostCode2>(
+                 83, "FormatCostCode2", {"Price", "CodeWord", "RepeatCharacter"},
+                 {{{5000, u"BLACKHORSE", u"X"}, u"KEXX"}, {{55.5, u"BLACKHORSE", u"X"}, u"KX.XE"}}),
+             Operation<&StandardObject::DeFormatCostCode>(
+                 84, "DeFormatCostCode", {"CostCode", "CodeWord"},
+                 {{{u"BLK.KE", u"BLACKHORSE"}, 125.5}, {{u"BLK-", u"BLACKHORSE"}, Raises(13)}}),
+             Operation<&StandardObject::DeFormatCostCode2>(
+                 85, "DeFormatCostCode2", {"CostCode", "CodeWord", "RepeatCharacter"},
+                 {{{u"KEXX", u"BLACKHORSE", u"X"}, 5000}})});
 }
 
 }  // namespace
 
-void AddNumberOperations(ClassInfo& owner) {
+void AddNumberOperations(ClassRow& owner) {
   AddRounding(owner);
   AddReading(owner);
   AddCostCodes(owner);

@@ -7,13 +7,11 @@
 
 namespace ZQ7Standard::Automation {
 
-ClassInfo StandardObjectEntry() {
-  ClassInfo info = {
-      .name = "StandardObject",
-      .help = "Dates, payment terms, numbers, lists, keys, bar codes, ciphers and digests.",
-      .create = [](const Services& services) -> std::shared_ptr<void> {
-        return std::make_shared<StandardObject>(services);
-      }};
+ClassRow StandardObjectEntry() {
+  ClassRow info = {.name = "StandardObject",
+                   .create = [](const Services& services) -> std::shared_ptr<void> {
+                     return std::make_shared<StandardObject>(services);
+                   }};
   AddDateOperations(info);
   AddNumberOperations(info);
   AddTextOperations(info);

@@ -25,122 +25,103 @@ ParameterRow Flag(const char* name) {
   return ByRef(Optional(name, 0));
 }
 
-void AddLists(ClassInfo& info) {
-  AddSubject(info, "Lists in one text, arrays from arguments",
-             {Operation<&StandardObject::AddList>(
-                  "AddList", {"iList", ByRef("iAdd"), ByRef(Optional("SeparateChar", u";"))},
-                  "Adds an item to a list unless it is there.",
-                  {{{u"a;b", u"c"}, u"a;b;c"},
-                   {{u"a;b", u"b"}, u"a;b"},
-                   {{u"a;b", u"c", u","}, u"a,b,c"}}),
-              Operation<&StandardObject::ArrayString>("ArrayString", NumberedTexts(20),
-                                                      "`ArrayString2` of up to 20 texts.",
-                                                      {{{u"a", u"b"}, TextList{u"a", u"b"}}}),
-              Operation<&StandardObject::ArrayString2>(
-                  "ArrayString2", NumberedTexts(30), "The texts that are not empty, as an array.",
-                  {{{u"a", u"", u"c"}, TextList{u"a", u"c"}}, {{u"a;;b"}, TextList{u"a", u"b"}}}),
-              Operation<&StandardObject::ReverseList>("ReverseList", {"iList"},
-                                                      "A comma-separated list from last to first.",
-                                                      {{{u"a,b,c"}, u"c,b,a,"}}),
-              Operation<&StandardObject::TrimN>(
-                  "TrimN", {"istr", ByRef("iNum")},
-                  "The whole number in a field of a comma-separated list.",
-                  {{{u"10,20,30", 2}, u"20"}, {{u"1,2,3", 3}, u""}, {{u"x,20", 1}, Raises(13)}})});
+void AddLists(ClassRow& info) {
+  AddOperations(
+      info, {Operation<&StandardObject::AddList>(
+                 86, "AddList", {"iList", ByRef("iAdd"), ByRef(Optional("SeparateChar", u";"))},
+                 {{{u"a;b", u"c"}, u"a;b;c"},
+                  {{u"a;b", u"b"}, u"a;b"},
+                  {{u"a;b", u"c", u","}, u"a,b,c"}}),
+             Operation<&StandardObject::ArrayString>(87, "ArrayString", NumberedTexts(20),
+                                                     {{{u"a", u"b"}, TextList{u"a", u"b"}}}),
+             Operation<&StandardObject::ArrayString2>(
+                 88, "ArrayString2", NumberedTexts(30),
+                 {{{u"a", u"", u"c"}, TextList{u"a", u"c"}}, {{u"a;;b"}, TextList{u"a", u"b"}}}),
+             Operation<&StandardObject::ReverseList>(89, "ReverseList", {"iList"},
+                                                     {{{u"a,b,c"}, u"c,b,a,"}}),
+             Operation<&StandardObject::TrimN>(
+                 90, "TrimN", {"istr", ByRef("iNum")},
+                 {{{u"10,20,30", 2}, u"20"}, {{u"1,2,3", 3}, u""}, {{u"x,20", 1}, Raises(13)}})});
 }
 
-void AddStrings(ClassInfo& info) {
-  AddSubject(
-      info, "Blanks, numbered keys, searching, random numbers",
-      {Operation<&StandardObject::ReverseString>("ReverseString", {"iString"},
-                                                 "The characters from last to first.",
-                                                 {{{u"abc"}, u"cba"}}),
-       Operation<&StandardObject::TrimSpaceToOne>(
-           "TrimSpaceToOne", {"inString", Optional("TrimFront", true), Optional("TrimBack", true)},
-           "Shrinks every run of blanks to one.",
-           {{{u"  a   b "}, u"a b"}, {{u"  a   b ", false}, u" a b"}}),
-       Operation<&StandardObject::IncreaseString>(
-           "IncreaseString", {"InputString", Optional("AddStringNumber", u"")},
-           "Counts up the number at the end of a key.",
-           {{{u"INV0099"}, u"INV0100"}, {{u"A009", u"5"}, u"A014"}}),
-       Operation<&StandardObject::FormatTextSort>(
-           "FormatTextSort", {"InputString", "Length"},
-           "Fills the number at the end of a text with zeros, to sort by.",
-           {{{u"inv12", 8}, u"INV00012"}, {{u"abc", 5}, u"abc01"}}),
-       Operation<&StandardObject::Instr2>(
-           "Instr2",
-           {"start", "MainString", "SearchString", Optional("Compare", ZQ7CompareBinary),
-            Optional("SearchFromBack", false)},
-           "The position of a text in another, from 1; 0 for none.",
-           {{{1, u"Sales sales", u"sales"}, 7},
-            {{1, u"Sales sales", u"sales", ZQ7CompareText}, 1},
-            {{0, u"abc", u"b"}, Raises(5)}}),
-       Operation<&StandardObject::Random>("Random", {"Low", "High"}, "A random whole number.",
-                                          {{{0, 2147483647}, Raises(6)}})});
+void AddStrings(ClassRow& info) {
+  AddOperations(info,
+                {Operation<&StandardObject::ReverseString>(91, "ReverseString", {"iString"},
+                                                           {{{u"abc"}, u"cba"}}),
+                 Operation<&StandardObject::TrimSpaceToOne>(
+                     92, "TrimSpaceToOne",
+                     {"inString", Optional("TrimFront", true), Optional("TrimBack", true)},
+                     {{{u"  a   b "}, u"a b"}, {{u"  a   b ", false}, u" a b"}}),
+                 Operation<&StandardObject::IncreaseString>(
+                     93, "IncreaseString", {"InputString", Optional("AddStringNumber", u"")},
+                     {{{u"INV0099"}, u"INV0100"}, {{u"A009", u"5"}, u"A014"}}),
+                 Operation<&StandardObject::FormatTextSort>(
+                     94, "FormatTextSort", {"InputString", "Length"},
+                     {{{u"inv12", 8}, u"INV00012"}, {{u"abc", 5}, u"abc01"}}),
+                 Operation<&StandardObject::Instr2>(
+                     95, "Instr2",
+                     {"start", "MainString", "SearchString", Optional("Compare", ZQ7CompareBinary),
+                      Optional("SearchFromBack", false)},
+                     {{{1, u"Sales sales", u"sales"}, 7},
+                      {{1, u"Sales sales", u"sales", ZQ7CompareText}, 1},
+                      {{0, u"abc", u"b"}, Raises(5)}}),
+                 Operation<&StandardObject::Random>(96, "Random", {"Low", "High"},
+                                                    {{{0, 2147483647}, Raises(6)}})});
 }
 
-void AddKeys(ClassInfo& info) {
-  AddSubject(
-      info, "Record keys, serial numbers, bar codes, addresses",
+void AddKeys(ClassRow& info) {
+  AddOperations(
+      info,
       {Operation<&StandardObject::FormatPrimaryKey>(
-           "FormatPrimaryKey",
+           97, "FormatPrimaryKey",
            {"InputKeyValue", Flag("PrimaryKeyMode"), Flag("MaxLen"), Flag("AcceptInsideSpace"),
             Flag("NumberOnly"), Flag("AutoUpperCase"), Flag("AcceptOnlyEnglishCharAndNumber"),
             Flag("AcceptInsideMultiSpace"), Flag("Reserve2"), Flag("Reserve3"), Flag("Reserve4")},
-           "Cleans a record key as typed.",
            {{{u" it's a 1% key; "}, u"itsa1key"}, {{u"ab 1", 0, 0, 1, 0, 1}, u"AB 1"}}),
        Operation<&StandardObject::FormatSerialNo>(
-           "FormatSerialNo",
+           98, "FormatSerialNo",
            {"InputKeyValue", ByRef(Optional("MaxLen", 30)), Flag("AcceptInsideSpace"),
             Flag("NumberOnly"), Flag("AutoUpperCase"), Flag("AcceptOnlyEnglishCharAndNumber")},
-           "Cleans a serial number as typed.", {{{u" sn-01 2 "}, u"sn-012"}}),
-       Operation<&StandardObject::FormatBarCode>("FormatBarCode",
+           {{{u" sn-01 2 "}, u"sn-012"}}),
+       Operation<&StandardObject::FormatBarCode>(99, "FormatBarCode",
                                                  {"InputBarCodeValue", Flag("BarcodeType")},
-                                                 "The letters and digits of a bar code as typed.",
                                                  {{{u" 885-1234 abc "}, u"8851234ABC"}}),
        Operation<&StandardObject::FormatIP>(
-           "FormatIP", {"StringIP", Optional("ForceIPV4", true)},
-           "A network address without leading zeros; empty for what is none.",
+           100, "FormatIP", {"StringIP", Optional("ForceIPV4", true)},
            {{{u"010.001.002.003"}, u"10.1.2.3"}, {{u"10.1.2"}, u""}})});
 }
 
-void AddBarcodes(ClassInfo& info) {
-  AddSubject(
-      info, "Check digits of bar codes",
-      {Operation<&StandardObject::GetEAN13ChekDigit>(
-           "GetEAN13ChekDigit", {"sCodice"}, "The EAN-13 check digit of the first 12 characters.",
-           {{{u"400638133393"}, 1}, {{u"4006"}, -1}}),
-       Operation<&StandardObject::GetITF14ChekDigit>(
-           "GetITF14ChekDigit", {"sCodice"}, "The ITF-14 check digit of the first 13 characters.",
-           {{{u"1540014128876"}, 3}})});
+void AddBarcodes(ClassRow& info) {
+  AddOperations(
+      info, {Operation<&StandardObject::GetEAN13ChekDigit>(
+                 101, "GetEAN13ChekDigit", {"sCodice"}, {{{u"400638133393"}, 1}, {{u"4006"}, -1}}),
+             Operation<&StandardObject::GetITF14ChekDigit>(102, "GetITF14ChekDigit", {"sCodice"},
+                                                           {{{u"1540014128876"}, 3}})});
 }
 
-void AddCiphers(ClassInfo& info) {
-  AddSubject(
-      info, "Texts under a password",
-      {Operation<&StandardObject::EncryptBS>(
-           "EncryptBS", {"StringInput", "PassWord"},
-           "Hides a text from a glance, under a password.",
-           {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
-       Operation<&StandardObject::DecryptBS>("DecryptBS", {"EncryptedTextInput", "PassWord"},
-                                             "Undoes `EncryptBS`.", {{{u"*)(", u"K"}, u"abc"}}),
-       Operation<&StandardObject::Encrypt>(
-           "Encrypt", {"StringInput", "PassWord"}, "Enciphers a text with the host's block cipher.",
-           {{{u"abc", u"secret"}, Raises(429)}, {{u"abc", u""}, u"abc"}}),
-       Operation<&StandardObject::Decrypt>("Decrypt", {"EncryptedTextInput", "PassWord"},
-                                           "The text that `Encrypt` enciphered.",
-                                           {{{u"abc", u"secret"}, Raises(429)}})});
+void AddCiphers(ClassRow& info) {
+  AddOperations(
+      info, {Operation<&StandardObject::EncryptBS>(
+                 103, "EncryptBS", {"StringInput", "PassWord"},
+                 {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
+             Operation<&StandardObject::DecryptBS>(
+                 104, "DecryptBS", {"EncryptedTextInput", "PassWord"}, {{{u"*)(", u"K"}, u"abc"}}),
+             Operation<&StandardObject::Encrypt>(
+                 105, "Encrypt", {"StringInput", "PassWord"},
+                 {{{u"abc", u"secret"}, Raises(429)}, {{u"abc", u""}, u"abc"}}),
+             Operation<&StandardObject::Decrypt>(106, "Decrypt", {"EncryptedTextInput", "PassWord"},
+                                                 {{{u"abc", u"secret"}, Raises(429)}})});
 }
 
-void AddDigests(ClassInfo& info) {
-  AddSubject(info, "Digests",
-             {Operation<&StandardObject::CalculateMD5>(
-                 "CalculateMD5", {"strMessage"}, "The MD5 digest of a text.",
-                 {{{u"abc"}, u"900150983cd24fb0d6963f7d28e17f72"}})});
+void AddDigests(ClassRow& info) {
+  AddOperations(info, {Operation<&StandardObject::CalculateMD5>(
+                          107, "CalculateMD5", {"strMessage"},
+                          {{{u"abc"}, u"900150983cd24fb0d6963f7d28e17f72"}})});
 }
 
 }  // namespace
 
-void AddTextOperations(ClassInfo& owner) {
+void AddTextOperations(ClassRow& owner) {
   for (const auto add : {AddLists, AddStrings, AddKeys, AddBarcodes, AddCiphers, AddDigests}) {
     add(owner);
   }
