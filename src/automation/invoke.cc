@@ -189,10 +189,11 @@ HostServices ExampleServices() {
 
 Object Create(std::string_view class_name, const HostServices& services) {
   const ClassEntry* owner = FindEntry(class_name);
-  if (owner == nullptr || owner->create == nullptr)
+  if (owner == nullptr || owner->create == nullptr) {
     throw RunTimeError({.number = static_cast<int>(Error::kCannotCreateObject),
                         .text = "cannot create object",
                         .class_name = std::string(class_name)});
+  }
   return Wrapped(owner->info->name, owner->create(services), services);
 }
 
