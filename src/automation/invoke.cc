@@ -183,10 +183,11 @@ Services ExampleServices() {
 
 Object Create(std::string_view class_name, const Services& services) {
   const ClassEntry* owner = FindEntry(class_name);
-  if (owner == nullptr || owner->create == nullptr)
+  if (owner == nullptr || owner->create == nullptr) {
     throw RunTimeError({.number = static_cast<int>(Error::kCannotCreateObject),
                         .text = "cannot create object",
                         .class_name = std::string(class_name)});
+  }
   return Wrapped(owner->info->name, owner->create(services), services);
 }
 
