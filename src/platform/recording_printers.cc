@@ -83,8 +83,10 @@ class RecordingPrinter final : public PrintDocument, public PrinterSettings {
  private:
   std::string FontText() const {
     if (font_ == PrintFont{}) return {};
-    return "[" + Utf8(font_.name) + " " + Shown(font_.size) + " " + std::to_string(font_.charset) +
-           (font_.bold ? " bold" : "") + (font_.italic ? " italic" : "") + "]";
+    std::string text = "[";
+    text.append(Utf8(font_.name)).append(" ").append(Shown(font_.size));
+    text.append(" ").append(std::to_string(font_.charset));
+    return text.append(font_.bold ? " bold" : "").append(font_.italic ? " italic]" : "]");
   }
 
   Recorder recorder_;
