@@ -78,7 +78,7 @@ class ZQ7STANDARD_EXPORT RunTimeError : public std::runtime_error {
   explicit RunTimeError(Error error, std::string_view detail = {});
   /// A failure with a number and a text of the host's own.
   RunTimeError(int number, std::string_view text);
-  explicit RunTimeError(const ErrorDetails& details);
+  explicit RunTimeError(ErrorDetails details);
   RunTimeError(const RunTimeError&) noexcept = default;
   RunTimeError& operator=(const RunTimeError&) noexcept = default;
   ~RunTimeError() override;

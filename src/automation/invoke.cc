@@ -79,10 +79,10 @@ class Values {
 };
 
 [[noreturn]] void RaiseUnsupported(const ClassInfo& owner, std::string_view member) {
-  ErrorDetails details = RunTimeError(Error::kUnsupportedMember).Details();
+  ErrorDetails details = DetailsOf(Error::kUnsupportedMember);
   details.class_name = owner.name;
   details.operation = member;
-  throw RunTimeError(details);
+  throw RunTimeError(std::move(details));
 }
 
 /// Raises a failure of a member again under the names that the caller used: what
@@ -93,7 +93,7 @@ class Values {
   details.operation = member;
   const auto known = std::ranges::find(parameters, details.parameter, &ParameterInfo::name);
   if (known == parameters.end()) details.parameter.clear();
-  throw RunTimeError(details);
+  throw RunTimeError(std::move(details));
 }
 
 /// Does a call of `member`. What it throws reaches the caller as a `RunTimeError` that names
@@ -106,11 +106,10 @@ auto Reported(const ClassInfo& owner, std::string_view member,
   } catch (const RunTimeError& error) {
     RaiseAs(owner, member, parameters, error.Details());
   } catch (const std::exception& error) {
-    const RunTimeError foreign(Error::kAutomationError, error.what());
-    RaiseAs(owner, member, parameters, foreign.Details());
+    RaiseAs(owner, member, parameters, DetailsOf(Error::kAutomationError, error.what()));
   } catch (...) {
-    const RunTimeError foreign(Error::kAutomationError, "a failure without a text");
-    RaiseAs(owner, member, parameters, foreign.Details());
+    RaiseAs(owner, member, parameters,
+            DetailsOf(Error::kAutomationError, "a failure without a text"));
   }
 }
 

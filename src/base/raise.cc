@@ -2,12 +2,13 @@
 
 #include <array>
 #include <charconv>
+#include <utility>
 
 namespace ZQ7Standard {
 namespace {
 
-ErrorDetails DetailsOf(Error error, const Where& where, std::string_view detail) {
-  ErrorDetails details = RunTimeError(error, detail).Details();
+ErrorDetails DetailsAt(Error error, const Where& where, std::string_view detail) {
+  ErrorDetails details = DetailsOf(error, detail);
   details.operation = where.operation;
   details.parameter = where.parameter;
   return details;
@@ -22,20 +23,20 @@ ErrorInput::ErrorInput(double number) {
 }
 
 void Raise(Error error, const Where& where, const ErrorInput& input, std::string_view detail) {
-  ErrorDetails details = DetailsOf(error, where, detail);
+  ErrorDetails details = DetailsAt(error, where, detail);
   details.input = input.Shown();
-  throw RunTimeError(details);
+  throw RunTimeError(std::move(details));
 }
 
 void Raise(Error error, const Where& where, std::string_view detail) {
-  throw RunTimeError(DetailsOf(error, where, detail));
+  throw RunTimeError(DetailsAt(error, where, detail));
 }
 
 void RaiseNamed(const Where& where, const RunTimeError& error) {
   ErrorDetails details = error.Details();
   if (details.operation.empty()) details.operation = where.operation;
   if (details.parameter.empty()) details.parameter = where.parameter;
-  throw RunTimeError(details);
+  throw RunTimeError(std::move(details));
 }
 
 }  // namespace ZQ7Standard

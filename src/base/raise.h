@@ -9,6 +9,9 @@
 
 namespace ZQ7Standard {
 
+/// What an error tells whose operation and input are not known.
+ErrorDetails DetailsOf(Error error, std::string_view detail = {});
+
 /// The operation that the host called, and the parameter whose argument is wrong.
 struct Where {
   std::string_view operation = {};

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
+#include "base/raise.h"
 #include "base/unicode.h"
 
 namespace ZQ7Standard {
@@ -38,12 +40,10 @@ constexpr auto kErrors = std::to_array<ErrorInfo>({
 });
 static_assert(std::ranges::is_sorted(kErrors, {}, &ErrorInfo::error));
 
-ErrorDetails DetailsOf(Error error, std::string_view detail) {
-  ErrorDetails details = {.number = static_cast<int>(error)};
-  const auto row = std::ranges::find(kErrors, error, &ErrorInfo::error);
-  if (row != kErrors.end()) details.text = row->text;
-  if (!detail.empty()) details.text.append(details.text.empty() ? "" : ": ").append(detail);
-  return details;
+/// The same, without a pass over UTF-16 for the plain texts that nearly all are.
+std::string OnOneLine(std::string_view text) {
+  const bool is_plain = std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
+  return is_plain ? std::string(text) : ZQ7Standard::OnOneLine(FromUtf8(text));
 }
 
 /// "StandardObject.CTDATE", or what is known of it.
@@ -57,7 +57,7 @@ std::string MessageOf(const ErrorDetails& details) {
   if (message.empty()) {
     message = details.text;
   } else {
-    message.append(": ").append(OnOneLine(FromUtf8(details.text)));
+    message.append(": ").append(OnOneLine(details.text));
     message.append(" (error ").append(std::to_string(details.number)).append(")");
   }
   if (!details.parameter.empty()) message.append(": ").append(details.parameter);
@@ -67,6 +67,14 @@ std::string MessageOf(const ErrorDetails& details) {
 
 }  // namespace
 
+ErrorDetails DetailsOf(Error error, std::string_view detail) {
+  ErrorDetails details = {.number = static_cast<int>(error)};
+  const auto row = std::ranges::find(kErrors, error, &ErrorInfo::error);
+  if (row != kErrors.end()) details.text = row->text;
+  if (!detail.empty()) details.text.append(details.text.empty() ? "" : ": ").append(detail);
+  return details;
+}
+
 std::span<const ErrorInfo> Errors() {
   return kErrors;
 }
@@ -74,9 +82,9 @@ std::span<const ErrorInfo> Errors() {
 // Here, so that a module and its core have the type once.
 RunTimeError::~RunTimeError() = default;
 
-RunTimeError::RunTimeError(const ErrorDetails& details)
+RunTimeError::RunTimeError(ErrorDetails details)
     : std::runtime_error(MessageOf(details)),
-      details_(std::make_shared<const ErrorDetails>(details)) {}
+      details_(std::make_shared<const ErrorDetails>(std::move(details))) {}
 
 RunTimeError::RunTimeError(Error error, std::string_view detail)
     : RunTimeError(DetailsOf(error, detail)) {}

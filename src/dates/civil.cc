@@ -21,11 +21,6 @@ bool HasYear(int year) {
   return year >= kFirstYear && year <= kLastYear;
 }
 
-year_month_day Civil(int year, int month, int day) {
-  return {std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
-          std::chrono::day(static_cast<unsigned>(day))};
-}
-
 }  // namespace
 
 int DaysInMonth(int year, int month) {
@@ -34,12 +29,9 @@ int DaysInMonth(int year, int month) {
   return kDays[static_cast<std::size_t>(month - 1)] + (leap_day ? 1 : 0);
 }
 
-std::optional<local_days> CivilDay(int year, int month, int day) {
+bool IsCivilDay(int year, int month, int day) {
   const bool is_month = month >= 1 && month <= kMonthsPerYear;
-  if (!HasYear(year) || !is_month || day < 1 || day > DaysInMonth(year, month)) {
-    return std::nullopt;
-  }
-  return local_days(Civil(year, month, day));
+  return HasYear(year) && is_month && day >= 1 && day <= DaysInMonth(year, month);
 }
 
 std::optional<local_days> CarriedDay(int year, int month, int day) {

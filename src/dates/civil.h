@@ -13,8 +13,13 @@ inline constexpr int kMonthsPerYear = 12;
 /// The number of days in a month (1 to 12) of a year.
 int DaysInMonth(int year, int month);
 
-/// A day of the calendar; nullopt if there is no such day, or it is out of range.
-std::optional<std::chrono::local_days> CivilDay(int year, int month, int day);
+/// Whether the calendar has that day, and it is in range.
+bool IsCivilDay(int year, int month, int day);
+
+constexpr std::chrono::year_month_day Civil(int year, int month, int day) {
+  return {std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+          std::chrono::day(static_cast<unsigned>(day))};
+}
 
 /// The day that a month outside 1 to 12 and a day outside the month carry on to; nullopt
 /// if it is out of range.

@@ -38,7 +38,8 @@ year_month_day MeantDay(OleDate date) {
 }
 
 std::optional<OleDate> DateFromParts(int year, int month, int day) {
-  return DateOf(CivilDay(year, month, day));
+  if (!IsCivilDay(year, month, day)) return std::nullopt;
+  return OleDate::FromCivil(local_days(Civil(year, month, day)));
 }
 
 std::optional<OleDate> DateSerial(int year, int month, int day) {

@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <limits>
 #include <new>
+#include <string>
 #include <utility>
+
+#include "base/raise.h"
 
 namespace ZQ7Standard {
 
@@ -46,6 +49,24 @@ bool CellTable::Reallocate(std::size_t capacity) {
   cells_.reset(static_cast<double*>(cells));
   capacity_ = capacity;
   return true;
+}
+
+std::int32_t MakeRoom(std::unique_ptr<CellTable>& cells, std::int64_t rows, std::int32_t cols,
+                      std::string_view operation) {
+  try {
+    if (rows > std::numeric_limits<std::int32_t>::max()) throw std::bad_alloc();
+    const auto cell_rows = static_cast<std::size_t>(rows) + 1;
+    const auto width = static_cast<std::size_t>(cols) + 1;
+    if (cells->Width() == width) {
+      cells->Resize(cell_rows);
+    } else {
+      cells = std::make_unique<CellTable>(cell_rows, width);
+    }
+  } catch (const std::bad_alloc&) {
+    Raise(Error::kOutOfMemory, {operation},
+          std::to_string(rows) + " rows of " + std::to_string(cols) + " columns");
+  }
+  return static_cast<std::int32_t>(rows);
 }
 
 }  // namespace ZQ7Standard

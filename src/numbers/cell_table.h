@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace ZQ7Standard {
 
@@ -45,6 +46,11 @@ class CellTable {
   std::size_t rows_ = 0;
   std::size_t capacity_ = 0;  // rows
 };
+
+/// Makes room for rows and columns and their spare ones, which keep what they hold; raises
+/// 7 and changes nothing where the machine has none. Returns the rows.
+std::int32_t MakeRoom(std::unique_ptr<CellTable>& cells, std::int64_t rows, std::int32_t cols,
+                      std::string_view operation);
 
 }  // namespace ZQ7Standard
 

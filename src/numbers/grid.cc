@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <limits>
-#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,26 +14,6 @@ namespace {
 
 [[noreturn]] void RaiseNoCell(std::string_view operation, std::int32_t row, std::int32_t col) {
   Raise(Error::kSubscriptOutOfRange, {operation, row < 0 ? "Row" : "Col"}, row < 0 ? row : col);
-}
-
-/// Makes room for rows and columns and their spare ones, which keep what they hold; raises
-/// 7 and changes nothing where the machine has none. Returns the rows.
-std::int32_t MakeRoom(std::unique_ptr<CellTable>& cells, std::int64_t rows, std::int32_t cols,
-                      std::string_view operation) {
-  try {
-    if (rows > std::numeric_limits<std::int32_t>::max()) throw std::bad_alloc();
-    const auto cell_rows = static_cast<std::size_t>(rows) + 1;
-    const auto width = static_cast<std::size_t>(cols) + 1;
-    if (cells->Width() == width) {
-      cells->Resize(cell_rows);
-    } else {
-      cells = std::make_unique<CellTable>(cell_rows, width);
-    }
-  } catch (const std::bad_alloc&) {
-    Raise(Error::kOutOfMemory, {operation},
-          std::to_string(rows) + " rows of " + std::to_string(cols) + " columns");
-  }
-  return static_cast<std::int32_t>(rows);
 }
 
 }  // namespace
@@ -130,8 +108,18 @@ void GridValueObject::SetCols(std::int32_t Cols) {
 bool GridValueObject::Setvalue(std::int32_t Row, std::int32_t Col, double Value) {
   if (Col >= cols_) return false;
   if (Row >= rows_ || Row < 0 || Col < 0) [[unlikely]] {
-    if (Row >= rows_) rows_ = MakeRoom(cells_, std::int64_t{Row} + 1, cols_, "Setvalue");
-    if (Row < 0 || Col < 0) RaiseNoCell("Setvalue", Row, Col);
+    // Kept apart for the speed of all other cells.
+    struct Outside {
+      [[gnu::noinline]] static bool Set(GridValueObject& grid, std::int32_t row, std::int32_t col,
+                                        double value) {
+        if (row >= grid.rows_) {
+          grid.rows_ = MakeRoom(grid.cells_, std::int64_t{row} + 1, grid.cols_, "Setvalue");
+        }
+        if (row < 0 || col < 0) RaiseNoCell("Setvalue", row, col);
+        return grid.Setvalue(row, col, value);
+      }
+    };
+    return Outside::Set(*this, Row, Col, Value);
   }
   cells_->Row(Row)[Col] = Value;
   if (listeners_) listeners_->TellCellDataChange(Row, Col);

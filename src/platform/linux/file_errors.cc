@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <utility>
+
+#include "base/raise.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -54,9 +57,9 @@ RunTimeError FileError(int number, std::string_view step, TextView path,
   const auto row = std::ranges::find(kErrors, number, &ErrorRow::number);
   Error error = row != kErrors.end() ? row->error : Error::kPathFileAccess;
   if (number == ENOENT && !IsFolderThere(native)) error = Error::kPathNotFound;
-  ErrorDetails details = RunTimeError(error, step).Details();
+  ErrorDetails details = DetailsOf(error, step);
   details.input = Text(path);
-  return RunTimeError(details);
+  return RunTimeError(std::move(details));
 }
 
 }  // namespace ZQ7Standard
