@@ -70,7 +70,8 @@ void ASCIIObject::SaveStringToTextFile2(TextView iTextFile, TextView iValue,
       return true;
     };
     const auto rewrite = [&] {
-      return services_->FileRewriter().Rewrite(iTextFile, [&](const auto&) { return bytes; });
+      return services_->FileRewriter().Rewrite(iTextFile,
+                                               [&](const auto&) { return std::string(bytes); });
     };
     const bool desktop = IsDesktop(FolderPart(iTextFile));
     return WriteOrCreate(
