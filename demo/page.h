@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_PAGE_H_
-#define EXAMPLES_INVOICE_PAGE_H_
+#ifndef DEMO_PAGE_H_
+#define DEMO_PAGE_H_
 
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/StandardObject.h>
@@ -17,4 +17,4 @@ void DrawPage(ZQ7Standard::PrintObject& printer, const ZQ7Standard::StandardObje
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_PAGE_H_
+#endif  // DEMO_PAGE_H_

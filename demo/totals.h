@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_TOTALS_H_
-#define EXAMPLES_INVOICE_TOTALS_H_
+#ifndef DEMO_TOTALS_H_
+#define DEMO_TOTALS_H_
 
 #include <ZQ7Standard/GridValueObject.h>
 #include <ZQ7Standard/StandardObject.h>
@@ -36,4 +36,4 @@ class Totals {
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_TOTALS_H_
+#endif  // DEMO_TOTALS_H_

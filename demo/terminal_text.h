@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_TERMINAL_TEXT_H_
-#define EXAMPLES_INVOICE_TERMINAL_TEXT_H_
+#ifndef DEMO_TERMINAL_TEXT_H_
+#define DEMO_TERMINAL_TEXT_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -15,4 +15,4 @@ ZQ7Standard::Text OneLine(ZQ7Standard::TextView text);
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_TERMINAL_TEXT_H_
+#endif  // DEMO_TERMINAL_TEXT_H_

@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_INVOICE_H_
-#define EXAMPLES_INVOICE_INVOICE_H_
+#ifndef DEMO_INVOICE_H_
+#define DEMO_INVOICE_H_
 
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/Types.h>
@@ -85,4 +85,4 @@ void ReadFurtherLine(const ZQ7Standard::StandardObject& standard,
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_INVOICE_H_
+#endif  // DEMO_INVOICE_H_

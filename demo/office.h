@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_OFFICE_H_
-#define EXAMPLES_INVOICE_OFFICE_H_
+#ifndef DEMO_OFFICE_H_
+#define DEMO_OFFICE_H_
 
 #include <ZQ7Standard/ASCIIObject.h>
 #include <ZQ7Standard/RegistryObject.h>
@@ -77,4 +77,4 @@ class Office {
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_OFFICE_H_
+#endif  // DEMO_OFFICE_H_

@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_INVOICE_LIST_H_
-#define EXAMPLES_INVOICE_INVOICE_LIST_H_
+#ifndef DEMO_INVOICE_LIST_H_
+#define DEMO_INVOICE_LIST_H_
 
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/Types.h>
@@ -28,4 +28,4 @@ InvoiceList ReadInvoices(const ZQ7Standard::StandardObject& standard, std::span<
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_INVOICE_LIST_H_
+#endif  // DEMO_INVOICE_LIST_H_

@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_PDF_FOLDER_H_
-#define EXAMPLES_INVOICE_PDF_FOLDER_H_
+#ifndef DEMO_PDF_FOLDER_H_
+#define DEMO_PDF_FOLDER_H_
 
 #include <ZQ7Standard/PrintObject.h>
 #include <ZQ7Standard/StandardObject.h>
@@ -36,4 +36,4 @@ class PdfFolder {
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_PDF_FOLDER_H_
+#endif  // DEMO_PDF_FOLDER_H_

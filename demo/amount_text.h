@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_AMOUNT_TEXT_H_
-#define EXAMPLES_INVOICE_AMOUNT_TEXT_H_
+#ifndef DEMO_AMOUNT_TEXT_H_
+#define DEMO_AMOUNT_TEXT_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -14,4 +14,4 @@ ZQ7Standard::Text FormatAmount(double amount);
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_AMOUNT_TEXT_H_
+#endif  // DEMO_AMOUNT_TEXT_H_

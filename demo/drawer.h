@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_DRAWER_H_
-#define EXAMPLES_INVOICE_DRAWER_H_
+#ifndef DEMO_DRAWER_H_
+#define DEMO_DRAWER_H_
 
 #include <string>
 
@@ -11,4 +11,4 @@ std::string KickDrawer();
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_DRAWER_H_
+#endif  // DEMO_DRAWER_H_

@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_CSV_H_
-#define EXAMPLES_INVOICE_CSV_H_
+#ifndef DEMO_CSV_H_
+#define DEMO_CSV_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -26,4 +26,4 @@ std::vector<CsvRow> ReadCsv(ZQ7Standard::TextView text);
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_CSV_H_
+#endif  // DEMO_CSV_H_

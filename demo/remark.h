@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_REMARK_H_
-#define EXAMPLES_INVOICE_REMARK_H_
+#ifndef DEMO_REMARK_H_
+#define DEMO_REMARK_H_
 
 #include <ZQ7Standard/platform/message_box.h>
 
@@ -22,4 +22,4 @@ class Remark final : public ZQ7Standard::MessageBox {
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_REMARK_H_
+#endif  // DEMO_REMARK_H_

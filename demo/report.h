@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_REPORT_H_
-#define EXAMPLES_INVOICE_REPORT_H_
+#ifndef DEMO_REPORT_H_
+#define DEMO_REPORT_H_
 
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/Types.h>
@@ -24,4 +24,4 @@ ZQ7Standard::Text Report(const ZQ7Standard::StandardObject& standard,
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_REPORT_H_
+#endif  // DEMO_REPORT_H_

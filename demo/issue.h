@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_ISSUE_H_
-#define EXAMPLES_INVOICE_ISSUE_H_
+#ifndef DEMO_ISSUE_H_
+#define DEMO_ISSUE_H_
 
 #include <ZQ7Standard/StandardObject.h>
 
@@ -27,4 +27,4 @@ std::string IssueAll(const ZQ7Standard::StandardObject& standard, const Outlets&
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_ISSUE_H_
+#endif  // DEMO_ISSUE_H_

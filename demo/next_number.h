@@ -1,5 +1,5 @@
-#ifndef EXAMPLES_INVOICE_NEXT_NUMBER_H_
-#define EXAMPLES_INVOICE_NEXT_NUMBER_H_
+#ifndef DEMO_NEXT_NUMBER_H_
+#define DEMO_NEXT_NUMBER_H_
 
 #include <ZQ7Standard/StandardObject.h>
 #include <ZQ7Standard/Types.h>
@@ -14,4 +14,4 @@ ZQ7Standard::Text NextNumber(const ZQ7Standard::StandardObject& standard,
 
 }  // namespace InvoiceDemo
 
-#endif  // EXAMPLES_INVOICE_NEXT_NUMBER_H_
+#endif  // DEMO_NEXT_NUMBER_H_
