@@ -4,248 +4,269 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <limits>
-#include <span>
-
-#include "amount_text.h"
-#include "terminal_text.h"
+#include <cmath>
+#include <stdexcept>
+#include <string_view>
+#include <utility>
 
 namespace InvoiceDemo {
 namespace {
 
-using ZQ7Standard::Currency;
-using ZQ7Standard::OleDate;
-using ZQ7Standard::RunTimeError;
-using ZQ7Standard::StandardObject;
-using ZQ7Standard::Text;
-using ZQ7Standard::TextView;
-using ZQ7Standard::Utf8;
-using ZQ7Standard::ZQ7ConditionType;
-
-enum Column : std::size_t {
-  kNumber,
-  kCustomerCode,
-  kCustomer,
-  kDate,
-  kConditionType,
-  kDeliveryDays,
-  kNetDays,
-  kDiscountPercent,
-  kDiscountDays,
-  kBarcode,
-  kAmount,
-  kItem,
-  kQuantity,
-  kPrice,
-  kCost,
-  kColumnCount,
-};
-
-constexpr std::size_t kColumnsWithoutItem = kItem;
-constexpr std::size_t kColumnsWithoutCost = kCost;
-
-constexpr std::array<const char*, kColumnCount> kColumnNames = {
+constexpr std::array<std::string_view, 15> kColumns = {
     "number",        "customer code", "customer",         "date",          "condition type",
     "delivery days", "net days",      "discount percent", "discount days", "barcode",
     "amount",        "item",          "quantity",         "price",         "cost"};
 
-constexpr double kLastConditionType = ZQ7Standard::ZQ7AfterEndOfSPTMonth;
-constexpr double kMostDays = std::numeric_limits<std::int16_t>::max();
-constexpr double kFullPercent = 100;
+constexpr std::size_t IndexOf(std::string_view column) {
+  return static_cast<std::size_t>(std::ranges::find(kColumns, column) - kColumns.begin());
+}
+
 constexpr double kLargestAmount = 9999999999999.99;  // the largest that has words
 
-constexpr std::size_t kBarcodeDigits = 13;
-constexpr std::int16_t kOn = 1;  // what switches an option of FormatPrimaryKey on
-
-constexpr int kOverflow = 6;  // the run-time error of a number too large for its type
-
-enum class Digits { kWhole, kDecimal };
-
-/// The fields of one row and the checks that they must pass.
-class RowReader {
- public:
-  RowReader(const StandardObject& standard, const std::vector<Text>& fields)
-      : standard_(standard), fields_(fields) {}
-
-  void CheckColumnCount() const;
-  Text ReadText(Column column) const;
-  Text ReadCode(Column column) const;
-  Text ReadBarcode(Column column) const;
-  OleDate ReadDate(Column column) const;
-  double ReadNumber(Column column, Digits digits, double largest) const;
-  std::int16_t ReadDays(Column column) const;
-  InvoiceLine ReadLine() const;
-
- private:
-  [[noreturn]] void Fail(Column column, const std::string& reason) const;
-  bool HasDateDigits(TextView text) const;
-
-  const StandardObject& standard_;
-  const std::vector<Text>& fields_;
+/// What is wrong with a row: `date: "5/13/2567" is no date`.
+struct Mistake : std::runtime_error {
+  using std::runtime_error::runtime_error;
 };
 
-void RowReader::Fail(Column column, const std::string& reason) const {
-  throw FieldError(kColumnNames[column], '"' + Utf8(OneLine(fields_[column])) + "\" " + reason);
-}
-
-Text RowReader::ReadText(Column column) const {
-  const Text& text = fields_[column];
-  if (text.empty()) Fail(column, "is empty");
-  if (text.find(u'\uFFFD') != Text::npos) Fail(column, "is not in UTF-8");
-  return text;
-}
-
-Text RowReader::ReadCode(Column column) const {
-  Text code = standard_.FormatPrimaryKey(ReadText(column), 0, 0, 0, 0, kOn);
-  if (code.empty()) Fail(column, "holds no code");
-  return code;
-}
-
-/// The digits come first: the check digit takes a letter, which cleaning keeps,
-/// for a 0.
-Text RowReader::ReadBarcode(Column column) const {
-  Text code = standard_.FormatBarCode(ReadText(column));
-  if (code.size() != kBarcodeDigits || standard_.Numb(code) != code) {
-    Fail(column, "is no EAN-13 (13 digits)");
+/// The fields of one row and the checks that they must pass.
+///
+/// The library's readers take what they can from a text, as screens want it while a user
+/// types: "12x" is 12, "abc" is 0. An invoice must not be guessed, so here a field is
+/// looked at first and must be a date or a number as a whole.
+class RowReader {
+ public:
+  RowReader(const StandardObject& standard, const CsvRow& row,
+            const std::optional<Text>& default_net_days)
+      : standard_(standard), fields_(row.fields), may_lack_number_(default_net_days.has_value()) {
+    const std::size_t count = fields_.size();
+    if (!row.mistake.empty()) throw Mistake("row: " + row.mistake);
+    if (count != IndexOf("item") && count != IndexOf("cost") && count != kColumns.size()) {
+      throw Mistake("row: has " + std::to_string(count) + " fields instead of 11, 14 or 15");
+    }
+    fields_.resize(kColumns.size());
+    Text& net_days = fields_[IndexOf("net days")];
+    if (net_days.empty()) net_days = default_net_days.value_or(u"");
   }
-  if (code.back() - u'0' != standard_.GetEAN13ChekDigit(code)) {
-    Fail(column, "has a wrong check digit");
+
+  Invoice ReadInvoice() const {
+    const bool lacks_number = may_lack_number_ && Field("number").empty();
+    return {.number = lacks_number ? Text() : ReadText("number"),
+            .customer_code = ReadCode("customer code"),
+            .customer = ReadText("customer"),
+            .date = ReadDate("date"),
+            .condition_type =
+                static_cast<ZQ7ConditionType>(ReadWhole("condition type", ZQ7AfterEndOfSPTMonth)),
+            .delivery_days = ReadWhole("delivery days"),
+            .net_days = ReadWhole("net days"),
+            .discount_percent = ReadNumber("discount percent", 100),
+            .discount_days = ReadWhole("discount days")};
   }
-  return code;
-}
 
-/// Whether each field between "/" is digits alone, with blanks around them at
-/// most: the date reader itself passes over what follows a number.
-bool RowReader::HasDateDigits(TextView text) const {
-  while (!text.empty()) {
-    const TextView field = text.substr(0, text.find(u'/'));
-    text.remove_prefix(std::min(field.size() + 1, text.size()));
-    if (field.find(standard_.Numb(field)) == TextView::npos) return false;
-    if (field.find_first_not_of(u" 0123456789") != TextView::npos) return false;
+  /// The words and the figures are both made from the one rounded amount.
+  InvoiceLine ReadLine() const {
+    InvoiceLine line;
+    line.barcode = ReadBarcode("barcode");
+    line.amount = standard_.FixNumber(ReadNumber("amount"), 2);
+    line.price = line.amount;
+    if (!Field("cost").empty()) line.cost = ReadNumber("cost");
+    if ((Field("item") + Field("quantity") + Field("price")).empty()) return line;
+    line.item = ReadText("item");
+    line.quantity = ReadNumber("quantity");
+    line.price = ReadNumber("price");
+    if (standard_.FixNumber(line.quantity * line.price, 2) != line.amount) {
+      Fail("amount", "is not " + Utf8(Field("quantity")) + " times " + Utf8(Field("price")));
+    }
+    return line;
   }
-  return true;
-}
 
-OleDate RowReader::ReadDate(Column column) const {
-  const Text& text = fields_[column];
-  if (!HasDateDigits(text) || !standard_.IsTDate(text)) {
-    const Text layout = standard_.GetDateFormatString(standard_.GetDateFormat());
-    const std::string era = standard_.GetEraDif() == 0 ? "Gregorian" : "Buddhist";
-    Fail(column, "is no date (" + Utf8(layout) + ", " + era + " year of four digits)");
+ private:
+  const Text& Field(std::string_view column) const { return fields_[IndexOf(column)]; }
+
+  [[noreturn]] void Fail(std::string_view column, const std::string& reason) const {
+    throw Mistake(std::string(column) + ": \"" + Utf8(OneLine(Field(column))) + "\" " + reason);
   }
-  const OleDate date = standard_.CTDATE(text);
-  // The dates that stand for no date, and those too far ahead, print otherwise.
-  const int typed_year = date.Year() + standard_.GetEraDif();
-  if (standard_.isBlankDate(date) || standard_.Year2000(date) != typed_year) {
-    Fail(column, "is not the date of an invoice");
+
+  const Text& ReadText(std::string_view column) const {
+    const Text& text = Field(column);
+    if (text.empty()) Fail(column, "is empty");
+    if (text.find(u'\uFFFD') != Text::npos) Fail(column, "is not in UTF-8");
+    return text;
   }
-  return date;
-}
 
-double RowReader::ReadNumber(Column column, Digits digits, double largest) const {
-  const std::string out_of_range = "is not from 0 to " + Utf8(standard_.d2Str(largest));
-  const Text& text = fields_[column];
-  Text plain = text;
-  std::erase(plain, u',');
-  try {
-    Currency::FromText(plain);
-  } catch (const RunTimeError& error) {
-    Fail(column, error.Number() == kOverflow ? out_of_range : "is no number");
+  Text ReadCode(std::string_view column) const {
+    Text code = standard_.FormatPrimaryKey(ReadText(column), 0, 0, 0, 0, 1);  // upper case
+    if (code.empty()) Fail(column, "holds no code");
+    return code;
   }
-  if (plain != text && GroupThousands(plain) != text) Fail(column, "has a comma out of place");
-  if (digits == Digits::kWhole && plain.find(u'.') != Text::npos) {
-    Fail(column, "is no whole number");
+
+  /// The digits come first: the check digit takes a letter, which cleaning keeps, for a 0.
+  Text ReadBarcode(std::string_view column) const {
+    Text code = standard_.FormatBarCode(ReadText(column));
+    if (code.size() != 13 || standard_.Numb(code) != code) Fail(column, "is no EAN-13 (13 digits)");
+    if (code.back() - u'0' != standard_.GetEAN13ChekDigit(code)) {
+      Fail(column, "has a wrong check digit");
+    }
+    return code;
   }
-  const double value = standard_.StrVal(plain);
-  if (value < 0 || value > largest) Fail(column, out_of_range);
-  return value;
-}
 
-std::int16_t RowReader::ReadDays(Column column) const {
-  return static_cast<std::int16_t>(ReadNumber(column, Digits::kWhole, kMostDays));
-}
-
-void RowReader::CheckColumnCount() const {
-  const std::size_t count = fields_.size();
-  if (count == kColumnCount || count == kColumnsWithoutCost || count == kColumnsWithoutItem) return;
-  throw FieldError("row", "has " + std::to_string(count) + " fields instead of " +
-                              std::to_string(kColumnsWithoutItem) + ", " +
-                              std::to_string(kColumnsWithoutCost) + " or " +
-                              std::to_string(kColumnCount));
-}
-
-/// The words and the figures are both made from the one rounded amount.
-InvoiceLine RowReader::ReadLine() const {
-  InvoiceLine line;
-  line.barcode = ReadBarcode(kBarcode);
-  line.amount = standard_.FixNumber(ReadNumber(kAmount, Digits::kDecimal, kLargestAmount), 2);
-  line.price = line.amount;
-  if (fields_.size() > kCost && !fields_[kCost].empty()) {
-    line.cost = ReadNumber(kCost, Digits::kDecimal, kLargestAmount);
+  /// Whether each field between "/" is digits alone, with blanks around them at most: the
+  /// date reader itself passes over what follows a number.
+  bool HasDateDigits(TextView text) const {
+    while (!text.empty()) {
+      const TextView field = text.substr(0, text.find(u'/'));
+      text.remove_prefix(std::min(field.size() + 1, text.size()));
+      if (field.find(standard_.Numb(field)) == TextView::npos) return false;
+      if (field.find_first_not_of(u" 0123456789") != TextView::npos) return false;
+    }
+    return true;
   }
-  const bool has_item =
-      fields_.size() > kPrice && !(fields_[kItem] + fields_[kQuantity] + fields_[kPrice]).empty();
-  if (!has_item) return line;
-  line.item = ReadText(kItem);
-  line.quantity = ReadNumber(kQuantity, Digits::kDecimal, kLargestAmount);
-  line.price = ReadNumber(kPrice, Digits::kDecimal, kLargestAmount);
-  if (standard_.FixNumber(line.quantity * line.price, 2) != line.amount) {
-    Fail(kAmount, "is not " + Utf8(fields_[kQuantity]) + " times " + Utf8(fields_[kPrice]));
+
+  OleDate ReadDate(std::string_view column) const {
+    const Text& text = Field(column);
+    if (!HasDateDigits(text) || !standard_.IsTDate(text)) {
+      const Text layout = standard_.GetDateFormatString(standard_.GetDateFormat());
+      const std::string era = standard_.GetEraDif() == 0 ? "Gregorian" : "Buddhist";
+      Fail(column, "is no date (" + Utf8(layout) + ", " + era + " year of four digits)");
+    }
+    const OleDate date = standard_.CTDATE(text);
+    // The dates that stand for no date, and those too far ahead, print otherwise.
+    const int typed_year = date.Year() + standard_.GetEraDif();
+    if (standard_.isBlankDate(date) || standard_.Year2000(date) != typed_year) {
+      Fail(column, "is not the date of an invoice");
+    }
+    return date;
   }
-  return line;
-}
 
-}  // namespace
+  double ReadNumber(std::string_view column, double largest = kLargestAmount) const {
+    const std::string out_of_range = "is not from 0 to " + Utf8(standard_.d2Str(largest));
+    const Text& text = Field(column);
+    Text plain = text;
+    std::erase(plain, u',');
+    try {
+      Currency::FromText(plain);
+    } catch (const RunTimeError& error) {
+      const bool is_too_large = error.Number() == static_cast<int>(Error::kOverflow);
+      Fail(column, is_too_large ? out_of_range : "is no number");
+    }
+    if (plain != text && GroupThousands(plain) != text) Fail(column, "has a comma out of place");
+    const double value = standard_.StrVal(plain);
+    if (value < 0 || value > largest) Fail(column, out_of_range);
+    return value;
+  }
 
-bool IsHeader(const StandardObject& standard, const std::vector<Text>& fields) {
-  return fields.size() > kDate && standard.Numb(fields[kDate]).empty();
-}
+  std::int16_t ReadWhole(std::string_view column, std::int16_t largest = INT16_MAX) const {
+    const double value = ReadNumber(column, largest);
+    if (Field(column).find(u'.') != Text::npos) Fail(column, "is no whole number");
+    return static_cast<std::int16_t>(value);
+  }
 
-bool IsFurtherLine(const std::vector<Text>& fields) {
-  return fields.size() >= kBarcode &&
-         std::ranges::all_of(std::span(fields).first(kBarcode), &Text::empty);
-}
+  const StandardObject& standard_;
+  std::vector<Text> fields_;
+  bool may_lack_number_;
+};
 
-Invoice ReadInvoice(const StandardObject& standard, const std::vector<Text>& typed_fields,
-                    const InvoiceDefaults& defaults) {
-  std::vector<Text> fields = typed_fields;
-  const RowReader row(standard, fields);
-  row.CheckColumnCount();
-  if (fields[kNetDays].empty()) fields[kNetDays] = defaults.net_days;
-  const bool lacks_number = defaults.may_lack_number && fields[kNumber].empty();
-  Invoice invoice = {
-      .number = lacks_number ? Text() : row.ReadText(kNumber),
-      .customer_code = row.ReadCode(kCustomerCode),
-      .customer = row.ReadText(kCustomer),
-      .date = row.ReadDate(kDate),
-      .condition_type = static_cast<ZQ7ConditionType>(
-          row.ReadNumber(kConditionType, Digits::kWhole, kLastConditionType)),
-      .delivery_days = row.ReadDays(kDeliveryDays),
-      .net_days = row.ReadDays(kNetDays),
-      .discount_percent = row.ReadNumber(kDiscountPercent, Digits::kDecimal, kFullPercent),
-      .discount_days = row.ReadDays(kDiscountDays),
-      .lines = {row.ReadLine()},
-      .amount = 0,
-  };
-  invoice.amount = invoice.lines.front().amount;
-  return invoice;
-}
-
-void ReadFurtherLine(const StandardObject& standard, const std::vector<Text>& fields,
-                     Invoice& invoice) {
-  const RowReader row(standard, fields);
-  row.CheckColumnCount();
+void AddLine(const StandardObject& standard, const RowReader& row, Invoice& invoice) {
   if (invoice.lines.size() == kMostLines) {
-    throw FieldError(
-        "row", "is one line more than an invoice has room for, " + std::to_string(kMostLines));
+    throw Mistake("row: is one line more than an invoice has room for, " +
+                  std::to_string(kMostLines));
   }
   invoice.lines.push_back(row.ReadLine());
   invoice.amount = standard.FixNumber(invoice.amount + invoice.lines.back().amount, 2);
   if (invoice.amount > kLargestAmount) {
-    throw FieldError("amount",
-                     "all lines come to more than " + Utf8(standard.d2Str(kLargestAmount)));
+    throw Mistake("amount: all lines come to more than " + Utf8(standard.d2Str(kLargestAmount)));
   }
+}
+
+/// A discount goes to nobody who has to pay at once or has no days to earn it in. A term
+/// from the end of a month is due some 150 years ahead: stored documents hold such dates,
+/// and the library keeps them.
+void SetPayment(const StandardObject& standard, Invoice& invoice) {
+  if (invoice.net_days != 0 && invoice.discount_days != 0) {
+    invoice.discount = standard.FixNumber(invoice.amount * invoice.discount_percent / 100, 2);
+  }
+  invoice.due = standard.GetConditionDueDate(invoice.date, invoice.condition_type, invoice.net_days,
+                                             invoice.delivery_days);
+}
+
+void AddInvoice(const StandardObject& standard, std::span<const CsvRow> rows,
+                const std::optional<Text>& default_net_days, InvoiceList& list) {
+  const std::vector<Text>& first = rows.front().fields;
+  if (!first.empty() && !first.front().empty()) list.typed_numbers.insert(first.front());
+  int line = 0;
+  try {
+    std::optional<Invoice> invoice;
+    for (const CsvRow& row : rows) {
+      line = row.line;
+      const RowReader reader(standard, row, default_net_days);
+      if (!invoice) invoice = reader.ReadInvoice();
+      AddLine(standard, reader, *invoice);
+    }
+    SetPayment(standard, *invoice);
+    list.invoices.push_back(*std::move(invoice));
+  } catch (const Mistake& mistake) {
+    list.mistakes.push_back("line " + std::to_string(line) + ", " + mistake.what());
+  }
+}
+
+bool IsFurtherLine(const CsvRow& row) {
+  constexpr std::size_t kBarcode = IndexOf("barcode");
+  return row.fields.size() >= kBarcode &&
+         std::ranges::all_of(std::span(row.fields).first(kBarcode), &Text::empty);
+}
+
+bool IsControl(char16_t c) {
+  return c < 0x20 || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029;
+}
+
+}  // namespace
+
+InvoiceList ReadInvoices(const StandardObject& standard, std::span<const CsvRow> rows,
+                         const std::optional<Text>& default_net_days) {
+  InvoiceList list;
+  constexpr std::size_t kDate = IndexOf("date");
+  const bool has_header = !rows.empty() && rows.front().mistake.empty() &&
+                          rows.front().fields.size() > kDate &&
+                          standard.Numb(rows.front().fields[kDate]).empty();
+  if (has_header) rows = rows.subspan(1);
+  while (!rows.empty()) {
+    const auto next = std::find_if_not(rows.begin() + 1, rows.end(), IsFurtherLine);
+    const auto own = rows.first(static_cast<std::size_t>(next - rows.begin()));
+    AddInvoice(standard, own, default_net_days, list);
+    rows = rows.subspan(own.size());
+  }
+  return list;
+}
+
+Text TermOf(const StandardObject& standard, const Invoice& invoice, ZQ7ConditionOutputType type) {
+  return standard.FormatCondition2(static_cast<float>(invoice.discount_percent),
+                                   invoice.discount_days, invoice.condition_type, type,
+                                   invoice.net_days);
+}
+
+Text GroupThousands(Text number) {
+  const std::size_t first_digit = number.starts_with(u'-') || number.starts_with(u'+') ? 1 : 0;
+  std::size_t position = std::min(number.find(u'.'), number.size());
+  for (; position > first_digit + 3; number.insert(position, 1, u',')) position -= 3;
+  return number;
+}
+
+// Counted in satang: `d2Str` writes 15 digits, and a total may have more.
+Text FormatAmount(double amount) {
+  Text digits = FromUtf8(std::to_string(std::llround(amount * 100)));
+  if (digits.size() < 3) digits.insert(0, 3 - digits.size(), u'0');
+  return GroupThousands(digits.insert(digits.size() - 2, 1, u'.'));
+}
+
+Text OneLine(TextView text) {
+  Text line;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (!IsControl(text[i])) {
+      line += text[i];
+    } else if (i == 0 || !IsControl(text[i - 1])) {
+      line += u' ';
+    }
+  }
+  return line;
 }
 
 }  // namespace InvoiceDemo

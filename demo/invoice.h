@@ -2,21 +2,25 @@
 #define DEMO_INVOICE_H_
 
 #include <ZQ7Standard/StandardObject.h>
-#include <ZQ7Standard/Types.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <stdexcept>
+#include <set>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "csv_rows.h"
+
 namespace InvoiceDemo {
+
+using namespace ZQ7Standard;
 
 /// One line of an invoice: what is sold.
 struct InvoiceLine {
-  ZQ7Standard::Text barcode;  ///< EAN-13
-  ZQ7Standard::Text item;     ///< empty when it was not typed
+  Text barcode;  ///< EAN-13
+  Text item;     ///< empty when it was not typed
   double quantity = 1;
   double price = 0;            ///< baht for one
   double amount = 0;           ///< baht, rounded to satang
@@ -24,64 +28,53 @@ struct InvoiceLine {
 };
 
 struct Invoice {
-  ZQ7Standard::Text number;         ///< empty until the office gives it one
-  ZQ7Standard::Text customer_code;  ///< in upper case
-  ZQ7Standard::Text customer;
-  ZQ7Standard::OleDate date;
-  ZQ7Standard::ZQ7ConditionType condition_type;
+  Text number;         ///< empty until the office assigns one
+  Text customer_code;  ///< in upper case
+  Text customer;
+  OleDate date;
+  ZQ7ConditionType condition_type;
   std::int16_t delivery_days;
   std::int16_t net_days;
   double discount_percent;
   std::int16_t discount_days;
-  std::vector<InvoiceLine> lines;  ///< from 1 to `kMostLines`
-  double amount;                   ///< baht, rounded to satang; the sum of the lines
+  std::vector<InvoiceLine> lines = {};  ///< from 1 to `kMostLines`
+  double amount = 0;                    ///< baht, rounded to satang; the sum of the lines
+  double discount = 0;                  ///< baht, for those who pay early
+  OleDate due = {};
 };
 
 inline constexpr std::size_t kMostLines = 12;  ///< what a page has room for
 
-/// What stands for a field that was left empty.
-struct InvoiceDefaults {
-  bool may_lack_number = false;  ///< the office gives the invoice one
-  ZQ7Standard::Text net_days;    ///< as typed; empty for none
+/// The invoices of a table, and a line of text for each that has a mistake.
+struct InvoiceList {
+  std::vector<Invoice> invoices;
+  std::vector<std::string> mistakes;
+  std::set<Text> typed_numbers;  ///< also those of rows with a mistake
 };
 
-/// What is wrong with a row: the field, and the reason in UTF-8.
-class FieldError : public std::runtime_error {
- public:
-  FieldError(const char* field, const std::string& reason)
-      : std::runtime_error(reason), field_(field) {}
-
-  const char* Field() const noexcept { return field_; }
-
- private:
-  const char* field_;
-};
-
-/// Whether the first row of a table names the columns: it has no digit where an
-/// invoice has its date.
-bool IsHeader(const ZQ7Standard::StandardObject& standard,
-              const std::vector<ZQ7Standard::Text>& fields);
-
-/// Whether a row is a further line of the invoice above it: it begins with the
-/// barcode, and the fields before that are empty.
-bool IsFurtherLine(const std::vector<ZQ7Standard::Text>& fields);
-
-/// Reads an invoice with its first line from a row of typed fields: number, customer
-/// code, customer, date, condition type, delivery days, net days, discount percent,
-/// discount days, barcode, amount, and perhaps item, quantity and price, which must
-/// come to the amount, and a cost. Throws a `FieldError` for the first field that cannot
-/// be taken.
+/// Reads the invoices of a table: number, customer code, customer, date, condition type,
+/// delivery days, net days, discount percent, discount days, barcode, amount, and perhaps
+/// item, quantity and price, which must come to the amount, and a cost. The first row may
+/// name the columns: it has no digit where an invoice has its date. A row whose fields
+/// before the barcode are empty is a further line of the invoice above it. A mistake in one
+/// of its lines costs the whole invoice: a part of it has another amount.
 ///
-/// The library's readers take what they can from a text, as screens want it
-/// while a user types: "12x" is 12, "abc" is 0. An invoice must not be guessed,
-/// so here a field is looked at first and must be a date or a number as a whole.
-Invoice ReadInvoice(const ZQ7Standard::StandardObject& standard,
-                    const std::vector<ZQ7Standard::Text>& fields, const InvoiceDefaults& defaults);
+/// With the net days that an office has as default, they may be left out, and the number.
+InvoiceList ReadInvoices(const StandardObject& standard, std::span<const CsvRow> rows,
+                         const std::optional<Text>& default_net_days);
 
-/// Adds a further line to `invoice` from a row whose fields from the barcode on are
-/// those of `ReadInvoice`. Throws a `FieldError` in the same way.
-void ReadFurtherLine(const ZQ7Standard::StandardObject& standard,
-                     const std::vector<ZQ7Standard::Text>& fields, Invoice& invoice);
+/// The payment term in trade notation: "2.0/10, N/30 AID".
+Text TermOf(const StandardObject& standard, const Invoice& invoice, ZQ7ConditionOutputType type);
+
+/// Puts "," between the thousands of a decimal number: "-1234.5" gives "-1,234.5".
+Text GroupThousands(Text number);
+
+/// Writes an amount, 0 or more, to the satang: "1,234.50".
+Text FormatAmount(double amount);
+
+/// Puts one blank for each run of line breaks and other control characters, so that a
+/// typed text stays on its line and cannot steer the terminal.
+Text OneLine(TextView text);
 
 }  // namespace InvoiceDemo
 

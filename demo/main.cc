@@ -2,35 +2,32 @@
 // dates, the payment term, the amount in words, and what all of them come to. With
 // settings beside the data it counts the documents and logs them.
 
+#include <ZQ7Standard/GridValueListener.h>
+#include <ZQ7Standard/GridValueObject.h>
 #include <ZQ7Standard/StandardObject.h>
-#include <ZQ7Standard/Types.h>
+#include <stdlib.h>
 
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
+#include <cstdio>
 #include <exception>
-#include <fstream>
 #include <iostream>
+#include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <system_error>
 #include <vector>
 
-#include "csv.h"
-#include "drawer.h"
-#include "invoice_list.h"
-#include "issue.h"
+#include "csv_rows.h"
+#include "invoice.h"
 #include "office.h"
-#include "report.h"
-#include "terminal_text.h"
-#include "totals.h"
+#include "output.h"
 
 namespace InvoiceDemo {
 namespace {
-
-using ZQ7Standard::FromUtf8;
-using ZQ7Standard::StandardObject;
-using ZQ7Standard::Utf8;
 
 enum ExitStatus : int { kAllPrinted = 0, kSomeRowsBad = 1, kNotRun = 2 };
 
@@ -41,90 +38,7 @@ struct Options {
   std::string file;        ///< "-" is standard input
 };
 
-std::optional<std::string> ReadAll(std::istream& in) {
-  std::string bytes;
-  std::array<char, 65536> buffer;
-  do {
-    in.read(buffer.data(), buffer.size());
-    bytes.append(buffer.data(), static_cast<std::size_t>(in.gcount()));
-  } while (in);
-  if (in.bad() || !in.eof()) return std::nullopt;
-  return bytes;
-}
-
-std::optional<std::string> ReadFile(const std::string& name) {
-  if (name == "-") return ReadAll(std::cin);
-  std::ifstream file(name, std::ios::binary);
-  return ReadAll(file);
-}
-
-int Complain(const std::string& what) {
-  std::cerr << "invoice: " << what << '\n';
-  return kNotRun;
-}
-
-Outlets MakeOutlets(const Options& options) {
-  Outlets outlets;
-  if (options.file != "-") outlets.office = Office::Beside(options.file);
-  if (!options.pdf_folder.empty()) outlets.pdf = std::make_unique<PdfFolder>(options.pdf_folder);
-  return outlets;
-}
-
-void LogRead(Office& office, const std::string& name, const InvoiceList& list) {
-  const std::string counts = ": " + std::to_string(list.invoices.size()) + " invoices, " +
-                             std::to_string(list.mistakes.size()) + " mistakes";
-  office.Log(u"Read", u"OK", FromUtf8(name + counts));
-}
-
-/// Who sends the invoices, and on what paper.
-void PrintSender(const Company& sender) {
-  if (!sender.name.empty()) std::cout << "  " << Utf8(OneLine(sender.name)) << '\n';
-  if (sender.logo) {
-    const auto& [file, width, height] = *sender.logo;
-    std::cout << "  " << file.filename().string() << ' ' << width << " x " << height << " pixels\n";
-  }
-  std::cout << '\n';
-}
-
-/// Issues and prints the invoices of a file that was read to `bytes`.
-int Process(const Options& options, const std::string& shown_name, const std::string& bytes) {
-  const StandardObject standard;
-  const Outlets outlets = MakeOutlets(options);
-  InvoiceDefaults defaults;
-  if (outlets.office) defaults = {true, outlets.office->DefaultNetDays()};
-  InvoiceList list = ReadInvoices(standard, ReadCsv(FromUtf8(bytes)), defaults);
-  if (outlets.office) LogRead(*outlets.office, shown_name, list);
-
-  Totals totals;
-  if (options.verbose) totals.Follow(std::cerr);
-  const std::string failure = IssueAll(standard, outlets, list, totals);
-  if (outlets.office && !list.invoices.empty()) PrintSender(outlets.office->Sender());
-  std::cout << Utf8(Report(standard, list.invoices, totals));
-  const bool printed = std::cout.flush().good();
-  for (const std::string& mistake : list.mistakes) {
-    std::cerr << shown_name << ", " << mistake << '\n';
-  }
-  if (!printed) return Complain("cannot write the invoices to standard output");
-  if (!failure.empty()) return Complain(failure);
-  if (options.drawer) std::cout << "  Drawer      " << KickDrawer() << std::endl;
-  return list.mistakes.empty() ? kAllPrinted : kSomeRowsBad;
-}
-
-int Run(const Options& options) {
-  const std::string shown_name = options.file == "-" ? "standard input" : options.file;
-  errno = 0;
-  const auto bytes = ReadFile(options.file);
-  if (!bytes) {
-    return Complain("cannot read " + shown_name + ": " + std::generic_category().message(errno));
-  }
-  try {
-    return Process(options, shown_name, *bytes);
-  } catch (const std::exception& error) {
-    return Complain(error.what());
-  }
-}
-
-/// Nothing when the arguments are not those of the usage.
+/// Returns nullopt if the arguments are not those of the usage.
 std::optional<Options> ReadOptions(const std::vector<std::string>& arguments) {
   Options options;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -145,16 +59,116 @@ std::optional<Options> ReadOptions(const std::vector<std::string>& arguments) {
   return options;
 }
 
+/// Writes what the invoices in a grid come to after each of them.
+class RunningTotal final : public GridValueListener {
+ public:
+  explicit RunningTotal(const GridValueObject& grid) : grid_(grid) {}
+
+  void CellDataChange(std::int32_t Row, std::int32_t Col) override {
+    if (Col != kAmounts) return;
+    std::cerr << "invoice " << Row + 1
+              << ", running total: " << Utf8(FormatAmount(grid_.SumCol(kAmounts))) << '\n';
+  }
+
+ private:
+  const GridValueObject& grid_;
+};
+
+std::string ReadFile(const std::string& name, const std::string& shown_name) {
+  std::FILE* const file = name == "-" ? stdin : std::fopen(name.c_str(), "rb");
+  std::string bytes;
+  std::array<char, 65536> buffer;
+  std::size_t count = 1;
+  while (file != nullptr && count > 0) {
+    count = std::fread(buffer.data(), 1, buffer.size(), file);
+    bytes.append(buffer.data(), count);
+  }
+  if (file == nullptr || std::ferror(file) != 0) {
+    throw std::system_error(errno, std::generic_category(), "cannot read " + shown_name);
+  }
+  std::fclose(file);
+  return bytes;
+}
+
+/// Assigns each invoice a number if it has none, makes its PDF file, logs it and adds it to
+/// the totals. Drops the invoices from the first that fails on, and returns the failure.
+std::string IssueAll(const StandardObject& standard, const Company& sender,
+                     const std::string& pdf_folder, std::optional<Office>& office,
+                     InvoiceList& list, GridValueObject& totals) {
+  std::int32_t row = 0;
+  for (auto invoice = list.invoices.begin(); invoice != list.invoices.end(); ++invoice, ++row) {
+    Text& number = invoice->number;
+    try {
+      if (number.empty()) number = office.value().TakeNumber(standard, list.typed_numbers);
+      if (!pdf_folder.empty()) MakePdf(standard, sender, *invoice, pdf_folder);
+      if (office) {
+        office->Log(u"Document",
+                    number + u" " + invoice->customer_code + u" " + FormatAmount(invoice->amount));
+      }
+    } catch (const std::exception& error) {
+      const std::string failed = number.empty() ? "" : Utf8(OneLine(number)) + ": ";
+      list.invoices.erase(invoice, list.invoices.end());
+      return failed + error.what();
+    }
+    totals.Setvalue(row, kAmounts, invoice->amount);
+    totals.Setvalue(row, kDiscounts, invoice->discount);
+  }
+  return {};
+}
+
+/// Who sends the invoices, and on what paper.
+void PrintSender(const Company& sender) {
+  if (!sender.name.empty()) std::cout << "  " << Utf8(OneLine(sender.name)) << '\n';
+  if (!sender.logo.empty()) {
+    std::cout << "  " << sender.logo.filename().string() << ' ' << sender.logo_width << " x "
+              << sender.logo_height << " pixels\n";
+  }
+  std::cout << '\n';
+}
+
+ExitStatus Run(const Options& options) {
+  const std::string shown_name = options.file == "-" ? "standard input" : options.file;
+  const std::vector<CsvRow> rows = ReadCsv(ReadFile(options.file, shown_name));
+  std::optional<Office> office;
+  if (options.file != "-") office = Office::Beside(options.file);
+
+  const StandardObject standard;
+  const Company sender = office ? office->Sender() : Company();
+  InvoiceList list = ReadInvoices(standard, rows, sender.default_net_days);
+  const auto& [invoices, mistakes, typed_numbers] = list;
+  if (office) {
+    office->Log(u"Read", FromUtf8(shown_name + ": " + std::to_string(invoices.size()) +
+                                  " invoices, " + std::to_string(mistakes.size()) + " mistakes"));
+  }
+  GridValueObject totals;
+  totals.SetCols(kTotalsColumnCount);
+  if (options.verbose) totals.AddListener(std::make_shared<RunningTotal>(totals));
+  const std::string failure = IssueAll(standard, sender, options.pdf_folder, office, list, totals);
+
+  if (office && !invoices.empty()) PrintSender(sender);
+  std::cout << Utf8(Report(standard, invoices, totals)) << std::flush;
+  const bool printed = std::cout.good();
+  for (const std::string& mistake : mistakes) std::cerr << shown_name << ", " << mistake << '\n';
+  if (!failure.empty()) throw std::runtime_error(failure);
+  if (!printed) throw std::runtime_error("cannot write the invoices to standard output");
+  if (options.drawer) std::cout << "  Drawer      " << KickDrawer() << std::endl;
+  return mistakes.empty() ? kAllPrinted : kSomeRowsBad;
+}
+
 }  // namespace
 }  // namespace InvoiceDemo
 
 int main(int argc, char** argv) {
-  // Without buffers shared with C, a failed read of standard input is told from its end.
-  std::ios::sync_with_stdio(false);
   const auto options = InvoiceDemo::ReadOptions({argv + 1, argv + argc});
   if (!options) {
     std::cerr << "usage: invoice [--verbose] [--drawer] [--pdf FOLDER] FILE | -\n";
     return InvoiceDemo::kNotRun;
   }
-  return InvoiceDemo::Run(*options);
+  setenv("CUPS_SERVER", "/none", 1);  // pages become files, whatever printers there are
+  try {
+    return InvoiceDemo::Run(*options);
+  } catch (const std::exception& error) {
+    std::cerr << "invoice: " << error.what() << '\n';
+    return InvoiceDemo::kNotRun;
+  }
 }

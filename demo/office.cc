@@ -1,23 +1,24 @@
 #include "office.h"
 
 #include <ZQ7Standard/CImageInfo.h>
+#include <ZQ7Standard/PeripheralObject.h>
 #include <ZQ7Standard/platform/path_text.h>
+#include <ZQ7Standard/platform/serial_port.h>
+#include <fcntl.h>
+#include <stdlib.h>
+#include <unistd.h>
 
+#include <array>
+#include <cerrno>
+#include <cstddef>
 #include <iostream>
+#include <span>
 #include <stdexcept>
-
-#include "next_number.h"
-#include "terminal_text.h"
+#include <system_error>
+#include <vector>
 
 namespace InvoiceDemo {
 namespace {
-
-using ZQ7Standard::CImageInfo;
-using ZQ7Standard::PathText;
-using ZQ7Standard::StandardObject;
-using ZQ7Standard::Text;
-using ZQ7Standard::TextView;
-using ZQ7Standard::Utf8;
 
 constexpr auto kSettingsFile = "settings.txt";
 constexpr auto kLogFile = "invoices.log";
@@ -29,71 +30,100 @@ constexpr TextView kRegistryKey = u"Software\\ZQ7Standard\\Invoice\\Last numbers
 
 }  // namespace
 
-std::unique_ptr<Office> Office::Beside(const std::filesystem::path& data) {
+std::optional<Office> Office::Beside(const std::filesystem::path& data) {
   const std::filesystem::path folder = std::filesystem::absolute(data).parent_path();
-  if (!std::filesystem::exists(folder / kSettingsFile)) return nullptr;
-  return std::unique_ptr<Office>(new Office(folder));
+  if (!std::filesystem::exists(folder / kSettingsFile)) return std::nullopt;
+  return Office(folder);
 }
 
 Office::Office(const std::filesystem::path& folder)
     : folder_(folder),
-      settings_(PathText(folder / kSettingsFile)),
-      remark_(std::make_shared<Remark>()),
-      files_({.message_box = remark_}) {
+      messages_(std::make_shared<RecordingMessageBox>()),
+      files_({.message_box = messages_}) {
   files_.SetDisableMsgLevel(1);  // shows messages
   company_ = {.name = Setting(u"COMPANY"),
               .english_name = Setting(u"COMPANY EN"),
               .address = Setting(u"ADDRESS"),
               .tax_id = Setting(u"TAX ID"),
               .code_word = Setting(u"CODE WORD"),
-              .logo = ReadLogo()};
-  default_net_days_ = Setting(u"DEFAULT TERM");
+              .default_net_days = Setting(u"DEFAULT TERM")};
+  ReadLogo();
+}
+
+void Office::ThrowIfFailed(const std::string& what, const std::string& file) {
+  const std::vector<Message> messages = messages_->Take();
+  if (messages.empty()) return;
+  throw std::runtime_error("cannot " + what + ' ' + (folder_ / file).string() + ": " +
+                           Utf8(OneLine(messages.back().text)));
 }
 
 Text Office::Setting(TextView key) {
-  Text value = files_.GetValue(settings_, key);
-  remark_->ThrowIfAny("cannot read " + (folder_ / kSettingsFile).string());
+  Text value = files_.GetValue(PathText(folder_ / kSettingsFile), key);
+  ThrowIfFailed("read", kSettingsFile);
   return value;
 }
 
 // `ReadImageInfo` makes a file that is not there.
-std::optional<Logo> Office::ReadLogo() {
+void Office::ReadLogo() {
   const Text name = Setting(u"LOGO");
-  if (name.empty()) return std::nullopt;
-  const std::filesystem::path file = folder_ / Utf8(name);
-  if (!std::filesystem::is_regular_file(file)) {
-    throw std::runtime_error("there is no logo " + file.string());
-  }
+  if (name.empty()) return;
+  company_.logo = folder_ / Utf8(name);
   CImageInfo info;
-  info.ReadImageInfo(PathText(file));
-  if (info.ImageType() == ZQ7Standard::itUNKNOWN) {
-    throw std::runtime_error("the logo is no picture: " + file.string());
+  if (std::filesystem::is_regular_file(company_.logo)) info.ReadImageInfo(PathText(company_.logo));
+  if (info.ImageType() == itUNKNOWN) {
+    throw std::runtime_error("there is no logo, or no picture: " + company_.logo.string());
   }
-  return Logo{.file = file, .width = info.Width(), .height = info.Height()};
+  company_.logo_width = info.Width();
+  company_.logo_height = info.Height();
 }
 
 Text Office::TakeNumber(const StandardObject& standard, const std::set<Text>& taken) {
   Text last = Setting(kLastNumber);
   if (last.empty()) {
-    last = registry_.GetKeyValueString(ZQ7Standard::HKEY_CURRENT_USER, kRegistryKey, company_.name);
+    last = registry_.GetKeyValueString(HKEY_CURRENT_USER, kRegistryKey, company_.name);
   }
   Text number = last.empty() ? Text(kFirstNumber) : NextNumber(standard, last);
   while (taken.contains(number)) number = NextNumber(standard, number);
   if (number.empty()) {
     throw std::runtime_error("no number follows the last one, \"" + Utf8(OneLine(last)) + '"');
   }
-  files_.Setvalue(settings_, kLastNumber, number);
-  remark_->ThrowIfAny("cannot write " + (folder_ / kSettingsFile).string());
-  if (registry_.UpdateKeyValueString(ZQ7Standard::HKEY_CURRENT_USER, kRegistryKey, company_.name,
-                                     number)) {
+  files_.Setvalue(PathText(folder_ / kSettingsFile), kLastNumber, number);
+  ThrowIfFailed("write", kSettingsFile);
+  if (registry_.UpdateKeyValueString(HKEY_CURRENT_USER, kRegistryKey, company_.name, number)) {
     std::cerr << "invoice: the registry does not take the last number, " << Utf8(number) << '\n';
   }
   return number;
 }
 
-void Office::Log(TextView type, TextView success, TextView description) {
-  files_.AddLog(PathText(folder_ / kLogFile), u"invoice", type, success, OneLine(description));
-  remark_->ThrowIfAny("cannot write " + (folder_ / kLogFile).string());
+void Office::Log(TextView type, TextView description) {
+  files_.AddLog(PathText(folder_ / kLogFile), u"invoice", type, u"OK", OneLine(description));
+  ThrowIfFailed("write", kLogFile);
+}
+
+Text NextNumber(const StandardObject& standard, TextView last) {
+  constexpr std::size_t kMostCountedDigits = 14;  // `IncreaseString` writes 15 of them
+  const TextView digits = last.substr(last.find_last_not_of(u"0123456789") + 1);
+  if (digits.size() > kMostCountedDigits || standard.StrVal(digits) == 0) return {};
+  return standard.IncreaseString(last);
+}
+
+std::string KickDrawer() {
+  constexpr std::int16_t kPort = 1;
+  constexpr TextView kKick(u"\x1Bp\0\x19\u0E5A", 5);  // the bytes 27 112 0 25 250
+  const int drawer = posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK);
+  if (drawer < 0 || grantpt(drawer) != 0 || unlockpt(drawer) != 0) {
+    throw std::system_error(errno, std::generic_category(), "no pseudo-terminal");
+  }
+  PeripheralObject().OpenDraw(SystemSerialPort({{kPort, ptsname(drawer)}}), kKick, kPort);
+  std::array<unsigned char, 64> bytes{};
+  const ssize_t count = read(drawer, bytes.data(), bytes.size());
+  close(drawer);
+  if (count <= 0) throw std::runtime_error("the drawer stays shut");
+  std::string decimals = std::to_string(bytes.front());
+  for (const auto byte : std::span(bytes).subspan(1, static_cast<std::size_t>(count) - 1)) {
+    decimals += ' ' + std::to_string(byte);
+  }
+  return decimals;
 }
 
 }  // namespace InvoiceDemo

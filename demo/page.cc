@@ -1,44 +1,38 @@
-#include "page.h"
-
 #include <ZQ7Standard/BahtStringObject.h>
-#include <ZQ7Standard/Types.h>
+#include <ZQ7Standard/PrintObject.h>
+#include <ZQ7Standard/RunTimeError.h>
+#include <ZQ7Standard/platform/path_text.h>
 #include <ZQ7Standard/platform/print_picture.h>
+#include <ZQ7Standard/platform/printers.h>
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 
-#include "amount_text.h"
-#include "terminal_text.h"
-#include "totals.h"
+#include "output.h"
 
 namespace InvoiceDemo {
 namespace {
 
+namespace fs = std::filesystem;
 using namespace std::literals;
-using ZQ7Standard::BahtStringObject;
-using ZQ7Standard::FromUtf8;
-using ZQ7Standard::OleDate;
-using ZQ7Standard::PrintObject;
-using ZQ7Standard::PrintPicture;
-using ZQ7Standard::StandardObject;
-using ZQ7Standard::Text;
-using ZQ7Standard::TextView;
+
+constexpr std::int16_t kA4 = 9;
 
 // All places and lengths are millimetres.
-constexpr std::int32_t kLeft = 15;
-constexpr std::int32_t kRight = 195;
-constexpr float kHair = 0.2F;
-constexpr float kBold = 0.6F;
+constexpr int kLeft = 15;
+constexpr int kRight = 195;
+constexpr int kSignatureLength = 65;
+constexpr double kHair = 0.2;
+constexpr double kBold = 0.6;
 
-constexpr TextView kFamily = u"Laksaman";
-
-enum Alignment : std::int32_t { kStart, kCentre, kEnd };
+enum Alignment : int { kStart, kCentre, kEnd };
 
 struct Style {
   double size = 12;  ///< points
@@ -60,116 +54,18 @@ constexpr auto kGreyDot =
 class Ink final : public PrintPicture {
  public:
   explicit Ink(std::string_view dot) : dot_(dot) {}
-
-  float Width() override { return kHair; }
-  float Height() override { return kHair; }
+  float Width() override { return 1; }
+  float Height() override { return 1; }
   std::string_view Picture() override { return dot_; }
 
  private:
   std::string_view dot_;
 };
 
-/// The page, with what a form needs besides lines of text.
-class Sheet {
- public:
-  explicit Sheet(PrintObject& printer) : printer_(printer) {}
-
-  /// One line of text, cut to `width` unless that is 0. The font counts for the
-  /// cut only when it is set before: an empty text does that.
-  void Write(TextView text, std::int32_t x, std::int32_t y, Alignment alignment = kStart,
-             Style style = {}, double width = 0) {
-    if (width > 0) Put({}, x, y, alignment, style, 0);
-    Put(OneLine(text), x, y, alignment, style, width);
-  }
-
-  void RuleAcross(std::int32_t x, std::int32_t y, std::int32_t length, float thickness = kHair) {
-    printer_.PrintGraphicObject(black_, x, y, static_cast<float>(length), thickness);
-  }
-  void RuleDown(std::int32_t x, std::int32_t y, std::int32_t length) {
-    printer_.PrintGraphicObject(black_, x, y, kHair, static_cast<float>(length));
-  }
-  void Frame(std::int32_t x, std::int32_t y, std::int32_t width, std::int32_t height) {
-    RuleAcross(x, y, width);
-    RuleAcross(x, y + height, width);
-    RuleDown(x, y, height);
-    RuleDown(x + width, y, height);
-  }
-  void Shade(std::int32_t x, std::int32_t y, std::int32_t width, std::int32_t height) {
-    printer_.PrintGraphicObject(grey_, x, y, static_cast<float>(width), static_cast<float>(height));
-  }
-  void Picture(const std::filesystem::path& file, std::int32_t x, std::int32_t y,
-               std::int32_t width, std::int32_t height) {
-    printer_.PrintGraphicObject(ZQ7Standard::PictureFromFile(FromUtf8(file.string())), x, y,
-                                static_cast<float>(width), static_cast<float>(height));
-  }
-
- private:
-  void Put(TextView text, std::int32_t x, std::int32_t y, Alignment alignment, Style style,
-           double width) {
-    printer_.PrintGraphicText(text, x, y, 1, alignment, width, kFamily, style.size, style.bold);
-  }
-
-  PrintObject& printer_;
-  std::shared_ptr<PrintPicture> black_ = std::make_shared<Ink>(kBlackDot);
-  std::shared_ptr<PrintPicture> grey_ = std::make_shared<Ink>(kGreyDot);
-};
-
-// --- The parts of the page, from the top ---
-
-void DrawSender(Sheet& sheet, const Company& sender) {
-  constexpr std::int32_t kLogoHeight = 24;
-  std::int32_t x = kLeft;
-  if (sender.logo) {
-    const std::int32_t width = kLogoHeight * sender.logo->width / sender.logo->height;
-    sheet.Picture(sender.logo->file, kLeft, 12, width, kLogoHeight);
-    x += width + 5;
-  }
-  sheet.Write(sender.name, x, 11, kStart, {.size = 17, .bold = true}, kRight - 50 - x);
-  sheet.Write(sender.english_name, x, 19, kStart, {.size = 12}, kRight - 50 - x);
-  sheet.Write(sender.address, x, 25, kStart, kSmall, kRight - x);
-  if (!sender.tax_id.empty()) {
-    sheet.Write(u"เลขประจำตัวผู้เสียภาษี " + sender.tax_id, x, 31, kStart, kSmall, kRight - x);
-  }
-  sheet.Write(u"ใบแจ้งหนี้", kRight, 10, kEnd, {.size = 22, .bold = true});
-  sheet.Write(u"INVOICE", kRight, 19, kEnd, {.size = 14, .bold = true});
-  sheet.RuleAcross(kLeft, 39, kRight - kLeft, kBold);
-}
-
-/// A date of day, month and year with one digit in each box, from `x` on.
-void DrawDateBoxes(Sheet& sheet, const StandardObject& standard, OleDate date, std::int32_t x,
-                   std::int32_t y) {
-  constexpr std::int32_t kWidth = 5;
-  constexpr std::int32_t kHeight = 7;
-  constexpr std::int32_t kGap = 2;  // behind day and month
-  int box = 0;
-  for (const char16_t digit : standard.FormatTDate2(date, ZQ7Standard::ZQ7D_D_M_M_B_B_B_B)) {
-    if (digit == u' ') continue;
-    sheet.Frame(x, y, kWidth, kHeight);
-    sheet.Write(TextView(&digit, 1), x + 1, y - 1, kStart, {.size = 14});
-    x += kWidth + (box == 1 || box == 3 ? kGap : 0);
-    ++box;
-  }
-}
-
-void DrawCustomer(Sheet& sheet, const StandardObject& standard, const Invoice& invoice,
-                  OleDate due) {
-  constexpr std::int32_t kLabels = 120;
-  sheet.Write(u"ลูกค้า / Customer", kLeft, 43, kStart, kSmall);
-  sheet.Write(invoice.customer, kLeft, 49, kStart, {.size = 15, .bold = true}, 105);
-  sheet.Write(u"รหัสลูกค้า / Code  " + invoice.customer_code, kLeft, 58, kStart, {}, 105);
-
-  sheet.Write(u"เลขที่ / No.", kLabels, 43);
-  sheet.Write(invoice.number, kRight, 43, kEnd, kStrong, kRight - kLabels - 20);
-  sheet.Write(u"วันที่ / Date", kLabels, 51);
-  DrawDateBoxes(sheet, standard, invoice.date, kRight - 44, 51);
-  sheet.Write(u"ครบกำหนด / Due", kLabels, 60);
-  sheet.Write(standard.FormatThai(due), kRight, 60, kEnd);
-}
-
 struct TableColumn {
   TextView thai;
   TextView english;
-  std::int32_t x;  ///< where its texts start, are centred or end
+  int x;  ///< where its texts start, are centred or end
   Alignment alignment;
 };
 
@@ -182,160 +78,224 @@ constexpr std::array<TableColumn, 6> kTable = {{
     {u"จำนวนเงิน (บาท)", u"Amount", 193, kEnd},
 }};
 
-constexpr std::array<std::int32_t, 7> kTableRules = {kLeft, 26, 54, 108, 128, 160, kRight};
-constexpr std::int32_t kTableTop = 72;
-constexpr std::int32_t kHeadHeight = 14;
-constexpr std::int32_t kRowHeight = 8;
-constexpr std::int32_t kTableBottom =
-    kTableTop + kHeadHeight + static_cast<std::int32_t>(kMostLines) * kRowHeight + 1;
-constexpr Style kTableHead = {.size = 11, .bold = true};
-constexpr double kItemWidth = 51;
-constexpr Style kCostCode = {.size = 9};
-constexpr double kCostLetterWidth = 1.8;
+constexpr std::array kTableRules = {kLeft, 26, 54, 108, 128, 160, kRight};
+constexpr int kTableTop = 72;
+constexpr int kHeadHeight = 14;
+constexpr int kRowHeight = 8;
+constexpr int kTableBottom =
+    kTableTop + kHeadHeight + static_cast<int>(kMostLines) * kRowHeight + 1;
 
-/// Numbers are never cut: a long one is written smaller, on the same base line.
-void WriteNumber(Sheet& sheet, const TableColumn& column, TextView number, std::int32_t y,
-                 bool bold = false) {
-  constexpr std::size_t kFitting = 14;
-  const bool is_long = number.size() > kFitting;
-  sheet.Write(number, column.x, is_long ? y + 1 : y, column.alignment,
-              {.size = is_long ? 8.5 : 12.0, .bold = bold});
-}
+/// An invoice on its page.
+class Page {
+ public:
+  Page(PrintObject& printer, const StandardObject& standard, const Company& sender,
+       const Invoice& invoice)
+      : printer_(printer), standard_(standard), sender_(sender), invoice_(invoice) {}
 
-Text Number(const StandardObject& standard, double value) {
-  return GroupThousands(standard.d2Str(value));
-}
-
-/// With the satang, and with more decimals where the price has them.
-Text Price(const StandardObject& standard, double price) {
-  return standard.FixNumber(price, 2) == price ? FormatAmount(price) : Number(standard, price);
-}
-
-void DrawTableHead(Sheet& sheet) {
-  sheet.Shade(kLeft, kTableTop, kRight - kLeft, kHeadHeight);
-  for (const TableColumn& column : kTable) {
-    sheet.Write(column.thai, column.x, kTableTop, column.alignment, kTableHead);
-    sheet.Write(column.english, column.x, kTableTop + 7, column.alignment, kSmall);
+  void Draw() {
+    DrawSender();
+    DrawCustomer();
+    DrawTableHead();
+    for (std::size_t i = 0; i < invoice_.lines.size(); ++i) DrawLine(i);
+    DrawTotals();
+    DrawWords();
+    DrawPayment();
+    DrawSignature(kLeft, u"ผู้รับใบแจ้งหนี้ / Received by");
+    DrawSignature(kRight - kSignatureLength, u"ผู้มีอำนาจลงนาม / Authorised signature");
   }
-  sheet.RuleAcross(kLeft, kTableTop, kRight - kLeft);
-  sheet.RuleAcross(kLeft, kTableTop + kHeadHeight, kRight - kLeft);
-  sheet.RuleAcross(kLeft, kTableBottom, kRight - kLeft);
-  for (const std::int32_t x : kTableRules) sheet.RuleDown(x, kTableTop, kTableBottom - kTableTop);
-}
 
-/// What one of a line cost, in the letters that staff can read.
-Text CostCode(const StandardObject& standard, const Company& sender, const InvoiceLine& line) {
-  if (!line.cost || sender.code_word.empty()) return {};
-  return standard.FormatCostCode(*line.cost, sender.code_word);
-}
-
-/// The item, and its cost code at the end of the column.
-void WriteItem(Sheet& sheet, TextView item, TextView cost_code, std::int32_t y) {
-  const double code_width = kCostLetterWidth * static_cast<double>(cost_code.size());
-  sheet.Write(item, kTable[2].x, y, kStart, {}, kItemWidth - code_width);
-  sheet.Write(cost_code, kTableRules[3] - 1, y + 1, kEnd, kCostCode);
-}
-
-void DrawTable(Sheet& sheet, const StandardObject& standard, const Company& sender,
-               const Invoice& invoice) {
-  DrawTableHead(sheet);
-  std::int32_t y = kTableTop + kHeadHeight + 1;
-  for (std::size_t i = 0; i < invoice.lines.size(); ++i, y += kRowHeight) {
-    const InvoiceLine& line = invoice.lines[i];
-    WriteNumber(sheet, kTable[0], FromUtf8(std::to_string(i + 1)), y);
-    sheet.Write(line.barcode, kTable[1].x, y + 1, kStart, kSmall);
-    WriteItem(sheet, line.item.empty() ? u"สินค้าตามรหัส" : line.item,
-              CostCode(standard, sender, line), y);
-    WriteNumber(sheet, kTable[3], Number(standard, line.quantity), y);
-    WriteNumber(sheet, kTable[4], Price(standard, line.price), y);
-    WriteNumber(sheet, kTable[5], FormatAmount(line.amount), y);
+ private:
+  /// One line of text, cut to `width` unless that is 0. The font counts for the
+  /// cut only when it is set before: an empty text does that.
+  void Write(TextView text, int x, int y, Alignment alignment = kStart, Style style = {},
+             double width = 0) {
+    if (width > 0) Write({}, x, y, alignment, style);
+    printer_.PrintGraphicText(OneLine(text), x, y, 1, alignment, width, u"Laksaman", style.size,
+                              style.bold);
   }
-}
+  void DrawPicture(const std::shared_ptr<PrintPicture>& picture, int x, int y, double width,
+                   double height) {
+    printer_.PrintGraphicObject(picture, x, y, static_cast<float>(width),
+                                static_cast<float>(height));
+  }
+  void Shade(int y, int height) { DrawPicture(grey_, kLeft, y, kRight - kLeft, height); }
+  void RuleAcross(int x, int y, int length, double thickness = kHair) {
+    DrawPicture(black_, x, y, length, thickness);
+  }
+  void RuleDown(int x, int y, int length) { DrawPicture(black_, x, y, kHair, length); }
 
-void DrawTotals(Sheet& sheet, const StandardObject& standard, const Invoice& invoice) {
-  std::int32_t y = kTableBottom + 1;
-  sheet.Write(u"รวมทั้งสิ้น / Total", kTable[4].x, y, kEnd, kStrong);
-  WriteNumber(sheet, kTable[5], FormatAmount(invoice.amount), y, true);
-  sheet.RuleAcross(kTableRules[5], y + 8, kRight - kTableRules[5], kBold);
-  const double discount = DiscountOf(standard, invoice);
-  if (discount == 0) return;
-  y += 9;
-  const Text days = Number(standard, invoice.discount_days);
-  sheet.Write(u"ส่วนลดเมื่อชำระภายใน " + days + u" วัน / Discount if paid within " + days + u" days",
-              kTable[4].x, y, kEnd, kSmall);
-  sheet.Write(FormatAmount(discount), kTable[5].x, y, kEnd, kSmall);
-}
+  void DrawSender() {
+    constexpr int kLogoHeight = 24;
+    int x = kLeft;
+    if (!sender_.logo.empty()) {
+      const int width = kLogoHeight * sender_.logo_width / sender_.logo_height;
+      DrawPicture(PictureFromFile(PathText(sender_.logo)), kLeft, 12, width, kLogoHeight);
+      x += width + 5;
+    }
+    Write(sender_.name, x, 11, kStart, {.size = 17, .bold = true}, kRight - 50 - x);
+    Write(sender_.english_name, x, 19, kStart, {}, kRight - 50 - x);
+    Write(sender_.address, x, 25, kStart, kSmall, kRight - x);
+    if (!sender_.tax_id.empty()) {
+      Write(u"เลขประจำตัวผู้เสียภาษี " + sender_.tax_id, x, 31, kStart, kSmall, kRight - x);
+    }
+    Write(u"ใบแจ้งหนี้", kRight, 10, kEnd, {.size = 22, .bold = true});
+    Write(u"INVOICE", kRight, 19, kEnd, {.size = 14, .bold = true});
+    RuleAcross(kLeft, 39, kRight - kLeft, kBold);
+  }
 
-struct Halves {
-  Text first;
-  Text second;
+  void DrawCustomer() {
+    constexpr int kLabels = 120;
+    Write(u"ลูกค้า / Customer", kLeft, 43, kStart, kSmall);
+    Write(invoice_.customer, kLeft, 49, kStart, {.size = 15, .bold = true}, 105);
+    Write(u"รหัสลูกค้า / Code  " + invoice_.customer_code, kLeft, 58, kStart, {}, 105);
+
+    Write(u"เลขที่ / No.", kLabels, 43);
+    Write(invoice_.number, kRight, 43, kEnd, kStrong, kRight - kLabels - 20);
+    Write(u"วันที่ / Date", kLabels, 51);
+    DrawDateBoxes(invoice_.date, kRight - 44, 51);
+    Write(u"ครบกำหนด / Due", kLabels, 60);
+    Write(standard_.FormatThai(invoice_.due), kRight, 60, kEnd);
+  }
+
+  /// A date of day, month and year with one digit in each box, from `x` on.
+  void DrawDateBoxes(OleDate date, int x, int y) {
+    constexpr int kWidth = 5;
+    constexpr int kHeight = 7;
+    constexpr int kGap = 2;  // after day and month
+    Text digits = standard_.FormatTDate2(date, ZQ7D_D_M_M_B_B_B_B);
+    std::erase(digits, u' ');
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+      for (const int edge : {y, y + kHeight}) RuleAcross(x, edge, kWidth);
+      for (const int edge : {x, x + kWidth}) RuleDown(edge, y, kHeight);
+      Write(digits.substr(i, 1), x + 1, y - 1, kStart, {.size = 14});
+      x += kWidth + (i == 1 || i == 3 ? kGap : 0);
+    }
+  }
+
+  void DrawTableHead() {
+    Shade(kTableTop, kHeadHeight);
+    for (const TableColumn& column : kTable) {
+      Write(column.thai, column.x, kTableTop, column.alignment, {.size = 11, .bold = true});
+      Write(column.english, column.x, kTableTop + 7, column.alignment, kSmall);
+    }
+    for (const int y : {kTableTop, kTableTop + kHeadHeight, kTableBottom}) {
+      RuleAcross(kLeft, y, kRight - kLeft);
+    }
+    for (const int x : kTableRules) RuleDown(x, kTableTop, kTableBottom - kTableTop);
+  }
+
+  /// A line of the table. What one of it cost stands at the end of the item, in the letters
+  /// that staff can read.
+  void DrawLine(std::size_t index) {
+    constexpr double kItemWidth = 51;
+    constexpr double kCostLetterWidth = 1.8;
+    const InvoiceLine& line = invoice_.lines[index];
+    const int y = kTableTop + kHeadHeight + 1 + static_cast<int>(index) * kRowHeight;
+    Text cost;
+    if (line.cost && !sender_.code_word.empty()) {
+      cost = standard_.FormatCostCode(*line.cost, sender_.code_word);
+    }
+    const double cost_width = kCostLetterWidth * static_cast<double>(cost.size());
+    // With the satang, and with more decimals where the price has them.
+    const bool whole_satang = standard_.FixNumber(line.price, 2) == line.price;
+    WriteNumber(kTable[0], FromUtf8(std::to_string(index + 1)), y);
+    Write(line.barcode, kTable[1].x, y + 1, kStart, kSmall);
+    Write(line.item.empty() ? u"สินค้าตามรหัส" : line.item, kTable[2].x, y, kStart, {},
+          kItemWidth - cost_width);
+    Write(cost, kTableRules[3] - 1, y + 1, kEnd, {.size = 9});
+    WriteNumber(kTable[3], Number(line.quantity), y);
+    WriteNumber(kTable[4], whole_satang ? FormatAmount(line.price) : Number(line.price), y);
+    WriteNumber(kTable[5], FormatAmount(line.amount), y);
+  }
+
+  Text Number(double value) const { return GroupThousands(standard_.d2Str(value)); }
+
+  /// Numbers are never cut: a long one is written smaller, on the same base line.
+  void WriteNumber(const TableColumn& column, TextView number, int y, bool bold = false) {
+    constexpr std::size_t kFitting = 14;
+    const bool is_long = number.size() > kFitting;
+    Write(number, column.x, is_long ? y + 1 : y, column.alignment,
+          {.size = is_long ? 8.5 : 12.0, .bold = bold});
+  }
+
+  void DrawTotals() {
+    constexpr int kTop = kTableBottom + 1;
+    Write(u"รวมทั้งสิ้น / Total", kTable[4].x, kTop, kEnd, kStrong);
+    WriteNumber(kTable[5], FormatAmount(invoice_.amount), kTop, true);
+    RuleAcross(kTableRules[5], kTop + 8, kRight - kTableRules[5], kBold);
+    if (invoice_.discount == 0) return;
+    const Text days = Number(invoice_.discount_days);
+    Write(u"ส่วนลดเมื่อชำระภายใน " + days + u" วัน / Discount if paid within " + days + u" days",
+          kTable[4].x, kTop + 9, kEnd, kSmall);
+    Write(FormatAmount(invoice_.discount), kTable[5].x, kTop + 9, kEnd, kSmall);
+  }
+
+  /// The amount in words: long Thai ones smaller, long English ones on two lines.
+  void DrawWords() {
+    constexpr int kTop = kTableBottom + 19;
+    constexpr int kMiddle = (kLeft + kRight) / 2;
+    constexpr double kThaiFitting = 60;
+    constexpr std::size_t kEnglishFitting = 84;
+    constexpr Style kEnglish = {.size = 10.5};
+    BahtStringObject baht;
+    const Text thai = u"(" + baht.BahtString(invoice_.amount) + u")";
+    const Text english = baht.BahtString(invoice_.amount, false, true);
+    const double shrinkage = std::min(1.0, kThaiFitting / TerminalWidth(thai));
+    Shade(kTop, 21);
+    Write(thai, kMiddle, kTop + 1, kCentre, {.size = 14 * shrinkage, .bold = true});
+    const bool is_long = english.size() > kEnglishFitting;
+    const std::size_t end = is_long ? english.rfind(u' ', kEnglishFitting) : english.size();
+    Write(english.substr(0, end), kMiddle, kTop + (is_long ? 9 : 11), kCentre, kEnglish);
+    if (is_long) Write(english.substr(end + 1), kMiddle, kTop + 14, kCentre, kEnglish);
+  }
+
+  void DrawPayment() {
+    constexpr int kValues = 86;
+    Write(u"เงื่อนไขการชำระเงิน / Payment term", kLeft, 226);
+    Write(TermOf(standard_, invoice_, ZQ7ConditionOutputTypeFull), kValues, 226);
+    if (!sender_.name.empty()) {
+      Write(u"เช็คสั่งจ่าย / Cheque payable to", kLeft, 234);
+      Write(sender_.name, kValues, 234, kStart, kStrong, kRight - kValues);
+    }
+    Write(u"เช็คลงวันที่ / Cheque date", kLeft, 243);
+    DrawDateBoxes(invoice_.due, kValues, 243);
+  }
+
+  void DrawSignature(int x, TextView whose) {
+    RuleAcross(x, 270, kSignatureLength);
+    Write(whose, x + kSignatureLength / 2, 271, kCentre, kSmall);
+  }
+
+  PrintObject& printer_;
+  const StandardObject& standard_;
+  const Company& sender_;
+  const Invoice& invoice_;
+  const std::shared_ptr<PrintPicture> black_ = std::make_shared<Ink>(kBlackDot);
+  const std::shared_ptr<PrintPicture> grey_ = std::make_shared<Ink>(kGreyDot);
 };
-
-/// A text that is too long for a line in two, at a blank.
-Halves InTwo(const Text& text) {
-  constexpr std::size_t kFitting = 84;
-  const std::size_t blank = text.rfind(u' ', kFitting);
-  if (text.size() <= kFitting || blank == Text::npos) return {text, {}};
-  return {text.substr(0, blank), text.substr(blank + 1)};
-}
-
-void DrawWords(Sheet& sheet, const Invoice& invoice) {
-  constexpr std::int32_t kTop = kTableBottom + 19;
-  constexpr std::int32_t kMiddle = (kLeft + kRight) / 2;
-  constexpr int kFitting = 60;
-  constexpr double kSize = 14;
-  constexpr Style kEnglish = {.size = 10.5};
-  BahtStringObject baht;
-  const Text words = baht.BahtString(invoice.amount);
-  const Text thai = u"(" + words + u")";
-  const Halves english = InTwo(baht.BahtString(invoice.amount, false, true));
-  const double shrinkage = std::min(1.0, 1.0 * kFitting / ZQ7Standard::TerminalWidth(thai));
-  sheet.Shade(kLeft, kTop, kRight - kLeft, 21);
-  sheet.Write(thai, kMiddle, kTop + 1, kCentre, {.size = kSize * shrinkage, .bold = true});
-  sheet.Write(english.first, kMiddle, kTop + (english.second.empty() ? 11 : 9), kCentre, kEnglish);
-  sheet.Write(english.second, kMiddle, kTop + 14, kCentre, kEnglish);
-}
-
-void DrawPayment(Sheet& sheet, const StandardObject& standard, const Company& sender,
-                 const Invoice& invoice, OleDate due) {
-  const Text term = standard.FormatCondition2(
-      static_cast<float>(invoice.discount_percent), invoice.discount_days, invoice.condition_type,
-      ZQ7Standard::ZQ7ConditionOutputTypeFull, invoice.net_days);
-  constexpr std::int32_t kValues = 86;
-  sheet.Write(u"เงื่อนไขการชำระเงิน / Payment term", kLeft, 226);
-  sheet.Write(term, kValues, 226);
-  if (!sender.name.empty()) {
-    sheet.Write(u"เช็คสั่งจ่าย / Cheque payable to", kLeft, 234);
-    sheet.Write(sender.name, kValues, 234, kStart, kStrong, kRight - kValues);
-  }
-  sheet.Write(u"เช็คลงวันที่ / Cheque date", kLeft, 243);
-  DrawDateBoxes(sheet, standard, due, kValues, 243);
-}
-
-void DrawSignatures(Sheet& sheet) {
-  constexpr std::int32_t kLine = 270;
-  constexpr std::int32_t kLength = 65;
-  sheet.RuleAcross(kLeft, kLine, kLength);
-  sheet.Write(u"ผู้รับใบแจ้งหนี้ / Received by", kLeft + kLength / 2, kLine + 1, kCentre, kSmall);
-  sheet.RuleAcross(kRight - kLength, kLine, kLength);
-  sheet.Write(u"ผู้มีอำนาจลงนาม / Authorised signature", kRight - kLength / 2, kLine + 1, kCentre,
-              kSmall);
-}
 
 }  // namespace
 
-void DrawPage(PrintObject& printer, const StandardObject& standard, const Company& sender,
-              const Invoice& invoice) {
-  const OleDate due = standard.GetConditionDueDate(invoice.date, invoice.condition_type,
-                                                   invoice.net_days, invoice.delivery_days);
-  Sheet sheet(printer);
-  DrawSender(sheet, sender);
-  DrawCustomer(sheet, standard, invoice, due);
-  DrawTable(sheet, standard, sender, invoice);
-  DrawTotals(sheet, standard, invoice);
-  DrawWords(sheet, invoice);
-  DrawPayment(sheet, standard, sender, invoice, due);
-  DrawSignatures(sheet);
+void MakePdf(const StandardObject& standard, const Company& sender, const Invoice& invoice,
+             const fs::path& folder) {
+  const fs::path new_files = folder / ".invoice-page";  // the printer names files by the time
+  std::error_code failure;
+  fs::remove_all(new_files, failure);
+  fs::create_directories(new_files, failure);
+  if (failure) throw std::system_error(failure, "cannot make the folder " + folder.string());
+  try {
+    PrintObject printer({.printers = SystemPrinters(new_files)});
+    printer.CheckPaperSize(kA4);
+    printer.PrintStart();
+    Page(printer, standard, sender, invoice).Draw();
+    printer.PrintOut();
+  } catch (const RunTimeError& error) {
+    throw std::runtime_error("no PDF can be made: "s + error.what());
+  }
+  Text name = OneLine(invoice.number) + u".pdf";
+  std::ranges::replace(name, u'/', u'\u2215');  // a slash of another kind
+  fs::rename(fs::directory_iterator(new_files)->path(), folder / Utf8(name));
+  fs::remove(new_files);
 }
 
 }  // namespace InvoiceDemo

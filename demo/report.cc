@@ -1,5 +1,3 @@
-#include "report.h"
-
 #include <ZQ7Standard/BahtStringObject.h>
 
 #include <algorithm>
@@ -7,60 +5,31 @@
 #include <cstddef>
 #include <span>
 
-#include "amount_text.h"
-#include "next_number.h"
-#include "terminal_text.h"
+#include "output.h"
 
 namespace InvoiceDemo {
 namespace {
 
-using ZQ7Standard::BahtStringObject;
-using ZQ7Standard::OleDate;
-using ZQ7Standard::StandardObject;
-using ZQ7Standard::Text;
-using ZQ7Standard::TextView;
-
 constexpr auto kIndent = u"  ";
 
 using Columns = std::array<Text, 5>;
-using Widths = std::array<int, 5>;
 
-// A term from the end of a month is due some 150 years ahead: stored documents
-// hold such dates, and the library gives them out again.
-Columns MakeColumns(const StandardObject& standard, const Invoice& invoice) {
-  const OleDate due = standard.GetConditionDueDate(invoice.date, invoice.condition_type,
-                                                   invoice.net_days, invoice.delivery_days);
-  return {
-      standard.FormatTDate2(invoice.date, ZQ7Standard::ZQ7DMBBBB),
-      standard.FormatThai(invoice.date),
-      standard.FormatTDate2(due, ZQ7Standard::ZQ7DMBBBB),
-      standard.FormatCondition2(static_cast<float>(invoice.discount_percent), invoice.discount_days,
-                                invoice.condition_type, ZQ7Standard::ZQ7ConditionOutputTypeShort,
-                                invoice.net_days),
-      FormatAmount(invoice.amount),
-  };
-}
-
-Widths WidestOf(const std::vector<Columns>& rows) {
-  Widths widest = {};
-  for (const Columns& row : rows) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      widest[i] = std::max(widest[i], ZQ7Standard::TerminalWidth(row[i]));
+/// Each row as a line: its columns side by side, the last one aligned on its satang.
+std::vector<Text> Align(const std::vector<Columns>& rows) {
+  std::vector<Text> lines(rows.size());
+  for (std::size_t column = 0; column < rows.front().size(); ++column) {
+    const auto width = [column](const Columns& row) { return TerminalWidth(row[column]); };
+    const int widest = width(*std::ranges::max_element(rows, {}, width));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+      const Text& text = rows[i][column];
+      const Text blanks(static_cast<std::size_t>(widest - width(rows[i])), u' ');
+      lines[i] += kIndent + (column + 1 < rows[i].size() ? text + blanks : blanks + text);
     }
   }
-  return widest;
+  return lines;
 }
 
-/// The columns side by side, the amount in the last one aligned on its satang.
-Text AlignColumns(const Columns& row, const Widths& widths) {
-  Text line;
-  for (std::size_t i = 0; i + 1 < row.size(); ++i) {
-    line.append(kIndent).append(AlignLeft(row[i], widths[i]));
-  }
-  return line.append(kIndent).append(AlignRight(row.back(), widths.back()));
-}
-
-/// The lines of an invoice on paper, the last with the digest of those above it.
+/// The lines of an invoice, the last with the digest of those above it.
 Text Document(const StandardObject& standard, const Invoice& invoice, const Text& columns) {
   BahtStringObject baht;
   Text heading = invoice.number + u"  " + invoice.customer_code + u"  ";
@@ -75,21 +44,24 @@ Text Document(const StandardObject& standard, const Invoice& invoice, const Text
 }  // namespace
 
 Text Report(const StandardObject& standard, const std::vector<Invoice>& invoices,
-            const Totals& totals) {
+            const GridValueObject& totals) {
   if (invoices.empty()) return {};
   std::vector<Columns> rows = {{u"Date", u"In full", u"Due", u"Term", u"Baht"}};
-  for (const Invoice& invoice : invoices) rows.push_back(MakeColumns(standard, invoice));
-  rows.push_back({u"Total", {}, {}, {}, FormatAmount(totals.Amount())});
-  rows.push_back({u"Discount", u"if paid early", {}, {}, FormatAmount(totals.Discount())});
-  const Widths widths = WidestOf(rows);
+  for (const Invoice& invoice : invoices) {
+    rows.push_back(
+        {standard.FormatTDate2(invoice.date, ZQ7DMBBBB), standard.FormatThai(invoice.date),
+         standard.FormatTDate2(invoice.due, ZQ7DMBBBB),
+         TermOf(standard, invoice, ZQ7ConditionOutputTypeShort), FormatAmount(invoice.amount)});
+  }
+  rows.push_back({u"Total", {}, {}, {}, FormatAmount(totals.SumCol(kAmounts))});
+  rows.push_back({u"Discount", u"if paid early", {}, {}, FormatAmount(totals.SumCol(kDiscounts))});
+  const std::vector<Text> lines = Align(rows);
 
-  Text report = AlignColumns(rows.front(), widths) + u"\n\n";
+  Text report = lines.front() + u"\n\n";
   for (std::size_t i = 0; i < invoices.size(); ++i) {
-    report += Document(standard, invoices[i], AlignColumns(rows[i + 1], widths)) + u"\n";
+    report += Document(standard, invoices[i], lines[i + 1]) + u"\n";
   }
-  for (const Columns& total : std::span(rows).last(2)) {
-    report += AlignColumns(total, widths) + u"\n";
-  }
+  for (const Text& total : std::span(lines).last(2)) report += total + u"\n";
   const Text next = NextNumber(standard, invoices.back().number);
   if (!next.empty()) report += kIndent + (u"Next number " + OneLine(next)) + u"\n";
   return report;
