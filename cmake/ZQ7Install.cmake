@@ -63,5 +63,6 @@ endif()
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/zq7standard)
 install(FILES CHANGELOG.md CONTRIBUTING.md LICENSE README.md SECURITY.md
   DESTINATION ${doc_dir} COMPONENT Documentation)
+install(DIRECTORY demo examples DESTINATION ${doc_dir} COMPONENT Documentation)
 install(DIRECTORY docs DESTINATION ${doc_dir} COMPONENT Documentation
   FILES_MATCHING PATTERN *.md PATTERN *.png)
