@@ -3,8 +3,8 @@
 namespace ZQ7Standard {
 
 const ModuleOf<PrintingFunctions>& PrintingModule() {
-  static const ModuleOf<PrintingFunctions> absent = {
-      .problem = "the library was built without printing"};
+  static const ModuleOf<PrintingFunctions> absent = {.problem =
+                                                         "the library was built without printing"};
   return absent;
 }
 
