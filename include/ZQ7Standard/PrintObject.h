@@ -80,8 +80,8 @@ class ZQ7STANDARD_EXPORT PrintObject {
   /// The name of a paper.
   ///
   /// "A4, 210 x 297 mm" for 9, "Custom Size: ( 300 )" for a code that has no name. Hosts
-  /// compare and store these texts, so none ever changes: 2 is "+A611Letter Small, 8 1/2
-  /// x 11 in".
+  /// compare and store these texts, so none ever changes: 2 is
+  /// "+A611Letter Small, 8 1/2 x 11 in".
   Text GETPaperSizeText(std::int16_t PaperSize) const;
 
   /// The name of a bin.
