@@ -1,5 +1,5 @@
-# Finds what pages are drawn and printed with, as the target ZQ7Standard::printing:
-# Cairo, Pango, Fontconfig and the client library of CUPS.
+# Finds the libraries that draw and print pages, as the target ZQ7Standard::printing: Cairo,
+# Pango, Fontconfig and the client library of CUPS.
 find_package(PkgConfig QUIET)
 if(PkgConfig_FOUND)
   pkg_check_modules(ZQ7_PAGES QUIET IMPORTED_TARGET cairo-pdf pangocairo fontconfig)

@@ -3,13 +3,13 @@
 # zq7_feature(<result> <option> <description> <Debian packages> <package to find>...)
 #
 # Declares an option that is AUTO, ON or OFF. <result> tells whether the feature is built:
-# AUTO builds it where everything it needs is found, ON fails where something is missing.
+# AUTO builds it if everything it needs is found, ON fails if something is missing.
 function(zq7_feature result option description debian)
   set(${option} AUTO CACHE STRING "${description}: AUTO, ON or OFF")
   set_property(CACHE ${option} PROPERTY STRINGS AUTO ON OFF)
   string(TOUPPER "${${option}}" wanted)
   if(NOT wanted MATCHES "^(AUTO|ON|OFF|YES|NO|TRUE|FALSE|1|0)$")
-    message(FATAL_ERROR "${option} is \"${${option}}\"; it takes AUTO, ON or OFF.")
+    message(FATAL_ERROR "${option} is \"${${option}}\"; it must be AUTO, ON or OFF.")
   endif()
 
   set(built OFF)
@@ -19,7 +19,7 @@ function(zq7_feature result option description debian)
     foreach(package IN LISTS ARGN)
       string(REPLACE " " ";" name_and_version "${package}")
       list(GET name_and_version 0 name)
-      # A host's folders link the library too, so they have to see what it links.
+      # A host's folders link the library too, so they must see what it links.
       find_package(${name_and_version} QUIET GLOBAL)
       if(NOT ${name}_FOUND)
         set(built OFF)
@@ -27,7 +27,7 @@ function(zq7_feature result option description debian)
     endforeach()
   endif()
   if(wanted AND NOT wanted STREQUAL "AUTO" AND NOT built)
-    message(FATAL_ERROR "${description}: what it is built with was not found (Debian: ${debian}). "
+    message(FATAL_ERROR "${description}: its dependencies were not found (Debian: ${debian}). "
                         "-D${option}=OFF builds without it.")
   endif()
   message(STATUS "${description}: ${built}")
@@ -36,8 +36,8 @@ endfunction()
 
 # zq7_settings(<target>...)
 #
-# Sets what all targets of the project are built with. It stands on the targets, because a
-# host that includes the project has settings of its own.
+# Sets the build settings of the project's targets. They are set per target because a host
+# that includes the project has settings of its own.
 function(zq7_settings)
   foreach(target IN LISTS ARGN)
     set_target_properties(${target} PROPERTIES

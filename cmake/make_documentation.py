@@ -1,15 +1,15 @@
 #!/usr/bin/env python3
-"""Writes what the public headers say of classes, members and enumerations as C++ tables.
+"""Writes the public headers' documentation of classes, members and enumerations as C++ tables.
 
     make_documentation.py OUTPUT HEADER...
 
 It reads comments, banners and the members of enumerations, never signatures:
 
 - "///" lines belong to the class, enumeration or member right below them, "///<" to the one
-  on its line. Among them "//" lines are for readers of C++ alone.
-- The first paragraph of a comment is the help, one line; the others are the details.
+  on its line. "//" lines among them are only for readers of the header.
+- The first paragraph of a comment is the one-line help; the others are the details.
 - "// --- Subject: src/file.cc ---" is the subject of the members below it.
-- A sentence that names `something` is also kept as the help of a parameter of that name.
+- A sentence that names `something` is also the help of a parameter of that name.
 - The members of a class's listener are the events of the class.
 """
 
@@ -51,8 +51,8 @@ class Tables:
     """What was found in the headers."""
 
     def __init__(self):
-        self.members = {}  # a class or a class and a member: subject and comment
-        self.enumerations = {}  # a name: comment, and the members with their comments
+        self.members = {}  # "Class" or "Class.Member": subject and comment
+        self.enumerations = {}  # name: comment, and the members with their comments
 
     def read(self, path):
         owner = enumeration = None

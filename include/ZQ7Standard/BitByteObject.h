@@ -10,19 +10,18 @@ namespace ZQ7Standard {
 
 /// Binary, octal and hexadecimal text, column letters and single bits.
 ///
-/// Texts have the most significant digit first. Hosts keep texts and numbers
-/// made here in their files, so the limits of 16 bits and the zeros in front are
-/// as they always were. There is no state: distinct instances, and one instance
-/// between calls, are independent.
+/// Texts have the most significant digit first. Hosts keep texts and numbers made here in
+/// their files, so the 16-bit limits and the leading zeros never change. There is no
+/// state: distinct instances, and one instance between calls, are independent.
 //
 // The operations are defined in src/numbers/bits.cc.
 class ZQ7STANDARD_EXPORT BitByteObject {
  public:
   /// A binary text as octal digits.
   ///
-  /// One octal digit for three bits, after zeros are put in front to fill the
-  /// first group: "1000" is "10". Three characters with any but "0" and "1"
-  /// among them give no digit; the other groups still do.
+  /// One octal digit for three bits, with zeros added in front to fill the first group:
+  /// "1000" is "10". A group with any character but "0" and "1" yields no digit; the
+  /// others still do.
   Text Bin2Oct(TextView BinString) const;
 
   /// A binary text as hexadecimal digits.
@@ -41,8 +40,8 @@ class ZQ7STANDARD_EXPORT BitByteObject {
   /// Octal digits as binary text.
   ///
   /// Three bits for each octal digit; other characters add nothing. Without
-  /// `KeepZeroFront` the zeros in front are dropped, all of them: "0" and "000"
-  /// are then the empty text, which callers show as a blank box.
+  /// `KeepZeroFront` all leading zeros are dropped: "0" and "000" are then the empty
+  /// text, which callers show as a blank box.
   Text Oct2Bin(TextView OctString, bool KeepZeroFront = false) const;
 
   /// Hexadecimal digits as binary text.
@@ -52,32 +51,31 @@ class ZQ7STANDARD_EXPORT BitByteObject {
 
   /// Octal digits as hexadecimal digits.
   ///
-  /// `Bin2hex` of `Oct2Bin` without zeros in front: "17" is "F", "0" is empty.
+  /// `Bin2hex` of `Oct2Bin` without leading zeros: "17" is "F", "0" is empty.
   Text Oct2hex(TextView OctString) const;
 
   /// Hexadecimal digits as octal digits.
   ///
-  /// `Bin2Oct` of `Hex2Bin` without zeros in front: "F" is "17", "0" is empty.
+  /// `Bin2Oct` of `Hex2Bin` without leading zeros: "F" is "17", "0" is empty.
   Text Hex2Oct(TextView HexString) const;
 
   /// Decimal digits read as an octal number.
   ///
-  /// They are those of `OctString`: 17 gives 15. The reading stops at a digit 8 or 9 (187
-  /// gives 1), and a negative number gives 0.
+  /// The digits of `OctString`: 17 gives 15. Reading stops at a digit 8 or 9 (187 gives
+  /// 1), and a negative number gives 0.
   std::int16_t Oct2Dec(std::int16_t OctString) const;
 
   /// Decimal digits read as a hexadecimal number.
   ///
-  /// They are those of `HexString`: 10 gives 16, and 9999, which has the sign bit of 16,
-  /// gives -26215. A negative number gives 0. Raises 6 from five digits up.
+  /// The digits of `HexString`: 10 gives 16, and 9999, whose sign bit of 16 is set, gives
+  /// -26215. A negative number gives 0. Raises 6 from five digits up.
   std::int16_t Hex2Dec(std::int16_t HexString) const;
 
   /// The number of hexadecimal digits.
   ///
-  /// They are of either case, in front of the first other character; 0 when there are
-  /// none. Up to FFFF the number is 16-bit signed ("FFFF" is -1), above it 32-bit signed,
-  /// so that the `Dec2hex` of a negative 16-bit number reads back. Raises 6 outside 16
-  /// bits.
+  /// Digits of either case up to the first other character; 0 if there are none. Up to
+  /// FFFF the number is 16-bit signed ("FFFF" is -1), above that 32-bit signed, so that
+  /// the `Dec2hex` of a negative 16-bit number reads back. Raises 6 outside 16 bits.
   std::int16_t Hex2Dec2(TextView HexString) const;
 
   /// A number as octal digits.
@@ -87,15 +85,15 @@ class ZQ7STANDARD_EXPORT BitByteObject {
 
   /// A number as hexadecimal digits.
   ///
-  /// They are in upper case. A negative `DecNumber` counts as 32-bit two's complement: -1
-  /// is "FFFFFFFF".
+  /// In upper case. A negative `DecNumber` counts as 32-bit two's complement: -1 is
+  /// "FFFFFFFF".
   Text Dec2hex(std::int32_t DecNumber) const;
 
   /// A number as binary text, three bits a group.
   ///
-  /// The bits of the octal digits of `Dec`, three for each: 5 is "101", 8 is
-  /// "001000", 0 is "000", and a negative number has 33. `KeepZeroFront` has no
-  /// effect: callers cut the text into groups of three from its front.
+  /// The bits of the octal digits of `Dec`, three for each: 5 is "101", 8 is "001000", 0
+  /// is "000", and a negative number has 33. `KeepZeroFront` has no effect: callers cut
+  /// the text into groups of three from the front.
   Text Dec2Bin(std::int32_t Dec, bool KeepZeroFront = false) const;
 
   /// The number of a spreadsheet column.
@@ -110,24 +108,24 @@ class ZQ7STANDARD_EXPORT BitByteObject {
   /// 27 is "AA", 702 is "ZZ". Empty for 0 and negative numbers.
   Text Base10To26(std::int16_t colNum) const;
 
-  /// Whether a bit is set, counted from the right from 1.
+  /// Whether a bit is set; bits count from the right, from 1.
   ///
-  /// -1 when the bit is set, else 0. A `BitDigitFormBack` that the number's `Dec2Bin`
-  /// does not have gives 0. A negative number has bits up to position 32.
+  /// -1 if the bit is set, else 0; also 0 for a `BitDigitFormBack` that the number's
+  /// `Dec2Bin` does not have. A negative number has bits up to position 32.
   std::int16_t BitRead(std::int16_t DecNumber, std::uint8_t BitDigitFormBack) const;
 
-  /// A number with a bit set by 1, cleared by any other value.
+  /// A number with a bit set by 1 or cleared by any other value.
   ///
-  /// It is set only where `NewValue` is exactly 1: the -1 of `BitRead` clears, as callers
-  /// that copy a bit with it know. 0 for a position that the number's `Dec2Bin` does not have:
-  /// `BitWrite(5, 4, 1)` is 0 (docs/surprises.md). Raises 6 where the result is negative or
+  /// It is set only if `NewValue` is exactly 1: the -1 of `BitRead` clears, as callers that
+  /// copy a bit know. 0 for a position that the number's `Dec2Bin` does not have:
+  /// `BitWrite(5, 4, 1)` is 0 (docs/surprises.md). Raises 6 if the result is negative or
   /// above 13815, as `Bin2Dec` does.
   std::int16_t BitWrite(std::int16_t DecNumber, std::uint8_t BitDigitFormBack,
                         std::int16_t NewValue) const;
 
   /// A number with a bit cleared.
   ///
-  /// It is never set: hosts take a flag away with it, and a second call must not give it
+  /// Never sets it: hosts remove a flag with it, and a second call must not bring it
   /// back. Otherwise as `BitWrite`.
   std::int16_t BitSwitch(std::int16_t DecNumber, std::uint8_t BitDigitFormBack) const;
 };

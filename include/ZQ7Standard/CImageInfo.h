@@ -15,7 +15,7 @@ class ServiceSet;
 
 /// The kind, size and colour depth of an image file.
 ///
-/// Told from its first 65,536 bytes without decoding the image: GIF, JPEG, PNG and BMP.
+/// Read from its first 65,536 bytes without decoding the image: GIF, JPEG, PNG and BMP.
 ///
 /// The properties describe the last file read; before the first and after an error
 /// all four are 0. An instance belongs to one thread at a time; distinct instances
@@ -24,25 +24,25 @@ class ServiceSet;
 // The operations are defined in src/io/images/image_info.cc.
 class ZQ7STANDARD_EXPORT CImageInfo {
  public:
-  /// With the files of the machine.
+  /// Uses the machine's files.
   CImageInfo();
-  /// With services of the host's own.
+  /// Uses the host's services.
   explicit CImageInfo(Services services);
 
-  /// Reads a file, for the properties to tell.
+  /// Reads a file and sets the properties from it.
   ///
-  /// `sFileName` is a full path, and the file is read in one read. Unknown content is no
+  /// `sFileName` is a full path; it is read in one go. Unknown content is not a
   /// failure: `ImageType` is `itUNKNOWN` and the rest 0. A file that does not exist is
-  /// made, empty, and is unknown too.
+  /// created empty, and is unknown too.
   ///
   /// Sizes have 16 bits: a PNG 70,000 pixels wide has the `Width` 4,464, and a BMP
   /// stored top down the `Height` 65,536 less its own. The frame header of a JPEG
   /// is looked for in the first 65,525 bytes. A PNG with a palette has the depth 8,
   /// however few bits it stores.
   ///
-  /// Raises 6 for a depth beyond 255 bits (a JPEG of 32 components), 76 when the
-  /// folder is not there, 70 for a file that may not be both read and written, a
-  /// read-only one whoever asks, and 75 for a folder, a pipe or a device.
+  /// Raises 6 for a depth beyond 255 bits (a JPEG of 32 components), 76 if there is no
+  /// such folder, 70 for a file that may not be both read and written (a read-only one
+  /// whoever asks), and 75 for a folder, a pipe or a device.
   void ReadImageInfo(TextView sFileName);
 
   std::int32_t Width() const { return width_; }         ///< The width in pixels.

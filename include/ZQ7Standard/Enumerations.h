@@ -11,7 +11,7 @@ namespace ZQ7Standard {
 /// D is the day, M the month, YYYY a Gregorian year, BBBB a Buddhist Era year. The
 /// values 1 to 4 are also the codes of `GetDateFormat`.
 enum CTDateType : std::int32_t {
-  ZQ7Detect = 0,            ///< the system's own of the layouts 1 to 4
+  ZQ7Detect = 0,            ///< the system's own layout, one of 1 to 4
   ZQ7MDYYYY = 1,            ///< 1/15/2024
   ZQ7DMYYYY = 2,            ///< 15/1/2024
   ZQ7MDBBBB = 3,            ///< 1/15/2567
@@ -51,7 +51,7 @@ enum ZQ7ConditionOutputType : std::int32_t {
 /// How `FixNumberWithCutMode` brings a number to a whole unit.
 enum ZQ7FixUnit : std::int32_t {
   ZQ7FixUnitNone = 0,     ///< not at all
-  ZQ7FixUnitFiveUp = 1,   ///< up from a fraction of .5, else down
+  ZQ7FixUnitFiveUp = 1,   ///< up if the fraction is .5 or more, else down
   ZQ7FixUnitAllUp = 2,    ///< up
   ZQ7FixUnitAllDown = 3,  ///< toward zero
 };
@@ -71,7 +71,7 @@ enum eImageType : std::int32_t {
   itBMP = 4,
 };
 
-/// The keys that every registry begins with, as the platform numbers them.
+/// The root keys of every registry, with the platform's numbers.
 enum KetRootType : std::int32_t {
   HKEY_CLASSES_ROOT = std::numeric_limits<std::int32_t>::min(),  ///< 0x80000000
   HKEY_CURRENT_USER = HKEY_CLASSES_ROOT + 1,                     ///< the user's own

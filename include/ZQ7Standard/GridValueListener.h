@@ -7,8 +7,8 @@
 
 namespace ZQ7Standard {
 
-/// What a host implements to hear of the changes of a `GridValueObject`. It is
-/// called on the thread of the operation, inside it.
+/// What a host implements to be told of changes to a `GridValueObject`. It is called on
+/// the thread of the operation, inside it.
 class ZQ7STANDARD_EXPORT GridValueListener {
  public:
   virtual ~GridValueListener();
@@ -19,10 +19,11 @@ class ZQ7STANDARD_EXPORT GridValueListener {
   /// cell comes as `CellDataChange`.
   virtual void DataChange();
 
-  /// A cell was given a value and holds it. Rows and columns count from 0.
+  /// A cell was given a value. Rows and columns count from 0.
   ///
-  /// The cell is at (`Row`, `Col`). Who hears of it may call any operation of the grid,
-  /// add and remove listeners, itself among them, and fail; it must not destroy the grid.
+  /// The cell at (`Row`, `Col`) already holds it. The listener may call any operation of
+  /// the grid, add and remove listeners, itself included, and throw; it must not destroy
+  /// the grid.
   virtual void CellDataChange(std::int32_t Row, std::int32_t Col) = 0;
 };
 

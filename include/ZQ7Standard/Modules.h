@@ -9,8 +9,8 @@
 
 namespace ZQ7Standard {
 
-/// A part of the library that needs libraries of its own: a shared library in the folder
-/// zq7standard/ beside this one, loaded at its first use.
+/// A part of the library with dependencies of its own: a shared library in the folder
+/// zq7standard/ beside this one, loaded on first use.
 struct ModuleStatus {
   std::string_view name;
   std::string problem = {};  ///< why it cannot be used, in UTF-8; empty if it can

@@ -15,11 +15,11 @@ class ServiceSet;
 
 /// Commands to devices on a serial line, such as a cash drawer.
 ///
-/// The host owns the control of the line and hands it in on each call. An instance
-/// belongs to one thread at a time; distinct instances are independent.
+/// The host owns the control of the line and passes it to each call. An instance belongs
+/// to one thread at a time; distinct instances are independent.
 class ZQ7STANDARD_EXPORT PeripheralObject {
  public:
-  /// An object that shows its messages on the error stream.
+  /// Shows its messages on the error stream.
   PeripheralObject();
   explicit PeripheralObject(Services services);
 
@@ -27,21 +27,20 @@ class ZQ7STANDARD_EXPORT PeripheralObject {
 
   /// Sends a text to a device; 0, or the error number.
   ///
-  /// Opens port `iPort` of `iControl` with the line settings `Setting`, writes `iCode`
-  /// as it is and closes the port. Returns 0, or the error number of the first step
-  /// that failed: the low 16 bits of the control's own number, or 440 where those are 0
-  /// or the control raised something without a number; 91 without a control. Never
-  /// raises.
+  /// Opens port `iPort` of `iControl` with the line settings `Setting`, writes `iCode` as
+  /// it is and closes the port. Returns 0, or the error number of the first step that
+  /// failed: the low 16 bits of the control's own number, or 440 if those are 0 or the
+  /// control raised something without a number; 91 without a control. Never raises.
   ///
-  /// The steps behind the failed one are skipped: a port that could not be written to
-  /// stays open, and is the host's to close.
+  /// The steps after the failed one are skipped: a port that could not be written to
+  /// stays open, for the host to close.
   std::int16_t SendCommMsg(const std::shared_ptr<SerialPort>& iControl, TextView iCode,
                            std::int16_t iPort, TextView Setting = u"9600,N,8,1") const;
 
   /// Opens a cash drawer; always 1.
   ///
   /// Sends its kick code `iCode` with the settings "9600,N,8,1". Callers have come to
-  /// count on the 1. A failure is told by a message box alone: "Error! : ", the number of
+  /// rely on the 1. A failure is shown only in a message box: "Error! : ", the number of
   /// `SendCommMsg`, and on the next line the text of the control.
   std::int16_t OpenDraw(const std::shared_ptr<SerialPort>& iControl, TextView iCode,
                         std::int16_t iPort) const;

@@ -14,7 +14,7 @@
 
 namespace ZQ7Standard {
 
-/// The run-time error numbers of the library; docs/errors.md tells what raises each.
+/// The run-time error numbers of the library; docs/errors.md says what raises each.
 enum class Error : std::int32_t {
   kInvalidArgument = 5,
   kOverflow = 6,
@@ -53,12 +53,11 @@ struct ErrorInfo {
 /// Returns all of them by number.
 ZQ7STANDARD_EXPORT std::span<const ErrorInfo> Errors();
 
-/// What an error tells. Names are empty where they are not known, all but the input are
-/// UTF-8.
+/// The parts of an error. Names are empty if not known; all but the input are UTF-8.
 struct ErrorDetails {
   int number = 0;
   std::string text = {};                     ///< what happened: "type mismatch"
-  std::string class_name = {};               ///< of the object, where a host called by name
+  std::string class_name = {};               ///< of the object, if a host called by name
   std::string operation = {};                ///< that the host called
   std::string parameter = {};                ///< the one whose argument is wrong
   std::optional<Text> input = std::nullopt;  ///< that argument, whole
@@ -69,12 +68,12 @@ struct ErrorDetails {
 /// input is cut there after 100 characters, with its control characters and quotation
 /// marks escaped, so that it can stand in a log.
 ///
-/// Services raise it with a number and a text alone, which then is all of `what()`; the
-/// class adds the rest. Most operations answer bad input with a fallback value instead;
-/// those that raise say so beside their declaration.
+/// Services raise it with a number and a text alone, and the text is then all of
+/// `what()`; the class adds the rest. Most operations answer bad input with a fallback
+/// value instead; those that raise say so beside their declaration.
 class ZQ7STANDARD_EXPORT RunTimeError : public std::runtime_error {
  public:
-  /// The error with its usual text, and `detail` after that if it is not empty.
+  /// The error with its usual text, followed by `detail` if it is not empty.
   explicit RunTimeError(Error error, std::string_view detail = {});
   /// A failure with a number and a text of the host's own.
   RunTimeError(int number, std::string_view text);

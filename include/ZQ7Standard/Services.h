@@ -31,20 +31,20 @@ class TimeTextSource;
 /// Makes a cipher for one call; returns null if it cannot.
 using BlockCipherFactory = std::function<std::unique_ptr<BlockCipher>()>;
 
-/// The folders that the drives of path texts stand for, by the drive's letter in
-/// upper case: `{{'D', "/srv/shop"}}` makes "D:\set.ini" the file /srv/shop/set.ini, and
-/// "D:\..\set.ini" too. A drive without an entry is the root folder. docs/files.md tells
-/// what a path text means.
+/// The folders that the drives of path texts stand for, by the drive's letter in upper
+/// case: with `{{'D', "/srv/shop"}}`, "D:\set.ini" is the file /srv/shop/set.ini, and so
+/// is "D:\..\set.ini". A drive without an entry is the root folder. docs/files.md
+/// explains path texts.
 using DriveMap = std::map<char, std::filesystem::path>;
 
 /// The devices of port numbers, such as {3, "/dev/serial/by-id/usb-..."}.
 using SerialDevices = std::map<std::int16_t, std::string>;
 
-/// What objects need of the machine. A host sets what it wants to replace:
+/// What objects need from the machine. A host sets what it wants to replace:
 ///
 ///     StandardObject standard({.clock = FixedClock(day)});
 ///
-/// What is left empty is the machine's own, made when it is first needed:
+/// What is left empty is the machine's own, made when first needed:
 ///
 ///     file_status ... file_copier   the machine's files, with `drives`
 ///     clock                         the machine's clock, shared by all objects
@@ -60,7 +60,7 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     os                            the environment variable "OS", asked each time
 ///
 /// Copies of an object share its services. A host that gives the same services to objects
-/// in two threads answers for what they do at the same time.
+/// in two threads must make them safe to use at the same time.
 struct Services {
   std::shared_ptr<FileStatusSource> file_status = nullptr;
   std::shared_ptr<Folders> folders = nullptr;

@@ -17,39 +17,37 @@ class ServiceSet;
 
 /// Dates, payment terms, numbers, lists, keys, bar codes, ciphers and digests.
 ///
-/// Every operation runs to its end on the caller's thread and keeps nothing for
-/// the next one. The system's date convention is asked anew on each call. An
-/// instance belongs to one thread at a time; distinct instances are
-/// independent.
+/// Every operation runs to its end on the caller's thread and keeps nothing for the next
+/// one. The system's date convention is read anew on each call. An instance belongs to
+/// one thread at a time; distinct instances are independent.
 ///
-/// "The system's era" is Buddhist where the system reads a typed year as a
-/// Buddhist Era year, Gregorian elsewhere. The library never shifts a year
-/// twice: a date whose own year is 2400 or more is taken to carry a Buddhist
-/// year already.
+/// "The system's era" is Buddhist if the system reads a typed year as a Buddhist Era
+/// year, otherwise Gregorian. The library never shifts a year twice: a date whose own
+/// year is 2400 or more is taken to carry a Buddhist year already.
 class ZQ7STANDARD_EXPORT StandardObject {
  public:
-  /// With the services of the machine.
+  /// Uses the machine's services.
   StandardObject();
-  /// With services of the host's own.
+  /// Uses the host's services.
   explicit StandardObject(Services services);
 
   // --- The system's era and date layout, sentinel dates: src/dates/era.cc ---
 
-  /// The system's year less the Gregorian year: 543 or 0.
+  /// The system's year minus the Gregorian year: 543 or 0.
   ///
-  /// 543 where years are read in the Buddhist Era, else 0.
+  /// 543 if years are read in the Buddhist Era, else 0.
   std::int16_t GetEraDif() const;
 
   /// The current year in the system's era.
   ///
-  /// 2567 or 2024, for one.
+  /// For example 2567 or 2024.
   std::int16_t CTYEAR() const;
 
   /// The year of a date in the system's era.
   ///
-  /// A year of 2400 or more is Buddhist already and stays. The years of blank dates are
-  /// themselves: 8888 gives 8888, and 3333, also when it was shifted down an era once or
-  /// twice (2247, 1704), gives 3333.
+  /// A year of 2400 or more, such as that of a blank date (3333, 8888), is Buddhist
+  /// already and is returned unchanged. For 2247 and 1704, which are 3333 shifted down by
+  /// two and three eras, it is 3333.
   std::int16_t Year2000(OleDate InDate) const;
 
   /// The code of the system's date layout, 1 to 4.
@@ -72,9 +70,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Whether a date stands for no date.
   ///
-  /// Blank are midnight of 3333-03-03, of 8888-08-08 and of those that went through an
-  /// era conversion too many (3876-03-03, 2790-03-03, 8345-08-08), and the zero date.
-  /// With any other time of day `iDate` is a date like others.
+  /// The blank dates are the zero date and midnight of 3333-03-03, of 8888-08-08 and of
+  /// the dates that one era conversion too many makes of them (3876-03-03, 2790-03-03,
+  /// 8345-08-08). With any other time of day `iDate` is an ordinary date.
   bool isBlankDate(OleDate iDate) const;
 
   /// The same day at 00:00.
@@ -84,31 +82,30 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Reads "D:H:M" as a number of days.
   ///
-  /// "H:M" and a bare number of days are read too. Fields are whole numbers, halves to
-  /// even; minutes above 60 count as 60, hours above 24 as 24, so "0:23:60" is one day.
-  /// What is no number reads as 0; fields further left are ignored. "0130" is 130 days
-  /// (docs/surprises.md).
+  /// "H:M" and a bare number of days are read too. Fields are rounded to whole numbers,
+  /// halves to even; minutes above 60 count as 60, hours above 24 as 24, so "0:23:60" is
+  /// one day. A field that is not a number reads as 0; fields further left are ignored.
+  /// "0130" is 130 days (docs/surprises.md).
   double DAYTIME2DAY(TextView iDDHHMMText) const;
 
   /// Writes a number of days as "D:HH:MM".
   ///
   /// The sign is dropped: 1.5 and -1.5 are "1:12:00", 0 is "0:00:00". Rounded to the
-  /// millisecond, then cut to the minute. Raises 6 when `iDay` is infinite or no number.
+  /// millisecond, then cut to the minute. Raises 6 if `iDay` is infinite or NaN.
   Text DAY2DAYTIME(double iDay) const;
 
   /// Writes a number of hours as "H:MM".
   ///
-  /// It is rounded to the minute as the number of minutes prints (to 15 significant digits, a
-  /// half away from zero): 7.5 is "7:30", 2.675 "2:41", -1.5 "-1:30", -0.001 "0:00".
+  /// Rounded to the minute, halves away from zero, from the number of minutes as it prints
+  /// (to 15 significant digits): 7.5 is "7:30", 2.675 "2:41", -1.5 "-1:30", -0.001 "0:00".
   /// `CTHour` reads it back. Raises 6 from 1E+15 hours on and for infinities and NaN.
   Text FormatHour(double iHour) const;
 
   /// Whether a "D:H:M" text amounts to anything but zero.
   ///
-  /// Four characters "HHMM" are such a text too; with `AcceptZeroValue` the result is
-  /// always True. The ranges of hours and minutes are not looked at, and a bare number of
-  /// other than four characters is not such a text. `DAYTIME2DAY` does not read "HHMM"
-  /// (docs/surprises.md).
+  /// Four characters "HHMM" count too; with `AcceptZeroValue` the result is always True.
+  /// The ranges of hours and minutes are not checked, and a bare number counts only if it
+  /// has four characters. `DAYTIME2DAY` does not read "HHMM" (docs/surprises.md).
   bool isDayTime(TextView IDayTimeText, bool AcceptZeroValue = false) const;
 
   // --- Dates typed by users: src/dates/parsing.cc ---
@@ -120,63 +117,61 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// 2500-2572, 73-99 to 2473-2499). The order is never guessed: "1/15/2567" fails on a
   /// day-first system.
   ///
-  /// The empty text is the zero date, and a missing year is year 0. Raises 13
-  /// for a month outside 1 to 12 or a day that the month does not have, 9 for a
-  /// single field, 6 for a field beyond 16 bits. The flag is ignored: it stays
-  /// for callers of the older two-argument form. docs/surprises.md tells what to
-  /// ask before.
+  /// The empty text is the zero date, and a missing year is year 0. Raises 13 for a month
+  /// outside 1 to 12 or a day that the month does not have, 9 for a single field, 6 for a
+  /// field beyond 16 bits. The flag is ignored: it stays for callers of the older
+  /// two-argument form. docs/surprises.md says what to check first.
   OleDate CTDATE(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
 
   /// Whether a text is a date with a year of four digits.
   ///
-  /// `iText` has exactly three fields with "/" between, in the system's field order and
+  /// `iText` has exactly three fields separated by "/", in the system's field order and
   /// era; the year has four characters and is from 643 to 9999. Signs are dropped
-  /// ("-15/1/2567" is one), so `CTDATE` need not read what this takes
+  /// ("-15/1/2567" is a date), so `CTDATE` may fail on a text accepted here
   /// (docs/surprises.md). The flag is ignored.
   bool IsTDate(TextView iText, bool NoUsedBackwardSupportOnly = false) const;
 
   /// Reads any date and adds the era difference to its year.
   ///
   /// Any date that `IsTDateTime` recognises is read. On a Buddhist system the result
-  /// carries the Buddhist year as its own (29 February moves to the 28th where that year
-  /// has none; docs/surprises.md). Other text gives the blank date, and so does a year
-  /// that leaves the range of dates.
+  /// carries the Buddhist year as its own (29 February becomes the 28th if that year has
+  /// none; docs/surprises.md). Returns the blank date for other text and for a year
+  /// outside the range of dates.
   OleDate CDATE2000(TextView iText) const;
 
-  /// Reads a date; today for a text that is none.
+  /// Reads a date; today if the text is not one.
   ///
-  /// `CTDATE` of a text that `IsTDateTime` recognises; today's date for any
-  /// other, and where `CTDATE` would fail, as for a date without "/"
-  /// (docs/surprises.md).
+  /// `CTDATE` of a text that `IsTDateTime` recognises; today's date for any other, and if
+  /// `CTDATE` would fail, as it does for a date without "/" (docs/surprises.md).
   OleDate GETValidDate(TextView DateString) const;
 
   /// Whether a text is a date, a time or both.
   ///
-  /// "15/1/2567 9:30", "January 15, 2013", "15 ม.ค. 2567" and "9:30 PM" are such texts.
+  /// For example "15/1/2567 9:30", "January 15, 2013", "15 ม.ค. 2567" and "9:30 PM".
   /// docs/dates.md lists the forms that are read.
   bool IsTDateTime(TextView iText) const;
 
   /// Whether a text is a month and a year, "MM/YYYY".
   ///
-  /// `inMMYYYY` is two digits of a month, any one character and a year from 643 in the
-  /// last four: "01/2567". No upper bound on the year.
+  /// `inMMYYYY` is a two-digit month, any one character and a year from 643 in the last
+  /// four: "01/2567". The year has no upper bound.
   bool isMounthYear(TextView inMMYYYY) const;
 
-  /// Reads a date of a sortable key, the year first.
+  /// Reads the date in a sortable key, year first.
   ///
-  /// Such as "2024-01-15" or "25670115"; a Buddhist year becomes Gregorian. Text that
-  /// cannot be read gives 3 March of the year 2000, or of 543 on a Buddhist system, which
-  /// callers test for.
+  /// Such as "2024-01-15" or "25670115"; a Buddhist year becomes Gregorian. If the text
+  /// cannot be read, returns 3 March of the year 2000, or of 543 on a Buddhist system,
+  /// which callers test for.
   ///
-  /// A text that the system recognises as it stands is read in the system's
-  /// era, so on a Buddhist system "2024-01-15" is the Buddhist year 2024; and an
-  /// eight-digit key must be a date in that reading too, so "20240229" is none
-  /// there (the Buddhist year 2024 has no 29 February).
+  /// A text that the system recognises as it stands is read in the system's era, so on a
+  /// Buddhist system "2024-01-15" is the Buddhist year 2024. An eight-digit key must be a
+  /// date when read that way too, so "20240229" is not a date there (the Buddhist year
+  /// 2024 has no 29 February).
   OleDate GETDateFromTextYYYYMMDD(TextView iDateYYYY_MM_DD) const;
 
   /// The first day of a month typed year first.
   ///
-  /// The year is of the system's era: "2567/03". The first day of the current month when
+  /// The year is in the system's era: "2567/03". The first day of the current month if
   /// the month is not 1 to 12 or the Gregorian year not 1 to 3332. Years 0 to 99 are
   /// completed to 1930-2029.
   OleDate CTPeriod(TextView iText) const;
@@ -188,8 +183,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// The time of day of four digits "HHMM".
   ///
-  /// It is on day 0. Any other text, "9:30" and "2400" included, gives 00:00, which is
-  /// the blank date (docs/surprises.md).
+  /// The result is on day 0. For any other text, "9:30" and "2400" included, it is 00:00,
+  /// a blank date (docs/surprises.md).
   OleDate CTTime(TextView ITimeText) const;
 
   /// Whether a text is four digits "HHMM".
@@ -199,14 +194,15 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// The day that a clock time past midnight carries over to.
   ///
-  /// 1 when the four digits left without ":" and "." are 2400 or more, else `StartValue`.
+  /// 1 if the four digits left after removing ":" and "." are 2400 or more, else
+  /// `StartValue`.
   OleDate Str2AddDay(TextView InTime, std::int16_t StartValue = 0) const;
 
   /// Reads a clock time such as "9:30" or "9:30 PM".
   ///
-  /// "0930" and "9:30:15" (seconds dropped) are read too, all to a time of day; other
-  /// text gives 00:00. "PM" adds 12 hours to any hour and the day wraps at 24, so "12:30
-  /// PM" is 00:30.
+  /// "0930" and "9:30:15" (seconds dropped) are read too. The result is a time of day,
+  /// 00:00 for other text. "PM" adds 12 hours to any hour and the day wraps at 24, so
+  /// "12:30 PM" is 00:30.
   OleDate Str2TIME(TextView InTime) const;
 
   /// Reads "H:M" as hours.
@@ -217,27 +213,25 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Whether an "H:M" text amounts to anything but zero.
   ///
-  /// Four characters "HHMM" are such a text too; with `AcceptZeroValue` the result is
-  /// always True.
+  /// Four characters "HHMM" count too; with `AcceptZeroValue` the result is always True.
   bool isHour(TextView IHourText, bool AcceptZeroValue = false) const;
 
   // --- Month and day names: src/dates/names.cc ---
 
   /// The 12 month names; element 0 is empty.
   ///
-  /// They are full or short, Thai or English, and the month's number is the index. The
-  /// spellings are fixed ("Febuary").
+  /// Full or short, Thai or English; the index is the month's number. The spellings are
+  /// fixed ("Febuary").
   std::vector<Text> GETMonthTextArray(bool FullText, bool UseThai) const;
 
   /// The 7 day names from Sunday; element 0 is empty.
   ///
-  /// The weekday's number (1 = Sunday) is the index. The spellings are fixed ("Thusday").
+  /// The index is the weekday's number (1 = Sunday). The spellings are fixed ("Thusday").
   std::vector<Text> GETDayTextArray(bool FullText, bool UseThai) const;
 
   /// The name of a month.
   ///
-  /// 0 gives the empty text, but a negative number gives January and one above 12
-  /// December.
+  /// Empty for 0, but January for a negative number and December for one above 12.
   Text MonthText(std::int16_t MonthNumber, bool FullText, bool UseThai) const;
 
   /// The name of a date's weekday.
@@ -257,13 +251,12 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Writes a date in one of the layouts of `CTDateType`.
   ///
-  /// A `DateType` that names no layout counts as `ZQ7Detect`. `ZeroLeader` writes day and
+  /// A `DateType` that is not a layout counts as `ZQ7Detect`. `ZeroLeader` writes day and
   /// month with two digits.
   ///
-  /// A blank date gives the empty text. The year of another date is Buddhist
-  /// already when it is 2400 or more: BBBB shows it as it stands, YYYY shows it
-  /// less 543. The sentinel years 3333 and 8888 show as they stand in both. Years
-  /// have at least four digits.
+  /// Empty for a blank date. For any other date, a year of 2400 or more is Buddhist
+  /// already: BBBB shows it unchanged, YYYY shows it less 543. Both show the sentinel
+  /// years 3333 and 8888 unchanged. Years have at least four digits.
   Text FormatTDate2(OleDate InDate, CTDateType DateType, bool ZeroLeader = false) const;
 
   /// Writes a date in the system's own layout and the time of day.
@@ -278,14 +271,14 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// Buddhist system, where the default pattern writes "15/1/2567", and English on
   /// others: "15/1/2024". An empty pattern counts as left out.
   ///
-  /// In a pattern d, m, y, b, h, n and s stand for day, month, Gregorian and
-  /// Buddhist year, hour, minute and second, AM/PM makes 12 hours, and text in
-  /// double quotes or after "\" stands as it is; docs/dates.md has the table. "m"
-  /// and "mm" are minutes next after "h" or next before "s". The weekday is that of
-  /// the Gregorian day meant: of 2024 for the own year 2567.
+  /// In a pattern d, m, y, b, h, n and s stand for day, month, Gregorian and Buddhist
+  /// year, hour, minute and second, AM/PM selects the 12-hour clock, and text in double
+  /// quotes or after "\" is copied; docs/dates.md has the table. "m" and "mm" are minutes
+  /// right after "h" or right before "s". The weekday is that of the Gregorian day meant:
+  /// the year 2567 has those of 2024.
   ///
-  /// A blank date gives the empty text. Raises 5 for a pattern that ends inside
-  /// quotes or in a single "\", for a blank date too.
+  /// Empty for a blank date. Raises 5 for a pattern that ends inside quotes or in a
+  /// single "\", even then.
   Text Format2000(OleDate InDate, TextView FormatText = u"d/m/yyyy") const;
 
   /// Writes a date by a pattern, with Thai names and Buddhist years.
@@ -308,13 +301,13 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Writes a date for a database query; NULL for a blank date.
   ///
-  /// The Gregorian day, the same in every convention: "2024-01-15". The quotes are the
-  /// host's, and none go around NULL.
+  /// The Gregorian day, the same in every convention: "2024-01-15". The host adds the
+  /// quotes, and none around NULL.
   //
   //     const Text day = standard.FormatQuery(date);
   //     query += day == u"NULL" ? day : u"'" + day + u"'";
   ///
-  /// A Buddhist 29 February whose Gregorian year has none is the 28th.
+  /// A Buddhist 29 February becomes the 28th if its Gregorian year has none.
   Text FormatQuery(OleDate InDate) const;
 
   /// Writes a date and its time for a database query; NULL for a blank date.
@@ -327,9 +320,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Writes the time of day by a pattern.
   ///
-  /// The default pattern writes "09:30:00". Letters of the date write it as `Format2000`
-  /// does. No date is blank here: midnight of any day is "00:00:00". Raises 5 as
-  /// `Format2000` does.
+  /// The default pattern writes "09:30:00". Date letters work as in `Format2000`. No date
+  /// is blank here: midnight of any day is "00:00:00". Raises 5 as `Format2000` does.
   Text FormatTime2(OleDate InDate, TextView FormatText = u"hh:nn:ss") const;
 
   /// Writes the month of a date, the year first.
@@ -381,9 +373,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// The first Monday of a month of a Gregorian year.
   ///
   /// The first Monday on or after `GETFirstDayOfMonthYear(iMonth, iYear2000)`, which
-  /// also says what is raised. A year of 2400 or more, but for 3333 and 8888, has the
-  /// weekdays of the Gregorian year that it means: for January 2567 the result is
-  /// 2567-01-01, because 2024-01-01 is a Monday.
+  /// raises the same. A year of 2400 or more, except 3333 and 8888, has the weekdays of
+  /// the Gregorian year that it means: for January 2567 the result is 2567-01-01, because
+  /// 2024-01-01 is a Monday.
   OleDate GETFirstMondayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
 
   /// The first Saturday of a month of a Gregorian year.
@@ -395,8 +387,8 @@ class ZQ7STANDARD_EXPORT StandardObject {
   ///
   /// Weeks begin on Sunday, and the 1st is in week 1. A blank date gives 0.
   ///
-  /// A year of 2400 or more, but for 3333 and 8888, has the weekdays of the Gregorian
-  /// year that it means. A 29 February that this year does not have counts as the 28th.
+  /// A year of 2400 or more, except 3333 and 8888, has the weekdays of the Gregorian year
+  /// that it means. 29 February counts as the 28th if that year has none.
   std::int16_t GETWeekOfMonth(OleDate InDate) const;
 
   /// The pay period of the month that a date is in, 1 or 2.
@@ -411,25 +403,25 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   // --- Time left of long work: src/dates/time_left.cc ---
 
-  /// Estimates the days that work still takes from what is done by now.
+  /// Estimates the days that work will still take from the part done so far.
   ///
   /// The work started at `StartDate`: elapsed × (total − done) ÷ done, a span in days of
-  /// at most 2958465. 0 when nothing or everything is done, and for a start in the future.
+  /// at most 2958465. 0 if nothing or everything is done, and for a start in the future.
   OleDate TimeLeftDateTime(OleDate StartDate, double DoneCount, double TotalCount) const;
 
   /// Writes a span of days as its two largest units.
   ///
   /// Rounded to the second; units that are 0 do not count, and the rest is cut off: "1
   /// day 2 hours", "1 day 5 minutes", "3 minutes 5 seconds", "0 seconds", or "1 วัน 2
-  /// ชั่วโมง". Thai when `UseThai` is True, and on a Buddhist system when it is left out.
+  /// ชั่วโมง". Thai if `UseThai` is True, or if it is left out on a Buddhist system.
   ///
-  /// A negative span is "0 seconds". Raises 6 when `TimeLeft` is infinite or no number.
+  /// A negative span is "0 seconds". Raises 6 if `TimeLeft` is infinite or NaN.
   Text FormatTimeleft(double TimeLeft, std::optional<bool> UseThai = std::nullopt) const;
 
-  /// The text of the time that work still takes.
+  /// Writes the time that work will still take.
   ///
-  /// `FormatTimeleft` of `TimeLeftDateTime`; the empty text while nothing is done and
-  /// something is left, when no estimate can be made.
+  /// `FormatTimeleft` of `TimeLeftDateTime`; empty while nothing is done and something is
+  /// left, as no estimate can be made.
   Text TimeLeftText(OleDate StartDate, double DoneCount, double TotalCount,
                     std::optional<bool> UseThai = std::nullopt) const;
 
@@ -438,15 +430,15 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// The due date of an invoice.
   ///
   /// Type 0 adds `NetDay` days to `InvoiceDate`, types 1 and 2 `DeliveryDay` and
-  /// `NetDay`; its time of day is carried along. Type 4 adds `NetDay` to the
-  /// end-of-month date, types 3 and 5 to 8 `DeliveryDay` and `NetDay`. Any other
-  /// type gives the zero date.
+  /// `NetDay`; the time of day is kept. Type 4 adds `NetDay` to the end-of-month date,
+  /// types 3 and 5 to 8 `DeliveryDay` and `NetDay`. Returns the zero date for any other
+  /// type.
   ///
-  /// The end-of-month date is `GETLastDayOfMonthYear` with the year given as the
-  /// month and the month as the year, at 00:00: for March 2024 it is 2171-08-31.
-  /// Stored documents hold due dates made so; docs/surprises.md shows how to get the
-  /// end of the invoice's month, and what becomes of a blank date. Raises 5 beyond
-  /// the range of dates.
+  /// The end-of-month date is `GETLastDayOfMonthYear` with the year given as the month
+  /// and the month as the year, at 00:00: for March 2024 it is 2171-08-31. Stored
+  /// documents hold due dates made so; docs/surprises.md shows how to get the end of the
+  /// invoice's month, and what happens to a blank date. Raises 5 beyond the range of
+  /// dates.
   OleDate GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionType ConditionType,
                               std::int16_t NetDay, std::int16_t DeliveryDay) const;
 
@@ -455,10 +447,10 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// "2.0/10, N/30 AID" is a discount of 2.0 % within 10 days, net 30 days after the
   /// invoice date.
   ///
-  /// "CASH" alone when `ConditionDay` (days) is 0 or less. The discount
-  /// `Condition1` (percent, one decimal) stands in front when it and
-  /// `ConditionDay1` (days) are above 0. Only the value 1 of `OutputType` writes
-  /// the event in full; an unknown event is the invoice date.
+  /// "CASH" alone if `ConditionDay` (days) is 0 or less. The discount `Condition1`
+  /// (percent, one decimal) comes first if it and `ConditionDay1` (days) are above 0.
+  /// Only the value 1 of `OutputType` writes the event in full; an unknown event is the
+  /// invoice date.
   Text FormatCondition2(float Condition1, std::int16_t ConditionDay1,
                         ZQ7ConditionType ConditionType, ZQ7ConditionOutputType OutputType,
                         float ConditionDay) const;
@@ -473,11 +465,11 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Rounds a number as it prints, half away from zero.
   ///
-  /// It prints to 15 significant digits, and these are rounded at `DecimalDigit`
-  /// decimals, so 2.345 at 2 gives 2.35 although the double lies below it. With
-  /// `IgnoreNextDigit` it is rounded at two more decimals and those are then cut off:
-  /// 1.2349 at 2 gives 1.23, but 1.23996 gives 1.24. Raises 5 for a negative
-  /// `DecimalDigit` and 6 for infinities and NaN, as do the operations below that use it.
+  /// Its 15 significant digits are rounded to `DecimalDigit` decimals, so 2.345 at 2
+  /// gives 2.35 although the double lies below it. With `IgnoreNextDigit` it is rounded
+  /// to two more decimals, which are then cut off: 1.2349 at 2 gives 1.23, but 1.23996
+  /// gives 1.24. Raises 5 for a negative `DecimalDigit` and 6 for infinities and NaN, as
+  /// do the operations below that use it.
   double FixNumber2(double iValue, std::int16_t DecimalDigit, bool IgnoreNextDigit) const;
 
   /// `FixNumber2` without `IgnoreNextDigit`.
@@ -488,10 +480,10 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// Cuts a number toward zero.
   ///
   /// `FixNumber2` at 0 decimals with `IgnoreNextDigit`, so the number is rounded to two
-  /// decimals before: -2.5 gives -2 and 2.999 gives 3.
+  /// decimals first: -2.5 gives -2 and 2.999 gives 3.
   double Floor(double iValue) const;
 
-  /// `Floor`, plus 1 when the number is above it.
+  /// `Floor`, plus 1 if the number is above it.
   ///
   /// 2.001 gives 3, -2.5 gives -2.
   double Ceiling(double iValue) const;
@@ -507,7 +499,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// Brings an amount to a whole unit.
   ///
   /// A positive amount with a fraction goes up with `IncreaseToCeiling`, else down; other
-  /// amounts come back unchanged. Raises 6 when the unit above is out of range.
+  /// amounts are returned unchanged. Raises 6 if the unit above is out of range.
   ///
   /// `CelingList`, a list of satang steps such as "25;50;75", has no effect: each
   /// step is rounded to 0 or 1 unit before it is compared, and both ends of the
@@ -519,26 +511,25 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Reads the number at the front of a typed text.
   ///
-  /// Blanks, "," and "%" are skipped wherever they stand, tabs and line breaks, which
-  /// pasted cells bring, in front. "1,234.50" is 1234.5, "12.5%" is 0.125, "abc" is 0. An
-  /// exponent (E or D) needs a digit. Never fails: a number too large for a double gives
-  /// 0.
+  /// Blanks, "," and "%" are skipped anywhere; tabs and line breaks, as in pasted cells,
+  /// only at the front. "1,234.50" is 1234.5, "12.5%" is 0.125, "abc" is 0. An exponent
+  /// (E or D) needs a digit. Never fails: a number too large for a double gives 0.
   double StrVal(TextView istr) const;
 
   /// `StrVal`, rounded; -1 does not round.
   ///
-  /// It is rounded as `FixNumber` does, to `DecimalDigit` decimals. A `DecimalDigit` that
-  /// `FixNumber` does not take gives 0.
+  /// Rounded as by `FixNumber`, to `DecimalDigit` decimals. Returns 0 for a
+  /// `DecimalDigit` that `FixNumber` refuses.
   double StrVal2(TextView istr, std::int32_t DecimalDigit) const;
 
-  /// `StrVal2` as a 16-bit integer, a half going to even.
+  /// `StrVal2` as a 16-bit integer, halves to even.
   ///
-  /// Raises 6 beyond it.
+  /// Raises 6 beyond its range.
   std::int16_t StrInt(TextView istr, std::int32_t DecimalDigit = -1) const;
 
-  /// `StrVal2` as a 32-bit integer, a half going to even.
+  /// `StrVal2` as a 32-bit integer, halves to even.
   ///
-  /// Raises 6 beyond it.
+  /// Raises 6 beyond its range.
   std::int32_t StrLng(TextView istr, std::int32_t DecimalDigit = -1) const;
 
   /// `StrVal2` as a 32-bit float.
@@ -577,9 +568,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// for the digits 1 to 9 and 0: with "BLACKHORSE", 125.50 is "BLK.KE" and 0 is "E".
   ///
   /// `Price` is rounded to two decimals as `FixNumber` does, and a ".00" is left out.
-  /// Raises 5 for a word that is not ten different UTF-16 units (A to Z in either
-  /// case are the same) or holds a digit, ".", "-", a blank or a surrogate. Raises 6
-  /// for more than 15 digits before the ".", and for infinities and NaN.
+  /// Raises 5 for a word that is not ten different UTF-16 units (ignoring the case of A
+  /// to Z) or holds a digit, ".", "-", a blank or a surrogate. Raises 6 for more than 15
+  /// digits before the ".", and for infinities and NaN.
   Text FormatCostCode(double Price, TextView CodeWord) const;
 
   /// The same with a character for each repeated digit.
@@ -588,39 +579,39 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// before it, the "." not counted: with "BLACKHORSE" and "X", 5000 is "KEXX" and
   /// 55.50 is "KX.XE".
   ///
-  /// Raises 5 for a `RepeatCharacter` that is not one unit, is in the word, or could
-  /// not be in any word; also where no digit is repeated.
+  /// Raises 5 for a `RepeatCharacter` that is not one unit, is in the word, or could not
+  /// be in any word, even if no digit is repeated.
   Text FormatCostCode2(double Price, TextView CodeWord, TextView RepeatCharacter) const;
 
   /// Reads the price that `FormatCostCode` wrote.
   ///
-  /// The code has "-" where the price is negative, letters of the word in either case of
-  /// A to Z, perhaps "." and more letters, with blanks before and after only. The empty
-  /// code and blanks alone are 0. A code longer than that of any price gives the nearest
-  /// double.
+  /// The code is "-" if the price is negative, then letters of the word (A to Z in either
+  /// case), perhaps "." and more letters, with blanks only before and after. The empty
+  /// code and blanks alone are 0. A code longer than that of any price is read as the
+  /// nearest double.
   ///
-  /// Raises 13 for any other text; the message tells the place of the first unit that
-  /// does not belong, from 1, one past the end where a letter is missing. Raises 6
-  /// beyond the doubles, and 5 for a word as `FormatCostCode` does.
+  /// Raises 13 for any other text; the message tells the position, from 1, of the first
+  /// unit that does not belong, one past the end if a letter is missing. Raises 6 beyond
+  /// the range of a double, and 5 for a word as `FormatCostCode` does.
   double DeFormatCostCode(TextView CostCode, TextView CodeWord) const;
 
   /// Reads the price that `FormatCostCode2` wrote.
   ///
   /// Otherwise as `DeFormatCostCode`. A repeated letter may stand for itself: "KEX" and
   /// "KEE" are both 500. Raises 13 also for a `RepeatCharacter` with no letter before it,
-  /// and 5 for one that `FormatCostCode2` does not take.
+  /// and 5 for one that `FormatCostCode2` refuses.
   double DeFormatCostCode2(TextView CostCode, TextView CodeWord, TextView RepeatCharacter) const;
 
   // --- Lists in one text, arrays from arguments: src/text/lists.cc ---
 
   /// Adds an item to a list unless it is there.
   ///
-  /// It is there where the list holds exactly `iAdd`: "a;b" and "c" give "a;b;c". An
-  /// empty `iAdd` is an item like others.
+  /// It is there if an item equals `iAdd` exactly: "a;b" and "c" give "a;b;c". An empty
+  /// `iAdd` is an item like any other.
   ///
-  /// The list given is split at ";", the result joined by `SeparateChar` (";"
-  /// when empty): with "," the list "a;b" comes back as "a,b,c", but "a,b" is one
-  /// item. The text "$#$" inside an item also parts it.
+  /// The list given is split at ";", the result joined by `SeparateChar` (";" when
+  /// empty): with "," the list "a;b" comes back as "a,b,c", but "a,b" is one item. The
+  /// text "$#$" inside an item also splits it.
   Text AddList(TextView iList, TextView iAdd, TextView SeparateChar = u";") const;
 
   /// `ArrayString2` of up to 20 texts.
@@ -634,9 +625,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// The texts that are not empty, as an array.
   ///
-  /// The texts in their order, those of `i2` to `i30` that are empty left out.
-  /// `i1` is the first element also when it is empty, but with nothing else it
-  /// then gives no element at all. A text is parted wherever it holds ";;".
+  /// The texts in their order, without those of `i2` to `i30` that are empty. `i1` is the
+  /// first element even if it is empty, unless all are empty: then the array is too. A
+  /// text is split at every ";;".
   std::vector<Text> ArrayString2(TextView i1, TextView i2 = {}, TextView i3 = {}, TextView i4 = {},
                                  TextView i5 = {}, TextView i6 = {}, TextView i7 = {},
                                  TextView i8 = {}, TextView i9 = {}, TextView i10 = {},
@@ -656,10 +647,10 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// The whole number in a field of a comma-separated list.
   ///
   /// The field is `iNum`, counted from 1, and the number is written as decimal text;
-  /// halves go to even. The empty text when there is no such field, and for a last field
-  /// of a single character: "1,2,3" has no third, "1,2,34" has.
+  /// halves go to even. Empty if there is no such field, and for a last field of a single
+  /// character: "1,2,3" has no third, "1,2,34" has.
   ///
-  /// Raises 13 when the field is no number and 6 when it passes 32 bits.
+  /// Raises 13 if the field is not a number and 6 if it exceeds 32 bits.
   Text TrimN(TextView istr, std::int16_t iNum) const;
 
   // --- Blanks, numbered keys, searching, random numbers: src/text/strings.cc ---
@@ -672,7 +663,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Shrinks every run of blanks to one.
   ///
-  /// A blank is U+0020. Blanks at the front and at the back go, or shrink to one where
+  /// A blank is U+0020. Blanks at the front and the back are removed, or shrink to one if
   /// the flag is off.
   Text TrimSpaceToOne(TextView inString, bool TrimFront = true, bool TrimBack = true) const;
 
@@ -682,23 +673,23 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// gives "A1000", "A009" and "5" give "A014". An `AddStringNumber` that is not above 0
   /// adds nothing.
   ///
-  /// Zeros alone are no number: "A000" comes back unchanged, as does any key
-  /// without a number, with `AddStringNumber` behind it. A number of more than
-  /// 15 digits comes out in the form of `d2Str`. Raises 6 beyond the doubles.
+  /// Zeros alone are not a number: "A000" and any other key without a number are returned
+  /// with `AddStringNumber` appended. A number of more than 15 digits is written as by
+  /// `d2Str`. Raises 6 beyond the range of a double.
   Text IncreaseString(TextView InputString, TextView AddStringNumber = {}) const;
 
-  /// Fills the number at the end of a text with zeros, to sort by.
+  /// Pads the number at the end of a text with zeros, for sorting.
   ///
-  /// "inv12" at 8 gives "INV00012". The number is what `StrVal` reads above 0 from each
-  /// place on; its front is cut off where it is too long.
+  /// "inv12" at 8 gives "INV00012". The number is the end of the text that `StrVal` reads
+  /// as above 0 from each of its characters on; its front is cut off if it is too long.
   ///
-  /// A text without one, or with a "0" at its end, is filled with zeros and a
-  /// "1" instead, and only then keeps its case: "abc" at 5 gives "abc01". Raises
-  /// 5 when the part before the number is longer than `Length` characters, and 6
-  /// when twice `Length` passes 16 bits and there is a number.
+  /// A text without one, or with a "0" at its end, is padded with zeros and a "1"
+  /// instead, and only then keeps its case: "abc" at 5 gives "abc01". Raises 5 if the
+  /// part before the number is longer than `Length` characters, and 6 if twice `Length`
+  /// exceeds 16 bits and there is a number.
   Text FormatTextSort(TextView InputString, std::int16_t Length) const;
 
-  /// The position of a text in another, from 1; 0 for none.
+  /// The position of a text in another, from 1; 0 if it is not found.
   ///
   /// It is that of the first `SearchString` in `MainString` at or after `start`, in
   /// UTF-16 code units; 0 also for a `start` beyond the end. An empty `SearchString` is
@@ -713,9 +704,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// A random whole number.
   ///
-  /// It is from `Low` to `High` + 1; these two come half as often as those between.
-  /// `High` below `Low` is allowed. Raises 6 when the span `High` - `Low` + 1, or the
-  /// result, passes 32 bits.
+  /// It is from `Low` to `High` + 1; these two come half as often as the others. `High`
+  /// below `Low` is allowed. Raises 6 if the span `High` - `Low` + 1, or the result,
+  /// exceeds 32 bits.
   std::int32_t Random(std::int32_t Low, std::int32_t High) const;
 
   // --- Record keys, serial numbers, bar codes, addresses: src/text/keys.cc ---
@@ -723,14 +714,14 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// Cleans a record key as typed.
   ///
   /// Drops "'", ";", ",", "%" and line breaks, the blanks around it and, unless
-  /// `AcceptInsideSpace`, those inside. An option is on only at the value 1; -1, which
-  /// other operations take for true, is off.
+  /// `AcceptInsideSpace`, those inside. An option is on only if it is 1; -1, which is
+  /// true to other operations, is off.
   ///
-  /// `NumberOnly` keeps "0" to "9", `AutoUpperCase` turns to upper case (any
-  /// script), `AcceptOnlyEnglishCharAndNumber` keeps A to Z, a to z and "0" to
-  /// "9". Runs of blanks inside shrink to one while `AcceptInsideMultiSpace` is
-  /// 0. Blanks beside a line break stay, as they are cleaned before it is
-  /// dropped. The other parameters have no effect; no length is cut.
+  /// `NumberOnly` keeps "0" to "9", `AutoUpperCase` converts to upper case (any script),
+  /// `AcceptOnlyEnglishCharAndNumber` keeps A to Z, a to z and "0" to "9". Runs of blanks
+  /// inside shrink to one while `AcceptInsideMultiSpace` is 0. Blanks beside a line break
+  /// stay, as they are cleaned before it is dropped. The other parameters have no effect;
+  /// nothing is cut to a length.
   Text FormatPrimaryKey(TextView InputKeyValue, std::int16_t PrimaryKeyMode = 0,
                         std::int16_t MaxLen = 0, std::int16_t AcceptInsideSpace = 0,
                         std::int16_t NumberOnly = 0, std::int16_t AutoUpperCase = 0,
@@ -752,20 +743,19 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// `BarcodeType` has no effect.
   Text FormatBarCode(TextView InputBarCodeValue, std::int16_t BarcodeType = 0) const;
 
-  /// A network address without leading zeros; empty for what is none.
+  /// A network address without leading zeros; empty if it is not one.
   ///
-  /// It has four parts, or six when `ForceIPV4` is off, and comes back without signs too:
-  /// "010.001.002.003" gives "10.1.2.3". The empty text for any other number of parts, or
-  /// a part above 256 (256 itself is taken). Parts are read by `StrInt`, which raises 6
-  /// for one beyond 16 bits.
+  /// It has four parts, or six if `ForceIPV4` is off, and loses its signs too:
+  /// "010.001.002.003" gives "10.1.2.3". Empty for any other number of parts, or a part
+  /// above 256 (256 itself is accepted). Parts are read by `StrInt`, which raises 6 for
+  /// one beyond 16 bits.
   Text FormatIP(TextView StringIP, bool ForceIPV4 = true) const;
 
   // --- Check digits of bar codes: src/text/barcodes.cc ---
 
   /// The EAN-13 check digit of the first 12 characters.
   ///
-  /// It is 0 to 9; -1 when there are fewer characters. What is no digit "0" to "9" counts
-  /// as 0.
+  /// 0 to 9; -1 if there are fewer characters. Any character but "0" to "9" counts as 0.
   std::int16_t GetEAN13ChekDigit(TextView sCodice) const;
 
   /// The ITF-14 check digit of the first 13 characters.
@@ -777,13 +767,13 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Hides a text from a glance, under a password.
   ///
-  /// Combines each character's byte with the password's, the password repeated, by
-  /// exclusive or. It hides a text from nothing else; kept for the data that exists.
+  /// The exclusive or of each character's byte with that of the repeated password. It
+  /// protects against nothing more and is kept for existing data.
   ///
-  /// "ABC" with "A" gives the characters 0, 3 and 2. The result may hold any
-  /// character of the code page, also 0. Characters go through Windows-874, and
-  /// one that is not in it counts as "?". The empty text gives the empty text;
-  /// raises 6 for more than 32767 characters, 11 for an empty password.
+  /// "ABC" with "A" gives the characters 0, 3 and 2. The result may hold any character of
+  /// the code page, including 0. Characters go through Windows-874, and one that is not
+  /// in it counts as "?". The empty text gives the empty text; raises 6 for more than
+  /// 32767 characters, 11 for an empty password.
   Text EncryptBS(TextView StringInput, TextView PassWord) const;
 
   /// Undoes `EncryptBS`.
@@ -793,16 +783,15 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Enciphers a text with the host's block cipher.
   ///
-  /// The cipher is made anew for the call. An empty text comes back as it is, also any
-  /// text when the password is empty. Characters go through Windows-874, and one that is
-  /// not in it becomes "?". Raises 429 when there is no cipher, and what the cipher
-  /// raises.
+  /// The cipher is made anew for the call. Returns the text itself if it or the password
+  /// is empty. Characters go through Windows-874, and one that is not in it becomes "?".
+  /// Raises 429 if there is no cipher, and what the cipher raises.
   Text Encrypt(TextView StringInput, TextView PassWord) const;
 
-  /// The text that `Encrypt` enciphered.
+  /// Deciphers a text that `Encrypt` enciphered.
   ///
-  /// A text that it did not write, and the wrong password where the cipher can tell, give
-  /// `EncryptedTextInput` itself.
+  /// Returns `EncryptedTextInput` itself if `Encrypt` did not write it, or the password
+  /// is wrong as far as the cipher can tell.
   ///
   /// Characters of code 0 are removed from the result in every case: they are the
   /// padding of block ciphers. Raises as `Encrypt` does.
@@ -812,10 +801,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// The MD5 digest of a text.
   ///
-  /// It is the digest (RFC 1321) of the Windows-874 bytes of `strMessage`, as 32
-  /// hexadecimal digits in lower case. A character that is not in the code page counts as
-  /// "?". It tells apart texts that differ by accident: whoever wants two texts with one
-  /// digest can make them.
+  /// The digest (RFC 1321) of the Windows-874 bytes of `strMessage`, as 32 hexadecimal
+  /// digits in lower case. A character that is not in the code page counts as "?". It
+  /// detects accidental changes only: anyone can make two texts with the same digest.
   Text CalculateMD5(TextView strMessage) const;
 
  private:

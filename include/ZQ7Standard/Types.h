@@ -19,12 +19,12 @@ using TextView = std::u16string_view;
 /// Returns `text` in UTF-8. A surrogate without its partner becomes U+FFFD.
 ZQ7STANDARD_EXPORT std::string Utf8(TextView text);
 
-/// Returns the UTF-8 text `bytes` in UTF-16. Each byte that begins no
-/// well-formed sequence becomes U+FFFD.
+/// Returns the UTF-8 text `bytes` in UTF-16. Each byte that does not begin a well-formed
+/// sequence becomes U+FFFD.
 ZQ7STANDARD_EXPORT Text FromUtf8(std::string_view bytes);
 
-/// Returns how many columns of a terminal `text` takes: each code unit one, and none the
-/// Thai vowels, tone marks and signs that stand above or below a letter.
+/// Returns how many columns of a terminal `text` takes: one for each code unit, none for
+/// the Thai vowels, tone marks and signs above or below a letter.
 ZQ7STANDARD_EXPORT int TerminalWidth(TextView text);
 
 /// A date and time of day in the Gregorian calendar, held as a count of days
@@ -34,14 +34,14 @@ ZQ7STANDARD_EXPORT int TerminalWidth(TextView text);
 /// toward zero, is the day, and the absolute value of the fraction is the time
 /// of day. So -1.25 is 1899-12-29 06:00, and -0.5 and 0.5 are the same moment.
 ///
-/// Every date from 0100-01-01 to 9999-12-31 is held; the default is day 0, the
-/// "zero date". Years are Gregorian: a Buddhist Era year less 543.
+/// It holds every date from 0100-01-01 to 9999-12-31; the default is day 0, the "zero
+/// date". Years are Gregorian: a Buddhist Era year less 543.
 class ZQ7STANDARD_EXPORT OleDate {
  public:
   constexpr OleDate() = default;
 
-  /// The moment `days` days from 1899-12-30 00:00. Raises 5 when that is not a
-  /// moment from 0100-01-01 to 9999-12-31, or `days` is no number.
+  /// The moment `days` days from 1899-12-30 00:00. Raises 5 if that is not a moment from
+  /// 0100-01-01 to 9999-12-31, or `days` is NaN.
   explicit OleDate(double days);
 
   /// The moment of the Gregorian year (100 to 9999), month (1 to 12), day (from
@@ -67,12 +67,12 @@ class ZQ7STANDARD_EXPORT OleDate {
   int Minute() const;   ///< 0 to 59
   int Second() const;   ///< 0 to 59; the time is first rounded to the millisecond
 
-  /// The same time of day, `days` days later (earlier when negative). Raises 5
-  /// when that day is outside 0100-01-01 to 9999-12-31.
+  /// The same time of day, `days` days later (earlier if negative). Raises 5 if that day
+  /// is outside 0100-01-01 to 9999-12-31.
   OleDate AddDays(std::int64_t days) const;
 
-  /// "2024-01-15", with " 09:30:00" after it where there is a time of day, whatever the
-  /// date convention.
+  /// "2024-01-15", followed by " 09:30:00" if there is a time of day, whatever the date
+  /// convention.
   Text ToText() const;
 
   /// Dates compare as moments, not as day counts: -1.25 (06:00) is before -1.75
@@ -87,11 +87,11 @@ class ZQ7STANDARD_EXPORT OleDate {
 /// Which of the first two fields of a short date, such as 1/2/2567, is the month.
 enum class FieldOrder { kMonthFirst, kDayFirst };
 
-/// How a typed year counts: as a Gregorian year, or as a Buddhist Era year,
-/// which is the Gregorian year plus 543.
+/// How a typed year is read: as a Gregorian year, or as a Buddhist Era year, which is the
+/// Gregorian year plus 543.
 enum class Era { kGregorian, kBuddhist };
 
-/// A Buddhist Era year less the Gregorian year.
+/// A Buddhist Era year minus the Gregorian year.
 inline constexpr int kBuddhistOffset = 543;
 
 /// How dates are typed and shown on a machine.
@@ -108,8 +108,8 @@ class ZQ7STANDARD_EXPORT Currency {
  public:
   constexpr Currency() = default;
 
-  /// The amount nearest to `amount`, a tie going to the even fourth decimal.
-  /// Raises 6 when it is out of range or no number.
+  /// The amount nearest to `amount`, ties to the even fourth decimal. Raises 6 if it is
+  /// out of range or NaN.
   explicit Currency(double amount);
 
   /// The amount of `scaled` / 10000 units.
@@ -119,9 +119,9 @@ class ZQ7STANDARD_EXPORT Currency {
     return result;
   }
 
-  /// Reads a whole text such as "-1234.5": an optional sign, digits, one ".",
-  /// digits. Decimals beyond the fourth are rounded, a tie to even. Raises 13
-  /// for any other text and 6 for an amount out of range.
+  /// Reads a whole text such as "-1234.5": an optional sign, digits, one ".", digits.
+  /// Decimals beyond the fourth are rounded, ties to even. Raises 13 for any other text
+  /// and 6 for an amount out of range.
   static Currency FromText(TextView text);
 
   /// The amount in 1/10000 units.

@@ -10,15 +10,15 @@
 #include <string_view>
 #include <vector>
 
-/// The catalogue of the public classes, for whatever calls them by name or writes
-/// bindings for another language. Names are ASCII and are found without regard to
-/// case; texts for people are UTF-8.
+/// The catalogue of the public classes, for callers by name and for generators of
+/// bindings to other languages. Names are ASCII and are found without regard to case;
+/// texts for people are UTF-8.
 ///
 /// Everything here is plain data: a copy of it works wherever the catalogue's own does.
 ///
 /// The members of a class have numbers: its operations, properties and events share one
-/// sequence that begins at 1. A number that was released stays its member's for good, so a
-/// binding may keep numbers where it can keep no names.
+/// sequence that begins at 1. Once released, a member's number never changes, so a binding
+/// may store numbers instead of names.
 namespace ZQ7Standard::Automation {
 
 struct EnumeratorInfo {
@@ -45,14 +45,14 @@ struct ParameterInfo {
   std::string_view name;
   TypeInfo type = {};
   bool optional = false;
-  /// What an optional parameter is when it is left out; `Omitted` when the operation
-  /// itself tells the two apart.
+  /// The value of an optional parameter that is left out; `Omitted` if the operation
+  /// itself distinguishes the two.
   Value default_value = {};
-  /// Passed by reference where hosts bind to the class itself. No operation writes to one.
+  /// Passed by reference if hosts bind to the class itself. No operation writes to one.
   bool by_reference = false;
-  /// `Null` is taken: as a missing value, or as no object.
+  /// Accepts `Null`: as a missing value, or as no object.
   bool nullable = false;
-  std::string_view help = {};  ///< what the operation's documentation says of it; may be empty
+  std::string_view help = {};  ///< what the operation's documentation says about it; may be empty
 };
 
 /// A call on an instance.
@@ -61,11 +61,11 @@ struct Call {
   std::vector<Value> arguments = {};
 };
 
-/// A worked example of an operation: what a call on a new instance gives at 2024-01-15
-/// 09:30 (`ExampleServices`) where dates are typed day first in the Buddhist Era.
+/// A worked example of an operation: what a call on a new instance returns at 2024-01-15
+/// 09:30 with dates typed day first in the Buddhist Era (`ExampleServices`).
 ///
-/// A text in place of an object says what the host makes beforehand: an instance of the
-/// class by its name, and in place of a `PrintPicture` the picture of the file.
+/// A text in place of an object says what the host makes first: an instance of the class
+/// by that name or, in place of a `PrintPicture`, the picture of that file.
 struct Example {
   std::vector<Call> before = {};      ///< calls on the same instance that come first
   std::vector<Value> arguments = {};  ///< in the order of the parameters
@@ -79,7 +79,7 @@ struct OperationInfo {
   std::vector<ParameterInfo> parameters = {};
   TypeInfo result = {};
   std::string_view help = {};     ///< one line, the first of the documentation
-  std::string_view details = {};  ///< the rest, paragraphs parted by blank lines; may be empty
+  std::string_view details = {};  ///< the rest, paragraphs separated by blank lines; may be empty
   std::string_view subject = {};  ///< shared by operations that belong together; may be empty
   std::vector<Example> examples = {};
 };
@@ -112,7 +112,7 @@ struct ClassInfo {
   bool creatable = false;  ///< by `Create`
 };
 
-/// What a name of a class stands for; both are null where it is neither.
+/// What a name of a class stands for; both are null if it is neither.
 struct MemberInfo {
   const OperationInfo* operation = nullptr;
   const PropertyInfo* property = nullptr;
@@ -129,8 +129,8 @@ ZQ7STANDARD_EXPORT std::span<const ClassInfo> Classes();
 ZQ7STANDARD_EXPORT std::span<const EnumerationInfo> Enumerations();
 
 /// The class, the enumeration, or the member of a class, with that name; null if there is
-/// none. What is found is the catalogue's own, which lasts as long as the program, also
-/// where `owner` is a copy.
+/// none. What is found belongs to the catalogue, which lasts as long as the program, even
+/// if `owner` is a copy.
 ZQ7STANDARD_EXPORT const ClassInfo* FindClass(std::string_view name);
 ZQ7STANDARD_EXPORT const EnumerationInfo* FindEnumeration(std::string_view name);
 ZQ7STANDARD_EXPORT MemberInfo FindMember(const ClassInfo& owner, std::string_view name);

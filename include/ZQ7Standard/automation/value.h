@@ -19,16 +19,16 @@ struct Omitted {
   friend bool operator==(Omitted, Omitted) = default;
 };
 
-/// A value that is there and is null, as hosts with such a value have it. It converts to
-/// nothing: only parameters that are `nullable` take one.
+/// A null passed explicitly, by hosts that have such a value. It converts to nothing:
+/// only `nullable` parameters accept one.
 struct Null {
   friend bool operator==(Null, Null) = default;
 };
 
 using TextList = std::vector<Text>;
 
-/// An instance of a public class, made by `Create` or `Wrap`. Copies are the same instance,
-/// which lives as long as one of them; it belongs to one thread at a time.
+/// An instance of a public class, made by `Create` or `Wrap`. Copies refer to the same
+/// instance, which lives as long as any of them; it belongs to one thread at a time.
 class ZQ7STANDARD_EXPORT Object {
  public:
   explicit Object(std::shared_ptr<const Instance> instance);
@@ -43,8 +43,7 @@ class ZQ7STANDARD_EXPORT Object {
 };
 
 /// What crosses a call by name. Numbers, texts, Booleans, dates and currency are
-/// converted to the type that an operation wants by the rules of automation;
-/// `Invoke` tells them.
+/// converted to the type of the parameter by the rules that `Invoke` lists.
 using Value = std::variant<Omitted, Null, Text, std::int16_t, std::int32_t, float, double, bool,
                            OleDate, Currency, TextList, Object>;
 

@@ -13,8 +13,8 @@
 
 namespace ZQ7Standard {
 
-/// Bytes that nobody else may read, such as a key: overwritten before their memory
-/// is given back. Moved from, there are none.
+/// Bytes that nobody else may read, such as a key: overwritten before their memory is
+/// freed. Empty once moved from.
 class ZQ7STANDARD_EXPORT SecretBytes {
  public:
   SecretBytes() = default;
@@ -39,8 +39,8 @@ class ZQ7STANDARD_EXPORT SecretBytes {
 ///     Encrypt   SetUpKey, Initialise, EncryptBlocks, Encode
 ///     Decrypt   SetUpKey, Decode, Initialise, DecryptBlocks
 ///
-/// What `Decode` or `DecryptBlocks` cannot read they answer with nothing, and the
-/// text is then left as it is. An exception reaches the host.
+/// If `Decode` or `DecryptBlocks` returns nullopt, the text is left as it is. An
+/// exception reaches the host.
 class ZQ7STANDARD_EXPORT BlockCipher {
  public:
   virtual ~BlockCipher();
@@ -51,9 +51,9 @@ class ZQ7STANDARD_EXPORT BlockCipher {
   /// The ciphertext of `plain`, which may hold any bytes.
   virtual std::string EncryptBlocks(std::string_view plain) = 0;
 
-  /// The bytes that `EncryptBlocks` was given, padding of zero bytes at their end
-  /// allowed. Nothing when the password or the ciphertext is not right, as far as
-  /// the cipher can tell.
+  /// The bytes that `EncryptBlocks` was given, perhaps padded with zero bytes at their
+  /// end; nullopt if the password or the ciphertext is wrong, as far as the cipher can
+  /// tell.
   virtual std::optional<std::string> DecryptBlocks(std::string_view cipher) = 0;
 
   /// Makes key material of `password`, which is not empty, in two parts whose
@@ -63,7 +63,7 @@ class ZQ7STANDARD_EXPORT BlockCipher {
   /// The text that carries `cipher`, a ciphertext and its length.
   virtual Text Encode(std::string_view cipher) = 0;
 
-  /// The ciphertext that `text` carries; nothing when `Encode` did not write it.
+  /// The ciphertext that `text` carries; nullopt if `Encode` did not write it.
   virtual std::optional<std::string> Decode(TextView text) = 0;
 };
 

@@ -8,9 +8,8 @@
 
 namespace ZQ7Standard {
 
-/// The wall clock that the date operations ask for today. A host may give its
-/// own to run at another date; it is then called from the thread of the
-/// operation.
+/// The wall clock that tells the date operations today's date. A host may give its own to
+/// run at another date; it is then called on the thread of the operation.
 class ZQ7STANDARD_EXPORT Clock {
  public:
   virtual ~Clock();

@@ -8,8 +8,8 @@
 
 namespace ZQ7Standard {
 
-/// Tells the date convention in force. It is asked anew by every date
-/// operation, so that a change takes effect at once; an answer must be cheap.
+/// Tells the date convention in force. Every date operation asks anew, so that a change
+/// takes effect at once; answering must be cheap.
 class ZQ7STANDARD_EXPORT DateConventionSource {
  public:
   virtual ~DateConventionSource();
@@ -20,16 +20,15 @@ class ZQ7STANDARD_EXPORT DateConventionSource {
 /// The convention of the locale that the environment names: LC_ALL, else
 /// LC_TIME, else LANG, the first that is not empty.
 ///
-/// An installed locale decides by its own short date; one that is named but not
-/// installed is judged by its language and territory (th is day first and
-/// Buddhist, US month first, most others day first). No locale, "C" and "POSIX"
-/// are month first and Gregorian, also in a container (docs/surprises.md). The last
-/// answer is kept in the object and used while the names stay the same: an object
-/// belongs to one thread.
+/// An installed locale decides by its own short date; one that is named but not installed
+/// is judged by its language and territory (th is day first and Buddhist, US month first,
+/// most others day first). No locale, "C" and "POSIX" are month first and Gregorian, also
+/// in a container (docs/surprises.md). The object caches the last answer while the names
+/// stay the same, so it belongs to one thread.
 ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> SystemDateConvention();
 
-/// Always `convention`: for hosts with a setting of their own, and the only way
-/// to the month-first Buddhist convention, which no locale has.
+/// Always `convention`: for hosts with their own setting, and the only way to get the
+/// month-first Buddhist convention, which no locale has.
 ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> FixedDateConvention(
     DateConvention convention);
 

@@ -14,9 +14,9 @@
 
 namespace ZQ7Standard {
 
-// Both services take path texts and raise 53 (no such file), 57 (the device failed),
-// 61 (disk full), 70 (no right), 75 (not usable as a file, such as a folder, a pipe or a
-// device, which nobody waits for) or 76 (no such folder).
+// Both services take path texts and raise 53 (no such file), 57 (the device failed), 61
+// (disk full), 70 (no right), 75 (not usable as a file, such as a folder, or a pipe or
+// device, which is never waited for) or 76 (no such folder).
 
 /// Reads files.
 class ZQ7STANDARD_EXPORT FileReader {
@@ -28,24 +28,23 @@ class ZQ7STANDARD_EXPORT FileReader {
   virtual std::optional<std::string> ReadAll(TextView path) = 0;
 
   /// Reads the first bytes of a file with a single read, and returns their number. The
-  /// file is opened for reading and writing: one that is not there is made, empty, and
-  /// one that is read-only raises 70, whoever asks.
+  /// file is opened for reading and writing: a missing one is created empty, and a
+  /// read-only one raises 70, whoever asks.
   virtual std::size_t ReadStart(TextView path, std::span<char> buffer) = 0;
 };
 
-/// Writes new files, and at the end of files.
+/// Creates files and appends to files.
 class ZQ7STANDARD_EXPORT FileWriter {
  public:
   virtual ~FileWriter();
 
-  /// Makes a new file of `bytes`, which is there whole or not at all and on the disk
-  /// afterwards. Returns false, and changes nothing, when there is a file already. A link
-  /// to a file that is not there stays, and its file is made.
+  /// Creates a file of `bytes`, whole or not at all, which is on the disk afterwards.
+  /// Returns false, and changes nothing, if the file exists. A link to a missing file
+  /// stays, and its file is created.
   virtual bool Create(TextView path, std::string_view bytes) = 0;
 
-  /// Adds `bytes` at the end of a file, which is made when it is not there. Also writes
-  /// to a character device, such as a terminal. A file that is read-only raises 70,
-  /// whoever asks.
+  /// Appends `bytes` to a file, which is created if it does not exist. Also writes to a
+  /// character device, such as a terminal. A read-only file raises 70, whoever asks.
   virtual void Append(TextView path, std::string_view bytes) = 0;
 };
 

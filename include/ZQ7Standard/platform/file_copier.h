@@ -10,7 +10,7 @@
 
 namespace ZQ7Standard {
 
-/// What a copy does to a target that is there already.
+/// What a copy does to an existing target.
 enum class ExistingTarget : std::uint8_t {
   kRefuse,
   kReplace,
@@ -23,16 +23,16 @@ class ZQ7STANDARD_EXPORT FileCopier {
 
   /// Makes the file `to` a copy of the file `from` with its last-modified time.
   ///
-  /// Raises 53 when there is no file `from`; 70 for a target that is read-only, whoever
-  /// asks, or the file itself; 75 for a folder or a device on either side, and for a
+  /// Raises 53 if there is no file `from`; 70 for a target that is read-only, whoever
+  /// asks, or is `from` itself; 75 for a folder or a device on either side, and for a
   /// target that is to be refused; 57, 61 or 76 as the file system does.
   virtual void Copy(TextView from, TextView to, ExistingTarget existing) = 0;
 };
 
-/// Copies the files of the machine, without moving their bytes where the file system
-/// can share or copy them itself. Symbolic links are followed. A new file has the
-/// rights of `from`, read-only included; one that is replaced keeps its own. A copy
-/// that fails leaves no new file, but a file that it was to replace may be cut short.
+/// Copies the files of the machine, without moving their bytes if the file system can
+/// share or copy them itself. Follows symbolic links. A new file has the rights of
+/// `from`, read-only included; a replaced one keeps its own. A copy that fails leaves no
+/// new file, but a file that it was to replace may be cut short.
 ZQ7STANDARD_EXPORT std::shared_ptr<FileCopier> SystemFileCopier(DriveMap drives = {});
 
 }  // namespace ZQ7Standard

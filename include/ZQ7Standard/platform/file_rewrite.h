@@ -15,8 +15,8 @@ namespace ZQ7Standard {
 /// Reads the bytes of a file when they are first asked for.
 using OldBytes = std::function<std::string_view()>;
 
-/// Returns what a file is to hold. One that does not ask for the old bytes works on files
-/// that may not be read, too.
+/// Returns the new content of a file. One that does not ask for the old bytes also works
+/// on files that may not be read.
 using FileChange = std::function<std::string(const OldBytes& old_bytes)>;
 
 /// Rewrites files. Paths are path texts.
@@ -24,20 +24,20 @@ class ZQ7STANDARD_EXPORT FileRewriter {
  public:
   virtual ~FileRewriter();
 
-  /// Replaces the content of a file by what `change` returns; false when there is no such
-  /// file, or `path` is a folder. Where `path` is a symbolic link, the file that it names
-  /// is rewritten.
+  /// Replaces the content of a file by what `change` returns; false if there is no such
+  /// file, or `path` is a folder. If `path` is a symbolic link, the file that it names is
+  /// rewritten.
   ///
-  /// The disk holds the old file or the new one whole at any moment, also after a
-  /// failure, and the new one once this returns. Between the old bytes and the new ones no
-  /// other `Rewrite` of the file gets in, of any process; a change may be asked for again
-  /// where a program that does not wait its turn did, and must not rewrite the file itself.
+  /// At any moment, even after a failure, the disk holds the whole old file or the whole
+  /// new one, and the new one once this returns. No other `Rewrite` of the file, in any
+  /// process, comes between the old bytes and the new ones; `change` may be called again
+  /// if a program that ignores the lock interfered, and must not rewrite the file itself.
   ///
   /// The new file has the owner, the group and the rights of the old one, and its owner
   /// the right to write. It is written as a temporary file beside the old one, whose name
-  /// has "$$$$" behind; one that was left by a process that was killed is thrown away.
+  /// ends in "$$$$"; one left by a killed process is removed.
   ///
-  /// Raises 57, 61, 70, 75 or 76, and what `change` raises; 70 also when others kept the
+  /// Raises 57, 61, 70, 75 or 76, and what `change` raises; 70 also if others held the
   /// file for ten seconds.
   virtual bool Rewrite(TextView path, const FileChange& change) = 0;
 };

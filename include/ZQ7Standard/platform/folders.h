@@ -12,8 +12,8 @@
 
 namespace ZQ7Standard {
 
-/// Tells folders apart that are there at the same time: equal for one folder, whatever
-/// path led to it.
+/// Distinguishes folders that exist at the same time: equal for one folder, whatever path
+/// led to it.
 struct FolderIdentity {
   std::uint64_t device = 0;
   std::uint64_t number = 0;  ///< within the device
@@ -33,22 +33,21 @@ class ZQ7STANDARD_EXPORT Folders {
  public:
   virtual ~Folders();
 
-  /// Makes the folder `path` in one that is there. Raises 75 when the name is taken.
+  /// Creates the folder `path` in an existing one. Raises 75 if the name is taken.
   virtual void Create(TextView path) = 0;
 
   /// Everything in the folder `path`, hidden entries included, in the order of the
   /// file system; "." and ".." are left out.
   virtual std::vector<FolderEntry> List(TextView path) = 0;
 
-  /// The folder `path` and those that it lies in, from the inside out; where it is not
-  /// there, from the nearest that is. Ends early where the user may not look further.
-  /// Raises nothing.
+  /// The folder `path` and those that it lies in, from the inside out, beginning with the
+  /// nearest that exists. Ends early if the user may not look further. Never raises.
   virtual std::vector<FolderIdentity> Enclosing(TextView path) = 0;
 };
 
-/// The folders of the machine. A link to a folder counts as the folder. Listing raises
-/// 75 at a name that no path text leads to, with "\" in it or not in UTF-8: it would
-/// be taken for another one.
+/// The folders of the machine. A link to a folder counts as the folder. Listing raises 75
+/// for a name without a path text (with "\" in it, or not UTF-8), which would be taken
+/// for another one.
 ZQ7STANDARD_EXPORT std::shared_ptr<Folders> SystemFolders(DriveMap drives = {});
 
 }  // namespace ZQ7Standard

@@ -30,9 +30,9 @@ struct Message {
   MessageButtons buttons = MessageButtons::kOk;
 };
 
-/// How the user is told of a problem that no caller hears of. A host gives its own
-/// to show a window; it is called from the thread of the operation, which goes on
-/// when `Show` returns.
+/// How the user is told of a problem that the caller is not. A host gives its own to show
+/// a window; it is called on the thread of the operation, which goes on when `Show`
+/// returns.
 class ZQ7STANDARD_EXPORT MessageBox {
  public:
   virtual ~MessageBox();
@@ -40,8 +40,8 @@ class ZQ7STANDARD_EXPORT MessageBox {
   virtual void Show(const Message& message) = 0;
 };
 
-/// Keeps each message for the host, which takes them after the operation: how a program
-/// without a screen learns of the problems that no operation returns.
+/// Keeps the messages for the host to take after the operation: how a program without a
+/// screen learns of the problems that no operation returns.
 class ZQ7STANDARD_EXPORT RecordingMessageBox final : public MessageBox {
  public:
   void Show(const Message& message) override;
@@ -54,7 +54,7 @@ class ZQ7STANDARD_EXPORT RecordingMessageBox final : public MessageBox {
 };
 
 /// Writes each message as a line to `stream`, which outlives the box: `title: text` in
-/// UTF-8, or the text alone where there is no title. It does not wait.
+/// UTF-8, or the text alone if there is no title. It does not wait.
 ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> StreamMessageBox(std::ostream& stream);
 
 /// The same on the error stream.

@@ -9,9 +9,9 @@
 
 namespace ZQ7Standard {
 
-/// The path text of a native path: "C:\srv\app\set.ini" for /srv/app/set.ini. A
-/// relative path stays relative, "C:set.ini". A name that holds "\" or bytes that are
-/// not UTF-8 has no path text that leads back to it.
+/// The path text of a native path: "C:\srv\app\set.ini" for /srv/app/set.ini. A relative
+/// path stays relative, "C:set.ini". No path text leads back to a name that holds "\" or
+/// bytes that are not UTF-8.
 ZQ7STANDARD_EXPORT Text PathText(const std::filesystem::path& path);
 
 }  // namespace ZQ7Standard

@@ -25,26 +25,25 @@ struct PageSize {
   friend bool operator==(PageSize, PageSize) = default;
 };
 
-/// What text is printed in.
+/// The font that text is printed in.
 struct PrintFont {
   Text name;                 ///< of the family; empty is the printer's own
   double size = 10;          ///< points
-  std::uint8_t charset = 1;  ///< of the letters wanted: 222 Thai, 1 any
+  std::uint8_t charset = 1;  ///< of the letters needed: 222 Thai, 1 any
   bool bold = false;
   bool italic = false;
 
   friend bool operator==(const PrintFont&, const PrintFont&) = default;
 };
 
-/// The page that a printer is given. The first text or picture opens a document,
-/// `End` or `Abort` closes it; position and font are there before. What fails
-/// raises 482.
+/// The page given to a printer. The first text or picture opens a document, `End` or
+/// `Abort` closes it; position and font exist before that. Failures raise 482.
 class ZQ7STANDARD_EXPORT PrintDocument {
  public:
   virtual ~PrintDocument();
 
-  /// Makes every position and length count in millimetres, as they need not in a
-  /// new document.
+  /// Makes every position and length count in millimetres; in a new document they may
+  /// not.
   virtual void UseMillimetres() = 0;
 
   virtual PagePosition Position() = 0;
@@ -60,16 +59,15 @@ class ZQ7STANDARD_EXPORT PrintDocument {
   /// moves to the start of the next line: x is 0, y one line down.
   virtual void PrintLine(TextView text) = 0;
 
-  /// Draws the PNG or JPEG file of the bytes `picture` in that place and size. The
-  /// position stays.
+  /// Draws a picture, given as the bytes of a PNG or JPEG file, with that place and size.
+  /// The position stays.
   virtual void DrawPicture(std::string_view picture, PagePosition position, PageSize size) = 0;
 
-  /// Gives the open document to the printer; nothing when none is open. The position
-  /// is then 0, 0. After a failure the document is gone too.
+  /// Gives the open document, if there is one, to the printer. The position is then 0, 0.
+  /// After a failure the document is gone too.
   virtual void End() = 0;
 
-  /// Throws the open document away; nothing when none is open. The position is then
-  /// 0, 0.
+  /// Discards the open document, if there is one. The position is then 0, 0.
   virtual void Abort() = 0;
 };
 

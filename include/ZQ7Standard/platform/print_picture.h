@@ -10,7 +10,7 @@
 
 namespace ZQ7Standard {
 
-/// A picture for `PrintObject`, with the size that it has of itself.
+/// A picture for `PrintObject`, with its own size.
 class ZQ7STANDARD_EXPORT PrintPicture {
  public:
   virtual ~PrintPicture();
@@ -22,10 +22,9 @@ class ZQ7STANDARD_EXPORT PrintPicture {
   virtual std::string_view Picture() = 0;
 };
 
-/// The picture of a PNG or JPEG file, named by its path text and read at once, in the
-/// resolution that the file tells, else 96 dots to the inch. Raises 53 when there is no
-/// such file, 57, 70 or 75 when it cannot be read, and 5 when it is neither a PNG nor a
-/// JPEG.
+/// The picture of a PNG or JPEG file, named by its path text and read at once, at the
+/// file's own resolution, else 96 dots per inch. Raises 53 if there is no such file, 57,
+/// 70 or 75 if it cannot be read, and 5 if it is neither a PNG nor a JPEG.
 ZQ7STANDARD_EXPORT std::shared_ptr<PrintPicture> PictureFromFile(TextView path,
                                                                  DriveMap drives = {});
 

@@ -7,7 +7,7 @@
 
 namespace ZQ7Standard {
 
-/// The settings of a printer that have a number.
+/// The numeric settings of a printer.
 enum class PrinterSetting : std::uint8_t {
   kOrientation,   ///< 1 portrait, 2 landscape
   kPaperSize,     ///< a code of `PrintObject::GETPaperSizeText`
@@ -15,14 +15,14 @@ enum class PrinterSetting : std::uint8_t {
   kPrintQuality,  ///< -1 draft, -2 low, -3 medium, -4 high
 };
 
-/// How a printer prints its next document. What fails raises 482.
+/// How a printer prints its next document. Failures raise 482.
 class ZQ7STANDARD_EXPORT PrinterSettings {
  public:
   virtual ~PrinterSettings();
 
   virtual std::int16_t Get(PrinterSetting setting) = 0;
 
-  /// Fails when the printer cannot do `value`; the setting then stays.
+  /// Fails if the printer cannot do `value`; the setting is then unchanged.
   virtual void Set(PrinterSetting setting, std::int16_t value) = 0;
 };
 

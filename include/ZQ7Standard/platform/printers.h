@@ -14,15 +14,14 @@
 namespace ZQ7Standard {
 
 /// An installed printer. A host's own list must set all fields: `PrintObject` raises 482
-/// where it needs the settings or the document and there are none.
+/// if it needs the settings or the document and they are null.
 struct Printer {
   Text device_name;
   std::shared_ptr<PrinterSettings> settings;
   std::shared_ptr<PrintDocument> document;
 };
 
-/// The installed printers, of which one is the current one. What fails raises
-/// 482.
+/// The installed printers, one of which is the current one. Failures raise 482.
 class ZQ7STANDARD_EXPORT PrinterList {
  public:
   virtual ~PrinterList();
@@ -37,25 +36,24 @@ class ZQ7STANDARD_EXPORT PrinterList {
 
   virtual void MakeCurrent(const Printer& printer) = 0;
 
-  /// Does `steps`, in which `PrintObject` makes all calls of one operation on the list
-  /// and its printers, and passes on what they throw. A list that asks a server can so
-  /// limit the time that they take together; otherwise there is nothing to override.
+  /// Runs `steps`, in which `PrintObject` makes all calls of one operation on the list
+  /// and its printers, and passes on what they throw. A list that asks a server overrides
+  /// it to limit the time that they take together; others need not.
   virtual void DoOperation(const std::function<void()>& steps);
 };
 
-/// The printers of the machine: those of the CUPS server that the environment names,
-/// its default one as current. Where none answers or it has no printer there is one
-/// by the name of "PDF" instead, which writes each document as a file to the folder
-/// `pdf_folder`, else to the documents folder of the user. docs/printing.md
+/// The printers of the machine: those of the CUPS server that the environment names, its
+/// default one as current. If none answers or it has no printers, there is one named
+/// "PDF" instead, which writes each document as a file to the folder `pdf_folder`, or if
+/// that is empty to the user's documents folder. docs/printing.md
 ///
 /// The list belongs to one thread at a time, and keeps its own current printer. A
-/// document that is open when the list goes is thrown away. The server is asked 5
-/// seconds at most for all that an operation wants to know, and has 30 seconds to take a
-/// job. Nobody is asked for a password: a server that wants one has failed. Afterwards
-/// the password callback of CUPS is its own for the thread; a host that has another one
-/// sets it again.
+/// document that is open when the list is destroyed is discarded. The server has 5
+/// seconds for all that an operation asks, and 30 seconds to take a job. Nobody is asked
+/// for a password: a server that asks for one has failed. Afterwards CUPS's password
+/// callback for the thread is its default; a host with another one sets it again.
 ///
-/// A library built without ZQ7STANDARD_WITH_PRINTING has no printer installed.
+/// In a library built without ZQ7STANDARD_WITH_PRINTING no printer is installed.
 ZQ7STANDARD_EXPORT std::shared_ptr<PrinterList> SystemPrinters(
     std::filesystem::path pdf_folder = {});
 

@@ -7,22 +7,21 @@
 
 namespace ZQ7Standard {
 
-/// The pseudo-random numbers that `StandardObject::Random` draws. A host may
-/// give its own to make the draws known; it is then called from the thread of
-/// the operation.
+/// The pseudo-random numbers that `StandardObject::Random` draws. A host may give its own
+/// to make the draws predictable; it is then called on the thread of the operation.
 class ZQ7STANDARD_EXPORT RandomSource {
  public:
   virtual ~RandomSource();
 
-  /// Starts a new sequence at a place that the clock decides.
+  /// Starts a new sequence, seeded from the clock.
   virtual void Reseed() = 0;
 
   /// The next number of the sequence, from 0 up to but not including 1.
   virtual float Next() = 0;
 };
 
-/// A generator seeded from the machine's clock. Not for secrets: who knows the
-/// moment of a draw knows the number.
+/// A generator seeded from the machine's clock. Not for secrets: whoever knows the moment
+/// of a draw knows the number.
 ZQ7STANDARD_EXPORT std::shared_ptr<RandomSource> SystemRandomSource();
 
 }  // namespace ZQ7Standard

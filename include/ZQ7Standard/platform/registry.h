@@ -25,14 +25,14 @@ inline constexpr std::uint32_t kKeyNonVolatile = 0;
 inline constexpr std::uint32_t kRegistryText = 1;
 inline constexpr std::uint32_t kRegistryNumber = 4;  ///< 32 bits, low byte first
 
-/// Who may use a key that is made, and whether processes inherit it.
+/// Who may use a new key, and whether processes inherit it.
 struct KeySecurity {
   std::uint32_t length = 0;          ///< bytes, as the caller states it
   const void* descriptor = nullptr;  ///< the platform's own; nullptr for the default
   bool inherit = false;
 };
 
-/// How a key is made, or opened where it is there.
+/// How a key is created, or opened if it exists.
 struct KeyCreation {
   TextView key_class;
   std::uint32_t options = kKeyNonVolatile;
@@ -46,18 +46,18 @@ struct QueriedValue {
   std::size_t size;
 };
 
-/// A key that was opened; its destructor closes it. It is not used after its
-/// registry, nor in another process.
+/// An open key; its destructor closes it. It must not outlive its registry, nor be used
+/// in another process.
 class ZQ7STANDARD_EXPORT RegistryKey {
  public:
   virtual ~RegistryKey();
 
-  /// Writes the data of the value `name` to the front of `buffer`. Nothing, and
-  /// nothing written, when there is no such value or it is longer than `buffer`.
+  /// Writes the data of the value `name` to the front of `buffer`. Returns nullopt, and
+  /// writes nothing, if there is no such value or it is longer than `buffer`.
   virtual std::optional<QueriedValue> Query(TextView name, std::span<char> buffer) = 0;
 
-  /// Gives the value `name` a type and data, whatever it was. False when it cannot
-  /// be written, which changes nothing; true when it will outlast a loss of power.
+  /// Sets the type and the data of the value `name`, whatever it was. Returns true once
+  /// it would survive a loss of power; false, changing nothing, if it cannot be written.
   virtual bool Set(TextView name, std::uint32_t type, std::string_view data) = 0;
 };
 
@@ -67,44 +67,43 @@ class ZQ7STANDARD_EXPORT RegistryKey {
 /// registries of the library have no key with an empty name, a name of more than 255
 /// characters or a path of more than 512 names.
 ///
-/// `root` is any number, mostly a `KetRootType`. An operation that cannot do what
-/// it should answers with nothing. A registry belongs to one thread at a time, and
-/// so do its keys.
+/// `root` is any number, usually a `KetRootType`. An operation that fails returns null. A
+/// registry and its keys belong to one thread at a time.
 class ZQ7STANDARD_EXPORT Registry {
  public:
   virtual ~Registry();
 
-  /// The key at `path` below `root` with the rights of the mask `access`; nothing
-  /// when it is not there or a right is not granted.
+  /// The key at `path` below `root` with the rights of the mask `access`; null if it does
+  /// not exist or a right is not granted.
   virtual std::unique_ptr<RegistryKey> Open(std::int32_t root, TextView path,
                                             std::uint32_t access) = 0;
 
-  /// The same, after making the key where it is not there, and the keys above it.
+  /// The same, after creating the key and those above it if they do not exist.
   virtual std::unique_ptr<RegistryKey> Create(std::int32_t root, TextView path,
                                               const KeyCreation& creation) = 0;
 };
 
-/// The folders that hold the databases of `SystemRegistry`. An empty path is the
-/// machine's own place for it.
+/// The folders that hold the databases of `SystemRegistry`. An empty path means the
+/// machine's own place.
 struct RegistryFolders {
-  std::filesystem::path user;     ///< of HKEY_CURRENT_USER; else ~/.local/share/zq7standard
-  std::filesystem::path machine;  ///< of the other roots; else /var/lib/zq7standard
+  std::filesystem::path user;     ///< of HKEY_CURRENT_USER; by default ~/.local/share/zq7standard
+  std::filesystem::path machine;  ///< of the other roots; by default /var/lib/zq7standard
 };
 
 /// The registry of the machine. On Linux it is two SQLite databases, whose file
-/// permissions are the rights to it: who may not write one may not open a key of
-/// it either. An update is on the disk when it returns, and processes may write at
-/// the same time. Nothing is opened before the first call, nothing made before the
-/// first key is. A database is made for its user alone; none that is a symbolic link is
-/// used, nor one in the user's own place that belongs to or can be written by others.
-/// docs/files.md is for who looks after it.
+/// permissions are the rights to it: whoever may not write one may not open a key of it
+/// either. An update is on the disk when it returns, and processes may write at the same
+/// time. Nothing is opened before the first call, or created before the first key. A
+/// database is created for its user alone; one that is a symbolic link is not used, nor
+/// one in the user's own place that others own or may write to. docs/files.md is for its
+/// administrator.
 ///
-/// A process that forks may use it on both sides. In a library built without
-/// ZQ7STANDARD_WITH_SQLITE no key can be opened or made.
+/// It may be used on both sides of a fork. In a library built without
+/// ZQ7STANDARD_WITH_SQLITE no key can be opened or created.
 ZQ7STANDARD_EXPORT std::shared_ptr<Registry> SystemRegistry(const RegistryFolders& folders = {});
 
-/// A registry in memory, empty at first: for tests, and for hosts that are to leave
-/// nothing behind.
+/// A registry in memory, empty at first: for tests, and for hosts that must leave nothing
+/// behind.
 ZQ7STANDARD_EXPORT std::shared_ptr<Registry> MemoryRegistry();
 
 }  // namespace ZQ7Standard

@@ -9,9 +9,9 @@
 
 namespace ZQ7Standard {
 
-/// The work of making a key of a password (Argon2id, RFC 9106), which each
-/// `Encrypt` and `Decrypt` does once, and which one who guesses at the password
-/// has to do for each guess. docs/security.md has the times.
+/// The work of deriving a key from a password (Argon2id, RFC 9106): once for each
+/// `Encrypt` and `Decrypt`, and once for each guess at the password. docs/security.md has
+/// the times.
 enum class KeyCost : std::uint8_t {
   kLeast = 0,        ///< 8 KiB, 1 pass: for passwords that are random keys, and tests
   kInteractive = 1,  ///< 64 MiB, 2 passes: for passwords that a person chose
@@ -24,15 +24,14 @@ enum class KeyCost : std::uint8_t {
 ///
 ///     StandardObject object({.block_cipher = SodiumBlockCipher()});
 ///
-/// An enciphered text is "ZQ71" and then letters, digits, "-" and "_"; it shows
-/// the length of the plain text and the cost, nothing else, and no two are alike.
-/// Every cipher reads the texts of every cost. Blanks and line breaks that a
-/// mail program put in do not matter; any other change, and the wrong password,
-/// are told for certain.
+/// An enciphered text is "ZQ71" and then letters, digits, "-" and "_"; it shows the
+/// length of the plain text and the cost, nothing else, and no two are alike. Every
+/// cipher reads the texts of every cost. Blanks and line breaks that a mail program
+/// inserted do not matter; any other change, and the wrong password, are always detected.
 ///
-/// The factory may be used from any thread; a cipher belongs to one. Ciphers raise 7
-/// when the memory of the cost is not there, `SodiumBlockCipher` 5 for a value that
-/// is no `KeyCost`.
+/// The factory may be used from any thread; a cipher belongs to one. Ciphers raise 7 if
+/// there is not enough memory for the cost, `SodiumBlockCipher` 5 for a value that is not
+/// a `KeyCost`.
 ///
 /// Only in a library built with ZQ7STANDARD_WITH_SODIUM.
 ZQ7STANDARD_EXPORT BlockCipherFactory SodiumBlockCipher(KeyCost cost = KeyCost::kInteractive);

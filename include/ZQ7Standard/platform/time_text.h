@@ -17,9 +17,9 @@ class ZQ7STANDARD_EXPORT TimeTextSource {
   virtual Text LongTime(OleDate moment) = 0;
 };
 
-/// The time format of the locale that LC_ALL, else LC_TIME, else LANG names:
-/// "09:05:07 AM" for en_US. "09:05:07" where that locale is not installed. An object
-/// belongs to one thread.
+/// The time format of the locale that LC_ALL, else LC_TIME, else LANG names: "09:05:07
+/// AM" for en_US, "09:05:07" if that locale is not installed. An object belongs to one
+/// thread.
 ZQ7STANDARD_EXPORT std::shared_ptr<TimeTextSource> SystemTimeText();
 
 }  // namespace ZQ7Standard
