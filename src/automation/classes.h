@@ -18,7 +18,7 @@ ClassRow PrintObjectEntry();
 ClassRow RegistryObjectEntry();
 ClassRow StandardObjectEntry();
 
-// The same of what hosts hand in to operations.
+// The same for objects that hosts pass to operations.
 
 ClassRow PrintPictureEntry();
 ClassRow SerialPortEntry();

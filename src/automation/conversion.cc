@@ -25,7 +25,7 @@ constexpr int kSingleDigits = 7;
 template <typename T>
 concept Arithmetic = std::is_arithmetic_v<T>;
 
-/// `value` as the message of an error shows it.
+/// `value` as shown in an error message.
 struct ShownVisitor {
   ErrorInput operator()(const Text& text) const { return text; }
   ErrorInput operator()(bool flag) const { return TextView(flag ? u"True" : u"False"); }
@@ -51,14 +51,14 @@ Where PlaceOf(const Place& place) {
   Raise(Error::kTypeMismatch, PlaceOf(place), std::visit(ShownVisitor{}, value));
 }
 
-/// The text of a number without blanks around it and "," between its digits.
+/// The text of a number without the blanks around it and its ",".
 Text Ungrouped(TextView text) {
   Text number(TrimBack(TrimFront(text)));
   std::erase(number, u',');
   return number;
 }
 
-/// The number that a whole text is; nothing when it is none.
+/// The number that the whole text is; nullopt if it is not a number.
 std::optional<double> NumberOf(TextView text, const Value& value, const Place& place) {
   const Text number = Ungrouped(text);
   if (!IsNumberText(number)) return std::nullopt;
@@ -71,7 +71,7 @@ std::optional<OleDate> DateOf(TextView text, ServiceSet& services) {
   return ReadDateText(text, services.Convention(), services.Now().Year());
 }
 
-/// What a value is as a number, apart from a text, which the caller has looked at.
+/// A value as a number. A text, which callers try first as something else, must be one.
 struct NumberVisitor {
   const Value& value;
   const Place& place;
@@ -119,7 +119,7 @@ Text DateText(OleDate date, DateConvention convention) {
   return text;
 }
 
-/// The amount without zeros at its end.
+/// The amount without trailing zeros.
 Text AmountText(Currency amount) {
   Text text = amount.ToText();
   text.erase(text.find_last_not_of(u'0') + 1);
@@ -127,7 +127,7 @@ Text AmountText(Currency amount) {
   return text;
 }
 
-/// The amount that `make` makes, which fails for one out of range alone.
+/// The amount that `make` returns; its only failure is an amount out of range.
 Currency Fitting(const auto& make, const Value& value, const Place& place) {
   try {
     return make();

@@ -7,7 +7,7 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-/// `value`, which a row writes in the nearest C++ type, as the type `wanted`.
+/// Converts `value`, which a row writes in the nearest C++ type, to the type `wanted`.
 Value Typed(const Value& value, TypeInfo wanted, const CallContext& context) {
   if (std::holds_alternative<Omitted>(value)) return value;
   switch (wanted.type) {

@@ -8,7 +8,7 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-/// The parameters of `MoneyText` and of the older name of it.
+/// The parameters of `MoneyText` and of its older name.
 const std::vector<ParameterRow> kMoneyText = {
     ByRef("inDouble"), Optional("useBreak", false), Optional("useEnglish", false),
     Optional("NewUnit", u""), Optional("NewSubUnit", u"")};
