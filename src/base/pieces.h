@@ -5,8 +5,8 @@
 
 namespace ZQ7Standard {
 
-/// Takes the text up to the next `separator` off the front of `rest`, and the
-/// separator. A text that ends in one has no empty field behind it.
+/// Removes the text up to the next `separator` from the front of `rest`, and the separator. After a
+/// trailing separator there is no empty field.
 TextView TakeField(TextView& rest, char16_t separator);
 
 /// `text` from its first character that is not in `set`.
