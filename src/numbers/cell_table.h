@@ -8,23 +8,22 @@
 
 namespace ZQ7Standard {
 
-/// The cells of a grid: rows of one width, which come and go at the end.
+/// The cells of a grid: rows of equal width, added and removed at the end.
 ///
-/// Memory comes from `std::calloc`, because large blocks of it take no room on
-/// the machine until they are written to, and grows by `std::realloc`, because
-/// that need not hold a large block twice to make it larger.
+/// Memory comes from `std::calloc`, because large blocks occupy no memory until they are written
+/// to, and grows by `std::realloc`, because it can enlarge a large block without holding it twice.
 class CellTable {
  public:
   CellTable() = default;
 
-  /// A table of zeros. Throws std::bad_alloc when it cannot be held.
+  /// A table of zeros. Throws std::bad_alloc if it does not fit in memory.
   CellTable(std::size_t rows, std::size_t width);
 
-  /// Drops the rows from `rows` on, or adds rows of zeros up to `rows`. Throws
-  /// std::bad_alloc when they cannot be held, and changes nothing then.
+  /// Drops the rows from `rows` on, or adds rows of zeros up to `rows`. Throws std::bad_alloc if
+  /// they do not fit in memory, and then changes nothing.
   void Resize(std::size_t rows);
 
-  /// The number of cells of a row; 0 in a table without any.
+  /// The number of cells in a row; 0 in a table without cells.
   std::size_t Width() const { return width_; }
 
   /// The first cell of a row.

@@ -18,8 +18,8 @@ namespace {
   Raise(Error::kSubscriptOutOfRange, {operation, row < 0 ? "Row" : "Col"}, row < 0 ? row : col);
 }
 
-/// Makes room for rows and columns and their spare ones, which keep what they hold; raises
-/// 7 and changes nothing where the machine has none. Returns the rows.
+/// Makes room for rows and columns, including the spare ones, and keeps their contents; raises 7
+/// and changes nothing if there is not enough memory. Returns the rows.
 std::int32_t MakeRoom(std::unique_ptr<CellTable>& cells, std::int64_t rows, std::int32_t cols,
                       std::string_view operation) {
   try {
@@ -44,14 +44,14 @@ GridValueListener::~GridValueListener() = default;
 
 void GridValueListener::DataChange() {}
 
-/// The listeners of a grid, which may come and go inside an event.
+/// The listeners of a grid, which may be added and removed during an event.
 class GridListeners {
  public:
-  /// Does nothing with one that listens already, or is null.
+  /// Ignores a listener that is null or already added.
   void Add(std::shared_ptr<GridValueListener> listener);
   void Remove(const GridValueListener& listener);
 
-  /// Tells all that were there before the event and have not left since.
+  /// Notifies all that were listening before the event and have not left since.
   void TellCellDataChange(std::int32_t row, std::int32_t col);
 
  private:

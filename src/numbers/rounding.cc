@@ -13,7 +13,7 @@ constexpr std::int64_t kUnit = 10000;  // of a Currency
 
 enum class Ending { kRounded, kCut };
 
-/// `number` with `decimals` decimals.
+/// Rounds or cuts `number` to `decimals` decimals.
 double Fixed(std::string_view operation, double number, int decimals, Ending ending) {
   if (decimals < 0) Raise(Error::kInvalidArgument, {operation, "DecimalDigit"}, decimals);
   const auto decimal = ToDecimal(number);
