@@ -14,19 +14,18 @@
 namespace ZQ7Standard {
 namespace {
 
-/// How many lines the passes of a reader take, which counts its passes in 32 bits and
-/// reads a line in those from `from` to `to`.
+/// The number of lines that a 32-bit loop from max(`from`, 1) to `to` can read.
 std::int64_t LinesTaken(std::int32_t from, std::int32_t to) {
   const std::int64_t last = to == 0 ? std::numeric_limits<std::int32_t>::max() : to;
   return last - std::max(from, 1) + 1;
 }
 
-/// The lines of `contents`, joined; nothing when there are more than `most`.
+/// The lines of `contents`, joined; nullopt if there are more than `most`.
 std::optional<std::string> JoinLines(std::string_view contents, std::int64_t most) {
   std::string joined;
   for (std::int64_t count = 0; !contents.empty(); ++count) {
     if (count >= most) return std::nullopt;
-    // A first line that is empty leaves no trace.
+    // An empty first line leaves no trace.
     if (!joined.empty()) joined += kLineEnd;
     joined += TakeLine(contents);
   }

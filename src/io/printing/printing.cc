@@ -12,7 +12,7 @@
 namespace ZQ7Standard {
 namespace {
 
-constexpr std::int32_t kPrinterPosition = -1;  // as a position: where the printer is
+constexpr std::int32_t kPrinterPosition = -1;  // as a position: the printer's current one
 constexpr std::int32_t kCentred = 1;
 constexpr std::int32_t kEnding = 2;
 
@@ -21,12 +21,12 @@ constexpr std::string_view kObject = "PrintGraphicObject";
 
 constexpr std::uint8_t kThaiCharset = 222;
 
-// The most, in heights of the font, that a character narrows what stands before it: a
-// family of emoji becomes one.
+// The most that a character can narrow the text before it, in font heights: a family of emoji
+// becomes one.
 constexpr double kShrinkage = 4;
 constexpr double kMillimetresPerPoint = 25.4 / 72;
 
-/// The document of `printer`, which the list of a host may have left empty.
+/// The document of `printer`, which a host's list may have left empty.
 std::shared_ptr<PrintDocument> DocumentOf(const Printer& printer) {
   if (!printer.document) throw RunTimeError(Error::kPrinterError, "the printer has no document");
   return printer.document;
@@ -38,12 +38,12 @@ std::int32_t Rounded(std::string_view operation, double position) {
   return *whole;
 }
 
-/// `asked`, or where the printer is, in whole millimetres.
+/// `asked`, or the printer's current position, in whole millimetres.
 float PlaceOf(std::string_view operation, std::int32_t asked, float current) {
   return static_cast<float>(asked == kPrinterPosition ? Rounded(operation, current) : asked);
 }
 
-/// Where a text begins that is aligned to `x`.
+/// Where a text aligned to `x` begins.
 float StartOf(std::int32_t alignment, float x, TextView text, PrintDocument& document) {
   if (alignment == kCentred) {
     return static_cast<float>(Rounded(kText, x - document.TextWidth(text) / 2));
@@ -51,7 +51,7 @@ float StartOf(std::int32_t alignment, float x, TextView text, PrintDocument& doc
   return alignment == kEnding ? x - document.TextWidth(text) : x;
 }
 
-/// `text` without the characters at its end that make it wider than `limit`.
+/// `text` without the characters at its end that exceed `limit`.
 TextView Shortened(TextView text, double limit, PrintDocument& document) {
   if (!(limit > 0)) return text;
   const double shrinkage = kShrinkage * document.Font().size * kMillimetresPerPoint;
@@ -78,7 +78,7 @@ void ChangeFont(PrintDocument& document, TextView name, double size, bool bold, 
   document.SetFont(font);
 }
 
-/// The document of `printer` to place something in; `last` starts at its position.
+/// The document of `printer` to place something in; sets `last` to its current position.
 std::shared_ptr<PrintDocument> DocumentToPlaceIn(const Printer& printer, PagePosition& last) {
   auto document = DocumentOf(printer);
   const PagePosition position = document->Position();
