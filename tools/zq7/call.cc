@@ -39,8 +39,8 @@ Text TextOfWord(const std::string& word) {
   return text;
 }
 
-/// The member of an enumeration by its name. Any other word that looks like a name
-/// would be no number either.
+/// The member of an enumeration by name. Any other word that looks like a name would not be a
+/// number either.
 Value EnumeratorOf(const EnumerationInfo& enumeration, const std::string& word) {
   if (const auto value = ValueOfEnumerator(enumeration, word)) return *value;
   throw WrongUse(Quoted(word) + " is no " + std::string(enumeration.name) + "." +
@@ -52,7 +52,7 @@ Value ValueOfWord(const std::string& word, const TypeInfo& type) {
   return member ? EnumeratorOf(*type.enumeration, word) : Value(TextOfWord(word));
 }
 
-/// The arguments of a call, taken from its words one by one.
+/// Collects the arguments of a call word by word.
 class WordArguments {
  public:
   explicit WordArguments(const OperationInfo& operation) : operation_(operation) {}
@@ -70,7 +70,7 @@ class WordArguments {
   void TakePositional(const std::string& word) {
     const std::size_t place = positional_.size();
     const auto& parameters = operation_.parameters;
-    // One too many is told by the call.
+    // The call reports one argument too many.
     const TypeInfo type = place < parameters.size() ? parameters[place].type : TypeInfo();
     positional_.push_back(ValueOfWord(word, type));
   }

@@ -139,7 +139,7 @@ void Commands::AddSettings() {
 
 void Commands::Parse(const std::vector<std::string>& words) {
   std::vector<std::string> rest = WithoutArguments(words);
-  std::ranges::reverse(rest);  // as the parser wants them
+  std::ranges::reverse(rest);  // the order that the parser expects
   try {
     app_.parse(std::move(rest));
   } catch (const CLI::Success&) {
@@ -149,12 +149,12 @@ void Commands::Parse(const std::vector<std::string>& words) {
   }
 }
 
-/// The words without the arguments of a call, which go to `call_`: to the parser some
-/// of them would be options, lists or empty.
+/// The words without the arguments of a call, which go to `call_`: the parser would read some of
+/// them as options or lists, or as missing.
 std::vector<std::string> Commands::WithoutArguments(const std::vector<std::string>& words) {
   std::vector<std::string> rest;
   const CLI::App* subcommand = nullptr;
-  bool has_target = false;  // the first word behind the subcommand
+  bool has_target = false;  // the first word after the subcommand
   bool verbatim = false;
   for (auto word = words.begin(); word != words.end(); ++word) {
     if (!verbatim && IsOption(*word)) {

@@ -74,7 +74,7 @@ OleDate DateOfText(const Json& text) {
   return *date;
 }
 
-/// A result given back has both forms, of which the days tell more.
+/// A result passed back has both forms; the days are more precise.
 Value DateOf(const Json& object) {
   if (!object.contains("days")) return DateOfText(object["date"]);
   const OleDate date = DateOfDays(object["days"]);
@@ -136,7 +136,7 @@ Value ObjectOf(const Json& json, const NamedObjects& objects) {
   return found->second;
 }
 
-/// An object that stands for a value, by its one key, or the two of a date.
+/// The value of an object with a single key that names its type, or the two of a date.
 Value Tagged(const Json& json, const NamedObjects& objects) {
   const bool date = json.contains("date") || json.contains("days");
   const bool both = json.contains("date") && json.contains("days");
@@ -155,8 +155,7 @@ TextList ListOf(const Json& json) {
   return list;
 }
 
-/// A single as the double that its shortest text is read as, so that it is written by
-/// that text.
+/// A single as the double that its shortest text reads as, so that it is written as that text.
 double AsPrinted(float number) {
   std::array<char, 32> text;
   const auto end = std::to_chars(text.begin(), text.end(), number);
