@@ -16,7 +16,7 @@ struct CallRow {
   const char* operation;
   std::vector<Value> positional;
   std::vector<NamedArgument> named;
-  const char* expected;  // the result as text, or "error N: " and a part of the message
+  const char* expected;  // the result as text, or "error N: " and part of the message
 };
 
 std::string Outcome(const Object& object, const CallRow& row) {
@@ -151,7 +151,7 @@ TEST(Invoke, SendsEventsWhileTheSubscriptionIsKept) {
   EXPECT_EQ(sink->Events(), "CellDataChange 7 2;");
   subscription = Subscribe(grid, sink);
   grid = Create("BitByteObject");
-  subscription.reset();  // the grid lived on for it
+  subscription.reset();  // until now the grid lived on for it
   EXPECT_EQ(Subscribe(grid, sink), nullptr);
 }
 

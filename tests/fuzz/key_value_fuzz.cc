@@ -1,5 +1,5 @@
-// The value of a key in any bytes against the rule done line by line in UTF-16, and the
-// rewrites against the value.
+// Compares the value of a key in any bytes with the rule applied line by line in UTF-16, and the
+// rewrites with the value.
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-// The tool with streams of the test's own.
+// Runs the tool with the test's own streams.
 
 #include <ZQ7Standard/automation/invoke.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ struct CommandRow {
   std::vector<std::string> words;
   int status;
   std::string out;  ///< all of it, or up to "..."
-  std::string err;  ///< some of it
+  std::string err;  ///< part of it
   std::string in = {};
 };
 
@@ -113,7 +113,7 @@ TEST(Tool, StreamsAndStatus) {
   }
 }
 
-/// What a JSON text is written as once it was a value; an error where it is none.
+/// The JSON text of a value read from JSON; the error if it cannot be read.
 std::string ThereAndBack(const std::string& json) {
   static const NamedObjects objects = {{"it", Create("GridValueObject")}};
   try {

@@ -67,7 +67,7 @@ TEST(KeyValueFile, DeleteValueDropsEveryLineOfTheKey) {
   // clang-format on
 }
 
-// What the operations that write tell of a new file in folders of all kinds.
+// The messages of writing operations about a new file in folders of all kinds.
 TEST(WriteMessages, TellAMissingFolderFromAReadOnlyOne) {
   AsciiFiles files;
   const auto folder = files.Folder() / "sub";

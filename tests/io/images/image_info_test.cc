@@ -5,8 +5,8 @@
 
 using namespace ZQ7Standard;
 
-// EXIF, fill bytes and rows from the top are put into what the encoder writes. Each
-// file is read behind another, whose properties it must not keep.
+// EXIF, fill bytes and top-down rows are inserted into what the encoder writes. Each file is read
+// after another one, whose properties must not remain.
 TEST(ReadImageInfo, ReadsRealFiles) {
   const TempFolder folder;
   CImageInfo info;
