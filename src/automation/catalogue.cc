@@ -5,10 +5,10 @@
 #include <string>
 #include <utility>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
 #include "automation/documentation.h"
 #include "automation/entry.h"
-#include "automation/rows.h"
 #include "base/ascii.h"
 
 namespace ZQ7Standard::Automation {
@@ -85,10 +85,9 @@ ClassEntry EntryOf(const ClassRow& row, const ClassInfo& owner) {
 }
 
 std::vector<ClassRow> AllRows() {
-  return {ASCIIObjectEntry(),      BahtStringObjectEntry(), BitByteObjectEntry(),
-          CImageInfoEntry(),       DiskObjectEntry(),       GridValueObjectEntry(),
-          PeripheralObjectEntry(), PrintObjectEntry(),      RegistryObjectEntry(),
-          StandardObjectEntry(),   PrintPictureEntry(),     SerialPortEntry()};
+  return {ASCIIObjectRows(),    BahtStringObjectRows(), BitByteObjectRows(),    CImageInfoRows(),
+          DiskObjectRows(),     GridValueObjectRows(),  PeripheralObjectRows(), PrintObjectRows(),
+          RegistryObjectRows(), StandardObjectRows(),   PrintPictureRows(),     SerialPortRows()};
 }
 
 /// The classes and their index by name, built on first use.

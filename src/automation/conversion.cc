@@ -37,18 +37,18 @@ struct ShownVisitor {
   ErrorInput operator()(const auto& /*object*/) const { return TextView(u"an object"); }
 };
 
-Where PlaceOf(const Place& place) {
+Where WhereOf(const Place& place) {
   if (place.call.parameters.empty()) return {place.call.member};
   return {place.call.member, place.call.parameters[place.parameter].name};
 }
 
 [[noreturn]] void RaiseOverflow(const Value& value, const Place& place) {
-  Raise(Error::kOverflow, PlaceOf(place), std::visit(ShownVisitor{}, value));
+  Raise(Error::kOverflow, WhereOf(place), std::visit(ShownVisitor{}, value));
 }
 
 [[noreturn]] void RaiseMismatch(const Value& value, const Place& place) {
-  if (std::holds_alternative<Omitted>(value)) Raise(Error::kArgumentNotOptional, PlaceOf(place));
-  Raise(Error::kTypeMismatch, PlaceOf(place), std::visit(ShownVisitor{}, value));
+  if (std::holds_alternative<Omitted>(value)) Raise(Error::kArgumentNotOptional, WhereOf(place));
+  Raise(Error::kTypeMismatch, WhereOf(place), std::visit(ShownVisitor{}, value));
 }
 
 /// The text of a number without the blanks around it and its ",".
@@ -128,7 +128,7 @@ Text AmountText(Currency amount) {
 }
 
 /// The amount that `make` returns; its only failure is an amount out of range.
-Currency Fitting(const auto& make, const Value& value, const Place& place) {
+Currency AmountOrOverflow(const auto& make, const Value& value, const Place& place) {
   try {
     return make();
   } catch (const RunTimeError&) {
@@ -217,11 +217,11 @@ Currency ToCurrency(const Value& value, const Place& place) {
     const Text number = Ungrouped(*text);
     const bool exponent = number.find_first_of(u"eEdD") != Text::npos;
     if (IsNumberText(number) && !exponent) {
-      return Fitting([&] { return Currency::FromText(number); }, value, place);
+      return AmountOrOverflow([&] { return Currency::FromText(number); }, value, place);
     }
   }
   const double number = ToDouble(value, place);
-  return Fitting([&] { return Currency(number); }, value, place);
+  return AmountOrOverflow([&] { return Currency(number); }, value, place);
 }
 
 Text ToText(const Value& value, const Place& place) {

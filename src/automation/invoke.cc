@@ -99,8 +99,8 @@ class Values {
 /// Runs `call`. Whatever it throws reaches the caller as a `RunTimeError` that names `member`; an
 /// exception without a number becomes an automation error.
 template <typename Call>
-auto Reported(const ClassInfo& owner, std::string_view member,
-              std::span<const ParameterInfo> parameters, const Call& call) {
+auto RunAs(const ClassInfo& owner, std::string_view member,
+           std::span<const ParameterInfo> parameters, const Call& call) {
   try {
     return call();
   } catch (const RunTimeError& error) {
@@ -133,7 +133,7 @@ Value InvokeMember(const Instance& instance, const MemberEntry* member, std::str
   const ClassInfo& owner = *instance.owner->info;
   if (member == nullptr || member->call == nullptr) RaiseUnsupported(owner, name);
   const OperationInfo& operation = *member->info.operation;
-  return Reported(owner, operation.name, operation.parameters, [&] {
+  return RunAs(owner, operation.name, operation.parameters, [&] {
     const Values values(operation, arguments);
     return member->call(instance.object.get(), values.Get(),
                         {operation.name, operation.parameters, *instance.services});
@@ -143,8 +143,8 @@ Value InvokeMember(const Instance& instance, const MemberEntry* member, std::str
 Value ReadMember(const Instance& instance, const MemberEntry* member, std::string_view name) {
   const ClassInfo& owner = *instance.owner->info;
   if (member == nullptr || member->read == nullptr) RaiseUnsupported(owner, name);
-  return Reported(owner, member->info.property->name, {},
-                  [&] { return member->read(instance.object.get()); });
+  return RunAs(owner, member->info.property->name, {},
+               [&] { return member->read(instance.object.get()); });
 }
 
 void WriteMember(const Instance& instance, const MemberEntry* member, std::string_view name,
@@ -152,7 +152,7 @@ void WriteMember(const Instance& instance, const MemberEntry* member, std::strin
   const ClassInfo& owner = *instance.owner->info;
   if (member == nullptr || member->write == nullptr) RaiseUnsupported(owner, name);
   const std::string_view property = member->info.property->name;
-  Reported(owner, property, {}, [&] {
+  RunAs(owner, property, {}, [&] {
     member->write(instance.object.get(), value, {property, {}, *instance.services});
   });
 }

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -15,7 +15,7 @@ const std::vector<ParameterRow> kMoneyText = {
 
 }  // namespace
 
-ClassRow BahtStringObjectEntry() {
+ClassRow BahtStringObjectRows() {
   ClassRow info = {.name = "BahtStringObject",
                    .create = [](const Services&) -> std::shared_ptr<void> {
                      return std::make_shared<BahtStringObject>();

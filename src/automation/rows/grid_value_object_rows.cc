@@ -4,8 +4,8 @@
 #include <memory>
 #include <utility>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 #include "base/raise.h"
 
 namespace ZQ7Standard::Automation {
@@ -40,7 +40,7 @@ const std::vector<Call> kTwoRows = {
 
 }  // namespace
 
-ClassRow GridValueObjectEntry() {
+ClassRow GridValueObjectRows() {
   ClassRow info = {.name = "GridValueObject",
                    .create = [](const Services&) -> std::shared_ptr<void> {
                      return std::make_shared<GridValueObject>();

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
-#define ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
+#ifndef ZQ7STANDARD_SRC_AUTOMATION_CATALOGUE_ROWS_H_
+#define ZQ7STANDARD_SRC_AUTOMATION_CATALOGUE_ROWS_H_
 
 #include <ZQ7Standard/automation/catalogue.h>
 
@@ -84,9 +84,10 @@ struct ClassRow {
 
 /// The catalogue data of an operation. Raises if a default, or the result of an example, does not
 /// fit its type.
-OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
-                        std::span<const TypeInfo> types, TypeInfo result,
-                        std::span<const ExampleRow> examples);
+OperationInfo DescribeOperation(int number, std::string_view name,
+                                std::span<const ParameterRow> parameters,
+                                std::span<const TypeInfo> types, TypeInfo result,
+                                std::span<const ExampleRow> examples);
 
 template <typename... Parameters>
 std::array<TypeInfo, sizeof...(Parameters)> TypesOf(
@@ -99,8 +100,8 @@ template <auto Member>
 OperationRow Operation(int number, std::string_view name, std::span<const ParameterRow> parameters,
                        std::initializer_list<ExampleRow> examples) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
-  return {Described(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(),
-                    {examples.begin(), examples.size()}),
+  return {DescribeOperation(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(),
+                            {examples.begin(), examples.size()}),
           CallMember<Member>};
 }
 
@@ -168,7 +169,7 @@ template <auto Member>
 EventInfo Event(int number, std::string_view name, std::initializer_list<ParameterRow> parameters) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
   OperationInfo call =
-      Described(number, name, {parameters.begin(), parameters.size()}, types, {}, {});
+      DescribeOperation(number, name, {parameters.begin(), parameters.size()}, types, {}, {});
   return {.name = name, .number = number, .parameters = std::move(call.parameters)};
 }
 
@@ -180,4 +181,4 @@ OleDate Date(int year, int month, int day, int hour = 0, int minute = 0);
 
 }  // namespace ZQ7Standard::Automation
 
-#endif  // ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
+#endif  // ZQ7STANDARD_SRC_AUTOMATION_CATALOGUE_ROWS_H_
