@@ -10,7 +10,7 @@
 
 #include "automation/instance.h"
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "dates/date_math.h"
 #include "dates/date_text.h"

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "dates/date_math.h"
 #include "dates/date_text.h"

@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/replace.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"

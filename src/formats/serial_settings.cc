@@ -4,7 +4,7 @@
 #include <array>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {

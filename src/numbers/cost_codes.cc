@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "base/unicode.h"
 #include "numbers/number_text.h"

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 
 namespace ZQ7Standard {
 namespace {

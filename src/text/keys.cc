@@ -5,7 +5,7 @@
 
 #include "base/ascii.h"
 #include "base/case_mapping.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <initializer_list>
 
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "base/replace.h"
 #include "base/search.h"

@@ -8,7 +8,7 @@
 
 #include "base/ascii.h"
 #include "base/case_mapping.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "base/search.h"
 #include "numbers/number_text.h"

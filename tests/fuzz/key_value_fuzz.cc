@@ -5,7 +5,7 @@
 
 #include "base/case_mapping.h"
 #include "base/code_page.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "formats/key_value_text.h"
 #include "formats/lines.h"
 #include "tests/fuzz/check.h"

@@ -8,7 +8,7 @@
 #include <cctype>
 
 #include "base/case_mapping.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/replace.h"
 #include "tests/fuzz/check.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "formats/path_parts.h"
 #include "io/paths/folder_status.h"

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_BASE_PIECES_H_
-#define ZQ7STANDARD_SRC_BASE_PIECES_H_
+#ifndef ZQ7STANDARD_SRC_BASE_FIELDS_H_
+#define ZQ7STANDARD_SRC_BASE_FIELDS_H_
 
 #include <ZQ7Standard/Types.h>
 
@@ -17,4 +17,4 @@ TextView TrimBack(TextView text, TextView set = u" ");
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_BASE_PIECES_H_
+#endif  // ZQ7STANDARD_SRC_BASE_FIELDS_H_
