@@ -76,11 +76,11 @@ class Scanner {
       if (!longest || name.text.size() > longest->text.size()) longest = &name;
     }
     if (!longest) return std::nullopt;
-    const TextView behind = rest_.substr(longest->text.size());
-    if (IsAsciiLetter(longest->text.back()) && !behind.empty() && IsAsciiLetter(behind.front())) {
+    const TextView after = rest_.substr(longest->text.size());
+    if (IsAsciiLetter(longest->text.back()) && !after.empty() && IsAsciiLetter(after.front())) {
       return std::nullopt;
     }
-    rest_ = behind;
+    rest_ = after;
     return longest->number;
   }
 
@@ -310,7 +310,7 @@ std::optional<OleDate> ReadDateText(TextView text, DateConvention convention, in
   return AtTime(*date, *time);
 }
 
-std::optional<OleDate> ReadNamedMonthDate(int month, int day, int year, Era era) {
+std::optional<OleDate> DateInEra(int month, int day, int year, Era era) {
   if (year < 0) return std::nullopt;
   const std::size_t digits = year < 100 ? 2 : 4;
   return EraDate({year, digits}, month, {day, 2}, era);

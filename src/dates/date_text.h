@@ -15,7 +15,7 @@ std::optional<OleDate> ReadDateText(TextView text, DateConvention convention, in
 /// The date of three numbers that the library has read itself, for which there is no order to
 /// guess: a year below 100 is completed, others count as they are, in the era `era`. Returns
 /// nullopt if there is no such date.
-std::optional<OleDate> ReadNamedMonthDate(int month, int day, int year, Era era);
+std::optional<OleDate> DateInEra(int month, int day, int year, Era era);
 
 }  // namespace ZQ7Standard
 

@@ -80,7 +80,7 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
   if (count < 2) Raise(Error::kSubscriptOutOfRange, {"CTDATE", "iText"}, iText);
   const DateConvention convention = services_->Convention();
   const auto [day, month, year] = InOrder(fields, convention.order);
-  const auto date = ReadNamedMonthDate(month, day, year, convention.era);
+  const auto date = DateInEra(month, day, year, convention.era);
   if (!date) Raise(Error::kTypeMismatch, {"CTDATE", "iText"}, iText);
   return *date;
 }
@@ -101,7 +101,7 @@ bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/)
   const DateConvention convention = services_->Convention();
   const auto [day, month, year] = InOrder(fields, convention.order);
   return year >= kFirstTypedYear && year <= kLastTypedYear &&
-         ReadNamedMonthDate(month, day, year, convention.era).has_value();
+         DateInEra(month, day, year, convention.era).has_value();
 }
 
 OleDate StandardObject::CDATE2000(TextView iText) const {

@@ -71,20 +71,19 @@ TEST(ReadDateText, Rejects) {
 
 // Dates built from numbers equal those read from text, for every convention, every month and every
 // kind of year.
-TEST(ReadDateText, ReadsNamedMonthsAsReadNamedMonthDateDoes) {
+TEST(ReadDateText, ReadsNamedMonthsAsDateInEraDoes) {
   for (const DateConvention convention : kConventions) {
     for (const int year :
          {0, 5, 29, 30, 72, 73, 99, 100, 642, 643, 1900, 2024, 2567, 9999, 10542, 10543}) {
       for (int i = 0; i < 12 * 33; ++i) {
         const Text text = Text(kEnglishShortMonths[static_cast<std::size_t>(1 + i % 12)]) + u"/" +
                           FromUtf8(std::to_string(i / 12) + "/" + std::to_string(year));
-        ASSERT_EQ(Reader(convention)(text),
-                  ReadNamedMonthDate(1 + i % 12, i / 12, year, convention.era))
+        ASSERT_EQ(Reader(convention)(text), DateInEra(1 + i % 12, i / 12, year, convention.era))
             << Utf8(text);
       }
     }
   }
-  EXPECT_FALSE(ReadNamedMonthDate(1, -1, 2024, Era::kGregorian));
-  EXPECT_FALSE(ReadNamedMonthDate(0, 1, 2024, Era::kGregorian));
-  EXPECT_FALSE(ReadNamedMonthDate(1, 1, -5, Era::kGregorian));
+  EXPECT_FALSE(DateInEra(1, -1, 2024, Era::kGregorian));
+  EXPECT_FALSE(DateInEra(0, 1, 2024, Era::kGregorian));
+  EXPECT_FALSE(DateInEra(1, 1, -5, Era::kGregorian));
 }
