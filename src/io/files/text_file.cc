@@ -15,7 +15,7 @@ namespace ZQ7Standard {
 namespace {
 
 /// The number of lines that a 32-bit loop from max(`from`, 1) to `to` can read.
-std::int64_t LinesTaken(std::int32_t from, std::int32_t to) {
+std::int64_t LinesToRead(std::int32_t from, std::int32_t to) {
   const std::int64_t last = to == 0 ? std::numeric_limits<std::int32_t>::max() : to;
   return last - std::max(from, 1) + 1;
 }
@@ -41,7 +41,7 @@ bool IsDesktop(TextView folder) {
 Text ASCIIObject::GETAllTextFile(TextView iTextFile) const {
   const auto contents = Named({"GETAllTextFile", "iTextFile"},
                               [&] { return services_->FileReader().ReadAll(iTextFile); });
-  return contents ? FromCodePage(*JoinLines(*contents, LinesTaken(1, 0))) : Text();
+  return contents ? FromCodePage(*JoinLines(*contents, LinesToRead(1, 0))) : Text();
 }
 
 Text ASCIIObject::GETLineTextFile(TextView iTextFile, std::int32_t FromLine,
@@ -49,7 +49,7 @@ Text ASCIIObject::GETLineTextFile(TextView iTextFile, std::int32_t FromLine,
   const auto contents = Named({"GETLineTextFile", "iTextFile"},
                               [&] { return services_->FileReader().ReadAll(iTextFile); });
   if (!contents) return {};
-  const auto lines = JoinLines(*contents, LinesTaken(FromLine, ToLine));
+  const auto lines = JoinLines(*contents, LinesToRead(FromLine, ToLine));
   if (!lines) Raise(Error::kOverflow, {"GETLineTextFile", "ToLine"}, ToLine);
   return FromCodePage(*lines);
 }

@@ -19,7 +19,7 @@ Text AsFolder(TextView path) {
 using FileTime = decltype(FileStatus::last_modified);
 
 /// The multiple of `step` at or before `time`, before 1970 too.
-FileTime CutTo(std::chrono::nanoseconds step, FileTime time) {
+FileTime FloorTo(std::chrono::nanoseconds step, FileTime time) {
   const auto past = time.time_since_epoch() % step;
   return time - (past.count() < 0 ? past + step : past);
 }
@@ -80,7 +80,7 @@ bool HasTimeOf(ServiceSet& services, const FileStatus& source, TextView path,
   if (status.last_modified == source.last_modified) return true;
   auto step = std::chrono::nanoseconds(1);
   Try([&] { step = services.FileStatus().TimeStep(path); });
-  return step.count() > 0 && status.last_modified == CutTo(step, source.last_modified);
+  return step.count() > 0 && status.last_modified == FloorTo(step, source.last_modified);
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ std::int32_t NumberOf(const NumberBytes& bytes) {
 
 /// The path of a key or the name of a value as registries receive it: up to its first NUL, in
 /// characters of the code page.
-Text Crossing(TextView name) {
+Text RegistryText(TextView name) {
   return FromCodePage(ToCodePage(name.substr(0, name.find(u'\0'))));
 }
 
@@ -50,8 +50,8 @@ std::optional<QueriedValue> Read(Registry& registry, std::int32_t root, TextView
                                  TextView subkeyname, std::span<char> buffer) {
   std::optional<QueriedValue> value;
   Try([&] {
-    const auto key = registry.Open(root, Crossing(keyname), kKeyAllAccess);
-    if (key) value = key->Query(Crossing(subkeyname), buffer);
+    const auto key = registry.Open(root, RegistryText(keyname), kKeyAllAccess);
+    if (key) value = key->Query(RegistryText(subkeyname), buffer);
   });
   return value && value->size <= buffer.size() ? value : std::nullopt;
 }
@@ -61,8 +61,8 @@ bool WriteFails(Registry& registry, std::int32_t root, TextView keyname, TextVie
                 std::uint32_t type, std::string_view data) {
   bool written = false;
   Try([&] {
-    const auto key = registry.Create(root, Crossing(keyname), kCreation);
-    written = key && key->Set(Crossing(subkeyname), type, data);
+    const auto key = registry.Create(root, RegistryText(keyname), kCreation);
+    written = key && key->Set(RegistryText(subkeyname), type, data);
   });
   return !written;
 }

@@ -32,7 +32,7 @@ std::string NameOf(const std::string& native) {
 }
 
 /// Whether a user without rights to the folder may have put the link there.
-bool IsStrangers(const struct stat& link, const struct stat& folder) {
+bool IsStrangersLink(const struct stat& link, const struct stat& folder) {
   constexpr mode_t kOpenToAll = S_ISVTX | S_IWOTH;
   return (folder.st_mode & kOpenToAll) == kOpenToAll && link.st_uid != folder.st_uid &&
          link.st_uid != geteuid();
@@ -41,7 +41,7 @@ bool IsStrangers(const struct stat& link, const struct stat& folder) {
 /// The target of the link `name` in `folder`.
 std::string LinkIn(const OpenFile& folder, const std::string& name) {
   const OpenFile link = folder.Open(name, kLinkItself);
-  if (IsStrangers(link.Status(), folder.Status())) folder.Fail(EACCES, "follow");
+  if (IsStrangersLink(link.Status(), folder.Status())) folder.Fail(EACCES, "follow");
   std::array<char, PATH_MAX> target;
   const ssize_t size =
       folder.Calls().readlinkat(link.Descriptor(), "", target.data(), target.size());
