@@ -11,7 +11,7 @@
 #include <sstream>
 #include <string>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard::Automation {
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard::Automation {
 namespace {

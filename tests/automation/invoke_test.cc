@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "tests/support/printers.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard::Automation {
 namespace {

@@ -1,7 +1,7 @@
 #include "dates/date_text.h"
 
 #include "dates/name_tables.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

@@ -1,6 +1,6 @@
 #include "formats/image_header.h"
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 using namespace std::string_literals;

@@ -14,7 +14,7 @@
 #include <ZQ7Standard/platform/serial_port.h>
 
 #include "tests/support/printers.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
 namespace {

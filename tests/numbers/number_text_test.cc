@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

@@ -9,7 +9,7 @@
 #include <functional>
 #include <string>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
 

@@ -1,6 +1,6 @@
 #include <ZQ7Standard/CImageInfo.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;

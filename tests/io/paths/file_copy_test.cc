@@ -8,7 +8,7 @@
 #include <sys/resource.h>
 
 #include "tests/support/children.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;

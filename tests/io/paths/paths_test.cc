@@ -2,7 +2,7 @@
 #include <ZQ7Standard/platform/file_status.h>
 #include <ZQ7Standard/platform/folders.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;

@@ -2,7 +2,7 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/message_box.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

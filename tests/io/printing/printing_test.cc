@@ -9,7 +9,7 @@
 #include "formats/picture_size.h"
 #include "io/printing/fitting_text.h"
 #include "tests/support/printers.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
 namespace {

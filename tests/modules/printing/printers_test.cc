@@ -27,7 +27,7 @@
 #include "printing/linux/printer_names.h"
 #include "tests/support/denied_calls.h"
 #include "tests/support/ipp_server.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {
@@ -306,7 +306,7 @@ TEST(OddServer, IsAskedAtTheFirstNeedOfAnObjectsOwnPrinters) {
 }
 
 /// What a process prints on a terminal of its own, up to the text `last`.
-std::string Said(const std::function<void()>& process, const std::string& last) {
+std::string PrintedOnTerminal(const std::function<void()>& process, const std::string& last) {
   fflush(nullptr);
   int terminal = 0;
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
@@ -334,7 +334,7 @@ TEST(OddServer, HasNobodyAskedForAPassword) {
     dprintf(STDOUT_FILENO, "%d, ", ErrorOf([&] { printer.PrintStart(); }));
     cupsGetPassword("by CUPS itself");
   };
-  EXPECT_EQ(Said(print_then_ask, "self"), "482, by CUPS itself");
+  EXPECT_EQ(PrintedOnTerminal(print_then_ask, "self"), "482, by CUPS itself");
 }
 
 TEST_F(Server, MayDieInADocument) {

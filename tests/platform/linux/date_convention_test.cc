@@ -10,7 +10,7 @@
 #include <map>
 
 #include "platform/linux/locale_table.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

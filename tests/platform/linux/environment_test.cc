@@ -3,7 +3,7 @@
 #include <stdlib.h>
 
 #include "tests/support/children.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;

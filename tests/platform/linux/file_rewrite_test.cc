@@ -18,7 +18,7 @@
 #include "tests/support/ascii_files.h"
 #include "tests/support/children.h"
 #include "tests/support/hooked_calls.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 namespace fs = std::filesystem;

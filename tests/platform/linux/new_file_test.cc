@@ -10,7 +10,7 @@
 #include <system_error>
 
 #include "tests/support/denied_calls.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {

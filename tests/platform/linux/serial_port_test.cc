@@ -11,7 +11,7 @@
 #include <thread>
 
 #include "base/code_page.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_TESTS_SUPPORT_ROWS_H_
-#define ZQ7STANDARD_TESTS_SUPPORT_ROWS_H_
+#ifndef ZQ7STANDARD_TESTS_SUPPORT_ROW_TESTS_H_
+#define ZQ7STANDARD_TESTS_SUPPORT_ROW_TESTS_H_
 
 #include <gtest/gtest.h>
 
@@ -72,4 +72,4 @@ void ExpectTexts(const auto& call,
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_TESTS_SUPPORT_ROWS_H_
+#endif  // ZQ7STANDARD_TESTS_SUPPORT_ROW_TESTS_H_
