@@ -166,7 +166,7 @@ TEST(Catalogue, CopiesWork) {
   const std::vector<Value> first = {0};
   EXPECT_EQ(Invoke(object, sum, {first}), Value(0.0));
   EXPECT_EQ(GetProperty(object, rows), Value(1));
-  EXPECT_EQ(ErrorOf([&] { SetProperty(object, rows, 3); }), 438) << "only read";
+  EXPECT_EQ(ErrorOf([&] { SetProperty(object, rows, 3); }), 438) << "read-only";
   EXPECT_EQ(FindEvent(grid, "celldatachange")->parameters.size(), 2U);
   const Object bits = Create("BitByteObject");
   EXPECT_EQ(ErrorOf([&] { Invoke(bits, sum, {first}); }), 438);

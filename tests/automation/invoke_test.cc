@@ -119,7 +119,7 @@ TEST(Invoke, ReadsProperties) {
   EXPECT_EQ(Invoke(grid, "SetCols", {three}), Value(Omitted{}));
   EXPECT_EQ(GetProperty(grid, "Cols"), Value(3));
   EXPECT_EQ(ErrorOf([&] { GetProperty(grid, "SetCols"); }), 438);
-  EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Cols", 3); }), 438) << "only read";
+  EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Cols", 3); }), 438) << "read-only";
   EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Width", 3); }), 438);
 }
 

@@ -52,7 +52,7 @@ Json ErrorOf(const char* what) {
 
 std::string StringAt(const Json& request, const char* key) {
   const Json& value = request[key];
-  if (!value.is_string()) throw JsonError(Quoted(key) + " is no string");
+  if (!value.is_string()) throw JsonError(Quoted(key) + " is not a string");
   return value.get<std::string>();
 }
 
@@ -168,7 +168,7 @@ Value BatchSession::CallOperation(const Object& object, const Json& request) con
       named.push_back({name, ValueOfJson(value, objects_)});
     }
   } else {
-    throw JsonError(R"("args" is no list and no object)");
+    throw JsonError(R"("args" is neither a list nor an object)");
   }
   const OperationInfo* const found = FindOperation(object.Class(), operation);
   if (found == nullptr) return Invoke(object, operation, {});  // raises that it does not exist

@@ -30,7 +30,7 @@ Member FindOperationNamed(std::string_view name) {
     throw WrongUse(Quoted(name) + " is a property. A batch gets and sets properties.");
   }
   const std::string list = "zq7 list " + std::string(member.owner->name);
-  throw WrongUse(Quoted(name) + " is no operation. " + Quoted(list) + " shows the operations.");
+  throw WrongUse(Quoted(name) + " is not an operation. " + Quoted(list) + " shows the operations.");
 }
 
 Text TextOfWord(const std::string& word) {
@@ -43,7 +43,7 @@ Text TextOfWord(const std::string& word) {
 /// number either.
 Value EnumeratorOf(const EnumerationInfo& enumeration, const std::string& word) {
   if (const auto value = ValueOfEnumerator(enumeration, word)) return *value;
-  throw WrongUse(Quoted(word) + " is no " + std::string(enumeration.name) + "." +
+  throw WrongUse(Quoted(word) + " is not a member of " + std::string(enumeration.name) + "." +
                  EnumeratorHint(enumeration, word));
 }
 
@@ -84,9 +84,9 @@ class WordArguments {
       if (SameName(parameter.name, name)) return parameter;
       names.emplace_back(parameter.name);
     }
-    throw WrongUse(Quoted(name) + " is no parameter of " + std::string(operation_.name) + "." +
+    throw WrongUse(Quoted(name) + " is not a parameter of " + std::string(operation_.name) + "." +
                    Hint(name, names) +
-                   R"( A text with "=" in it goes behind "--" or its parameter's name.)");
+                   R"( A text with "=" in it goes after "--" or its parameter's name.)");
   }
 
   const OperationInfo& operation_;

@@ -28,8 +28,8 @@ std::string Section(std::string_view title, const std::string& lines) {
 
 /// What a property can be used for, if not both.
 std::string_view Access(const PropertyInfo& property) {
-  if (!property.writable) return ", only read";
-  return !property.readable ? ", only set" : "";
+  if (!property.writable) return ", read-only";
+  return !property.readable ? ", write-only" : "";
 }
 
 std::string PropertyRows(const ClassInfo& owner, std::size_t width) {

@@ -47,7 +47,7 @@ class LineBuilder final : public WideJson::json_sax_t {
 
   bool key(string_t& name) override {
     const Json& object = *open_.back();
-    if (object.contains(name)) throw JsonError(Quoted(name) + " stands there twice");
+    if (object.contains(name)) throw JsonError(Quoted(name) + " appears twice");
     if (object.size() == kMaxJsonMembers) throw JsonError("an object has too many members");
     if (open_.size() == 1) {
       in_id_ = id_ != nullptr && name == "id";
