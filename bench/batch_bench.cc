@@ -11,8 +11,8 @@ namespace {
 
 constexpr int kLines = 1024;
 
-/// Calls that succeed and fail, with arguments by place and by name, of new objects and
-/// of one that lives on.
+/// Calls that succeed and fail, with positional and named arguments, on new objects and on a named
+/// one.
 std::string MixedLines() {
   std::string lines =
       "{\"class\":\"GridValueObject\",\"object\":\"grid\",\"call\":\"SetCols\",\"args\":[9]}\n";

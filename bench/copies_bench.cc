@@ -15,7 +15,7 @@ constexpr const char* kMakeTree =
     "for i in $(seq 20); do mkdir -p from/$i; head -c 200000 /dev/urandom |"
     " split -a 2 -d -b 2000 - from/$i/invoice; done";
 
-/// Measures `copy` from the folder "from" to "to", which is there no more before each.
+/// Measures `copy` from the folder "from" to "to", which is removed before each run.
 template <typename Copy>
 void MeasureCopies(benchmark::State& state, Copy copy) {
   const TempFolder folder("/dev/shm");
@@ -57,7 +57,7 @@ void CopyUnchanged(benchmark::State& state) {
 }
 BENCHMARK(CopyUnchanged)->Name("copy_unchanged/ours");
 
-/// The least that tells two times.
+/// The minimum for reading two times.
 void TwoStatuses(benchmark::State& state) {
   const TempFolder folder;
   folder.Run("touch from to");

@@ -33,7 +33,7 @@ void FormatDate(benchmark::State& state) {
 }
 BENCHMARK(FormatDate)->Name("format_date/ours");
 
-/// Measures a format of dates, and what it allocates.
+/// Measures the formatting of dates and its allocations.
 template <typename Call>
 void MeasureFormat(benchmark::State& state, const std::vector<OleDate>& dates, Call call) {
   Measure(state, dates, call);
@@ -67,7 +67,7 @@ void FormatQueryTime(benchmark::State& state) {
 }
 BENCHMARK(FormatQueryTime)->Name("format_query/ours");
 
-/// Dates as strftime takes them, taken apart beforehand.
+/// Dates as strftime takes them, split in advance.
 std::vector<tm> BrokenDown(const std::vector<OleDate>& dates) {
   std::vector<tm> list;
   for (const OleDate date : dates) {

@@ -34,7 +34,7 @@ std::unique_ptr<GridValueObject> FilledGrid() {
   return grid;
 }
 
-/// The cells of that grid row by row, in a vector that has their size at once.
+/// The cells of that grid row by row, in a vector of the final size.
 std::vector<double> FilledVector() {
   std::vector<double> cells(kCells);
   double* cell = cells.data();
@@ -44,7 +44,7 @@ std::vector<double> FilledVector() {
   return cells;
 }
 
-/// The same in a vector that grows, as the grid does.
+/// The same in a vector that grows like the grid.
 std::vector<double> GrownVector() {
   std::vector<double> cells;
   for (std::int32_t row = 0; row < kRows; ++row) {

@@ -1,7 +1,7 @@
-// Feeds every operation that takes a text 64 KiB and then 1 MiB of texts that are hard on
-// it, and fails when an operation's CPU time grows more than 64 times: what is linear grows
-// 16 times, what is quadratic 256 times. It measures by hand, because a benchmark that runs
-// until its time is stable would never end where one of these texts is quadratic.
+// Calls every operation that takes a text with 64 KiB and then 1 MiB of texts that are hard on it,
+// and fails if an operation's CPU time grows more than 64 times: linear time grows 16 times,
+// quadratic 256 times. It measures by hand, because a benchmark that runs until its time is stable
+// would never end if one of these texts were quadratic.
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/automation/invoke.h>
@@ -29,16 +29,16 @@ using namespace ZQ7Standard::Automation;
 constexpr std::size_t kSmall = 64 * 1024 / sizeof(char16_t);
 constexpr std::size_t kLarge = 1024 * 1024 / sizeof(char16_t);
 constexpr double kLimit = 64;
-// No operation takes less for 64 KiB when it looks at each character more than once.
+// An operation that reads a character more than once takes longer for 64 KiB.
 constexpr double kTooShortToGoOn = 20e-6;
-// Below this 1 MiB takes the time of the allocator and the caches.
+// Below this, 1 MiB measures the allocator and the caches.
 constexpr double kTooShortToTell = 0.005;
 // 1 MiB would take 256 times as long.
 constexpr double kTooLongToGoOn = 2;
 constexpr int kRepetitions = 3;
 
-// What is repeated: digits, blanks and marks that readers pass over, separators, what
-// operations remove or replace, and characters that case or code page must look up.
+// The texts repeated: digits, blanks and marks that readers skip, separators, what operations
+// remove or replace, and characters that case or code page must look up.
 constexpr auto kPatterns = std::to_array<TextView>(
     {u"a",   u"0",   u"9",       u" ",      u"\t", u"\r\n", u",",      u";",  u"%",
      u"/",   u":",   u".",       u"-",      u"+",  u"\\",   u"'",      u"=",  u"1.",
@@ -46,7 +46,7 @@ constexpr auto kPatterns = std::to_array<TextView>(
      u"$#$", u"a;",  u"..\\",    u"[a]=",   u"กำ", u"baht", u"satang", u"é",  u"บาทเอ็ดสตางค์",
      u"15/", u"Jan", u"C:\\a\\", u"\xD83D", u"เอ็ด"});
 
-// What follows, so that a reader from the back has something to find.
+// Appended, so that a reader from the end finds something.
 constexpr auto kEndings = std::to_array<TextView>({u"", u"z5"});
 
 Text Repeated(TextView pattern, std::size_t size, TextView ending) {
@@ -67,8 +67,8 @@ std::vector<std::size_t> TextParameters(const OperationInfo& operation) {
 struct Probe {
   const ClassInfo& owner;
   const OperationInfo& operation;
-  /// The one with the long text; the number of parameters where the first two texts are
-  /// long. More would multiply: a long separator between many items makes a longer result.
+  /// The parameter with the long text; the number of parameters if the first two texts are long.
+  /// More would multiply: a long separator between many items makes a longer result.
   std::size_t parameter;
   TextView pattern;
   TextView ending;
@@ -82,14 +82,14 @@ struct Probe {
     }
     const std::vector<std::size_t> texts = TextParameters(operation);
     arguments[texts[0]] = Repeated(pattern, size, {});
-    // Nearly what the other text holds again and again, for searches.
+    // For searches: almost the other text, again and again.
     arguments[texts[1]] = Repeated(pattern, size / 2, ending);
     return arguments;
   }
 };
 
-/// The CPU time of one call in seconds, on a new object of a new machine, so that no text
-/// stays in a file or in the registry. A text that is refused is answered too.
+/// The CPU time of one call in seconds, on a new object of a new machine, so that no text stays in
+/// a file or the registry. Refused texts are measured too.
 double Seconds(const Probe& probe, std::size_t size) {
   const ZQ7Tool::Host host({.example = true}, std::make_shared<RecordingMessageBox>());
   const Object object = Create(probe.owner.name, host.Services());
@@ -126,8 +126,8 @@ Growth MeasureOnce(const Probe& probe) {
   return growth;
 }
 
-/// The least growth of a few measurements where the first is too large: the machine is
-/// never idle.
+/// The smallest growth of several measurements if the first is too large: the machine is never
+/// idle.
 Growth Measure(const Probe& probe) {
   Growth least = MeasureOnce(probe);
   for (int i = 1; i < kRepetitions && least.Ratio() > kLimit; ++i) {
@@ -137,14 +137,14 @@ Growth Measure(const Probe& probe) {
   return least;
 }
 
-/// The parameters to try: each text by itself, and two texts where there are several.
+/// The parameters to try: each text alone, and two together if there are several.
 std::vector<std::size_t> ParametersToTry(const OperationInfo& operation) {
   std::vector<std::size_t> tried = TextParameters(operation);
   if (tried.size() > 1) tried.push_back(operation.parameters.size());
   return tried;
 }
 
-/// The pattern that made the operation's time grow most, or take longest.
+/// The pattern for which the operation's time grew most, or was longest.
 Growth Worst(const ClassInfo& owner, const OperationInfo& operation) {
   Growth worst;
   for (const std::size_t parameter : ParametersToTry(operation)) {
@@ -159,7 +159,7 @@ Growth Worst(const ClassInfo& owner, const OperationInfo& operation) {
   return worst;
 }
 
-/// A pattern as a table can show it.
+/// A pattern as shown in a table.
 std::string Shown(TextView pattern) {
   std::string shown;
   for (const char c : Utf8(pattern)) {
@@ -180,9 +180,9 @@ bool TakesText(const OperationInfo& operation) {
 
 }  // namespace
 
-/// With arguments, the operations whose names they are part of.
+/// With arguments: only operations whose names contain one of them.
 int main(int argc, char** argv) {
-  // Paths that the patterns happen to name lie here.
+  // The folder for paths that the patterns happen to name.
   const TempFolder folder;
   std::filesystem::current_path(folder.Native());
   const std::vector<std::string> wanted(argv + 1, argv + argc);

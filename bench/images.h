@@ -5,8 +5,8 @@
 
 namespace ZQ7Standard::Bench {
 
-/// A file with a picture of 160 x 120 in the format "png", "jpeg", "gif" or "bmp", made
-/// by ImageMagick and removed at the end of the program.
+/// A file with a picture of 160 x 120 in the format "png", "jpeg", "gif" or "bmp", made by
+/// ImageMagick and removed when the program ends.
 std::string ImageFile(const std::string& format);
 
 }  // namespace ZQ7Standard::Bench

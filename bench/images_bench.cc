@@ -32,7 +32,7 @@ BENCHMARK_CAPTURE(ReadImage, jpeg, "jpeg")->Name("read_image_jpeg/ours");
 BENCHMARK_CAPTURE(ReadImage, gif, "gif")->Name("read_image_gif/ours");
 BENCHMARK_CAPTURE(ReadImage, bmp, "bmp")->Name("read_image_bmp/ours");
 
-/// The least that reads the first 65,536 bytes of a file and makes a missing one.
+/// The minimum: reads the first 65,536 bytes of a file, and creates a missing one.
 void OpenReadClose(benchmark::State& state, const char* format) {
   std::array<char, 65536> buffer;
   Measure(state, std::array{ImageFile(format)}, [&buffer](const std::string& name) {

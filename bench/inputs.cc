@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kCount = 1024;
 
-/// Numbers that are the same on every run and with every standard library.
+/// Random numbers, the same on every run and with every standard library.
 class Picker {
  public:
   std::int64_t From(std::int64_t first, std::int64_t last) {

@@ -9,18 +9,18 @@
 
 namespace ZQ7Standard::Bench {
 
-// What the rows are measured on: mostly 1,024 inputs, the same on each run, so
-// that no branch can learn them by heart.
+// The inputs of the rows: mostly 1,024, the same on each run, so that branch predictors cannot
+// memorize them.
 
-/// An amount of money in the forms that the libraries take.
+/// An amount of money in the libraries' input forms.
 struct Amount {
-  double value;        // 0.01 to 9999999999.99; short and long ones equally often
+  double value;        // 0.01 to 9999999999.99; all lengths equally often
   std::string digits;  // "1234.50"
   Text typed;          // "1,234.50"
 };
 const std::vector<Amount>& Amounts();
 
-/// A day as it is typed on a Thai machine, 2540 to 2580.
+/// A day as typed on a Thai machine, 2540 to 2580.
 struct Day {
   OleDate date;
   std::string typed;  // "15/1/2567", some with leading zeros
@@ -43,21 +43,21 @@ struct Invoice {
 };
 const std::vector<Invoice>& Invoices();
 
-/// Numbers of documents as users type them: " inv 2567-000123".
+/// Document numbers as users type them: " inv 2567-000123".
 const std::vector<Text>& DocumentNumbers();
 
 /// The first twelve digits of EAN-13 codes.
 const std::vector<Text>& Barcodes();
 
-/// Texts of `length` characters from invoices, Thai with a quarter of ASCII:
-/// together about 16,384 characters, or one text when that is longer.
+/// Texts of `length` characters from invoices, Thai with a quarter of ASCII: about 16,384
+/// characters in total, or a single longer text.
 std::vector<Text> InvoiceTexts(std::size_t length);
 
 /// The same texts in the code page.
 std::vector<std::string> InvoiceBytes(std::size_t length);
 
-/// One member of every item: what a row is measured on, so that nothing else
-/// takes room in the caches.
+/// One member of every item: a row is measured on only this, so that nothing else occupies the
+/// caches.
 template <typename Item, typename Member>
 std::vector<Member> Column(const std::vector<Item>& list, Member Item::*member) {
   std::vector<Member> column;

@@ -7,7 +7,7 @@
 namespace ZQ7Standard::Bench {
 namespace {
 
-/// What a host prints for one invoice.
+/// The texts that a host prints for one invoice.
 struct Row {
   OleDate due;
   Text term;

@@ -7,7 +7,7 @@
 
 #include "bench/measure.h"
 
-// What a call by name costs beside the direct call.
+// The cost of a call by name compared with a direct call.
 namespace ZQ7Standard::Bench {
 namespace {
 

@@ -7,8 +7,8 @@
 
 namespace ZQ7Standard::Bench {
 
-/// Measures `call` on all of `inputs`, one iteration being a pass over them. The
-/// counter "call" is the time of one call in seconds.
+/// Measures `call` on all of `inputs`; one iteration is a pass over them. The counter "call" is the
+/// time of one call in seconds.
 template <typename Inputs, typename Call>
 void Measure(benchmark::State& state, const Inputs& inputs, Call call) {
   for (auto _ : state) {

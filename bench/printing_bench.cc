@@ -15,7 +15,7 @@ namespace {
 
 constexpr double kPointsPerMillimetre = 72 / 25.4;
 
-/// A printer of A4 that counts the bytes it is given.
+/// A printer of A4 that counts the bytes it receives.
 class CountingPrinter final : public NamedSettings {
  public:
   void Print(std::string_view pdf) override { bytes += pdf.size(); }
@@ -104,7 +104,7 @@ void PageByHand(benchmark::State& state) {
 BENCHMARK(PageByHand<60>)->Name("page_60/by_hand");
 BENCHMARK(PageByHand<1000>)->Name("page_1000/by_hand");
 
-/// Cuts a text to half its width, some times over.
+/// Shortens a text to half its width, several times.
 template <std::size_t Length, int Times>
 void CutText(benchmark::State& state) {
   const auto printers = std::make_shared<OnePrinter>();

@@ -12,8 +12,7 @@ RegistryObject OpenRegistry() {
   return RegistryObject({.registry = SystemRegistry({.user = folder, .machine = folder})});
 }
 
-/// A registry with a number in each of the entries of the machine, and a text in
-/// those of the user.
+/// A registry with a number in each of the machine's entries, and a text in each of the user's.
 RegistryObject FilledRegistry() {
   static const bool filled = [] {
     const RegistryObject registry = OpenRegistry();
@@ -43,7 +42,7 @@ void ReadText(benchmark::State& state) {
 }
 BENCHMARK(ReadText)->Name("registry_text/ours");
 
-/// The first call of an object, and closing what it opened.
+/// The first call on an object, and closing what it opened.
 void FirstRead(benchmark::State& state) {
   FilledRegistry();
   Measure(state, Entries(), [](const Entry& entry) {
@@ -52,8 +51,8 @@ void FirstRead(benchmark::State& state) {
 }
 BENCHMARK(FirstRead)->Name("registry_first/ours");
 
-/// On the disk when it returns; the time is that of the disk, so it is not the
-/// time of the processor that counts.
+/// On the disk when it returns; real time is measured, because the disk's time counts, not the
+/// processor's.
 void WriteNumber(benchmark::State& state) {
   const RegistryObject registry = FilledRegistry();
   int number = 0;

@@ -9,8 +9,8 @@
 
 namespace ZQ7Standard::Bench {
 
-/// Where a value lies; and the same in lower case, which a program that asks the
-/// database itself would have ready.
+/// The place of a value, also in lower case, which a program that queries the database itself would
+/// have prepared.
 struct Entry {
   Text path;
   Text name;
@@ -21,7 +21,7 @@ struct Entry {
 /// 64 values in each of 16 keys, in random order.
 const std::vector<Entry>& Entries();
 
-/// A folder on the disk for the databases, removed at the end of the program.
+/// A folder on the disk for the databases, removed when the program ends.
 const std::filesystem::path& DatabaseFolder();
 
 }  // namespace ZQ7Standard::Bench

@@ -14,18 +14,17 @@ namespace ZQ7Standard::Bench {
 /// The 200 keys of a settings file, such as "PosPaper017"; the same on each run.
 const std::vector<std::string>& SettingKeys();
 
-/// The settings file of the library, and the same settings in a group as others write
-/// them.
+/// The settings file of the library, and the same settings as a group in the usual format.
 std::string SettingsAsLines();
 std::string SettingsAsGroup();
 
-/// The group of the latter.
+/// The name of that group.
 inline constexpr const char* kGroup = "settings";
 
-/// A file of `bytes` in a folder of its own, both removed at the end.
+/// A file of `bytes` in a folder of its own; the destructor removes both.
 class ScratchFile {
  public:
-  /// In memory: on the tmpfs that Linux has. On disk: in the folder for temporary files.
+  /// In memory: on Linux's tmpfs. On disk: in the folder for temporary files.
   enum class Place { kMemory, kDisk };
 
   ScratchFile(Place place, std::string_view bytes);

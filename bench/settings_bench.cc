@@ -13,7 +13,7 @@ namespace {
 
 using Place = ScratchFile::Place;
 
-constexpr int kDiskWrites = 20;  // in an iteration: each takes milliseconds
+constexpr int kDiskWrites = 20;  // per iteration: each takes milliseconds
 
 std::vector<Text> KeyTexts(int count = 200) {
   std::vector<Text> keys;
@@ -30,7 +30,7 @@ void GetValue(benchmark::State& state) {
 }
 BENCHMARK(GetValue)->Name("get_value/ours");
 
-/// The least that a reader of the file does.
+/// The minimum for reading the file.
 void OpenReadClose(benchmark::State& state) {
   const ScratchFile file(Place::kDisk, SettingsAsLines());
   Measure(state, SettingKeys(), [&](const std::string&) {
@@ -62,8 +62,8 @@ bool Sync(int descriptor) {
   return close(descriptor) == 0 && failed == 0;
 }
 
-/// The least that a writer does who loses nothing: a file beside the old one is written,
-/// brought to the disk and renamed; then, with `sync_folder`, its new name too.
+/// The minimum for writing without losing anything: a file beside the old one is written, synced
+/// and renamed; then, with `sync_folder`, its new name is synced too.
 void WriteSyncRename(benchmark::State& state, bool sync_folder) {
   const std::string bytes = SettingsAsLines();
   const ScratchFile file(Place::kDisk, bytes);

@@ -13,7 +13,7 @@ void CheckDigit(benchmark::State& state) {
 }
 BENCHMARK(CheckDigit)->Name("check_digit/ours");
 
-/// Twelve steps, the weights 1 and 3 in turn.
+/// Twelve steps with alternating weights 1 and 3.
 int PlainCheckDigit(TextView code) {
   int sum = 0;
   for (std::size_t i = 0; i < 12; ++i) {

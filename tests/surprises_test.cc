@@ -6,7 +6,7 @@
 
 #include <sstream>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

@@ -1,5 +1,5 @@
-// Distinct instances on distinct threads: run under ThreadSanitizer, which fails
-// the program when they share anything that one of them changes.
+// Distinct instances on distinct threads: run under ThreadSanitizer, which fails the program if
+// they share anything that one of them changes.
 
 #include <ZQ7Standard/ASCIIObject.h>
 #include <ZQ7Standard/BahtStringObject.h>
@@ -26,7 +26,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// Runs `steps` in four threads, with the number of each.
+/// Runs `steps` in four threads, passing each its number.
 void InThreads(const std::function<void(int id)>& steps) {
   std::vector<std::thread> threads;
   for (int id = 0; id < 4; ++id) threads.emplace_back(steps, id);
@@ -56,7 +56,7 @@ void UseDatesAndNumbers(int id) {
   }
 }
 
-/// Nothing that the user would find afterwards: neither keys nor pages.
+/// Leaves nothing for the user to find: neither keys nor pages.
 void UseFilesAndDevices() {
   const TempFolder folder;
   const Text file = folder.Path("set.ini");
@@ -85,7 +85,7 @@ TEST(Threads, InstancesMadeByDefaultAreIndependent) {
   });
 }
 
-// The threads begin with the catalogue itself, which is made at its first use.
+// The threads start with the catalogue itself, which is built on first use.
 TEST(Threads, InstancesMadeByNameAreIndependent) {
   using namespace Automation;
   InThreads([](int /*id*/) {

@@ -17,17 +17,17 @@ icu::UnicodeString ToIcu(TextView text);
 /// A moment in Greenwich.
 UDate ToIcu(OleDate date);
 
-/// Fails the benchmark when a call of ICU has failed.
+/// Fails the benchmark if a call of ICU has failed.
 void Check(benchmark::State& state, UErrorCode status);
 
-/// A reader and writer of dates in a locale, in Greenwich.
+/// Reads and writes dates in a locale, in Greenwich.
 std::unique_ptr<icu::SimpleDateFormat> DateFormat(const char16_t* pattern, const char* locale,
                                                   UErrorCode& status);
 
-/// One of Thai dates in the Buddhist era.
+/// The same for Thai dates in the Buddhist Era.
 std::unique_ptr<icu::SimpleDateFormat> ThaiDateFormat(const char16_t* pattern, UErrorCode& status);
 
-/// Money amounts in words, put together from two spelled numbers.
+/// Money amounts in words, composed of two spelled numbers.
 class IcuMoneyWords {
  public:
   static IcuMoneyWords Thai(UErrorCode& status);
@@ -40,7 +40,7 @@ class IcuMoneyWords {
     const char16_t* unit;
     const char16_t* joint;  // between unit and sub-unit
     const char16_t* sub_unit;
-    const char16_t* even;  // behind an amount without sub-units
+    const char16_t* even;  // after an amount without sub-units
   };
 
   IcuMoneyWords(const char* locale, Units units, UErrorCode& status);

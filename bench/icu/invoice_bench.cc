@@ -25,7 +25,7 @@ constexpr std::array<const char16_t*, 9> kEvents = {u" AFTER INVOICE DATE",
 constexpr int kFirstMonthEnd = 3;
 constexpr int kInvoiceMonthEnd = 4;
 
-/// The work of an invoice row with ICU's objects, which are made once.
+/// The work of an invoice row with ICU's objects, created once.
 class IcuInvoice {
  public:
   explicit IcuInvoice(UErrorCode& status)

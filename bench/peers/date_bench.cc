@@ -16,7 +16,7 @@ std::vector<date::local_days> LocalDays() {
   return list;
 }
 
-/// From a day count to a day count, as `AddMonth` goes.
+/// From a day count to a day count, like `AddMonth`.
 void AddMonthDate(benchmark::State& state) {
   Measure(state, LocalDays(), [](date::local_days day) {
     date::year_month_day later = date::year_month_day(day) + date::months(1);

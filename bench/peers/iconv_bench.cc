@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kLength = 1024;
 
-/// Measures iconv on `inputs`, each of which takes `output_size` bytes converted.
+/// Measures iconv on `inputs`, each of which converts to `output_size` bytes.
 template <typename Unit>
 void MeasureIconv(benchmark::State& state, const char* to, const char* from,
                   const std::vector<std::basic_string<Unit>>& inputs, std::size_t output_size) {

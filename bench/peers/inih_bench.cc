@@ -6,7 +6,7 @@
 namespace ZQ7Standard::Bench {
 namespace {
 
-/// What is looked for, and what was found.
+/// A key searched for, and the value found.
 struct Search {
   const std::string& key;
   std::string value;

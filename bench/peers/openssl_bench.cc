@@ -8,7 +8,7 @@
 namespace ZQ7Standard::Bench {
 namespace {
 
-/// The digest of the bytes alone, without a conversion and without a text.
+/// The digest of the bytes only, without a conversion or a text.
 template <std::size_t Length>
 void Md5OpenSsl(benchmark::State& state) {
   std::array<unsigned char, MD5_DIGEST_LENGTH> digest;

@@ -32,7 +32,7 @@ std::string KeyOf(int writer, int key) {
   return "W" + std::to_string(writer) + "-" + std::to_string(key);
 }
 
-/// The settings of a file, 0 for those that it has not yet; nullopt when it is not whole.
+/// The settings of a file, 0 for those it lacks; nullopt if it is incomplete.
 std::optional<std::map<std::string, int>> SettingsOf(const std::string& bytes) {
   std::map<std::string, int> settings;
   std::istringstream lines(bytes);
@@ -47,8 +47,8 @@ std::optional<std::map<std::string, int>> SettingsOf(const std::string& bytes) {
   return settings;
 }
 
-/// How many settings were made until the moment that a file is of; nullopt when it is of
-/// none, as some setting is missing that was made before another one.
+/// How many settings had been made at the file's moment; nullopt if it never existed, because a
+/// setting is missing that was made before another one.
 std::optional<int> SettingsMade(const std::string& bytes) {
   auto settings = SettingsOf(bytes);
   if (!settings) return std::nullopt;
@@ -64,7 +64,7 @@ std::optional<int> SettingsMade(const std::string& bytes) {
   return made;
 }
 
-/// Sets all keys again and again; the settings that it made, or -1 after a failure.
+/// Sets all keys again and again; returns how many settings it made, or -1 after a failure.
 int Write(const Folder& file, int writer, steady_clock::time_point end) {
   struct FailingBox final : MessageBox {
     void Show(const Message& /*message*/) override { failed = true; }
@@ -83,7 +83,7 @@ int Write(const Folder& file, int writer, steady_clock::time_point end) {
   return box->failed ? -1 : round * kKeys;
 }
 
-/// Reads a file byte by byte, nearly.
+/// Reads a file almost byte by byte.
 std::string ReadSlowly(const Folder& file) {
   const Descriptor opened(open(file.c_str(), O_RDONLY));
   std::string bytes;
@@ -95,8 +95,8 @@ std::string ReadSlowly(const Folder& file) {
   return bytes;
 }
 
-/// Looks at the file again and again; how often it saw what is no moment's, or of a moment
-/// before one that it had seen.
+/// Reads the file again and again, counting contents that never existed or are older than one
+/// already seen.
 int Look(const std::function<std::string()>& read_file, steady_clock::time_point end,
          const std::string& name) {
   Tally tally(name);

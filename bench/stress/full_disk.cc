@@ -25,8 +25,7 @@ struct CountingBox final : MessageBox {
   int count = 0;
 };
 
-/// Works on a disk with more and less room, and compares what it reports with what is
-/// there.
+/// Works on a disk with more and less room, and compares what is reported with what is there.
 class Disk {
  public:
   explicit Disk(Folder folder) : folder_(std::move(folder)) { object_.SetDisableMsgLevel(1); }
@@ -45,7 +44,7 @@ class Disk {
   }
 
  private:
-  /// Leaves `room` bytes of the disk, about.
+  /// Leaves about `room` bytes of the disk.
   void LeaveRoom(std::uintmax_t room) const {
     const Folder filler = folder_ / "filler";
     fs::remove(filler);
@@ -54,7 +53,7 @@ class Disk {
     std::ofstream(filler, std::ios::binary) << std::string(size, 'x');
   }
 
-  /// Whether `change` has no failure to show.
+  /// Whether `change` shows no failure.
   bool Succeeds(const std::function<void()>& change) {
     const int before = box_->count;
     change();

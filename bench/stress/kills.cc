@@ -22,19 +22,19 @@ namespace ZQ7Standard::Stress {
 namespace {
 
 constexpr int kKills = 500;
-constexpr int kHalf = -1;  // something is there by half, or that nobody wrote
+constexpr int kHalf = -1;  // something incomplete, or that nobody wrote
 
-/// Something that a process does in numbered steps until it is killed. What a step wrote
-/// is to stay once it has returned.
+/// Something that a process does in numbered steps until it is killed. The result of a step must
+/// survive once it has returned.
 struct Work {
   std::string name;
-  std::function<int()> last_there;  ///< the last step whose result is there, whole
-  /// Makes ready in the process that does the steps, and returns how to do one.
+  std::function<int()> last_there;  ///< the last step whose complete result is there
+  /// Prepares the process that does the steps, and returns a function that does one.
   std::function<std::function<void(int)>()> begin;
-  Folder cleared = {};  ///< after each kill; none where that is empty
+  Folder cleared = {};  ///< emptied after each kill, if set
 };
 
-/// Does the steps after `first`, and writes the number of each to `done`.
+/// Does the steps after `first`, writing the number of each to `done`.
 int DoSteps(const Work& work, int first, int done) {
   const auto step = work.begin();
   for (int number = first;; ++number) {
@@ -43,8 +43,8 @@ int DoSteps(const Work& work, int first, int done) {
   }
 }
 
-/// Kills a process that does the steps after `last`, when it has done `steps` of them and
-/// some time is over, from 0 to that of a step. Returns the last step that was done.
+/// Kills a process that does the steps after `last`, once it has done `steps` of them and a further
+/// part of a step's time has passed. Returns the last step done.
 int Kill(const Work& work, int last, unsigned steps, double part_of_step) {
   std::array<int, 2> ends{};
   if (pipe(ends.data()) != 0) return kHalf;
@@ -109,7 +109,7 @@ Work Settings(const Folder& folder) {
           }};
 }
 
-/// How many files are in the folder, all of which are `whole`.
+/// The number of files in the folder, all of which must be `whole`.
 int CountOf(const Folder& folder, const std::function<bool(const Folder& file)>& whole) {
   int count = 0;
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {

@@ -20,15 +20,15 @@ constexpr const char* kName = "set.ini";
 
 enum class Kind { kMake, kRemove, kMove, kWrite, kSync, kSyncFolder };
 
-/// A system call that changes what is on the disk, sooner or later.
+/// A system call that changes the disk, sooner or later.
 struct Change {
   Kind kind;
-  int file = 0;           ///< numbered as they are made, after the old one
+  int file = 0;           ///< numbered in order of creation, after the old one
   std::string name = "";  ///< in the folder
   std::string text = "";  ///< the bytes of kWrite, the new name of kMove
 };
 
-// What a rewrite asks the system for.
+// The system calls of a rewrite.
 std::vector<Change> changes;
 std::map<int, int> opened;        // the files of descriptors
 std::map<std::string, int> made;  // the files of names
@@ -43,7 +43,7 @@ int OpenAt(int folder, const char* name, int flags, mode_t mode) {
   return descriptor;
 }
 
-/// Half of it, so that it takes more than one call.
+/// Writes half, so that it takes more than one call.
 ssize_t Write(int descriptor, const void* bytes, std::size_t size) {
   const std::size_t half = (size + 1) / 2;
   changes.push_back(
@@ -89,8 +89,8 @@ void ChangeName(Disk& disk, const Change& change) {
   if (change.kind == Kind::kMove) disk.names[change.text] = change.file;
 }
 
-/// All that a disk may hold when the power goes after `done`. What was not synced may be
-/// there or not: of the names each on its own, of the bytes all, half or none.
+/// Everything that a disk may hold if the power fails after `done`. Unsynced changes may be there
+/// or not: each name independently; of the bytes all, half or none.
 std::vector<Disk> Outcomes(const Disk& old, std::span<const Change> done) {
   Disk sure = old;
   std::map<int, std::string> written = old.bytes;
@@ -122,7 +122,7 @@ std::vector<Disk> Outcomes(const Disk& old, std::span<const Change> done) {
   return outcomes;
 }
 
-/// Whether a disk has one of the contents, and the library goes on from there.
+/// Whether a disk has one of the contents and the library can go on from there.
 bool IsWell(const Folder& folder, Disk disk, const std::vector<std::string>& contents) {
   for (const auto& entry : fs::directory_iterator(folder)) fs::remove(entry.path());
   for (const auto& [name, file] : disk.names) {
@@ -135,8 +135,8 @@ bool IsWell(const Folder& folder, Disk disk, const std::vector<std::string>& con
          std::distance(fs::directory_iterator(folder), {}) == 1;
 }
 
-/// Cuts the power after each of the changes; how many disks there may be then, and how
-/// many of them are not well.
+/// Cuts the power after each of the changes; returns the number of possible disks, and how many of
+/// them are not well.
 std::pair<int, int> CutAfterEach(const Folder& folder, std::span<const Change> all,
                                  const std::string& old_bytes, const std::string& new_bytes) {
   const Disk old{{{kName, 0}}, {{0, old_bytes}}};

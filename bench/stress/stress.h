@@ -13,7 +13,7 @@ namespace ZQ7Standard::Stress {
 
 using Folder = std::filesystem::path;
 
-/// What was tried, and how much of it was lost.
+/// How many attempts were made, and how many were lost.
 class Tally {
  public:
   explicit Tally(std::string name) : name_(std::move(name)) {}
@@ -24,7 +24,7 @@ class Tally {
     if (++lost_ <= 5) std::cout << "LOST " << name_ << ": " << what << std::endl;
   }
 
-  /// Prints a line; whether nothing was lost.
+  /// Prints a line; returns whether nothing was lost.
   bool Report(const std::string& of = "") const {
     std::cout << name_ << ": " << tries_ << ' ' << of << ", lost " << lost_ << std::endl;
     return lost_ == 0 && tries_ > 0;
@@ -41,17 +41,16 @@ inline std::string BytesOf(const Folder& file) {
   return {std::istreambuf_iterator(stream), {}};
 }
 
-// The parts, each in a folder of its own, which is empty. They return whether nothing was
-// lost.
+// The parts, each in an empty folder of its own. They return whether nothing was lost.
 
 /// Kills writers of settings, new files, the registry and pages, 500 times each.
 bool Kills(const Folder& folder);
-/// Fills a small disk, which `folder` is on.
+/// Fills the small disk that contains `folder`.
 bool FullDisk(const Folder& folder);
 /// Lets four writers, a slow reader and a copier work on one file for half a minute.
 bool Crowd(const Folder& folder);
-/// Cuts the power after each system call of a rewrite, and goes on from all that the disk
-/// may hold then.
+/// Cuts the power after each system call of a rewrite, and continues from every state that the disk
+/// may then have.
 bool PowerCuts(const Folder& folder);
 
 }  // namespace ZQ7Standard::Stress

@@ -10,7 +10,7 @@ struct Releaser {
   void operator()(auto* object) const { Release(object); }
 };
 
-/// Owns an object of a C library, which `Release` gives back.
+/// Owns an object of a C library, freed by `Release`.
 template <typename Object, auto Release>
 using Handle = std::unique_ptr<Object, Releaser<Release>>;
 

@@ -2,7 +2,7 @@
 
 namespace ZQ7Standard {
 
-/// Of a core that has the module linked in.
+/// For a core that has the module linked in.
 const ModuleOf<PrintingFunctions>& PrintingModule() {
   static const ModuleOf<PrintingFunctions> linked = {&kPrintingFunctions};
   return linked;

@@ -19,7 +19,7 @@ namespace {
 using Surface = Handle<cairo_surface_t, cairo_surface_destroy>;
 using Context = Handle<cairo_t, cairo_destroy>;
 
-// Millimetres from the corner: what Cairo can count.
+// Millimetres from the corner: the range of Cairo's coordinates.
 constexpr double kFarthest = 1'000'000;
 
 void Check(cairo_status_t status) {
@@ -31,7 +31,7 @@ bool IsOnPaper(double position) {
   return std::abs(position) <= kFarthest;  // a NaN is not
 }
 
-/// Adds what Cairo has written to the string `file`.
+/// Appends Cairo's output to the string `file`.
 cairo_status_t Append(void* file, const unsigned char* data, unsigned int size) {
   try {
     static_cast<std::string*>(file)->append(reinterpret_cast<const char*>(data), size);
@@ -41,7 +41,7 @@ cairo_status_t Append(void* file, const unsigned char* data, unsigned int size) 
   return CAIRO_STATUS_SUCCESS;
 }
 
-/// Reads on in `file`, a `std::string_view`, for Cairo.
+/// Reads the next bytes of `file`, a `std::string_view`, for Cairo.
 cairo_status_t ReadOn(void* file, unsigned char* data, unsigned int size) {
   auto& rest = *static_cast<std::string_view*>(file);
   if (rest.size() < size) return CAIRO_STATUS_READ_ERROR;
@@ -54,7 +54,7 @@ Surface PngPicture(std::string_view file) {
   return Surface(cairo_image_surface_create_from_png_stream(ReadOn, &file));
 }
 
-/// A picture without pixels, whose file goes into the page as it is.
+/// A picture without pixels, whose file is embedded in the page unchanged.
 Surface JpegPicture(std::string_view file, const PictureSize& size) {
   Surface picture(cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(size.columns),
                                              static_cast<int>(size.rows)));
@@ -104,7 +104,7 @@ class Page {
     Check(cairo_status(page));
   }
 
-  /// The bytes of the PDF file, which ends the use of the page.
+  /// The bytes of the PDF file; the last use of the page.
   std::string Finish() {
     cairo_show_page(context_.get());
     cairo_surface_finish(surface_.get());
@@ -122,7 +122,7 @@ class PageDocument final : public PrintDocument {
  public:
   explicit PageDocument(std::shared_ptr<PageTarget> target) : target_(std::move(target)) {}
 
-  void UseMillimetres() override {}  // as it does from the start
+  void UseMillimetres() override {}  // always in use
 
   PagePosition Position() override { return position_; }
   void MoveTo(PagePosition position) override {
@@ -160,7 +160,7 @@ class PageDocument final : public PrintDocument {
   }
 
  private:
-  /// Made when it is needed: a list has printers that nobody prints on.
+  /// Created on demand: lists contain printers that nobody uses.
   PageText& Shaper() {
     if (!shaper_) shaper_ = std::make_unique<PageText>();
     return *shaper_;

@@ -8,19 +8,19 @@
 
 namespace ZQ7Standard {
 
-/// What a page is drawn for. What fails raises error 482.
+/// The target of a page. Failures raise error 482.
 class PageTarget {
  public:
   virtual ~PageTarget() = default;
 
-  /// The page of the next document, in millimetres, as it is looked at.
+  /// The size of the next document's page, in millimetres, as it is viewed.
   virtual PageSize Page() = 0;
 
-  /// Prints a document, whose bytes are those of a PDF file.
+  /// Prints a document given as PDF bytes.
   virtual void Print(std::string_view pdf) = 0;
 };
 
-/// Draws documents of one page as PDF, in millimetres at all times.
+/// Draws one-page documents as PDF, always in millimetres.
 std::shared_ptr<PrintDocument> NewPageDocument(std::shared_ptr<PageTarget> target);
 
 }  // namespace ZQ7Standard

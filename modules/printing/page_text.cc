@@ -24,7 +24,7 @@ using Charset = Handle<FcCharSet, FcCharSetDestroy>;
 using FontOptions = Handle<cairo_font_options_t, cairo_font_options_destroy>;
 using Description = Handle<PangoFontDescription, pango_font_description_free>;
 
-/// The installed font that is nearest to `pattern`.
+/// The installed font nearest to `pattern`.
 Pattern Nearest(FcPattern* pattern) {
   FcConfigSubstitute(nullptr, pattern, FcMatchPattern);
   FcDefaultSubstitute(pattern);
@@ -40,7 +40,7 @@ Pattern PatternOf(const std::string& family) {
   return pattern;
 }
 
-/// The name number `index` of a font's family; null behind the last.
+/// The name at `index` of a font's family; null after the last.
 const FcChar8* FamilyName(const Pattern& font, int index) {
   FcChar8* name = nullptr;
   const bool found =
@@ -66,8 +66,7 @@ Charset ThaiLetters() {
   return letters;
 }
 
-/// The family with Thai letters that is nearest to `family`; `family` where there is
-/// none on the machine.
+/// The family with Thai letters nearest to `family`; `family` if the machine has none.
 std::string ThaiFamilyNear(const std::string& family) {
   const Charset letters = ThaiLetters();
   const Pattern pattern = PatternOf(family);
@@ -78,7 +77,7 @@ std::string ThaiFamilyNear(const std::string& family) {
   return name == nullptr ? family : reinterpret_cast<const char*>(name);
 }
 
-/// Paper has no dots that letters would have to be fitted to.
+/// Paper has no dots to which letters must be fitted.
 void UseMetricsOfPaper(PangoContext* context) {
   const FontOptions options(cairo_font_options_create());
   cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);

@@ -12,16 +12,16 @@ namespace ZQ7Standard {
 
 inline constexpr double kPointsPerMillimetre = 72 / 25.4;
 
-/// Lines of text as Pango shapes them, in the metrics of paper. A tab, line break or
-/// other control character counts as a blank.
+/// Lines of text shaped by Pango, with metrics for paper. A tab, line break or other control
+/// character counts as a blank.
 class PageText {
  public:
   PageText();
 
   const PrintFont& Font() const { return font_; }
 
-  /// A family that is not installed is replaced by one with Thai letters. A size that
-  /// no page has fails with error 482.
+  /// A family that is not installed is replaced by one with Thai letters. A size that does not fit
+  /// any page raises error 482.
   void SetFont(const PrintFont& font);
 
   /// The width and height of `text` as a line, in millimetres.
@@ -38,8 +38,8 @@ class PageText {
   Handle<PangoContext, g_object_unref> context_;
   Handle<PangoLayout, g_object_unref> layout_;
   PrintFont font_;
-  Text text_;                      // what is laid out
-  std::map<Text, Text> families_;  // those asked for, and what they came to
+  Text text_;                      // the text laid out
+  std::map<Text, Text> families_;  // requested families and their replacements
 };
 
 }  // namespace ZQ7Standard

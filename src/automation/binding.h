@@ -18,14 +18,14 @@
 #include "automation/conversion.h"
 #include "automation/enumerations.h"
 
-/// What a row of the catalogue takes from the C++ types of the member it names: types
-/// for the catalogue, and the call that converts to and from values.
+/// What a catalogue row derives from the C++ type of the member it names: the catalogue's types and
+/// the call that converts values.
 namespace ZQ7Standard::Automation {
 
 template <typename T>
 concept EnumerationType = std::is_enum_v<T>;
 
-/// The type of the catalogue that a C++ type is.
+/// The catalogue type of a C++ type.
 template <typename T>
 inline constexpr Type kTypeOf = Type::kNothing;
 template <>
@@ -58,7 +58,7 @@ inline constexpr Type kTypeOf<std::optional<T>> = kTypeOf<T>;
 template <typename T>
 inline constexpr Type kTypeOf<std::shared_ptr<T>> = Type::kObject;
 
-/// The class of the catalogue whose instances are of the type `T`.
+/// The name of the catalogue's class whose instances are `T`.
 template <typename T>
 inline constexpr std::string_view kClassNameOf = {};
 
@@ -80,7 +80,7 @@ TypeInfo TypeInfoOf() {
   }
 }
 
-/// A value as a parameter of the type `T`.
+/// Converts a value to a parameter of type `T`.
 template <typename T>
 T ToParameter(const Value& value, const Place& place) {
   if constexpr (EnumerationType<T>) {
@@ -104,7 +104,7 @@ T ToParameter(const Value& value, const Place& place) {
   }
 }
 
-/// A value and where it is wanted.
+/// A value and the place it is passed to.
 struct Source {
   const Value& value;
   Place place;
@@ -121,7 +121,7 @@ class Argument {
   T value_;
 };
 
-/// A text is passed as it stands in the value; only what is none yet is written out.
+/// A text is passed as it is in the value; any other value is converted to one.
 template <>
 class Argument<TextView> {
  public:
@@ -147,14 +147,14 @@ class Argument<std::shared_ptr<T>> {
   std::shared_ptr<T> object_;
 };
 
-/// Whether a value is null, and may be so.
+/// Whether a value is null and its parameter accepts null.
 inline bool IsNullTaken(const Source& source) {
   const auto& [call, parameter] = source.place;
   return std::holds_alternative<Null>(source.value) && !call.parameters.empty() &&
          call.parameters[parameter].nullable;
 }
 
-/// An argument that the operation itself finds missing.
+/// An argument that the operation itself may find missing.
 template <typename T>
 class Argument<std::optional<T>> {
  public:

@@ -5,10 +5,10 @@
 #include <string>
 #include <utility>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
 #include "automation/documentation.h"
 #include "automation/entry.h"
-#include "automation/rows.h"
 #include "base/ascii.h"
 
 namespace ZQ7Standard::Automation {
@@ -30,7 +30,7 @@ void DocumentParameters(std::vector<ParameterInfo>& parameters, const std::strin
   }
 }
 
-/// Fills in what the headers say: of a property, of what reads it or else sets it.
+/// Fills in the documentation of the headers; a property takes its getter's, or else its setter's.
 void DocumentAll(ClassInfo& owner) {
   Document(owner, DocumentationOf(owner.name));
   for (OperationInfo& operation : owner.operations) {
@@ -59,7 +59,7 @@ ClassInfo InfoOf(const ClassRow& row) {
   return info;
 }
 
-/// Fills in what finds the members.
+/// Adds a member to the indexes that find it by name and number.
 void AddMember(ClassEntry& entry, std::string_view name, int number, const MemberEntry& member) {
   const auto place = static_cast<std::size_t>(number);
   if (place >= entry.members.size()) entry.members.resize(place + 1);
@@ -85,13 +85,12 @@ ClassEntry EntryOf(const ClassRow& row, const ClassInfo& owner) {
 }
 
 std::vector<ClassRow> AllRows() {
-  return {ASCIIObjectEntry(),      BahtStringObjectEntry(), BitByteObjectEntry(),
-          CImageInfoEntry(),       DiskObjectEntry(),       GridValueObjectEntry(),
-          PeripheralObjectEntry(), PrintObjectEntry(),      RegistryObjectEntry(),
-          StandardObjectEntry(),   PrintPictureEntry(),     SerialPortEntry()};
+  return {ASCIIObjectRows(),    BahtStringObjectRows(), BitByteObjectRows(),    CImageInfoRows(),
+          DiskObjectRows(),     GridValueObjectRows(),  PeripheralObjectRows(), PrintObjectRows(),
+          RegistryObjectRows(), StandardObjectRows(),   PrintPictureRows(),     SerialPortRows()};
 }
 
-/// The classes and what finds them by name, made at the first use.
+/// The classes and their index by name, built on first use.
 class Catalogue {
  public:
   static const Catalogue& Get() {

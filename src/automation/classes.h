@@ -1,27 +1,27 @@
 #ifndef ZQ7STANDARD_SRC_AUTOMATION_CLASSES_H_
 #define ZQ7STANDARD_SRC_AUTOMATION_CLASSES_H_
 
-#include "automation/rows.h"
+#include "automation/catalogue_rows.h"
 
 namespace ZQ7Standard::Automation {
 
 // The rows of each public class, without what the headers say.
 
-ClassRow ASCIIObjectEntry();
-ClassRow BahtStringObjectEntry();
-ClassRow BitByteObjectEntry();
-ClassRow CImageInfoEntry();
-ClassRow DiskObjectEntry();
-ClassRow GridValueObjectEntry();
-ClassRow PeripheralObjectEntry();
-ClassRow PrintObjectEntry();
-ClassRow RegistryObjectEntry();
-ClassRow StandardObjectEntry();
+ClassRow ASCIIObjectRows();
+ClassRow BahtStringObjectRows();
+ClassRow BitByteObjectRows();
+ClassRow CImageInfoRows();
+ClassRow DiskObjectRows();
+ClassRow GridValueObjectRows();
+ClassRow PeripheralObjectRows();
+ClassRow PrintObjectRows();
+ClassRow RegistryObjectRows();
+ClassRow StandardObjectRows();
 
-// The same of what hosts hand in to operations.
+// The same for objects that hosts pass to operations.
 
-ClassRow PrintPictureEntry();
-ClassRow SerialPortEntry();
+ClassRow PrintPictureRows();
+ClassRow SerialPortRows();
 
 // The operations of `StandardObject`, by subsystem.
 

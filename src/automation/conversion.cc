@@ -10,7 +10,7 @@
 
 #include "automation/instance.h"
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "dates/date_math.h"
 #include "dates/date_text.h"
@@ -25,7 +25,7 @@ constexpr int kSingleDigits = 7;
 template <typename T>
 concept Arithmetic = std::is_arithmetic_v<T>;
 
-/// `value` as the message of an error shows it.
+/// `value` as shown in an error message.
 struct ShownVisitor {
   ErrorInput operator()(const Text& text) const { return text; }
   ErrorInput operator()(bool flag) const { return TextView(flag ? u"True" : u"False"); }
@@ -37,28 +37,28 @@ struct ShownVisitor {
   ErrorInput operator()(const auto& /*object*/) const { return TextView(u"an object"); }
 };
 
-Where PlaceOf(const Place& place) {
+Where WhereOf(const Place& place) {
   if (place.call.parameters.empty()) return {place.call.member};
   return {place.call.member, place.call.parameters[place.parameter].name};
 }
 
 [[noreturn]] void RaiseOverflow(const Value& value, const Place& place) {
-  Raise(Error::kOverflow, PlaceOf(place), std::visit(ShownVisitor{}, value));
+  Raise(Error::kOverflow, WhereOf(place), std::visit(ShownVisitor{}, value));
 }
 
 [[noreturn]] void RaiseMismatch(const Value& value, const Place& place) {
-  if (std::holds_alternative<Omitted>(value)) Raise(Error::kArgumentNotOptional, PlaceOf(place));
-  Raise(Error::kTypeMismatch, PlaceOf(place), std::visit(ShownVisitor{}, value));
+  if (std::holds_alternative<Omitted>(value)) Raise(Error::kArgumentNotOptional, WhereOf(place));
+  Raise(Error::kTypeMismatch, WhereOf(place), std::visit(ShownVisitor{}, value));
 }
 
-/// The text of a number without blanks around it and "," between its digits.
+/// The text of a number without the blanks around it and its ",".
 Text Ungrouped(TextView text) {
   Text number(TrimBack(TrimFront(text)));
   std::erase(number, u',');
   return number;
 }
 
-/// The number that a whole text is; nothing when it is none.
+/// The number that the whole text is; nullopt if it is not a number.
 std::optional<double> NumberOf(TextView text, const Value& value, const Place& place) {
   const Text number = Ungrouped(text);
   if (!IsNumberText(number)) return std::nullopt;
@@ -71,7 +71,7 @@ std::optional<OleDate> DateOf(TextView text, ServiceSet& services) {
   return ReadDateText(text, services.Convention(), services.Now().Year());
 }
 
-/// What a value is as a number, apart from a text, which the caller has looked at.
+/// A value as a number. A text, which callers try first as something else, must be one.
 struct NumberVisitor {
   const Value& value;
   const Place& place;
@@ -119,7 +119,7 @@ Text DateText(OleDate date, DateConvention convention) {
   return text;
 }
 
-/// The amount without zeros at its end.
+/// The amount without trailing zeros.
 Text AmountText(Currency amount) {
   Text text = amount.ToText();
   text.erase(text.find_last_not_of(u'0') + 1);
@@ -127,8 +127,8 @@ Text AmountText(Currency amount) {
   return text;
 }
 
-/// The amount that `make` makes, which fails for one out of range alone.
-Currency Fitting(const auto& make, const Value& value, const Place& place) {
+/// The amount that `make` returns; its only failure is an amount out of range.
+Currency AmountOrOverflow(const auto& make, const Value& value, const Place& place) {
   try {
     return make();
   } catch (const RunTimeError&) {
@@ -217,11 +217,11 @@ Currency ToCurrency(const Value& value, const Place& place) {
     const Text number = Ungrouped(*text);
     const bool exponent = number.find_first_of(u"eEdD") != Text::npos;
     if (IsNumberText(number) && !exponent) {
-      return Fitting([&] { return Currency::FromText(number); }, value, place);
+      return AmountOrOverflow([&] { return Currency::FromText(number); }, value, place);
     }
   }
   const double number = ToDouble(value, place);
-  return Fitting([&] { return Currency(number); }, value, place);
+  return AmountOrOverflow([&] { return Currency(number); }, value, place);
 }
 
 Text ToText(const Value& value, const Place& place) {

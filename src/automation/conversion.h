@@ -14,24 +14,24 @@
 
 namespace ZQ7Standard::Automation {
 
-/// The most parameters that an operation has.
+/// The largest number of parameters of an operation.
 inline constexpr std::size_t kMaxParameters = 30;
 
-/// What a call runs with.
+/// The context of a call.
 struct CallContext {
-  std::string_view member;                    ///< for the messages of errors
-  std::span<const ParameterInfo> parameters;  ///< none while a property is set
+  std::string_view member;                    ///< for error messages
+  std::span<const ParameterInfo> parameters;  ///< empty when a property is set
   ServiceSet& services;
 };
 
-/// Where a value is wanted: the parameter with that index, from 0.
+/// Where a value is passed: the index of the parameter, from 0.
 struct Place {
   const CallContext& call;
   std::size_t parameter = 0;
 };
 
-// The value as the type wanted; an omitted one is the empty text where a text is wanted.
-// Raise 449 for any other omitted one, 13 and 6 as `Invoke` has it.
+// Convert a value to a type; an omitted one becomes the empty text if the type is text. Raise 449
+// for any other omitted value, and 13 and 6 as `Invoke` documents.
 
 double ToDouble(const Value& value, const Place& place);
 float ToSingle(const Value& value, const Place& place);
@@ -42,7 +42,7 @@ OleDate ToDate(const Value& value, const Place& place);
 Currency ToCurrency(const Value& value, const Place& place);
 Text ToText(const Value& value, const Place& place);
 TextList ToTextList(const Value& value, const Place& place);
-/// What the object of a class is; null for a null.
+/// The instance behind an object of that class; null for a null.
 std::shared_ptr<void> ToInstance(const Value& value, std::string_view class_name,
                                  const Place& place);
 

@@ -21,7 +21,7 @@ struct ParameterHelpRow {
   std::string_view help;
 };
 
-// kMembers, kParameters and kEnumerations, the first two sorted by their names.
+// kMembers, kParameters and kEnumerations, the first two sorted by name.
 #include "automation/documentation.inc"
 
 }  // namespace

@@ -11,13 +11,13 @@
 #include <unordered_map>
 #include <vector>
 
-/// What the library keeps of a public class besides what it tells: how instances are made
-/// and members reached.
+/// What the library keeps of a public class besides its catalogue data: how to create instances and
+/// reach members.
 namespace ZQ7Standard::Automation {
 
 struct CallContext;
 
-/// Calls an operation with a value for each of its parameters.
+/// Calls an operation with one value for each parameter.
 using CallFunction = Value (*)(void* instance, std::span<const Value* const> arguments,
                                const CallContext& context);
 using ReadFunction = Value (*)(void* instance);
@@ -25,11 +25,11 @@ using WriteFunction = void (*)(void* instance, const Value& value, const CallCon
 
 /// Makes an instance.
 using CreateFunction = std::shared_ptr<void> (*)(const Services& services);
-/// Sends the events of an instance to `sink` until the result goes.
+/// Sends the events of an instance to `sink` until the result is released.
 using SubscribeFunction = std::shared_ptr<void> (*)(std::shared_ptr<void> instance,
                                                     std::shared_ptr<EventSink> sink);
 
-/// An operation or a property and what reaches it. What it does not have is null.
+/// An operation or a property and the functions that reach it; null for those it does not have.
 struct MemberEntry {
   MemberInfo info = {};
   CallFunction call = nullptr;
@@ -50,8 +50,8 @@ struct ClassEntry {
   const ClassInfo* info;
   CreateFunction create = nullptr;
   SubscribeFunction subscribe = nullptr;
-  std::vector<MemberEntry> members = {};  ///< by their numbers
-  NameIndex<int> numbers = {};            ///< of operations and properties
+  std::vector<MemberEntry> members = {};  ///< by number
+  NameIndex<int> numbers = {};            ///< of operations and properties, by name
 };
 
 /// The entry of a class; null if there is none with that name.

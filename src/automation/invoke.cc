@@ -56,8 +56,8 @@ class Values {
     Take(place, argument.value);
   }
 
-  /// An argument that is passed as missing takes the default of its parameter. Without one
-  /// it goes to the conversion, to which a missing text is the empty text.
+  /// A missing argument takes the default of its parameter. Without a default it goes to the
+  /// conversion, which reads a missing text as empty.
   void Take(std::size_t place, const Value& argument) {
     if (IsOmitted(argument) && operation_.parameters[place].optional) return;
     values_[place] = &argument;
@@ -85,8 +85,8 @@ class Values {
   throw RunTimeError(std::move(details));
 }
 
-/// Raises a failure of a member again under the names that the caller used: what
-/// operations call in turn, and services, name others or none.
+/// Raises a member's failure again under the names that the caller used: nested operations and
+/// services use other names or none.
 [[noreturn]] void RaiseAs(const ClassInfo& owner, std::string_view member,
                           std::span<const ParameterInfo> parameters, ErrorDetails details) {
   details.class_name = owner.name;
@@ -96,11 +96,11 @@ class Values {
   throw RunTimeError(std::move(details));
 }
 
-/// Does a call of `member`. What it throws reaches the caller as a `RunTimeError` that names
-/// it; an exception without a number is an automation error.
+/// Runs `call`. Whatever it throws reaches the caller as a `RunTimeError` that names `member`; an
+/// exception without a number becomes an automation error.
 template <typename Call>
-auto Reported(const ClassInfo& owner, std::string_view member,
-              std::span<const ParameterInfo> parameters, const Call& call) {
+auto RunAs(const ClassInfo& owner, std::string_view member,
+           std::span<const ParameterInfo> parameters, const Call& call) {
   try {
     return call();
   } catch (const RunTimeError& error) {
@@ -113,9 +113,8 @@ auto Reported(const ClassInfo& owner, std::string_view member,
   }
 }
 
-/// The member that `info` describes; null where the class of the instance has no such one.
-/// The number finds it. The name tells a member of another class, which may have that
-/// number too.
+/// The member that `info` describes; null if the class of the instance does not have it. The number
+/// finds it; the name is compared because another class may use the same number.
 template <typename Info>
 const MemberEntry* MemberOf(const Instance& instance, const Info& info) {
   const auto& members = instance.owner->members;
@@ -133,7 +132,7 @@ Value InvokeMember(const Instance& instance, const MemberEntry* member, std::str
   const ClassInfo& owner = *instance.owner->info;
   if (member == nullptr || member->call == nullptr) RaiseUnsupported(owner, name);
   const OperationInfo& operation = *member->info.operation;
-  return Reported(owner, operation.name, operation.parameters, [&] {
+  return RunAs(owner, operation.name, operation.parameters, [&] {
     const Values values(operation, arguments);
     return member->call(instance.object.get(), values.Get(),
                         {operation.name, operation.parameters, *instance.services});
@@ -143,8 +142,8 @@ Value InvokeMember(const Instance& instance, const MemberEntry* member, std::str
 Value ReadMember(const Instance& instance, const MemberEntry* member, std::string_view name) {
   const ClassInfo& owner = *instance.owner->info;
   if (member == nullptr || member->read == nullptr) RaiseUnsupported(owner, name);
-  return Reported(owner, member->info.property->name, {},
-                  [&] { return member->read(instance.object.get()); });
+  return RunAs(owner, member->info.property->name, {},
+               [&] { return member->read(instance.object.get()); });
 }
 
 void WriteMember(const Instance& instance, const MemberEntry* member, std::string_view name,
@@ -152,7 +151,7 @@ void WriteMember(const Instance& instance, const MemberEntry* member, std::strin
   const ClassInfo& owner = *instance.owner->info;
   if (member == nullptr || member->write == nullptr) RaiseUnsupported(owner, name);
   const std::string_view property = member->info.property->name;
-  Reported(owner, property, {}, [&] {
+  RunAs(owner, property, {}, [&] {
     member->write(instance.object.get(), value, {property, {}, *instance.services});
   });
 }

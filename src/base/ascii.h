@@ -24,13 +24,13 @@ constexpr bool IsAsciiLetter(char16_t c) {
   return AsciiUpper(c) >= u'A' && AsciiUpper(c) <= u'Z';
 }
 
-/// Whether two texts are the same when the case of A to Z does not count.
+/// Whether two texts are equal, ignoring the case of A to Z.
 constexpr bool EqualsIgnoringAsciiCase(TextView a, TextView b) {
   return std::ranges::equal(a, b, {}, AsciiUpper, AsciiUpper);
 }
 
-/// The number that one to four digits write, as the fields of nearly all dates
-/// and times do; nothing for any other text.
+/// The number written by one to four digits, as most fields of dates and times are; nullopt for any
+/// other text.
 std::optional<int> ReadShortNumber(TextView digits);
 
 /// Appends `number` (from 0) in decimal, with leading zeros up to `width` (1 to 10)

@@ -14,7 +14,7 @@ Text ToLower(TextView text);
 /// `c` in upper case.
 char16_t ToUpper(char16_t c);
 
-/// Whether two texts are the same in upper case.
+/// Whether two texts are equal in upper case.
 bool EqualsIgnoringCase(TextView a, TextView b);
 
 }  // namespace ZQ7Standard

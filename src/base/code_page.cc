@@ -15,7 +15,7 @@ struct PageRange {
   char16_t character;
 };
 
-// A byte in none of them is the character of its own number.
+// A byte outside these ranges is the character with the same number.
 constexpr std::array<PageRange, 10> kRanges = {{
     {0x80, 0x80, 0x20AC},  // euro sign
     {0x85, 0x85, 0x2026},  // ellipsis
@@ -51,22 +51,22 @@ constexpr auto kBytes = [] {
   return bytes;
 }();
 
-// Nearly all text is ASCII and Thai, whose bytes follow by arithmetic. Blocks of
-// a fixed size of those are converted by loops without branches, which compilers
-// turn into vector instructions; any other block goes through the tables.
+// Nearly all text is ASCII and Thai, whose bytes can be calculated. Fixed-size blocks of it are
+// converted by loops without branches, which compilers vectorize; other blocks go through the
+// tables.
 constexpr std::size_t kBlock = 32;
 
 // The low half of a Thai character's code plus this is its byte.
 constexpr int kThaiToByte = 0xA0;
 constexpr int kByteToThai = 0x0E01 - 0xA1;
 
-/// Whether `unit` is from `first` to `last`, by one comparison.
+/// Whether `unit` is from `first` to `last`, in a single comparison.
 template <typename Unit>
 constexpr bool IsBetween(Unit unit, Unit first, Unit last) {
   return static_cast<Unit>(unit - first) <= static_cast<Unit>(last - first);
 }
 
-/// All bits when `condition` holds, else none.
+/// All bits if `condition` holds, otherwise none.
 template <typename Unit>
 constexpr Unit Mask(bool condition) {
   return condition ? static_cast<Unit>(~Unit{}) : Unit{};
@@ -92,8 +92,8 @@ bool EncodeAsciiBlock(const char16_t* text, char* bytes) {
   return true;
 }
 
-/// Encodes a block of ASCII and Thai; false, with no use in `bytes`, when there is
-/// any other character in it.
+/// Encodes a block of ASCII and Thai; false, with `bytes` unspecified, if it contains another
+/// character.
 bool EncodeThaiBlock(const char16_t* text, char* bytes) {
   std::array<char, kBlock> block;
   std::uint16_t others = 0;
@@ -111,7 +111,7 @@ void EncodeByTable(TextView text, char* bytes) {
   for (const char16_t c : text) *bytes++ = kBytes[c];
 }
 
-/// The way back; false, with `text` as it was, when there is any other byte.
+/// Decodes such a block; false, with `text` unchanged, if it contains another byte.
 bool DecodeThaiBlock(const char* bytes, char16_t* text) {
   std::uint8_t others = 0;
   for (std::size_t i = 0; i < kBlock; ++i) {

@@ -12,16 +12,16 @@ namespace ZQ7Standard {
 /// What an error tells whose operation and input are not known.
 ErrorDetails DetailsOf(Error error, std::string_view detail = {});
 
-/// The operation that the host called, and the parameter whose argument is wrong.
+/// The operation that the host called and the parameter with the wrong argument.
 struct Where {
   std::string_view operation = {};
   std::string_view parameter = {};
 };
 
-/// An argument as the message of an error shows it.
+/// An argument as shown in an error message.
 class ErrorInput {
  public:
-  // A row of arguments reads best when each converts by itself. NOLINTBEGIN(*-explicit-*)
+  // Arguments are easiest to read where each converts implicitly. NOLINTBEGIN(*-explicit-*)
   ErrorInput(TextView text) : text_(text) {}
   ErrorInput(const Text& text) : text_(text) {}
   ErrorInput(double number);
@@ -36,18 +36,18 @@ class ErrorInput {
   Text text_;
 };
 
-/// Raises `error` for that argument; `detail` follows the usual text of the error.
+/// Raises `error` for that argument; `detail` follows the error's standard text.
 [[noreturn]] void Raise(Error error, const Where& where, const ErrorInput& input,
                         std::string_view detail = {});
 
-/// Raises `error` where it is not an argument's.
+/// Raises an `error` that is not about an argument.
 [[noreturn]] void Raise(Error error, const Where& where, std::string_view detail = {});
 
 /// Raises `error` again with the operation and parameter that it lacks.
 [[noreturn]] void RaiseNamed(const Where& where, const RunTimeError& error);
 
-/// Does `steps` of an operation, and names the operation in an error that a service
-/// raises in them: a service knows neither.
+/// Runs `steps` of an operation. An error that a service raises in them, which does not know the
+/// operation, is raised again with its name.
 template <typename Steps>
 auto Named(const Where& where, const Steps& steps) {
   try {

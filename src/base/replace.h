@@ -5,10 +5,10 @@
 
 namespace ZQ7Standard {
 
-// Each takes time in proportion to the lengths, however many there are to replace.
+// Each runs in time proportional to the lengths, however many replacements there are.
 
-/// Replaces each `from` (not empty) in `text` by `to`, from the left; what was
-/// put in is not looked at again.
+/// Replaces each `from` (not empty) in `text` by `to`, from the left; inserted text is not searched
+/// again.
 void ReplaceAll(Text& text, TextView from, TextView to);
 
 /// Appends `text` to `result` with each `from` (not empty) replaced by `to`,

@@ -46,7 +46,7 @@ std::string OnOneLine(std::string_view text) {
   return is_plain ? std::string(text) : ZQ7Standard::OnOneLine(FromUtf8(text));
 }
 
-/// "StandardObject.CTDATE", or what is known of it.
+/// "StandardObject.CTDATE", or as much of it as is known.
 std::string CalledName(const ErrorDetails& details) {
   const bool both = !details.class_name.empty() && !details.operation.empty();
   return details.class_name + (both ? "." : "") + details.operation;
@@ -79,7 +79,7 @@ std::span<const ErrorInfo> Errors() {
   return kErrors;
 }
 
-// Here, so that a module and its core have the type once.
+// Defined here so that a module and the core share one type.
 RunTimeError::~RunTimeError() = default;
 
 RunTimeError::RunTimeError(ErrorDetails details)

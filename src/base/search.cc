@@ -5,16 +5,17 @@
 namespace ZQ7Standard {
 namespace {
 
-// Up to this size the plain search of the standard library is as good: it compares no
-// character of the text more often.
+// Up to this size the plain search of the standard library is as good: it compares no character of
+// the text more often.
 constexpr std::size_t kShortPart = 16;
 
-/// Searches by Knuth, Morris and Pratt: a character of the text is never looked at again,
-/// because the part itself tells how much of it the characters before still match.
-/// `text(i)` and `part(i)` are the characters with the index `i`.
+/// Knuth-Morris-Pratt search: no character of the text is read twice, because the part itself tells
+/// how much of it the preceding characters still match. `text(i)` and `part(i)` are the characters
+/// at index `i`.
 std::size_t FindPart(const auto& text, std::size_t text_size, const auto& part,
                      std::size_t part_size, CharactersMatch match) {
-  // By how many matched characters, the longest front of the part that ends them too.
+  // By number of matched characters, the longest prefix of the part that also ends them.
+  // suffix.
   std::vector<std::size_t> shorter(part_size + 1, 0);
   const auto extended = [&](std::size_t matched, char16_t c) {
     while (matched > 0 && !match(part(matched), c)) matched = shorter[matched];

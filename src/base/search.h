@@ -7,13 +7,13 @@
 
 namespace ZQ7Standard {
 
-// Each takes time in proportion to the lengths, however often `part` nearly matches.
+// Each runs in time proportional to the lengths, however often `part` nearly matches.
 
-/// Whether two characters match; they match as those that both match a third do.
+/// Whether two characters match; must be transitive.
 using CharactersMatch = bool (*)(char16_t, char16_t);
 
-/// The index of the first `part` in `text` at or after the index `from`; npos if there is
-/// none. An empty `part` is found at `from`.
+/// The index of the first `part` in `text` at or after `from`; npos if there is none. An empty
+/// `part` is found at `from`.
 std::size_t FindFirst(TextView text, TextView part, std::size_t from = 0);
 std::size_t FindFirst(TextView text, TextView part, std::size_t from, CharactersMatch match);
 

@@ -15,12 +15,12 @@ constexpr bool IsThaiMark(char16_t c) {
   return c == 0x0E31 || (c >= 0x0E34 && c <= 0x0E3A) || (c >= 0x0E47 && c <= 0x0E4E);
 }
 
-/// Characters that a log or a terminal does not show as they are.
+/// Characters that a log or terminal does not show as they are.
 constexpr bool IsControl(char16_t c) {
   return c < 0x20 || (c >= 0x7F && c <= 0x9F) || c == 0x2028 || c == 0x2029;
 }
 
-/// "\n", or "\u001b" for a character without a letter of its own.
+/// "\n", or "\u001b" for a character without a letter escape.
 Text Escaped(char16_t control) {
   constexpr std::array<std::pair<char16_t, TextView>, 3> kLetters = {
       {{u'\n', u"\\n"}, {u'\r', u"\\r"}, {u'\t', u"\\t"}}};
@@ -54,8 +54,8 @@ void AppendUtf16(Text& text, char32_t c) {
   }
 }
 
-/// How a sequence of UTF-8 begins: the bits of the first byte, its length, and
-/// the smallest character that needs that length.
+/// A lead byte of UTF-8: its bits, the length of the sequence, and the smallest character that
+/// needs that length.
 struct Lead {
   unsigned char mask;
   unsigned char bits;
@@ -70,8 +70,8 @@ constexpr std::array<Lead, 4> kLeads = {{
     {0xF8, 0xF0, 4, 0x10000},
 }};
 
-/// The character of the well-formed sequence at the front of `bytes`, whose
-/// length goes to `length`; U+FFFD and length 1 when there is none.
+/// Decodes the sequence at the front of `bytes` and stores its length; U+FFFD and length 1 if it is
+/// malformed.
 char32_t DecodeFront(std::string_view bytes, std::size_t& length) {
   length = 1;
   const auto first = static_cast<unsigned char>(bytes.front());

@@ -19,8 +19,8 @@ constexpr bool IsLowSurrogate(char32_t c) {
 /// it stays on one line.
 std::string OnOneLine(TextView text);
 
-/// The same between quotation marks, for the message of an error: those inside are escaped,
-/// and after 100 code units "…" stands for the rest.
+/// The same in quotation marks, for error messages: quotation marks inside are escaped, and after
+/// 100 code units "…" stands for the rest.
 std::string Quoted(TextView text);
 
 }  // namespace ZQ7Standard

@@ -21,7 +21,7 @@ weekday WeekdayOf(year_month_day day) {
   return weekday(local_days(day));
 }
 
-/// The first date from `date` on that is such a weekday.
+/// The first `wanted` weekday on or after `date`.
 OleDate NextOrSame(OleDate date, weekday wanted) {
   return date.AddDays((wanted - WeekdayOf(MeantDay(date))).count());
 }

@@ -13,7 +13,7 @@ using std::chrono::year_month_day;
 constexpr int kFirstYear = 100;
 constexpr int kLastYear = 9999;
 
-// The years that a day of `std::chrono` can have.
+// The first year that a day of `std::chrono` can have.
 constexpr int kFirstChronoYear = -32767;
 constexpr int kLastChronoYear = 32767;
 

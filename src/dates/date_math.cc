@@ -22,7 +22,7 @@ std::optional<OleDate> DateOf(std::optional<local_days> day) {
 }  // namespace
 
 bool IsInRange(double days) {
-  // The times of the first day count away from zero, as those of the last do.
+  // The times of the first day count away from zero, like those of the last.
   return days > kFirstDay - 1 && days < kLastDay + 1;
 }
 

@@ -18,21 +18,21 @@ bool IsInRange(double days);
 /// The calendar day of `date`.
 std::chrono::year_month_day YearMonthDay(OleDate date);
 
-/// The Gregorian day that `date` means: in `MeantYear`, 29 February as the 28th
-/// where that year has none.
+/// The Gregorian day that `date` means: 29 February becomes the 28th if `MeantYear` is a common
+/// year.
 std::chrono::year_month_day MeantDay(OleDate date);
 
-/// Midnight of a Gregorian day; nullopt if the calendar has no such day or it is outside
-/// 0100-01-01 to 9999-12-31.
+/// Midnight of a Gregorian day; nullopt if it does not exist or is outside 0100-01-01 to
+/// 9999-12-31.
 std::optional<OleDate> DateFromParts(int year, int month, int day);
 
-/// The day that the automation date-serial makes of any three numbers: a year of 0 to 99
-/// is completed as a Gregorian one, a month outside 1 to 12 and a day outside the month
-/// carry on. Returns nullopt outside the range of dates.
+/// The day of any three numbers, as automation's date serial defines it: a year of 0 to 99 is
+/// completed as a Gregorian one; months outside 1 to 12 and days outside the month carry over.
+/// Returns nullopt outside the range of dates.
 std::optional<OleDate> DateSerial(int year, int month, int day);
 
-/// The same day and time of day `years` years later, 29 February moving to the 28th where
-/// the year has none; nullopt outside the range of dates.
+/// The same day and time `years` years later, 29 February becoming the 28th in a common year;
+/// nullopt outside the range of dates.
 std::optional<OleDate> AddYears(OleDate date, int years);
 
 /// The same time of day `days` days later; nullopt outside the range of dates.
@@ -41,8 +41,8 @@ std::optional<OleDate> DaysLater(OleDate date, std::int64_t days);
 /// `day` at the time of day `time_of_day`, a fraction of a day.
 OleDate AtTime(OleDate day, double time_of_day);
 
-/// Milliseconds since midnight, rounded but never as many as a day has: a moment
-/// belongs to the day of its whole part, however close to the next midnight.
+/// Milliseconds since midnight, rounded but less than a full day: a moment belongs to the day of
+/// its whole part, however close to the next midnight.
 int MillisecondsOfDay(OleDate date);
 
 }  // namespace ZQ7Standard

@@ -11,7 +11,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// What a piece of a pattern begins with. The fields are first.
+/// What a piece of a pattern begins with. Fields come first.
 enum class Mark : unsigned char {
   kDay,
   kMonth,
@@ -23,7 +23,7 @@ enum class Mark : unsigned char {
   kOther,
   kQuote,
   kBackslash,
-  kLetterA,  // as AM/PM does
+  kLetterA,  // only in AM/PM
 };
 
 constexpr bool IsField(Mark mark) {
@@ -47,7 +47,7 @@ constexpr std::array kMarks = MarkTable();
 
 constexpr TextView kMeridiem = u"AM/PM";
 
-/// What `c` is at the start of a piece.
+/// The mark of a piece that starts with `c`.
 Mark MarkOf(char16_t c) {
   return c < kMarks.size() ? kMarks[c] : Mark::kOther;
 }
@@ -58,9 +58,8 @@ std::size_t RunLength(TextView pattern, Mark mark) {
   return length;
 }
 
-/// The length of the first piece of a pattern that begins with `mark`: a run of
-/// one letter, AM/PM, quoted text or an escaped character. 0 if the pattern ends
-/// inside it.
+/// The length of the first piece of a pattern that begins with `mark`: a run of one letter, AM/PM,
+/// quoted text or an escaped character. 0 if the pattern ends inside it.
 std::size_t MarkedLength(TextView pattern, Mark mark) {
   if (IsField(mark)) return RunLength(pattern, mark);
   if (mark == Mark::kBackslash) return pattern.size() > 1 ? 2 : 0;
@@ -72,7 +71,7 @@ std::size_t MarkedLength(TextView pattern, Mark mark) {
   return EqualsIgnoringAsciiCase(front, kMeridiem) ? kMeridiem.size() : 1;
 }
 
-/// Takes the first piece off a pattern that begins with `mark`; it is empty if the
+/// Removes the first piece from a pattern that begins with `mark`; returns an empty one if the
 /// pattern ends inside it.
 TextView TakePiece(TextView& rest, Mark mark) {
   const TextView piece(rest.data(), mark == Mark::kOther ? 1 : MarkedLength(rest, mark));
@@ -91,7 +90,7 @@ Mark FirstField(TextView rest) {
 }
 
 bool HasMeridiem(TextView rest) {
-  if (rest.find(u'/') == TextView::npos) return false;  // so it is for most times of day
+  if (rest.find(u'/') == TextView::npos) return false;  // as in most patterns of a time of day
   while (!rest.empty()) {
     const Mark mark = MarkOf(rest.front());
     const TextView piece = TakePiece(rest, mark);
@@ -105,18 +104,18 @@ constexpr bool FitInto(std::size_t length, const auto&... names) {
   return (std::ranges::all_of(names, [&](TextView name) { return name.size() <= length; }) && ...);
 }
 
-// No piece writes more than 5/2 of its length, so that the text is never longer.
+// No piece writes more than 5/2 of its length, so the text is never longer.
 static_assert(FitInto(4 * 5 / 2, kEnglishMonths, kEnglishDays, kThaiMonths, kThaiDays));
 static_assert(FitInto(3 * 5 / 2, kEnglishShortMonths, kEnglishShortDays, kThaiShortMonths,
                       kThaiShortDays));
 
-/// Writes pieces to a place that is long enough.
+/// Writes pieces to a buffer that is long enough.
 class PatternWriter {
  public:
   PatternWriter(OleDate date, const PatternDay& day, TextView pattern, char16_t* text)
       : date_(date), day_(day), pattern_(pattern), end_(text) {}
 
-  /// Writes what a piece stands for.
+  /// Writes the text of a piece.
   void Write(Mark mark, TextView piece) {
     const std::size_t length = piece.size();
     switch (mark) {
@@ -145,7 +144,7 @@ class PatternWriter {
     }
   }
 
-  /// One past what is written.
+  /// One past the last character written.
   const char16_t* End() const { return end_; }
 
  private:
@@ -157,7 +156,7 @@ class PatternWriter {
     WriteText(morning ? u"AM" : u"PM");
   }
 
-  /// A leading zero that is not wanted is written over: to jump on the number costs more.
+  /// An unwanted leading zero is overwritten: a branch on the number would cost more.
   void WriteNumber(int number, std::size_t width) {
     *end_ = static_cast<char16_t>(u'0' + number / 10);
     end_ += static_cast<int>(width > 1 || number > 9);
@@ -196,7 +195,7 @@ class PatternWriter {
   OleDate date_;
   const PatternDay& day_;
   TextView pattern_;
-  int milliseconds_ = -1;  // until they are asked for
+  int milliseconds_ = -1;  // calculated on first use
   int shown_hour_ = -1;
   char16_t* end_;
 };

@@ -12,18 +12,18 @@ namespace ZQ7Standard {
 
 /// A day as a pattern shows it.
 struct PatternDay {
-  std::chrono::year_month_day civil;  // its year does not count
+  std::chrono::year_month_day civil;  // its year is ignored
   int year;                           // for "yyyy"
   int buddhist_year;                  // for "bbbb"
-  Language language;                  // of the names
+  Language language;                  // of names
 };
 
-/// Whether a pattern has a letter of the day, as each has that shows one.
+/// Whether a pattern has a letter that all patterns showing a day have.
 bool MayShowDay(TextView pattern);
 
-/// Writes the time of day and the weekday of `date`, and `day` for the rest, as
-/// `pattern` says (docs/dates.md lists the letters). Raises 5 in the name of
-/// `operation` if the pattern ends inside quotes or in a single "\".
+/// Formats the time of day and weekday of `date`, and the rest from `day`, as `pattern` says
+/// (docs/dates.md lists the letters). Raises 5 in the name of `operation` if the pattern ends
+/// inside quotes or in a single "\".
 Text FormatPattern(std::string_view operation, OleDate date, const PatternDay& day,
                    TextView pattern);
 

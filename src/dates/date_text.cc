@@ -18,7 +18,7 @@ struct Name {
   int number;
 };
 
-// Right spellings that the library's own tables lack.
+// Correct spellings that the library's own tables lack.
 constexpr std::array<Name, 2> kMoreMonths = {{{u"February", 2}, {u"กรกฎาคม", 7}}};
 constexpr std::array<Name, 3> kMoreDays = {{{u"Thursday", 5}, {u"พฤหัสบดี", 5}, {u"อา.", 1}}};
 
@@ -40,8 +40,7 @@ constexpr auto kDays =
     NameList<4, 8>({kEnglishDays, kEnglishShortDays, kThaiDays, kThaiShortDays}, kMoreDays);
 constexpr std::array<Name, 2> kMeridiems = {{{u"AM", 0}, {u"PM", 12}}};
 
-/// Walks over a text; each Take reads one thing at the front and steps behind
-/// it, or leaves the text as it is.
+/// Reads a text from the front; each Take consumes one item, or leaves the text unchanged.
 class Scanner {
  public:
   explicit Scanner(TextView rest) : rest_(rest) {}
@@ -60,7 +59,7 @@ class Scanner {
     return true;
   }
 
-  /// The text up to the first character that is no digit.
+  /// The text up to the first character that is not a digit.
   TextView TakeDigits() {
     const auto end = std::ranges::find_if_not(rest_, IsAsciiDigit);
     const TextView digits(rest_.begin(), end);
@@ -68,8 +67,8 @@ class Scanner {
     return digits;
   }
 
-  /// The number of the longest name that stands in front, in any case. An
-  /// English name ends where the letters end.
+  /// The number of the longest name at the front, ignoring case. A letter may not follow an English
+  /// name.
   std::optional<int> TakeName(std::span<const Name> names) {
     const Name* longest = nullptr;
     for (const Name& name : names) {
@@ -77,11 +76,11 @@ class Scanner {
       if (!longest || name.text.size() > longest->text.size()) longest = &name;
     }
     if (!longest) return std::nullopt;
-    const TextView behind = rest_.substr(longest->text.size());
-    if (IsAsciiLetter(longest->text.back()) && !behind.empty() && IsAsciiLetter(behind.front())) {
+    const TextView after = rest_.substr(longest->text.size());
+    if (IsAsciiLetter(longest->text.back()) && !after.empty() && IsAsciiLetter(after.front())) {
       return std::nullopt;
     }
-    rest_ = behind;
+    rest_ = after;
     return longest->number;
   }
 
@@ -89,8 +88,7 @@ class Scanner {
   TextView rest_;
 };
 
-/// A number as typed. `value` is 100000 for all that is larger, which is beyond
-/// every year.
+/// A typed number. `value` is at most 100000, which is beyond every year.
 struct Number {
   int value;
   std::size_t digits;
@@ -104,8 +102,8 @@ std::optional<Number> TakeNumber(Scanner& scanner) {
   return Number{value, digits.size()};
 }
 
-/// Takes "9:30", "9:30:15", either with AM or PM, or "9 PM": a fraction of a
-/// day. The scanner is left anywhere when there is none.
+/// Takes "9:30", "9:30:15", either with AM or PM, or "9 PM": a fraction of a day. On failure the
+/// scanner's position is unspecified.
 std::optional<double> TakeTime(Scanner& scanner) {
   const auto hour = TakeNumber(scanner);
   if (!hour || hour->digits > 2) return std::nullopt;
@@ -128,15 +126,15 @@ std::optional<double> TakeTime(Scanner& scanner) {
   return (hours * 3600 + minute_second[0] * 60 + minute_second[1]) / 86400.0;
 }
 
-/// Whether a time stands in front, as far as its first number tells.
+/// Whether a time is at the front, judging by its first number.
 bool StartsTime(Scanner scanner) {
   scanner.TakeDigits();
   scanner.SkipBlanks();
   return scanner.Take(u':') || scanner.TakeName(kMeridiems);
 }
 
-/// One of up to three fields of a date: a number or a month's name, and the
-/// mark between it and the field before, u' ' for blanks alone, 0 for nothing.
+/// One of up to three fields of a date: a number or a month's name, and the mark between it and the
+/// previous field, u' ' for blanks alone, 0 for nothing.
 struct Field {
   char16_t mark = 0;
   std::optional<int> month_name;
@@ -185,7 +183,7 @@ std::optional<OleDate> EraDate(Number year, int month, Number day, Era era) {
   return DateFromParts(full_year - EraDifference(era), month, day.value);
 }
 
-/// Puts fields together to a date.
+/// Combines fields into a date.
 class FieldReader {
  public:
   FieldReader(const Fields& fields, DateConvention convention, int this_year)
@@ -230,11 +228,11 @@ class FieldReader {
                              : Date(c_.number, *b_.month_name, a_.number);
   }
 
-  /// 2013/1/15, or the order of the convention, or the other order where only
-  /// that makes a date and the year is plain to see.
+  /// 2013/1/15, or the convention's order, or the other order if only that is a date and the year
+  /// has four digits.
   std::optional<OleDate> ReadNumeric() const {
     if (!IsMark(b_, kNumericMarks) || !IsMark(c_, kNumericMarks)) return std::nullopt;
-    // "15/3 2560" is a day and month with something after them, not a date.
+    // "15/3 2560" is a day and month followed by something else, not a date.
     if ((b_.mark == u'/') != (c_.mark == u'/')) return std::nullopt;
     if (IsYear(b_.number)) return std::nullopt;
     if (IsYear(a_.number)) return Date(a_.number, b_.number.value, c_.number);
@@ -275,8 +273,7 @@ class FieldReader {
   int this_year_;
 };
 
-/// Takes a weekday and the comma or blank behind it. The weekday is not held
-/// against the date.
+/// Takes a weekday and the comma or blank after it. The weekday is not checked against the date.
 bool TakeWeekday(Scanner& scanner) {
   Scanner ahead = scanner;
   if (!ahead.TakeName(kDays)) return false;
@@ -313,7 +310,7 @@ std::optional<OleDate> ReadDateText(TextView text, DateConvention convention, in
   return AtTime(*date, *time);
 }
 
-std::optional<OleDate> ReadNamedMonthDate(int month, int day, int year, Era era) {
+std::optional<OleDate> DateInEra(int month, int day, int year, Era era) {
   if (year < 0) return std::nullopt;
   const std::size_t digits = year < 100 ? 2 : 4;
   return EraDate({year, digits}, month, {day, 2}, era);

@@ -15,13 +15,13 @@ namespace {
 
 constexpr double kFirstOf16Digits = 1e15;
 
-/// Hours (below 1E+15) as whole minutes, rounded as the number of minutes prints.
+/// Hours (below 1E+15) as whole minutes, rounded like the printed number of minutes.
 std::int64_t WholeMinutes(double hours) {
   const double minutes = hours * 60;
   if (minutes < kFirstOf16Digits) {
     return static_cast<std::int64_t>(ToDouble(RoundDecimals(*ToDecimal(minutes), 0)));
   }
-  const double whole = std::floor(hours);  // the minutes would not print to the last digit
+  const double whole = std::floor(hours);  // the minutes would not print exactly
   return static_cast<std::int64_t>(whole) * 60 + std::llround((hours - whole) * 60);
 }
 

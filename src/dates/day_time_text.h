@@ -7,28 +7,28 @@
 
 namespace ZQ7Standard {
 
-/// The fields of a text "D:H:M" as whole numbers, halves to even. A field that
-/// is missing or no number is 0, fields further left are left out.
+/// The fields of a text "D:H:M" as whole numbers, halves to even. A field that is missing or not a
+/// number is 0; missing fields are those on the left.
 struct DayTime {
   double days = 0;
   double hours = 0;
   double minutes = 0;
 };
 
-/// Whole days and the rest, whole too, in a unit of its own.
+/// Whole days and the rest, a whole number of some smaller unit.
 struct DaysAndRest {
   double days = 0;
   double rest = 0;
 };
 
-/// A span of 0 or more days, the rest rounded to units of which a day has
-/// `units_per_day`; a full day of them is carried.
+/// Splits a span of 0 or more days, the rest rounded to units of which a day has `units_per_day`; a
+/// full day of them is carried.
 DaysAndRest SplitDays(double span, double units_per_day);
 
-/// Reads a text with a ":"; nothing for a text without one.
+/// Reads a text with a ":"; nullopt for other text.
 std::optional<DayTime> ReadDayTime(TextView text);
 
-/// The same, and four characters without a ":" are "HHMM".
+/// The same, but four characters without a ":" are "HHMM".
 std::optional<DayTime> ReadDayTimeOrDigits(TextView text);
 
 }  // namespace ZQ7Standard

@@ -20,8 +20,7 @@ constexpr local_days OlderBlankDay(int blank_year) {
   return local_days(year(blank_year) / 8 / 8);
 }
 
-// Beside the two blank dates, those that went through an era conversion too many, and
-// the zero date.
+// Besides the two blank dates: those converted between eras once too often, and the zero date.
 constexpr std::array<local_days, 6> kBlankDays = {BlankDay(kBlankYear),
                                                   BlankDay(kBlankYear + kBuddhistOffset),
                                                   BlankDay(kBlankYear - kBuddhistOffset),

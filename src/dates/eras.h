@@ -3,38 +3,38 @@
 
 #include <ZQ7Standard/Types.h>
 
-/// How the years of both eras are told apart, and the years that stand for no date.
+/// Tells the years of both eras apart, and the years that mark a date as blank.
 namespace ZQ7Standard {
 
-/// A date whose own year is this or later is taken to carry a Buddhist year
-/// already, so that no year is shifted twice.
+/// A date whose own year is this or later is assumed to hold a Buddhist year already, so that no
+/// year is shifted twice.
 inline constexpr int kFirstBuddhistYear = 2400;
 
-/// A typed key holds a Buddhist year from one year later on.
+/// A typed key holds a Buddhist year if its year is later than this.
 inline constexpr int kLastGregorianKeyYear = kFirstBuddhistYear;
 
-/// The years of the dates that stand for no date, 3333-03-03 and 8888-08-08.
+/// The years of the dates that mean "no date", 3333-03-03 and 8888-08-08.
 inline constexpr int kBlankYear = 3333;
 inline constexpr int kOlderBlankYear = 8888;
 
-/// The system's year less the Gregorian year.
+/// The year in that era less the Gregorian year.
 constexpr int EraDifference(Era era) {
   return era == Era::kBuddhist ? kBuddhistOffset : 0;
 }
 
-/// Whether `year` is the own year of a date that stands for no date; such a year is the
-/// same in both eras.
+/// Whether `year` is the own year of a date that means "no date"; such a year is the same in both
+/// eras.
 constexpr bool IsSentinelYear(int year) {
   return year == kBlankYear || year == kOlderBlankYear;
 }
 
-/// The Gregorian year that a date with the own year `year` means.
+/// The Gregorian year meant by a date with the own year `year`.
 constexpr int MeantYear(int year) {
   return year < kFirstBuddhistYear || IsSentinelYear(year) ? year : year - kBuddhistOffset;
 }
 
-/// The year that `Year2000` returns of a date with the own year `year`. 2247 and 1704 are
-/// the blank year after two and three conversions down by an era.
+/// The year that `Year2000` returns for a date with the own year `year`. 2247 and 1704 are the
+/// blank year after two and three conversions down by an era.
 constexpr int YearInEra(int year, Era era) {
   if (year == kBlankYear - 2 * kBuddhistOffset || year == kBlankYear - 3 * kBuddhistOffset) {
     return kBlankYear;

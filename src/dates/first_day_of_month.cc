@@ -18,7 +18,7 @@ OleDate FirstDayOfMonth(std::string_view operation, std::int16_t month, std::int
     Raise(Error::kOverflow, {operation, "iYear2000"}, year);
   }
   const int named_month = month < 0 ? 1 : std::min<int>(month, kMonthsPerYear);
-  const auto date = ReadNamedMonthDate(named_month, 1, typed_year, era);
+  const auto date = DateInEra(named_month, 1, typed_year, era);
   if (!date) {
     Raise(Error::kTypeMismatch, {operation, month == 0 ? "iMonth" : "iYear2000"},
           month == 0 ? month : year);

@@ -8,8 +8,8 @@
 
 namespace ZQ7Standard {
 
-/// What `GETFirstDayOfMonthYear` returns on a system of that era. Raises what it raises
-/// in the name of `operation`.
+/// What `GETFirstDayOfMonthYear` returns in that era. Raises the same errors in the name of
+/// `operation`.
 OleDate FirstDayOfMonth(std::string_view operation, std::int16_t month, std::int16_t year, Era era);
 
 }  // namespace ZQ7Standard

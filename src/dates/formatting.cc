@@ -12,15 +12,14 @@
 namespace ZQ7Standard {
 namespace {
 
-/// A layout of `CTDateType` as patterns: plain, and day and month with zeros.
+/// The patterns of a `CTDateType`: plain, and with zeros before day and month.
 struct Layout {
   TextView plain;
   TextView with_zeros;
   Language language = Language::kEnglish;
 };
 
-/// The layouts by `CTDateType`; `ZQ7Detect` becomes one of 1 to 4 before the
-/// table is asked.
+/// By `CTDateType`; `ZQ7Detect` is replaced by one of 1 to 4 before the table is read.
 constexpr std::array<Layout, 16> kLayouts = {{
     {u"", u""},
     {u"m/d/yyyy", u"mm/dd/yyyy"},
@@ -45,7 +44,7 @@ Language LanguageOf(Era era) {
   return era == Era::kBuddhist ? Language::kThai : Language::kEnglish;
 }
 
-/// The year of an era that a date with the own year `own_year` shows.
+/// The year shown in an era for a date with the own year `own_year`.
 int ShownYear(int own_year, Era era) {
   const int year = MeantYear(own_year);
   return IsSentinelYear(own_year) ? year : year + EraDifference(era);
@@ -58,7 +57,7 @@ PatternDay DayInBothEras(OleDate date, Language language) {
   return {day, ShownYear(own_year, Era::kGregorian), ShownYear(own_year, Era::kBuddhist), language};
 }
 
-/// A day with the year of one era for both.
+/// A day with the year of one era as both years.
 PatternDay DayInEra(OleDate date, Era era) {
   const auto day = YearMonthDay(date);
   const int year = ShownYear(static_cast<int>(day.year()), era);
@@ -86,7 +85,7 @@ void AppendTime(Text& text, OleDate date) {
   AppendNumber(text, date.Minute(), 2);
 }
 
-/// Puts a blank between any two characters: one for each box of a form.
+/// Puts a blank between characters, for the boxes of a form.
 Text Boxed(const Text& digits) {
   Text boxed;
   boxed.reserve(digits.size() * 2);

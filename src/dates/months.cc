@@ -14,8 +14,8 @@
 namespace ZQ7Standard {
 namespace {
 
-/// The day `months` months later, or earlier, for the operation that was called. The era is
-/// asked for where it counts.
+/// The day `months` months later, or earlier, for the operation called. The era is asked for only
+/// if it matters.
 OleDate MonthsLater(std::string_view operation, OleDate start, int months, const auto& era) {
   const int step = months > 0 ? 1 : -1;
   const auto civil = YearMonthDay(start);
@@ -27,7 +27,7 @@ OleDate MonthsLater(std::string_view operation, OleDate start, int months, const
     if (month < 1 || month > kMonthsPerYear) {
       year += step;
       month -= step * kMonthsPerYear;
-      // A Gregorian system completes a year of two digits, as when it is typed.
+      // A Gregorian system completes a two-digit year, as if typed.
       if (year == 99 && era() == Era::kGregorian) year = 1999;
     }
     day = std::min(day, DaysInMonth(year, month));

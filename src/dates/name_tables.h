@@ -13,8 +13,8 @@ using DayNames = std::array<TextView, 8>;
 
 enum class Language { kEnglish, kThai };
 
-// The texts are those that the hosts print and store; "Febuary", "Thusday",
-// "กรกฏาคม" and the short Sunday without a "." are among them and stay.
+// These are the texts that hosts print and store; "Febuary", "Thusday", "กรกฏาคม" and the short
+// Sunday without a "." are among them and must stay.
 inline constexpr MonthNames kThaiMonths = {
     u"",        u"มกราคม", u"กุมภาพันธ์", u"มีนาคม", u"เมษายน",   u"พฤษภาคม", u"มิถุนายน",
     u"กรกฏาคม", u"สิงหาคม", u"กันยายน",  u"ตุลาคม", u"พฤศจิกายน", u"ธันวาคม"};

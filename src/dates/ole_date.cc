@@ -103,7 +103,7 @@ bool operator==(OleDate a, OleDate b) {
 
 std::weak_ordering operator<=>(OleDate a, OleDate b) {
   if (a.Civil() != b.Civil()) return a.Civil() <=> b.Civil();
-  // Neither is NaN, which a date never holds.
+  // Neither can be NaN.
   if (a.TimeOfDay() < b.TimeOfDay()) return std::weak_ordering::less;
   if (a.TimeOfDay() > b.TimeOfDay()) return std::weak_ordering::greater;
   return std::weak_ordering::equivalent;

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "dates/date_math.h"
 #include "dates/date_text.h"
@@ -19,20 +19,19 @@
 namespace ZQ7Standard {
 namespace {
 
-// The first year of a date, in the Buddhist Era.
+// The earliest year of a date, in the Buddhist Era.
 constexpr int kFirstTypedYear = 100 + kBuddhistOffset;
 constexpr int kLastTypedYear = 9999;
 constexpr int kLastPeriodYear = kBlankYear - 1;
 
-/// The number that a field begins with, rounded to a whole one; nothing beyond
-/// 16 bits.
+/// The number at the front of a field, rounded to a whole number; nullopt beyond 16 bits.
 std::optional<int> ReadField(TextView field) {
   if (const auto digits = ReadShortNumber(field)) return *digits;
   const auto number = ReadLeadingNumber(field);
   return number ? RoundToInteger<std::int16_t>(*number) : std::nullopt;
 }
 
-/// The first fields of a text as the order of a system has them.
+/// The first fields of a text, assigned in the order of a system.
 struct DayMonthYear {
   int day;
   int month;
@@ -44,7 +43,7 @@ DayMonthYear InOrder(const std::array<int, 3>& fields, FieldOrder order) {
   return {fields[day_first ? 0 : 1], fields[day_first ? 1 : 0], fields[2]};
 }
 
-/// A month of a year typed year first, "2567/03".
+/// A month and year typed year first, "2567/03".
 struct Period {
   double year;
   double month;
@@ -52,8 +51,8 @@ struct Period {
   bool IsValid() const { return month >= 1 && month <= 12 && year >= 1 && year <= kLastPeriodYear; }
 };
 
-/// Reads the first four characters before the first "/" as the year, in the
-/// system's era, and the last two behind it as the month.
+/// Reads the first four characters before the first "/" as the year, in the system's era, and the
+/// last two after it as the month.
 Period ReadPeriod(TextView text, Era era) {
   const auto whole_number = [](TextView digits) { return std::nearbyint(ReadTypedNumber(digits)); };
   if (text.find(u'/') == TextView::npos) return {0, 0};
@@ -81,7 +80,7 @@ OleDate StandardObject::CTDATE(TextView iText, bool /*NoUsedBackwardSupportOnly*
   if (count < 2) Raise(Error::kSubscriptOutOfRange, {"CTDATE", "iText"}, iText);
   const DateConvention convention = services_->Convention();
   const auto [day, month, year] = InOrder(fields, convention.order);
-  const auto date = ReadNamedMonthDate(month, day, year, convention.era);
+  const auto date = DateInEra(month, day, year, convention.era);
   if (!date) Raise(Error::kTypeMismatch, {"CTDATE", "iText"}, iText);
   return *date;
 }
@@ -102,7 +101,7 @@ bool StandardObject::IsTDate(TextView iText, bool /*NoUsedBackwardSupportOnly*/)
   const DateConvention convention = services_->Convention();
   const auto [day, month, year] = InOrder(fields, convention.order);
   return year >= kFirstTypedYear && year <= kLastTypedYear &&
-         ReadNamedMonthDate(month, day, year, convention.era).has_value();
+         DateInEra(month, day, year, convention.era).has_value();
 }
 
 OleDate StandardObject::CDATE2000(TextView iText) const {

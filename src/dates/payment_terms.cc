@@ -15,7 +15,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// What the days of a term count from, and how it is written behind them.
+/// What the days of a term count from, and its suffix in text.
 struct Condition {
   bool end_of_month;
   bool delivery_days;
@@ -23,8 +23,8 @@ struct Condition {
   TextView full_suffix;
 };
 
-// By `ZQ7ConditionType`. "BILL" and the last "DATE" stand on printed documents
-// although the members are named otherwise.
+// By `ZQ7ConditionType`. "BILL" and the last "DATE" are on printed documents although the members
+// are named differently.
 constexpr std::array<Condition, 9> kConditions = {{
     {false, false, u" AID", u" AFTER INVOICE DATE"},
     {false, true, u" ADD", u" AFTER DELIVERY DATE"},
@@ -42,8 +42,8 @@ const Condition* FindCondition(ZQ7ConditionType type) {
   return &kConditions[static_cast<std::size_t>(type)];
 }
 
-/// The number that a float prints as, the shortest that reads back as the float: 2.35 is
-/// 2.35, not the 2.3499999 it holds, and 123456789 is 123456790.
+/// The number that a float prints as, the shortest that reads back as the same float: 2.35 is 2.35,
+/// not the 2.3499999 it holds, and 123456789 is 123456790.
 Decimal ShortestDecimal(float value) {
   std::array<char, 16> digits;
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
@@ -71,8 +71,8 @@ OleDate StandardObject::GetConditionDueDate(OleDate InvoiceDate, ZQ7ConditionTyp
   if (!condition) return {};
   OleDate start = InvoiceDate;
   if (condition->end_of_month) {
-    // The year goes in as the month and the month as the year: stored documents
-    // were made so, and their due dates must come out again.
+    // The year is passed as the month and the month as the year: stored documents were made this
+    // way, and their due dates must stay the same.
     const auto month = static_cast<std::int16_t>(InvoiceDate.Month());
     const auto year = static_cast<std::int16_t>(InvoiceDate.Year());
     // NOLINTNEXTLINE(readability-suspicious-call-argument)

@@ -36,7 +36,7 @@ constexpr std::array<UnitName, kUnits> kUnitNames = {{
 /// A count for each unit of time.
 using Counts = std::array<double, kUnits>;
 
-/// The units of a span of 0 or more days, rounded to the second.
+/// Splits a span of 0 or more days, rounded to the second, into units.
 Counts UnitsOf(double span) {
   const auto [days, seconds] = SplitDays(span, kSecondsPerDay);
   const double minutes = std::floor(seconds / 60);
@@ -50,8 +50,8 @@ TextView NameOf(std::size_t unit, double count, bool thai) {
   return count == 1 ? name.one : name.many;
 }
 
-/// The days from `start` to `end`. Their day counts cannot be subtracted: before
-/// 1899-12-30 the fraction counts the other way.
+/// The days from `start` to `end`. Their day counts cannot be subtracted: before 1899-12-30 the
+/// fraction counts the other way.
 double DaysBetween(OleDate start, OleDate end) {
   const auto days = static_cast<double>((end.Civil() - start.Civil()).count());
   return days + (end.TimeOfDay() - start.TimeOfDay());

@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/replace.h"
 #include "dates/day_time_text.h"
 #include "numbers/number_text.h"
@@ -23,8 +23,7 @@ struct ClockTime {
   bool IsValid() const { return hour < kHoursPerDay && minute < kMinutesPerHour; }
 };
 
-/// The hour and minute of four digits "HHMM", which need not be a time of day; nullopt for
-/// other text.
+/// The hour and minute of four digits "HHMM", which may be out of range; nullopt for other text.
 std::optional<ClockTime> ReadFourDigits(TextView text) {
   const auto digits = text.size() == 4 ? ReadShortNumber(text) : std::nullopt;
   if (!digits) return std::nullopt;
@@ -39,7 +38,7 @@ Text Without(TextView text, TextView characters) {
   return rest;
 }
 
-/// The last `count` characters of `text` after enough zeros.
+/// The last `count` characters of `text`, padded with leading zeros.
 Text LastPadded(const Text& text, std::size_t count) {
   const Text padded = Text(count, u'0') + text;
   return padded.substr(padded.size() - count);
@@ -50,7 +49,7 @@ Text LastPadded(const Text& text, std::size_t count) {
 OleDate StandardObject::CTTime(TextView ITimeText) const {
   const auto time = ReadFourDigits(ITimeText);
   if (!time || !time->IsValid()) return {};
-  // In this order, to the last bit: hosts compare dates for equality.
+  // Calculated in this order, to the last bit: hosts compare dates for equality.
   return OleDate(h2d(time->hour + static_cast<double>(time->minute) / kMinutesPerHour));
 }
 
@@ -72,7 +71,7 @@ OleDate StandardObject::Str2TIME(TextView InTime) const {
   const bool afternoon = upper.find(u"PM") != Text::npos;
   Text digits = Without(upper, u" :.");
   for (const TextView mark : {u"AM", u"PM"}) ReplaceAll(digits, mark, {});
-  // With seconds the hour and minute are the first four of six digits.
+  // With seconds, the hour and minute are the first four of six digits.
   const Text hour_minute = LastPadded(digits, colons > 1 ? 6 : 4).substr(0, 4);
   const auto typed = ReadFourDigits(hour_minute);
   if (!typed) return {};

@@ -14,8 +14,8 @@ constexpr std::string_view kPngSignature = "\x89PN";
 constexpr std::string_view kGifSignature = "GIF";
 constexpr std::string_view kBmpSignature = "BM";
 
-// Where the fields lie, in bytes from the start of the file. The sizes of PNG and
-// BMP have four bytes, of which the low two are read.
+// Where the fields are, in bytes from the start of the file. The sizes of PNG and BMP have four
+// bytes; the low two are read.
 constexpr std::size_t kPngWidth = 18;
 constexpr std::size_t kPngHeight = 22;
 constexpr std::size_t kPngBitDepth = 24;
@@ -28,18 +28,18 @@ constexpr std::size_t kBmpWidth = 18;
 constexpr std::size_t kBmpHeight = 22;
 constexpr std::size_t kBmpDepth = 28;
 
-// And in a JPEG, in bytes from the 0xFF of a segment's marker.
+// The same in a JPEG, in bytes from the 0xFF of a segment's marker.
 constexpr std::size_t kSegmentLength = 2;
 constexpr std::size_t kFrameHeight = 5;
 constexpr std::size_t kFrameWidth = 7;
 constexpr std::size_t kFrameComponents = 9;
 constexpr int kBitsPerComponent = 8;
 constexpr int kPrefix = static_cast<unsigned char>(kMarkerPrefix);
-// No marker from here on is looked at.
+// Markers from here on are ignored.
 constexpr std::size_t kJpegSearchEnd = 65'525;
 
-/// A colour type of PNG: a pixel has `samples` of the file's bit depth, or where
-/// there is a palette as many bits as a colour index is unpacked to.
+/// A PNG colour type: a pixel has `samples` samples of the file's bit depth, or with a palette as
+/// many bits as a colour index is unpacked to.
 struct PngColour {
   int type;
   int samples;
@@ -52,7 +52,7 @@ constexpr std::array kPngColours = {PngColour{.type = 0, .samples = 1, .palette_
                                     PngColour{.type = 4, .samples = 2, .palette_bits = 0},
                                     PngColour{.type = 6, .samples = 4, .palette_bits = 0}};
 
-/// The bytes of a header; those behind its end are 0.
+/// The bytes of a header; bytes past its end read as 0.
 class HeaderBytes {
  public:
   explicit HeaderBytes(std::string_view bytes) : bytes_(bytes) {}
@@ -67,7 +67,7 @@ class HeaderBytes {
   std::string_view bytes_;
 };
 
-/// Nothing for a colour type that PNG does not have.
+/// Returns nullopt for a colour type that PNG does not have.
 std::optional<ImageHeader> ReadPng(HeaderBytes header) {
   const auto colour = std::ranges::find(kPngColours, header.At(kPngColourType), &PngColour::type);
   if (colour == kPngColours.end()) return std::nullopt;
@@ -91,8 +91,8 @@ ImageHeader ReadBmp(HeaderBytes header) {
           .depth = header.At(kBmpDepth)};
 }
 
-/// The offset of the first start-of-frame marker behind the first start of image,
-/// wherever that is. Fill bytes and stray bytes between segments are passed over.
+/// The offset of the first start-of-frame marker after the first start of image, wherever that is.
+/// Fill bytes and stray bytes between segments are skipped.
 std::optional<std::size_t> FindFrame(std::string_view bytes) {
   const std::size_t start = bytes.find(std::string(kJpegStart) + kMarkerPrefix);
   if (start >= kJpegSearchEnd) return std::nullopt;
@@ -106,7 +106,7 @@ std::optional<std::size_t> FindFrame(std::string_view bytes) {
       continue;
     }
     if (BeginsFrame(marker)) return offset;
-    // To the last byte of the segment, from where the next marker is looked for.
+    // To the last byte of the segment; the search for the next marker starts there.
     offset += 1 + static_cast<std::size_t>(header.BigEndian(offset + kSegmentLength));
   }
   return std::nullopt;

@@ -9,10 +9,10 @@
 
 namespace ZQ7Standard {
 
-/// How much of a file's start is looked at, in bytes.
+/// How many bytes of a file are read.
 inline constexpr std::size_t kImageHeaderSize = 65'536;
 
-/// What the start of an image file tells. Sizes are in pixels.
+/// What the start of an image file says. Sizes are in pixels.
 struct ImageHeader {
   eImageType type = itUNKNOWN;
   std::int32_t width = 0;
@@ -22,9 +22,8 @@ struct ImageHeader {
   friend bool operator==(const ImageHeader&, const ImageHeader&) = default;
 };
 
-/// Reads the header of a file that starts with `bytes`, at most
-/// `kImageHeaderSize` of them; a header that is cut short reads as if zeros
-/// followed.
+/// Reads the header of a file that starts with `bytes`, at most `kImageHeaderSize` of them; a
+/// truncated header reads as if zeros followed.
 ImageHeader ReadImageHeader(std::string_view bytes);
 
 }  // namespace ZQ7Standard

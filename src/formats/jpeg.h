@@ -11,14 +11,14 @@ namespace ZQ7Standard {
 /// The start of an image.
 inline constexpr std::string_view kJpegStart = "\xFF\xD8";
 
-/// The first byte of every marker; the second tells what it is.
+/// The first byte of every marker; the second is its type.
 inline constexpr char kMarkerPrefix = '\xFF';
 
-// Frames of every coding. 0xC4, 0xC8 and 0xCC between them are other segments.
+// Frames of every coding. 0xC4, 0xC8 and 0xCC are other segments.
 inline constexpr std::array kStartOfFrame = {0xC0, 0xC1, 0xC2, 0xC3, 0xC5, 0xC6, 0xC7,
                                              0xC9, 0xCA, 0xCB, 0xCD, 0xCE, 0xCF};
 
-/// Whether a marker begins a frame, which has the size of the picture.
+/// Whether a marker begins a frame, which holds the size of the picture.
 constexpr bool BeginsFrame(int marker) {
   return std::ranges::find(kStartOfFrame, marker) != kStartOfFrame.end();
 }

@@ -19,13 +19,13 @@ Text UpperCase(TextView text) {
   return upper;
 }
 
-/// Whether a line can hold `key`, which `bytes` encode: neither a character outside the code
-/// page, whose "?" is another key, nor a line end.
+/// Whether a line can hold `key`, encoded as `bytes`: it has no line end and no character outside
+/// the code page, whose "?" would be another key.
 bool IsMatchable(TextView key, std::string_view bytes) {
   return FromCodePage(bytes) == key && bytes.find_first_of(kLineEnd) == std::string_view::npos;
 }
 
-/// The key in brackets that its lines begin with.
+/// The key in brackets that begins its lines.
 class KeyMark {
  public:
   explicit KeyMark(TextView key) {
@@ -36,8 +36,8 @@ class KeyMark {
 
   std::size_t Size() const { return bytes_.size(); }
 
-  /// Whether `line` begins with the mark in any case. The letters A to Z are the only
-  /// ones in the code page that have a case.
+  /// Whether `line` begins with the mark, ignoring case. A to Z are the only letters of the code
+  /// page that have a case.
   bool Begins(std::string_view line) const {
     const auto upper = [](char c) { return AsciiUpper(static_cast<unsigned char>(c)); };
     const auto plain = [](char c) { return char16_t{static_cast<unsigned char>(c)}; };
@@ -54,8 +54,7 @@ std::string_view TrimBlanks(std::string_view line) {
   return line.substr(std::min(line.find_first_not_of(' '), line.size()));
 }
 
-// Looked at together, by a loop of a fixed length without branches, which compilers turn
-// into vector instructions.
+// Examined together, by a fixed-size loop without branches, which compilers vectorize.
 constexpr std::size_t kBlock = 32;
 
 /// Whether a mark of `size` bytes may begin at one of the first `kBlock` of `bytes`.
@@ -69,7 +68,7 @@ bool MayHoldMark(const char* bytes, std::size_t size) {
   return brackets != 0;
 }
 
-/// The first place from `at` on where brackets stand as those of a mark of `size` bytes.
+/// The first position from `at` on with brackets as far apart as those of a mark of `size` bytes.
 std::size_t FindBrackets(std::string_view contents, std::size_t at, std::size_t size) {
   while (at + kBlock + size <= contents.size() && !MayHoldMark(&contents[at], size)) at += kBlock;
   for (; at + size <= contents.size(); ++at) {
@@ -78,7 +77,7 @@ std::size_t FindBrackets(std::string_view contents, std::size_t at, std::size_t 
   return std::string_view::npos;
 }
 
-/// Whether there are only blanks in front of `at` in its line.
+/// Whether only blanks precede `at` in its line.
 bool BeginsLine(std::string_view contents, std::size_t at) {
   const auto before = contents.substr(0, at).find_last_not_of(' ');
   return before == std::string_view::npos || contents[before] == '\r' || contents[before] == '\n';
@@ -89,7 +88,7 @@ struct Rewritten {
   bool found = false;
 };
 
-/// `contents` with `setting` in place of every line that begins with `mark`.
+/// Replaces every line of `contents` that begins with `mark` by `setting`.
 Rewritten ReplaceLines(std::string_view contents, const KeyMark& mark, std::string_view setting) {
   Rewritten result;
   result.contents.reserve(contents.size() + setting.size());
@@ -110,7 +109,7 @@ Rewritten ReplaceLines(std::string_view contents, const KeyMark& mark, std::stri
 std::string_view FindValue(std::string_view contents, TextView key) {
   const KeyMark mark(key);
   std::string_view value;
-  // From bracket to bracket, which is less work than line by line.
+  // From bracket to bracket, which is faster than line by line.
   const auto next = [&](std::size_t at) { return FindBrackets(contents, at, mark.Size()); };
   for (std::size_t at = next(0); at != std::string_view::npos; at = next(at + 1)) {
     std::string_view rest = contents.substr(at);

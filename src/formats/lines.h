@@ -7,8 +7,8 @@ namespace ZQ7Standard {
 
 inline constexpr std::string_view kLineEnd = "\r\n";
 
-/// Takes the first line of `rest` off its front, with the CR LF, LF or CR that ends it,
-/// which the line given does not have.
+/// Removes the first line from the front of `rest` with the CR LF, LF or CR that ends it, and
+/// returns it without that.
 std::string_view TakeLine(std::string_view& rest);
 
 }  // namespace ZQ7Standard

@@ -10,7 +10,7 @@
 
 namespace ZQ7Standard {
 
-/// What a paper or a bin is called.
+/// The name of a paper or a bin.
 struct CodeText {
   std::int16_t code;
   TextView text;
@@ -76,7 +76,7 @@ inline constexpr auto kPaperBinTexts = std::to_array<CodeText>({
     {14, u"Attached cassette cartridge"},
 });
 
-/// Whether the first `count` rows have the codes from 1 to `count`.
+/// Whether the codes of the first `count` rows are 1 to `count`.
 constexpr bool CountsFromOne(std::span<const CodeText> rows, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) {
     if (rows[i].code != static_cast<std::int16_t>(i + 1)) return false;

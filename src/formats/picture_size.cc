@@ -14,22 +14,21 @@ constexpr double kScreenDotsPerMm = 96 / kMillimetresPerInch;
 
 constexpr auto kPngSignature = "\x89PNG\r\n\x1A\n"sv;
 
-/// Takes `count` bytes off the front of `bytes`, fewer when there are no more.
+/// Removes `count` bytes from the front of `bytes`, or all if there are fewer.
 std::string_view Take(std::string_view& bytes, std::size_t count) {
   const std::string_view taken = bytes.substr(0, count);
   bytes.remove_prefix(taken.size());
   return taken;
 }
 
-/// Takes a number of `size` bytes off the front of `bytes`, the highest byte first.
+/// Reads a number of `size` bytes off the front of `bytes`, the highest byte first.
 std::uint32_t TakeNumber(std::string_view& bytes, std::size_t size) {
   std::uint32_t number = 0;
   for (const char byte : Take(bytes, size)) number = number << 8 | static_cast<unsigned char>(byte);
   return number;
 }
 
-/// Takes two densities off `bytes`, which count dots in `millimetres`. One that is 0
-/// tells nothing.
+/// Reads two densities off `bytes`, which count dots per `millimetres`. A density of 0 is ignored.
 void TakeDensity(std::string_view& bytes, std::size_t size, double millimetres,
                  PictureSize& picture) {
   const std::uint32_t columns = TakeNumber(bytes, size);
@@ -69,7 +68,7 @@ void ReadJfif(std::string_view header, PictureSize& picture) {
 void ReadJpeg(std::string_view segments, PictureSize& picture) {
   while (segments.starts_with(kMarkerPrefix)) {
     Take(segments, 1);
-    if (segments.starts_with(kMarkerPrefix)) continue;  // a byte that fills
+    if (segments.starts_with(kMarkerPrefix)) continue;  // a fill byte
     const std::uint32_t marker = TakeNumber(segments, 1);
     const std::uint32_t size = TakeNumber(segments, 2);
     std::string_view data = Take(segments, size < 2 ? 0 : size - 2);

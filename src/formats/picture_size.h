@@ -9,7 +9,7 @@ namespace ZQ7Standard {
 
 enum class PictureFormat { kPng, kJpeg };
 
-/// What the header of a picture file tells.
+/// What the header of a picture file says.
 struct PictureSize {
   PictureFormat format = PictureFormat::kPng;
   std::uint32_t columns = 0;  ///< pixels, from 1
@@ -20,9 +20,8 @@ struct PictureSize {
   friend bool operator==(const PictureSize&, const PictureSize&) = default;
 };
 
-/// Reads the header of the PNG (RFC 2083) or JPEG (ITU T.81, with the density of JFIF)
-/// file of the bytes `file`; nothing when it is neither. Without a resolution it counts
-/// as 96 dots to the inch.
+/// Reads the header of a PNG (RFC 2083) or JPEG (ITU T.81, with the density of JFIF) file with the
+/// bytes `file`; nullopt if it is neither. Without a resolution, 96 dots per inch are assumed.
 std::optional<PictureSize> ReadPictureSize(std::string_view file);
 
 }  // namespace ZQ7Standard

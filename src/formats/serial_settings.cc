@@ -4,13 +4,13 @@
 #include <array>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "numbers/number_text.h"
 
 namespace ZQ7Standard {
 namespace {
 
-/// What a field may be, and what it means.
+/// What a field may be, and its meaning.
 template <typename Meaning>
 struct Choice {
   TextView field;
@@ -35,7 +35,7 @@ constexpr std::array kDataBits =
 constexpr std::array kStopBits = std::to_array<Choice<StopBits>>(
     {{u"1", StopBits::kOne}, {u"1.5", StopBits::kOneAndHalf}, {u"2", StopBits::kTwo}});
 
-/// Puts what `field` means into `value`; false when it is none of `choices`.
+/// Stores the meaning of `field` in `value`; false if it is not among `choices`.
 template <typename Meaning>
 bool Choose(const auto& choices, TextView field, Meaning& value) {
   const auto choice = std::ranges::find_if(

@@ -12,7 +12,7 @@ enum class Parity : std::uint8_t { kNone, kOdd, kEven, kMark, kSpace };
 
 enum class StopBits : std::uint8_t { kOne, kOneAndHalf, kTwo };
 
-/// How a serial line sends its characters.
+/// How a serial line sends characters.
 struct SerialSettings {
   std::uint32_t baud = 9600;
   Parity parity = Parity::kNone;
@@ -20,9 +20,9 @@ struct SerialSettings {
   StopBits stop_bits = StopBits::kOne;
 };
 
-/// Reads baud, parity, data bits and stop bits from a text such as "9600,N,8,1", the
-/// letter in either case. Nothing for any other text: a device that is set up by a
-/// guess prints rubbish or keeps its drawer shut.
+/// Reads baud, parity, data bits and stop bits from a text such as "9600,N,8,1", the letter in
+/// either case. Returns nullopt for any other text: a device set up by a guess prints rubbish or
+/// keeps its drawer shut.
 std::optional<SerialSettings> ReadSerialSettings(TextView text);
 
 }  // namespace ZQ7Standard

@@ -12,12 +12,12 @@ namespace ZQ7Standard {
 
 /// What stopped an operation.
 struct Failure {
-  std::optional<ErrorDetails> error;  ///< nullopt for any exception but a `RunTimeError`
+  std::optional<ErrorDetails> error;  ///< nullopt for exceptions other than `RunTimeError`
   std::string text;
 };
 
-/// Does `steps` and returns what stopped them, nullopt when nothing did. Services are
-/// the host's to write, and may throw what they like: none of it leaves.
+/// Runs `steps` and returns what stopped them, nullopt if nothing did. Hosts write services, which
+/// may throw anything: no exception escapes.
 template <typename Steps>
 std::optional<Failure> FailureOf(const Steps& steps) {
   try {
@@ -32,7 +32,7 @@ std::optional<Failure> FailureOf(const Steps& steps) {
   }
 }
 
-/// Does `steps`, leaving out those after one that fails. Returns whether all were done.
+/// Runs `steps` up to the first that fails. Returns whether all succeeded.
 template <typename Steps>
 bool Try(const Steps& steps) {
   return !FailureOf(steps);

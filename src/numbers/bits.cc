@@ -18,15 +18,14 @@ constexpr TextView kDigits = u"0123456789ABCDEF";
 constexpr std::size_t kOctalBits = 3;  // of a digit
 constexpr std::size_t kHexBits = 4;
 
-// A binary text becomes octal digits, which must read as a 16-bit decimal
-// number: octal 32767 is the last.
+// Binary text is converted to octal digits, which must read as a 16-bit decimal number: octal 32767
+// is the largest.
 constexpr std::uint64_t kLargestBinary = 032767;
 
 constexpr std::uint64_t kLargest16Bits = std::numeric_limits<std::uint16_t>::max();
 constexpr std::uint64_t kLargest32Bits = std::numeric_limits<std::uint32_t>::max();
 
-/// The value of a digit of `bits` bits, in either case; npos for another
-/// character.
+/// The value of a digit of `bits` bits, in either case; npos for another character.
 std::size_t DigitValue(char16_t c, std::size_t bits) {
   return kDigits.substr(0, std::size_t{1} << bits).find(AsciiUpper(c));
 }
@@ -66,8 +65,8 @@ Text DigitsToBits(TextView digits, std::size_t bits, ZerosInFront zeros) {
   return binary;
 }
 
-/// Reads the digits of `bits` bits at the front of `digits`, as a signed number
-/// of 16 bits where they fit and of 32 where they do not.
+/// Reads the digits of `bits` bits at the front of `digits` as a signed number of 16 bits if they
+/// fit, otherwise of 32.
 std::int16_t ReadDigits(TextView digits, std::size_t bits, const Where& where) {
   std::uint64_t value = 0;
   for (const char16_t c : digits) {
@@ -91,7 +90,7 @@ std::int16_t ReadDigits(std::int16_t digits, std::size_t bits, const Where& wher
   return ReadDigits(text, bits, where);
 }
 
-/// The 32 bits of a number; a negative one in two's complement.
+/// The 32 bits of a number, in two's complement.
 constexpr std::uint32_t Bits(std::int32_t number) {
   return static_cast<std::uint32_t>(number);
 }
@@ -106,8 +105,7 @@ Text WriteDigits(std::int32_t number, int base) {
   return text;
 }
 
-/// The length of a number's binary text: three for each octal digit, and 0 has
-/// one digit like 1.
+/// The length of a number's binary text: three for each octal digit; 0 has one digit, like 1.
 int BinaryLength(std::uint64_t bits) {
   const auto width = static_cast<int>(std::bit_width(bits | 1));
   return (width + 2) / 3 * 3;

@@ -23,7 +23,7 @@ void CellTable::Resize(std::size_t rows) {
   if (rows > capacity_ && !Reallocate(next_capacity)) throw std::bad_alloc();
   if (rows > rows_) std::fill_n(cells_.get() + rows_ * width_, (rows - rows_) * width_, 0.0);
   rows_ = rows;
-  // Refused, the larger block serves on.
+  // If this is refused, the larger block stays in use.
   if (2 * rows_ < capacity_) Reallocate(rows_);
 }
 
@@ -41,7 +41,7 @@ void CellTable::MoveToNewCells(std::size_t rows) {
   capacity_ = rows;
 }
 
-/// False, and nothing changes, when the machine refuses.
+/// Returns false and changes nothing if there is not enough memory.
 bool CellTable::Reallocate(std::size_t capacity) {
   void* const cells = std::realloc(cells_.get(), capacity * width_ * sizeof(double));
   if (cells == nullptr) return false;

@@ -9,23 +9,22 @@
 
 namespace ZQ7Standard {
 
-/// The cells of a grid: rows of one width, which come and go at the end.
+/// The cells of a grid: rows of equal width, added and removed at the end.
 ///
-/// Memory comes from `std::calloc`, because large blocks of it take no room on
-/// the machine until they are written to, and grows by `std::realloc`, because
-/// that need not hold a large block twice to make it larger.
+/// Memory comes from `std::calloc`, because large blocks occupy no memory until they are written
+/// to, and grows by `std::realloc`, because it can enlarge a large block without holding it twice.
 class CellTable {
  public:
   CellTable() = default;
 
-  /// A table of zeros. Throws std::bad_alloc when it cannot be held.
+  /// A table of zeros. Throws std::bad_alloc if it does not fit in memory.
   CellTable(std::size_t rows, std::size_t width);
 
-  /// Drops the rows from `rows` on, or adds rows of zeros up to `rows`. Throws
-  /// std::bad_alloc when they cannot be held, and changes nothing then.
+  /// Drops the rows from `rows` on, or adds rows of zeros up to `rows`. Throws std::bad_alloc if
+  /// they do not fit in memory, and then changes nothing.
   void Resize(std::size_t rows);
 
-  /// The number of cells of a row; 0 in a table without any.
+  /// The number of cells in a row; 0 in a table without cells.
   std::size_t Width() const { return width_; }
 
   /// The first cell of a row.
@@ -47,8 +46,8 @@ class CellTable {
   std::size_t capacity_ = 0;  // rows
 };
 
-/// Makes room for rows and columns and their spare ones, which keep what they hold; raises
-/// 7 and changes nothing where the machine has none. Returns the rows.
+/// Makes room for rows and columns, including the spare ones, and keeps their contents; raises 7
+/// and changes nothing if there is not enough memory. Returns the rows.
 std::int32_t MakeRoom(std::unique_ptr<CellTable>& cells, std::int64_t rows, std::int32_t cols,
                       std::string_view operation);
 

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "base/unicode.h"
 #include "numbers/number_text.h"
@@ -22,14 +22,14 @@ constexpr int kDecimals = 2;
 constexpr TextView kNoDecimals = u".00";
 constexpr TextView kDecimalDigits = u"0123456789";
 
-/// The units that stand for digits in a code.
+/// The code units that stand for digits in a code.
 struct Letters {
-  TextView word;                                  ///< those of 1 to 9 and 0
+  TextView word;                                  ///< the units for 1 to 9 and 0
   std::array<char16_t, kDigits> folded;           ///< the same, A to Z in upper case
-  std::optional<char16_t> repeat = std::nullopt;  ///< that of a digit like the one before it
+  std::optional<char16_t> repeat = std::nullopt;  ///< for a digit equal to the last
 };
 
-/// Where `unit` stands among the letters, from 0; `kDigits` when it does not.
+/// The index of `unit` among the letters; `kDigits` if it is not one.
 std::size_t IndexIn(const Letters& letters, char16_t unit) {
   const char16_t folded = AsciiUpper(unit);
   std::size_t index = 0;
@@ -37,7 +37,7 @@ std::size_t IndexIn(const Letters& letters, char16_t unit) {
   return index;
 }
 
-/// What a code writes as it stands, and halves of characters, cannot stand for a digit.
+/// Characters that codes write literally, and halves of surrogate pairs, cannot stand for digits.
 bool CanBeLetter(char16_t unit) {
   const bool stands = IsAsciiDigit(unit) || unit == u'.' || unit == u'-' || unit == u' ';
   return !stands && !IsHighSurrogate(unit) && !IsLowSurrogate(unit);
@@ -89,8 +89,8 @@ Text Encode(std::string_view operation, double price, const Letters& letters) {
   return code;
 }
 
-/// The character of a decimal number that `unit` stands for after those of `number`.
-/// Returns nullopt if it cannot stand there.
+/// Decodes `unit` as the character of a decimal number after those of `number`. Returns nullopt if
+/// it cannot follow them.
 std::optional<char16_t> Decoded(char16_t unit, TextView number, const Letters& letters) {
   const bool after_digit = !number.empty() && IsAsciiDigit(number.back());
   const std::size_t index = IndexIn(letters, unit);

@@ -17,8 +17,8 @@ constexpr double kUnit = 10000;
 constexpr std::size_t kMaxWholeDigits = 15;
 constexpr std::uint64_t kMaxMagnitude = std::numeric_limits<std::int64_t>::max();
 
-/// `whole`.`fraction` in 1/10000 units, a tie to even. All characters are
-/// digits, and `whole` has at most 15 without its leading zeros.
+/// `whole`.`fraction` in 1/10000 units, ties to even. All characters are digits, and `whole` has at
+/// most 15 after leading zeros.
 std::uint64_t ScaledMagnitude(TextView whole, TextView fraction) {
   std::uint64_t scaled = 0;
   for (const char16_t digit : whole) scaled = scaled * 10 + static_cast<unsigned>(digit - u'0');
@@ -36,8 +36,7 @@ std::uint64_t ScaledMagnitude(TextView whole, TextView fraction) {
 }  // namespace
 
 Currency::Currency(double amount) {
-  // The whole part is scaled on its own, so that no digit of a large amount is
-  // lost to the product.
+  // The whole part is scaled separately, so that the product loses no digit of a large amount.
   const double whole = std::trunc(amount);
   const double fraction = std::nearbyint((amount - whole) * kUnit);
   constexpr double kLimit = 922337203685477;

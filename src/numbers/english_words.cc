@@ -11,7 +11,7 @@
 namespace ZQ7Standard {
 namespace {
 
-// Each word brings the blank in front of it.
+// Each word includes the blank before it.
 constexpr std::array<TextView, 20> kBelowTwenty = {
     u"",          u" one",     u" two",     u" three",     u" four",     u" five",    u" six",
     u" seven",    u" eight",   u" nine",    u" ten",       u" eleven",   u" twelve",  u" thirteen",
@@ -70,7 +70,7 @@ Text EnglishMoneyWords(double amount) {
   if (amount < 0) words.Append(kNegative);
   AppendWhole(words, digits);
   if (words.View().empty() && satang == 0) words.Append(kZero);
-  // An amount below 1 keeps the blank in front of its unit.
+  // An amount below 1 keeps the blank before its unit.
   const std::size_t start = words.View().empty() ? 0 : 1;
   words.Append(kBaht);
   if (satang != 0) {

@@ -22,14 +22,14 @@ GridValueListener::~GridValueListener() = default;
 
 void GridValueListener::DataChange() {}
 
-/// The listeners of a grid, which may come and go inside an event.
+/// The listeners of a grid, which may be added and removed during an event.
 class GridListeners {
  public:
-  /// Does nothing with one that listens already, or is null.
+  /// Ignores a listener that is null or already added.
   void Add(std::shared_ptr<GridValueListener> listener);
   void Remove(const GridValueListener& listener);
 
-  /// Tells all that were there before the event and have not left since.
+  /// Notifies all that were listening before the event and have not left since.
   void TellCellDataChange(std::int32_t row, std::int32_t col);
 
  private:

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "base/ascii.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -33,15 +33,15 @@ constexpr std::uint64_t PowerOfTen(int exponent) {
   return kPowersOfTen[static_cast<std::size_t>(exponent)];
 }
 
-// 10^0 to 10^22, the powers of ten that are doubles without rounding.
+// 10^0 to 10^22, the powers of ten that doubles represent exactly.
 constexpr std::array<double, 23> kExactPowers = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                  1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                                  1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 constexpr int kMaxExactPower = 22;
 constexpr std::uint64_t kMaxExactDigits = std::uint64_t{1} << 53;
 
-/// Two whole numbers that a double holds exactly give their product or quotient
-/// rounded once, so it is the nearest double.
+/// The product or quotient of two whole numbers that doubles hold exactly is rounded only once, so
+/// it is the nearest double.
 bool IsExact(std::uint64_t digits, int exponent) {
   return digits <= kMaxExactDigits && exponent >= -kMaxExactPower && exponent <= kMaxExactPower;
 }
@@ -52,8 +52,8 @@ double ScaleExact(std::uint64_t digits, int exponent) {
                       : value * kExactPowers[static_cast<std::size_t>(exponent)];
 }
 
-/// Reads what `std::from_chars` reads; an infinity when it is too large, 0 when
-/// too small. `magnitude` is about the power of ten of the number.
+/// Reads what `std::from_chars` reads; infinity on overflow, 0 on underflow. `magnitude` is roughly
+/// the number's power of ten.
 double ReadExactly(std::string_view number, std::int64_t magnitude) {
   double value = 0;
   const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
@@ -64,8 +64,7 @@ double ReadExactly(std::string_view number, std::int64_t magnitude) {
 /// The leading 1 of a double's mantissa, which its bits leave out.
 constexpr std::uint64_t kHiddenBit = std::uint64_t{1} << 52;
 
-/// mantissa / 2^shift × 10^power, half up; both factors are small enough for
-/// 128 bits.
+/// mantissa / 2^shift × 10^power, halves up; both factors fit in 128 bits.
 std::uint64_t Scale(std::uint64_t mantissa, int shift, int power) {
   const Wide low = PowerOfTen(std::min(power, 19));
   const Wide high = PowerOfTen(power > 19 ? power - 19 : 0);
@@ -73,21 +72,20 @@ std::uint64_t Scale(std::uint64_t mantissa, int shift, int power) {
   return static_cast<std::uint64_t>((product + (Wide{1} << (shift - 1))) >> shift);
 }
 
-/// For values from 2^-23 up to below 10^15, whose 53 bits times 10^21 at most
-/// fit in 128 bits.
+/// For values from 2^-23 to below 10^15, whose 53 bits times at most 10^21 fit in 128 bits.
 Decimal ToDecimalInRange(double magnitude) {
   const auto bits = std::bit_cast<std::uint64_t>(magnitude);
   const std::uint64_t mantissa = (bits & (kHiddenBit - 1)) | kHiddenBit;
   const int binary_exponent = static_cast<int>(bits >> 52) - 1023;
   const int shift = 52 - binary_exponent;
-  // 1233 / 4096 is log10(2); the power is right or one too high.
+  // 1233 / 4096 is log10(2); the power is exact or one too high.
   int power = kSignificantDigits - 1 - ((binary_exponent * 1233) >> 12);
   std::uint64_t digits = Scale(mantissa, shift, power);
   if (digits > kDigitsLimit) digits = Scale(mantissa, shift, --power);
   return {digits, -power};
 }
 
-/// Any other value by its exact decimal digits: no double has more than 767.
+/// Any other value by its exact decimal digits, of which a double has at most 767.
 Decimal ToDecimalOutOfRange(double magnitude) {
   std::array<char, 800> text;
   const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
@@ -105,13 +103,13 @@ Decimal ToDecimalOutOfRange(double magnitude) {
   return {digits, exponent - (kSignificantDigits - 1)};
 }
 
-/// The characters of a text, those that `Ignored` names left out.
+/// The characters of a text except those that `Ignored` accepts.
 template <bool (*Ignored)(char16_t)>
 class Characters {
  public:
   explicit Characters(TextView text) : next_(text.begin()), end_(text.end()) { Skip(); }
 
-  /// The character in front; NUL at the end, which no number holds.
+  /// The first character; NUL at the end, since no number contains it.
   char16_t Front() const { return next_ == end_ ? u'\0' : *next_; }
 
   void Advance() {
@@ -134,14 +132,14 @@ constexpr bool IsNothing(char16_t /*c*/) {
 constexpr bool IsNumberMark(char16_t c) {
   return c == u' ' || c == u',' || c == u'%';
 }
-/// What a cell pasted from a table brings in front of its number.
+/// Characters that may precede the number in a cell pasted from a table.
 constexpr bool IsCellMark(char16_t c) {
   return c == u'\t' || c == u'\r' || c == u'\n';
 }
 
 constexpr std::int64_t kExponentLimit = 1'000'000;
 
-/// The exponent in front, such as "E-05", or 0 where no digit follows the E.
+/// The exponent at the front, such as "E-05", or 0 if no digit follows the E.
 template <typename Source>
 std::int64_t ReadExponent(Source& source) {
   if (AsciiUpper(source.Front()) != u'E' && AsciiUpper(source.Front()) != u'D') return 0;
@@ -155,7 +153,7 @@ std::int64_t ReadExponent(Source& source) {
   return negative ? -exponent : exponent;
 }
 
-/// Reads the digits in front, with one ".", into a text for `ReadExactly`.
+/// Reads the digits at the front, with one ".", into a text for `ReadExactly`.
 template <typename Source>
 double ReadLongNumber(Source source) {
   std::string number;
@@ -175,13 +173,13 @@ double ReadLongNumber(Source source) {
   return ReadExactly(number, magnitude + exponent);
 }
 
-/// The digits of a number without its point; `exact` while a double holds them.
+/// The digits of a number without its point; `exact` as long as a double holds them.
 struct Significand {
   std::uint64_t digits = 0;
   bool exact = true;
 };
 
-/// Adds the digits in front to `number` and returns how many there are.
+/// Adds the digits at the front to `number` and returns how many there are.
 template <typename Source>
 std::int64_t TakeDigits(Source& source, Significand& number) {
   std::int64_t count = 0;
@@ -192,7 +190,7 @@ std::int64_t TakeDigits(Source& source, Significand& number) {
   return count;
 }
 
-/// Reads the number in front; an infinity when it is too large.
+/// Reads the number at the front; infinity on overflow.
 template <typename Source>
 double ReadNumber(Source source) {
   const bool negative = source.Front() == u'-';

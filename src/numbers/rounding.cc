@@ -13,8 +13,8 @@ constexpr std::int64_t kUnit = 10000;  // of a Currency
 
 enum class Ending { kRounded, kCut };
 
-/// `number` with `decimals` decimals.
-double Fixed(std::string_view operation, double number, int decimals, Ending ending) {
+/// Rounds or cuts `number` to `decimals` decimals.
+double RoundOrCut(std::string_view operation, double number, int decimals, Ending ending) {
   if (decimals < 0) Raise(Error::kInvalidArgument, {operation, "DecimalDigit"}, decimals);
   const auto decimal = ToDecimal(number);
   if (!decimal) Raise(Error::kOverflow, {operation, "iValue"}, number);
@@ -26,32 +26,32 @@ double Fixed(std::string_view operation, double number, int decimals, Ending end
 
 double StandardObject::FixNumber2(double iValue, std::int16_t DecimalDigit,
                                   bool IgnoreNextDigit) const {
-  return Fixed("FixNumber2", iValue, DecimalDigit,
-               IgnoreNextDigit ? Ending::kCut : Ending::kRounded);
+  return RoundOrCut("FixNumber2", iValue, DecimalDigit,
+                    IgnoreNextDigit ? Ending::kCut : Ending::kRounded);
 }
 
 double StandardObject::FixNumber(double iValue, std::int16_t DecimalDigit) const {
-  return Fixed("FixNumber", iValue, DecimalDigit, Ending::kRounded);
+  return RoundOrCut("FixNumber", iValue, DecimalDigit, Ending::kRounded);
 }
 
 double StandardObject::Round(double iValue, std::int16_t DecimalDigit) const {
-  return Fixed("Round", iValue, DecimalDigit, Ending::kRounded);
+  return RoundOrCut("Round", iValue, DecimalDigit, Ending::kRounded);
 }
 
 double StandardObject::Floor(double iValue) const {
-  return Fixed("Floor", iValue, 0, Ending::kCut);
+  return RoundOrCut("Floor", iValue, 0, Ending::kCut);
 }
 
 double StandardObject::Ceiling(double iValue) const {
-  const double cut = Fixed("Ceiling", iValue, 0, Ending::kCut);
+  const double cut = RoundOrCut("Ceiling", iValue, 0, Ending::kCut);
   return iValue > cut ? cut + 1 : cut;
 }
 
 double StandardObject::FixNumberWithCutMode(double iValue, std::int16_t DecimalDigit,
                                             ZQ7FixUnit CutMode) const {
   constexpr auto kOperation = "FixNumberWithCutMode";
-  const double rounded = Fixed(kOperation, iValue, DecimalDigit, Ending::kRounded);
-  const double cut = Fixed(kOperation, rounded, 0, Ending::kCut);
+  const double rounded = RoundOrCut(kOperation, iValue, DecimalDigit, Ending::kRounded);
+  const double cut = RoundOrCut(kOperation, rounded, 0, Ending::kCut);
   switch (CutMode) {
     case ZQ7FixUnitFiveUp:
       return cut + 0.5 > rounded ? cut : cut + 1;

@@ -16,8 +16,7 @@ constexpr std::array<TextView, 10> kDigits = {u"",   u"หนึ่ง", u"ส�
 constexpr TextView kFinalOne = u"เอ็ด";
 constexpr TextView kTwoOfTens = u"ยี่";
 
-// By place modulo 6, place 1 being the units: the words repeat with each
-// million.
+// By place modulo 6, place 1 being the units: the words repeat every six places.
 constexpr std::array<TextView, 6> kPlaces = {u"แสน", u"ล้าน", u"สิบ", u"ร้อย", u"พัน", u"หมื่น"};
 constexpr int kUnits = 1;
 constexpr int kTens = 2;
@@ -25,7 +24,7 @@ constexpr int kTens = 2;
 constexpr int kFirstMillionPlace = 7;
 constexpr Word kMillion(kPlaces[kUnits]);
 
-// A digit as it is spoken: 0 to 9, and a final one.
+// The columns are the digits 0 to 9 and a final 1.
 constexpr std::size_t kFinalOneColumn = 10;
 using SpokenDigits = std::array<Word, 11>;
 
@@ -74,9 +73,9 @@ class DigitSpeaker {
 
  private:
   WordBuffer& words_;
-  /// Whether a 1 at a units place is "เอ็ด": since a digit was spoken outside
-  /// the units places, until that 1 comes. A 1 of the millions does not count,
-  /// so 1000001 is "หนึ่งล้านหนึ่ง" and 10000001 is "สิบล้านเอ็ด".
+  /// Whether a 1 in a units place is read "เอ็ด": set when a digit outside the units places is
+  /// spoken, cleared by such a 1. A 1 in the millions does not set it, so 1000001 is
+  /// "หนึ่งล้านหนึ่ง" and 10000001 is "สิบล้านเอ็ด".
   bool one_is_final_ = false;
 };
 
@@ -106,8 +105,8 @@ Text ThaiMoneyWords(double amount, TextView unit, TextView sub_unit) {
   words.append(spoken.View(), 0, whole_size);
   if (amount >= 1) words.append(unit);
   words.append(spoken.View(), whole_size).append(end);
-  // A lone satang after whole baht is no final one. No other amount can have
-  // these words, unless they are the host's unit.
+  // A lone satang after whole baht is not a final 1. No other amount can have these words, unless
+  // they are the host's unit.
   const bool lone_satang = digits.At(-1) == 0 && digits.At(-2) == 1;
   if (lone_satang || unit != kBaht) ReplaceAll(words, u"บาทเอ็ดสตางค์", u"บาทหนึ่งสตางค์");
   return words;

@@ -9,7 +9,7 @@
 
 namespace ZQ7Standard {
 
-/// A word of an amount, of at most 15 characters.
+/// A word of an amount, at most 15 characters.
 class Word {
  public:
   constexpr Word() = default;
@@ -27,10 +27,10 @@ class Word {
   char16_t size_ = 0;
 };
 
-/// Holds the words of one amount, of up to the 309 digits of the largest double.
+/// The words of one amount, up to the 309 digits of the largest double.
 class WordBuffer {
  public:
-  /// Copies all 15 characters, which takes a fraction of a copy by length.
+  /// Copies all 15 characters, which is much faster than copying by length.
   void Append(const Word& word) {
     std::ranges::copy(word.text_, text_.begin() + static_cast<std::ptrdiff_t>(size_));
     size_ += word.size_;
@@ -39,7 +39,7 @@ class WordBuffer {
   TextView View() const { return {text_.data(), size_}; }
 
  private:
-  static constexpr std::size_t kMaxWords = 309 + 6;  // a word to a digit, and the units
+  static constexpr std::size_t kMaxWords = 309 + 6;  // a word per digit, and the units
 
   std::array<char16_t, kMaxWords * 15> text_;
   std::size_t size_ = 0;

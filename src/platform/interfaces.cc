@@ -18,7 +18,7 @@
 
 namespace ZQ7Standard {
 
-// The destructors of the services that hosts implement.
+// The destructors of the interfaces that hosts implement.
 
 BlockCipher::~BlockCipher() = default;
 Clock::~Clock() = default;

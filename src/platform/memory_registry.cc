@@ -16,7 +16,7 @@ struct Value {
   std::string data;
 };
 
-/// The values of a key by their names in lower case.
+/// The values of a key by name in lower case.
 using Values = std::map<Text, Value>;
 
 class MemoryKey final : public RegistryKey {

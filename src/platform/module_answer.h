@@ -1,8 +1,8 @@
 #ifndef ZQ7STANDARD_SRC_PLATFORM_MODULE_ANSWER_H_
 #define ZQ7STANDARD_SRC_PLATFORM_MODULE_ANSWER_H_
 
-/// How a module answers the core that loads it. C++ types cross between the two, so the
-/// core refuses a module that another compiler, or another version, has made.
+/// A module's answer to the core that loads it. C++ types pass between the two, so the core refuses
+/// a module made by another compiler or version.
 extern "C" {
 
 struct ZQ7ModuleAnswer {
@@ -11,7 +11,7 @@ struct ZQ7ModuleAnswer {
   const void* functions;  // such as PrintingFunctions
 };
 
-/// What every module exports under the name kModuleFunction.
+/// The function that every module exports under the name kModuleFunction.
 using ZQ7ModuleFunction = const ZQ7ModuleAnswer* (*)();
 }
 

@@ -6,25 +6,25 @@
 #include <filesystem>
 #include <string>
 
-/// Modules hold what needs libraries that most hosts never use. A shared core loads a
-/// module at its first use; a static core has its modules linked in.
+/// Modules hold what needs libraries that most hosts never use. A shared core loads a module on
+/// first use; a static core has its modules linked in.
 namespace ZQ7Standard {
 
-/// What the printing module makes.
+/// The functions of the printing module.
 struct PrintingFunctions {
   std::shared_ptr<PrinterList> (*system_printers)(std::filesystem::path pdf_folder);
 };
 
-/// The functions of a module, or why they are not there.
+/// The functions of a module, or the reason why they are missing.
 template <typename Functions>
 struct ModuleOf {
   const Functions* functions = nullptr;
   std::string problem = {};
 };
 
-/// Defined by the loader, by the modules themselves where they are linked in, and by
-/// src/platform/no_modules.cc where they are not built. The first call loads the module;
-/// its outcome is remembered.
+/// Defined by the loader, by the modules themselves if they are linked in, and by
+/// src/platform/no_modules.cc if they are not built. The first call loads the module and remembers
+/// the outcome.
 const ModuleOf<PrintingFunctions>& PrintingModule();
 
 }  // namespace ZQ7Standard

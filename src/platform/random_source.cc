@@ -23,7 +23,7 @@ class ClockSeededSource final : public RandomSource {
   }
 
  private:
-  std::minstd_rand engine_;  // 31 bits; a large state would be filled for each draw
+  std::minstd_rand engine_;  // 31 bits; a large state would be initialized for each draw
 };
 
 }  // namespace

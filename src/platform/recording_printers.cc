@@ -11,7 +11,7 @@ namespace {
 
 constexpr PagePosition kStart = {.x = 2.5, .y = 3.5};
 constexpr float kLineHeight = 5;
-constexpr double kUnitWidth = 0.15;  // of the font's size
+constexpr double kUnitWidth = 0.15;  // as a fraction of the font size
 
 std::string Shown(double number) {
   std::array<char, 32> text;
@@ -22,7 +22,7 @@ std::string Shown(PagePosition position) {
   return Shown(position.x) + "," + Shown(position.y);
 }
 
-/// The record of a list of printers and of each of them.
+/// Records the calls to a list of printers and to each of them.
 class Recorder {
  public:
   explicit Recorder(std::shared_ptr<PrintRecord> record) : record_(std::move(record)) {}

@@ -1,6 +1,6 @@
 #include "platform/registry_path.h"
 
-#include "base/pieces.h"
+#include "base/fields.h"
 
 namespace ZQ7Standard {
 namespace {

@@ -7,14 +7,13 @@
 
 namespace ZQ7Standard {
 
-/// Whether keys can be kept below `root`.
+/// Whether there can be keys below `root`.
 constexpr bool KeepsKeys(std::int32_t root) {
   return root >= HKEY_CLASSES_ROOT && root <= HKEY_USERS;
 }
 
-/// `path` without the "\" that may end it; nullopt when one of the names in it is
-/// empty or has more than 255 characters, or there are more than 512 of them. The
-/// empty path is the root itself.
+/// `path` without a trailing "\"; nullopt if it has an empty name, one of more than 255 characters,
+/// or more than 512 names. The empty path is the root itself.
 std::optional<TextView> KeyPath(TextView path);
 
 }  // namespace ZQ7Standard

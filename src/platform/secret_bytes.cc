@@ -5,8 +5,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// Overwrites `bytes` by writes that a compiler may not leave out, although
-/// nothing reads them.
+/// Overwrites `bytes` with writes that a compiler may not omit, although nothing reads them.
 void Wipe(std::span<volatile unsigned char> bytes) {
   for (volatile unsigned char& byte : bytes) byte = 0;
 }

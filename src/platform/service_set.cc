@@ -6,7 +6,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// A service, made by `make` where there is none.
+/// Returns a service, made by `make` if it is missing.
 template <typename Service, typename Make>
 Service& Completed(std::shared_ptr<Service>& service, const Make& make) {
   if (!service) [[unlikely]] {

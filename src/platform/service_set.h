@@ -18,9 +18,8 @@
 
 namespace ZQ7Standard {
 
-/// The services of an object. One that the host left empty is made when it is first asked
-/// for: an object that never prints asks for no printers. The set belongs to one thread at
-/// a time.
+/// The services of an object. Those that the host left empty are created on first use: an object
+/// that never prints asks for no printers. Use a set from one thread at a time.
 class ServiceSet {
  public:
   explicit ServiceSet(Services services);
@@ -39,7 +38,7 @@ class ServiceSet {
   ZQ7Standard::Registry& Registry();
   ZQ7Standard::PrinterList& Printers();
 
-  /// The local date and time of day, and that day at 00:00.
+  /// The local date and time, and that day at 00:00.
   OleDate Now();
   OleDate Today();
   /// The date convention in force.

@@ -9,7 +9,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// Stands for the machine's printers where their module is absent.
+/// Replaces the machine's printers if their module is missing.
 class NoPrinters final : public PrinterList {
  public:
   explicit NoPrinters(const std::string& problem) : problem_(problem) {}

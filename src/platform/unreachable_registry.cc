@@ -3,7 +3,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// The registry of a library that was built without a store for one.
+/// The registry of a library built without a registry store.
 class UnreachableRegistry final : public Registry {
  public:
   std::unique_ptr<RegistryKey> Open(std::int32_t /*root*/, TextView /*path*/,

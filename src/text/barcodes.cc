@@ -9,9 +9,8 @@ constexpr int DigitValue(char16_t c) {
   return IsAsciiDigit(c) ? c - u'0' : 0;
 }
 
-/// The GS1 check digit of the first `Length` characters of `code`: weights 3
-/// and 1 in turn, such that the last character has the weight 3. -1 for a
-/// shorter code.
+/// The GS1 check digit of the first `Length` characters of `code`: alternating weights 3 and 1, the
+/// last character having 3. -1 for a shorter code.
 template <std::size_t Length>
 std::int16_t CheckDigit(TextView code) {
   if (code.size() < Length) return -1;

@@ -17,16 +17,16 @@ namespace ZQ7Standard {
 namespace {
 
 constexpr std::size_t kLongestText = std::numeric_limits<std::int16_t>::max();
-constexpr std::size_t kKeyRun = 256;  // runs of this length are combined at full speed
+constexpr std::size_t kKeyRun = 256;  // runs of this length combine at full speed
 
-/// The bytes of `password`, not empty, over and over up to `kKeyRun` or beyond.
+/// The bytes of `password`, not empty, repeated to `kKeyRun` or beyond.
 std::string RepeatedKey(TextView password) {
   std::string key = ToCodePage(password);
   while (key.size() < kKeyRun) key += key;
   return key;
 }
 
-/// `text` and the repeated `password` combined byte for byte by exclusive or.
+/// `text` and the repeated `password` combined byte by byte with exclusive or.
 Text Combine(TextView text, TextView password, std::string_view operation) {
   if (text.empty()) return {};
   if (password.empty()) Raise(Error::kDivisionByZero, {operation, "PassWord"}, password);
@@ -41,7 +41,7 @@ Text Combine(TextView text, TextView password, std::string_view operation) {
   return FromCodePage(bytes);
 }
 
-/// `Combine` for the operations that count characters in 16 bits.
+/// `Combine` for operations that count characters in 16 bits.
 Text CombineShort(TextView text, TextView password, std::string_view operation) {
   if (text.size() > kLongestText) {
     Raise(Error::kOverflow, {operation}, text, std::to_string(text.size()) + " characters");
@@ -64,7 +64,7 @@ Text Encipher(BlockCipher& cipher, TextView text, TextView password) {
   return cipher.Encode(cipher.EncryptBlocks(plain));
 }
 
-/// The text that `cipher` enciphered; nothing when it cannot tell.
+/// The text that `cipher` encrypted; nullopt if the cipher cannot decrypt it.
 std::optional<Text> Decipher(BlockCipher& cipher, TextView text, TextView password) {
   SecretBytes key;
   SecretBytes vector;

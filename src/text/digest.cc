@@ -9,7 +9,7 @@
 namespace ZQ7Standard {
 namespace {
 
-constexpr std::size_t kPiece = 4096;  // characters that are converted at a time
+constexpr std::size_t kPiece = 4096;  // characters converted at a time
 
 constexpr char16_t HexDigit(unsigned value) {
   return static_cast<char16_t>(value < 10 ? u'0' + value : u'a' + value - 10);

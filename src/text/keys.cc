@@ -5,12 +5,12 @@
 
 #include "base/ascii.h"
 #include "base/case_mapping.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 
 namespace ZQ7Standard {
 namespace {
 
-// What would break the hosts' query texts and lists, and the blank.
+// Characters that would break the hosts' query texts and lists, and the blank.
 constexpr TextView kForbidden = u"';,%";
 constexpr TextView kForbiddenAndBlank = u"';,% ";
 
@@ -47,7 +47,7 @@ Text StandardObject::FormatPrimaryKey(TextView InputKeyValue, std::int16_t /*Pri
     const bool blank = c == u' ';
     if (blank && AcceptInsideSpace != kOn) continue;
     if (blank && after_blank && AcceptInsideMultiSpace == 0) continue;
-    after_blank = blank;  // a line break ends a run of blanks, though it goes too
+    after_blank = blank;  // a line break ends a run of blanks, although it is dropped
     if (c != u'\r' && c != u'\n') key.push_back(c);
   }
   return key;

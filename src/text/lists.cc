@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <initializer_list>
 
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "base/replace.h"
 #include "base/search.h"
@@ -14,11 +14,11 @@ namespace ZQ7Standard {
 namespace {
 
 constexpr TextView kDefaultSeparator = u";";
-constexpr TextView kMarker = u"$#$";  // encloses each item while a list is worked on
+constexpr TextView kMarker = u"$#$";  // encloses each item during processing
 constexpr TextView kElementSeparator = u";;";
 
-/// `list` with a marker before and behind each item: "$#$a$#$b$#$", and "$#$"
-/// when it is empty. There is room for one more item of `extra` characters.
+/// `list` with a marker before and after each item: "$#$a$#$b$#$", and "$#$" if it is empty.
+/// Reserves room for one more item of `extra` characters.
 Text Marked(TextView list, std::size_t extra) {
   Text marked;
   const auto separators = static_cast<std::size_t>(std::ranges::count(list, u';'));
@@ -42,8 +42,8 @@ std::vector<Text> Split(TextView text, TextView separator) {
   return parts;
 }
 
-/// Joins `first` and those of `others` that are not empty, and splits the result
-/// again, so that a separator inside an argument counts.
+/// Joins `first` and the non-empty `others`, and splits the result again, so that a separator
+/// inside an argument counts.
 std::vector<Text> Elements(TextView first, std::initializer_list<TextView> others) {
   Text joined(first);
   for (const TextView argument : others) {
@@ -67,7 +67,7 @@ Text StandardObject::AddList(TextView iList, TextView iAdd, TextView SeparateCha
   Text marked = Marked(iList, iAdd.size());
   const std::size_t end = marked.size();
   marked.append(iAdd).append(kMarker);
-  // The added item, enclosed by the marker that ends the list and its own.
+  // The added item, between the marker that ends the list and its own.
   const TextView item = TextView(marked).substr(end - kMarker.size());
   const bool listed = FindFirst(TextView(marked).substr(0, end), item) != TextView::npos;
   if (listed) marked.resize(end);
@@ -113,7 +113,7 @@ Text StandardObject::ReverseList(TextView iList) const {
 
 Text StandardObject::TrimN(TextView istr, std::int16_t iNum) const {
   int number = 0;
-  // A last field of one character is never reached.
+  // A last field of one character is never read.
   for (TextView rest = istr; rest.size() > 1;) {
     const TextView field = TakeField(rest, u',');
     if (++number == iNum) return d2Str(WholeNumber(field, istr));

@@ -7,7 +7,7 @@ namespace ZQ7Standard {
 namespace {
 
 constexpr std::size_t kBlockSize = 64;
-constexpr std::size_t kLengthSize = 8;  // of the message length that ends the last block
+constexpr std::size_t kLengthSize = 8;  // of the message length at the end of the last block
 
 using Words = std::array<std::uint32_t, 16>;
 
@@ -22,8 +22,8 @@ constexpr std::array<std::uint32_t, 64> kSines = {
     0xF4292244, 0x432AFF97, 0xAB9423A7, 0xFC93A039, 0x655B59C3, 0x8F0CCC92, 0xFFEFF47D, 0x85845DD1,
     0x6FA87E4F, 0xFE2CE6E0, 0xA3014314, 0x4E0811A1, 0xF7537E82, 0xBD3AF235, 0x2AD7D2BB, 0xEB86D391};
 
-/// One of the four rounds of sixteen steps: how it mixes, the word of its first
-/// step and the distance to the next one's, and the rotations that it repeats.
+/// One of the four rounds of sixteen steps: its mixing function, the word of its first step and the
+/// distance to each next one, and its repeating rotations.
 struct FirstRound {
   static constexpr std::size_t kIndex = 0;
   static constexpr std::size_t kFirstWord = 0;
@@ -39,8 +39,8 @@ struct SecondRound {
   static constexpr std::size_t kFirstWord = 1;
   static constexpr std::size_t kStride = 5;
   static constexpr std::array<int, 4> kRotations = {5, 9, 14, 20};
-  // The two parts share no bit, so that a sum is as good as an "or", and one of
-  // its terms does not wait for the step before.
+  // The two parts share no bit, so a sum equals "or", and one of its terms does not depend on the
+  // previous step.
   static std::uint32_t Mix(std::uint32_t b, std::uint32_t c, std::uint32_t d) {
     return (c & ~d) + (b & d);
   }

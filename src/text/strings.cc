@@ -8,7 +8,7 @@
 
 #include "base/ascii.h"
 #include "base/case_mapping.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "base/search.h"
 #include "numbers/number_text.h"
@@ -17,10 +17,10 @@
 namespace ZQ7Standard {
 namespace {
 
-constexpr TextView kFillerEnding = u"1";  // ends a sort key without a number
+constexpr TextView kFillerEnding = u"1";  // ends a sort key that has no number
 
-// No double has more digits in front of the mark: further left, a zero changes
-// nothing and any other digit makes the number too large to be read.
+// No double has more digits before the mark: further left, a zero changes nothing and any other
+// digit makes the number too large to read.
 constexpr std::size_t kMaxDigits = 309;
 
 template <typename Integer>
@@ -41,9 +41,9 @@ TextView DigitTail(TextView key) {
   return tail;
 }
 
-/// Whether `c` in front of `number`, which reads as a number above 0, leaves its value as
-/// it is: what a reader passes over does, and a "0" before a digit or a point. Such
-/// characters are the only ones of which there is no end.
+/// Whether `c` before `number`, which reads as a number above 0, keeps its value: true for
+/// characters that a reader skips, and for "0" before a digit or a point. Only such characters can
+/// be repeated without limit.
 bool KeepsValue(char16_t c, TextView number) {
   constexpr TextView kPassedOver = u" ,%\t\r\n";
   if (c != u'0') return kPassedOver.find(c) != TextView::npos;
@@ -51,8 +51,8 @@ bool KeepsValue(char16_t c, TextView number) {
   return IsAsciiDigit(next) || next == u'.';
 }
 
-/// The end of `text` that reads as a number above 0 with each character that is
-/// taken to it; a "0" at the end therefore leaves none.
+/// The longest end of `text` that keeps reading as a number above 0 as it grows from the right;
+/// empty after a final "0".
 TextView NumericSuffix(TextView text) {
   std::size_t start = text.size();
   for (; start > 0; --start) {
@@ -75,7 +75,7 @@ bool EqualInUpperCase(char16_t a, char16_t b) {
   return ToUpper(a) == ToUpper(b);
 }
 
-/// The index `at` as a position, which counts from 1; 0 for npos.
+/// The position of index `at`, counting from 1; 0 for npos.
 std::int32_t Position(std::size_t at) {
   return static_cast<std::int32_t>(at + 1);
 }

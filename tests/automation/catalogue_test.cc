@@ -11,12 +11,12 @@
 #include <sstream>
 #include <string>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
 
-/// All public headers, one behind the other.
+/// All public headers, concatenated.
 std::string Headers() {
   std::ostringstream text;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(ZQ7STANDARD_HEADERS)) {
@@ -25,8 +25,8 @@ std::string Headers() {
   return text.str();
 }
 
-/// The members that a class declares, without access to what is private: name, and
-/// "result name(type parameter = default, ...)" with single blanks.
+/// The public members that a class declares: name, and "result name(type parameter = default, ...)"
+/// with single blanks.
 std::map<std::string, std::string> Declarations(const std::string& headers,
                                                 const std::string& class_name) {
   std::string body = headers.substr(headers.find("class ZQ7STANDARD_EXPORT " + class_name + " "));
@@ -92,11 +92,11 @@ std::string Declaration(const OperationInfo& operation) {
   return text + (separator == "(" ? "()" : ")");
 }
 
-/// Members of a header that are no operations: the host's C++ way to events, and bytes.
+/// Members of a header that are not in the catalogue: event listeners in C++, and bytes.
 const std::set<std::string> kOutside = {"AddListener", "RemoveListener", "Picture"};
 
-// Every operation and property of a public header is in the catalogue with its very
-// signature, and nothing else is.
+// Every operation and property of a public header is in the catalogue with exactly its signature,
+// and nothing else is.
 TEST(Catalogue, AgreesWithTheHeaders) {
   const std::string headers = Headers();
   for (const ClassInfo& owner : Classes()) {
@@ -122,10 +122,10 @@ TEST(Catalogue, AgreesWithTheHeaders) {
   }
 }
 
-/// The first paragraph of a comment is shown as one line of a list.
+/// The first paragraph of a comment must fit on a line of a list.
 constexpr std::size_t kLongestHelp = 90;
 
-/// "StandardObject CTDATE 17" for each member, as the list of the released ones has it.
+/// "StandardObject CTDATE 17" for each member, as in the list of released ones.
 std::set<std::string> NumberedMembers() {
   std::set<std::string> lines;
   for (const ClassInfo& owner : Classes()) {
@@ -147,7 +147,7 @@ std::set<std::string> NumberedMembers() {
   return lines;
 }
 
-// scripts/freeze adds members to the list; none may change or go.
+// scripts/freeze adds members to the list; none may change or disappear.
 TEST(Catalogue, KeepsReleasedNumbers) {
   const std::set<std::string> members = NumberedMembers();
   std::ifstream released(ZQ7STANDARD_RELEASED_NUMBERS);
@@ -157,7 +157,7 @@ TEST(Catalogue, KeepsReleasedNumbers) {
   }
 }
 
-// Copies are as good as what was copied, and members of other classes are refused.
+// Copies work like the originals, and members of other classes are refused.
 TEST(Catalogue, CopiesWork) {
   const ClassInfo grid = *FindClass("GridValueObject");
   const OperationInfo sum = *FindOperation(grid, "sumcol");
@@ -166,7 +166,7 @@ TEST(Catalogue, CopiesWork) {
   const std::vector<Value> first = {0};
   EXPECT_EQ(Invoke(object, sum, {first}), Value(0.0));
   EXPECT_EQ(GetProperty(object, rows), Value(1));
-  EXPECT_EQ(ErrorOf([&] { SetProperty(object, rows, 3); }), 438) << "only read";
+  EXPECT_EQ(ErrorOf([&] { SetProperty(object, rows, 3); }), 438) << "read-only";
   EXPECT_EQ(FindEvent(grid, "celldatachange")->parameters.size(), 2U);
   const Object bits = Create("BitByteObject");
   EXPECT_EQ(ErrorOf([&] { Invoke(bits, sum, {first}); }), 438);

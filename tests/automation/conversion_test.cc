@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -16,7 +16,7 @@ namespace {
 constexpr std::array kTargets = {"text",   "byte",    "integer", "long",    "single",
                                  "double", "Boolean", "date",    "currency"};
 
-// Each row is a value and what it becomes as each of the targets; "6" and "13" are errors.
+// Each row is a value and its conversion to each of the targets; "6" and "13" are errors.
 struct ConversionRow {
   Value value;
   std::array<const char*, kTargets.size()> expected;
@@ -54,7 +54,7 @@ TEST(Conversion, EveryTypeToEveryType) {
        {"922337203685477.5807", "6", "6", "6", "9.223372e+14", "922337203685477.6", "yes", "6",
         "922337203685477.5807"}},
       {u"1E400", {"1E400", "6", "6", "6", "6", "6", "6", "6", "6"}},
-      // Texts that are something else.
+      // Other texts.
       {u"", {"", "13", "13", "13", "13", "13", "13", "13", "13"}},
       {u"12 baht", {"12 baht", "13", "13", "13", "13", "13", "13", "13", "13"}},
       {u"TRUE", {"TRUE", "13", "13", "13", "13", "13", "yes", "13", "13"}},
@@ -92,7 +92,7 @@ TEST(Conversion, EveryTypeToEveryType) {
        {"10.3", "10", "10", "10", "10.3", "10.3", "yes", "1900-01-09 07:12:00", "10.3000"}},
       {Currency(-200),
        {"-200", "6", "-200", "-200", "-200", "-200", "yes", "1899-06-13", "-200.0000"}},
-      // What is nothing of these.
+      // Other values.
       {TextList{u"1"}, {"13", "13", "13", "13", "13", "13", "13", "13", "13"}},
       {Create("BitByteObject"), {"13", "13", "13", "13", "13", "13", "13", "13", "13"}}};
   for (std::size_t row = 0; row < rows.size(); ++row) {

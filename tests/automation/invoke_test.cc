@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "tests/support/printers.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -16,7 +16,7 @@ struct CallRow {
   const char* operation;
   std::vector<Value> positional;
   std::vector<NamedArgument> named;
-  const char* expected;  // the result as text, or "error N: " and a part of the message
+  const char* expected;  // the result as text, or "error N: " and part of the message
 };
 
 std::string Outcome(const Object& object, const CallRow& row) {
@@ -119,7 +119,7 @@ TEST(Invoke, ReadsProperties) {
   EXPECT_EQ(Invoke(grid, "SetCols", {three}), Value(Omitted{}));
   EXPECT_EQ(GetProperty(grid, "Cols"), Value(3));
   EXPECT_EQ(ErrorOf([&] { GetProperty(grid, "SetCols"); }), 438);
-  EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Cols", 3); }), 438) << "only read";
+  EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Cols", 3); }), 438) << "read-only";
   EXPECT_EQ(ErrorOf([&] { SetProperty(grid, "Width", 3); }), 438);
 }
 
@@ -151,7 +151,7 @@ TEST(Invoke, SendsEventsWhileTheSubscriptionIsKept) {
   EXPECT_EQ(sink->Events(), "CellDataChange 7 2;");
   subscription = Subscribe(grid, sink);
   grid = Create("BitByteObject");
-  subscription.reset();  // the grid lived on for it
+  subscription.reset();  // until now the grid lived on for it
   EXPECT_EQ(Subscribe(grid, sink), nullptr);
 }
 

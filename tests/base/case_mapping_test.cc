@@ -6,7 +6,7 @@ namespace ZQ7Standard {
 namespace {
 
 TEST(CaseMapping, MapsOneCharacterToOne) {
-  // Among them one of every second character, and a capital far away.
+  // Among them a range of every second character, and a capital far away.
   for (const TextView pair : {u"aA", u"ąĄ", u"ÿŸ", u"σΣ", u"აᲐ"}) {
     EXPECT_EQ(ToUpper(pair[0]), pair[1]) << Utf8(pair);
     EXPECT_EQ(ToLower(pair), Text(2, pair[0])) << Utf8(pair);
@@ -16,7 +16,7 @@ TEST(CaseMapping, MapsOneCharacterToOne) {
   EXPECT_EQ(ToUpper(u'ß'), u'ß') << "no single capital";
 }
 
-// 15.0.0 of the Unicode Character Database.
+// Version 15.0.0 of the Unicode Character Database.
 TEST(CaseMapping, ChangesAsManyCharactersAsUnicodeDoes) {
   int upper = 0, lower = 0;
   for (int code = 0; code <= 0xFFFF; ++code) {

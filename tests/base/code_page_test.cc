@@ -18,7 +18,7 @@ Text Page() {
   return page;
 }
 
-// Alone, and in a text long enough for blocks, at each place of a block.
+// Alone, and in a text long enough for blocks, at each position of a block.
 TEST(CodePage, ConvertsEveryCodeUnitAmongAnyNeighbours) {
   const Text page = Page();
   for (const char16_t neighbour : TextView(u"aก€")) {

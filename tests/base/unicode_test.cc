@@ -3,7 +3,7 @@
 
 using namespace ZQ7Standard;
 
-// Every character goes through UTF-8 and back; a surrogate alone is replaced.
+// Every character survives UTF-8; a lone surrogate is replaced.
 TEST(Utf8, EveryCharacterComesBack) {
   for (char32_t c = 0; c <= 0x10FFFF; ++c) {
     Text text(1, static_cast<char16_t>(c));

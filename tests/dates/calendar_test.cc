@@ -1,7 +1,7 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -64,7 +64,7 @@ TEST(Calendar, PlacesADayInItsMonth) {
   }
 }
 
-// Every day of 400 years, in both eras, against a calendar that is kept by counting.
+// Every day of 400 years, in both eras, against a calendar kept by counting.
 TEST(CalendarBreadth, WeeksGoByCounting) {
   for (const int shift : {0, 543}) {
     int week = 1;

@@ -1,6 +1,6 @@
 #include "dates/date_math.h"
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -30,8 +30,7 @@ TEST(MeantDay, IsGregorianWhateverEraTheYearIsIn) {
   // clang-format on
 }
 
-// Before day 0 the fraction still counts forward. A time near midnight stays
-// within its day.
+// Before day 0 the fraction still counts forward. A time near midnight stays on its day.
 TEST(OleDate, HasTheDayAndTimeOfItsCountOrParts) {
   // clang-format off
   ExpectRows<double>([](double days) { return OleDate(days); }, {
@@ -57,7 +56,7 @@ TEST(OleDate, HasTheDayAndTimeOfItsCountOrParts) {
   EXPECT_EQ(OleDate::FromParts(1899, 12, 23).Weekday(), 7);
 }
 
-// Every day of 400 years, which is every day that the calendar can have.
+// Every day of 400 years, the full cycle of the calendar.
 TEST(OleDate, EveryDayOfFourCenturiesGoesThroughItsPartsAndBack) {
   int year = 1800;
   int month = 1;

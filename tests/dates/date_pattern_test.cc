@@ -1,6 +1,6 @@
 #include "dates/date_pattern.h"
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

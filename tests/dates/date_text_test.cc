@@ -1,7 +1,7 @@
 #include "dates/date_text.h"
 
 #include "dates/name_tables.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -48,20 +48,20 @@ TEST(ReadDateText, Accepts) {
 
 TEST(ReadDateText, Rejects) {
   for (const TextView text : std::initializer_list<TextView>{
-           // Nothing, plain numbers, Thai digits; no times.
+           // Empty text, plain numbers, Thai digits; invalid times.
            u"", u"   ", u"12345", u"1.5", u"20240115", u"๑๕/๑/๒๕๖๗", u"24:00", u"9:60", u"9:5",
            u"9", u"13:00 PM", u"9:30 PMx", u"9:30 15/1/2024", u"15/1/2024T", u"15/1/20249:30",
            u"15Jan9:30",
            // No day or month, or no year.
            u"31/4/2024", u"29/2/2023", u"13/13/2024", u"0/1/2024", u"Apr/31/24", u"Feb 30",
            u"31/Feb/2024", u"67/Jan/15", u"1/1/99999", u"1/1/0099", u"1/1/99999999999999999999",
-           // Too many fields, empty ones, signs, marks where none belongs.
+           // Too many fields, empty ones, signs, marks in the wrong place.
            u"31/12/67 1", u"15/1/2024/1", u"15//2024", u"15/-1/2024", u"/15/1/2024", u"1,1,2024",
            u"15.Jan.2024", u"1 2013", u"15/3 2560", u"15/3-2560", u"15-3/2560", u"2024/1 15",
-           // No turning round without a plain year, or with the year first or inside;
-           // three digits are never a month or a day.
+           // The order is not swapped without a four-digit year, or with the year first or in the
+           // middle; a month or day never has three digits.
            u"1/15/24", u"2024/15/1", u"Jan/2024/15", u"1/015/2024", u"1/005/2024", u"Jan/005/2024",
-           // Names in the wrong place, or with letters behind.
+           // Names in the wrong place, or followed by letters.
            u"Janx 15 2024", u"2024/JanT9:30", u"Jan Jan 2024", u"15 1 Jan", u"Tuesday",
            u"Tuesday 15/1/2024", u"Tue January 2013"}) {
     EXPECT_FALSE(Reader(kDmy)(text)) << Utf8(text);
@@ -69,22 +69,21 @@ TEST(ReadDateText, Rejects) {
   EXPECT_FALSE(ReadDateText(u"Feb 29", kDmy, 2023));
 }
 
-// What the library rebuilds from numbers reads the same as its text, on every
-// convention, for every month and every kind of year.
-TEST(ReadDateText, ReadsNamedMonthsAsReadNamedMonthDateDoes) {
+// Dates built from numbers equal those read from text, for every convention, every month and every
+// kind of year.
+TEST(ReadDateText, ReadsNamedMonthsAsDateInEraDoes) {
   for (const DateConvention convention : kConventions) {
     for (const int year :
          {0, 5, 29, 30, 72, 73, 99, 100, 642, 643, 1900, 2024, 2567, 9999, 10542, 10543}) {
       for (int i = 0; i < 12 * 33; ++i) {
         const Text text = Text(kEnglishShortMonths[static_cast<std::size_t>(1 + i % 12)]) + u"/" +
                           FromUtf8(std::to_string(i / 12) + "/" + std::to_string(year));
-        ASSERT_EQ(Reader(convention)(text),
-                  ReadNamedMonthDate(1 + i % 12, i / 12, year, convention.era))
+        ASSERT_EQ(Reader(convention)(text), DateInEra(1 + i % 12, i / 12, year, convention.era))
             << Utf8(text);
       }
     }
   }
-  EXPECT_FALSE(ReadNamedMonthDate(1, -1, 2024, Era::kGregorian));
-  EXPECT_FALSE(ReadNamedMonthDate(0, 1, 2024, Era::kGregorian));
-  EXPECT_FALSE(ReadNamedMonthDate(1, 1, -5, Era::kGregorian));
+  EXPECT_FALSE(DateInEra(1, -1, 2024, Era::kGregorian));
+  EXPECT_FALSE(DateInEra(0, 1, 2024, Era::kGregorian));
+  EXPECT_FALSE(DateInEra(1, 1, -5, Era::kGregorian));
 }

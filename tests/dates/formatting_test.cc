@@ -1,6 +1,6 @@
 #include <ZQ7Standard/StandardObject.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -42,7 +42,7 @@ TEST(FormatTDate2, NumbersTheYearOnceAndKeepsSentinels) {
   EXPECT_EQ(kObject.FormatTDate2(OleDate(), ZQ7YYYYMD), u"");
 }
 
-// Blank or not, a pattern that ends too early is an error.
+// Even for blank dates, a pattern that ends too early is an error.
 TEST(Patterns, HaveADefaultAndAreCheckedFirst) {
   const OleDate date = OleDate::FromParts(2024, 1, 5, 9, 30);
   for (const OleDate day : {date, kObject.GETBlankDate(), OleDate()}) {
@@ -86,7 +86,7 @@ TEST(Formats, OfEveryConvention) {
   }
 }
 
-// The year as each kind of format shows it, and the weekday of the Gregorian day meant.
+// The year in each kind of format, and the weekday of the Gregorian day meant.
 TEST(Formats, NumberYearsAndWeekdays) {
   const StandardObject gregorian = ObjectWith(kDmy);
   const auto call = [&](int year, int month, int day) {
@@ -155,7 +155,7 @@ TEST(Names, FollowTheirTables) {
   // clang-format on
 }
 
-// Every day of 200 years through its texts and back, in both eras and orders.
+// Formats and reads back every day of 200 years, in both eras and orders.
 TEST(FormatsBreadth, WhatIsWrittenReadsBack) {
   for (const DateConvention convention : kConventions) {
     const StandardObject object = ObjectWith(convention);
@@ -179,7 +179,7 @@ TEST(FormatsBreadth, EveryMinuteOfADayReadsBack) {
     const OleDate time(minute / 1440.0);
     const Text text = kObject.FormatTime(time);
     ASSERT_EQ(kObject.Str2TIME(text), time) << Utf8(text);
-    // The same minute, though not to the last bit.
+    // The same minute, but not to the last bit.
     const Text digits = kObject.FormatTime2(time, u"hhnn");
     ASSERT_EQ(kObject.FormatTime2(kObject.CTTime(digits), u"hhnn"), digits);
   }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -28,8 +28,8 @@ TEST(Months, StepsAreSingleAndDropTheTime) {
   }
   EXPECT_EQ(IsoText(ObjectWith(kDmy).AddMonth(TestNow())), "2024-02-15");
   EXPECT_EQ(IsoText(ObjectWith(kDmy).AddYear(TestNow())), "2025-01-15");
-  // The month before January 100 is December of "99", which a Gregorian system
-  // completes to 1999 and a Buddhist one, as 642, does not take.
+  // The month before January 100 is December of "99", which a Gregorian system completes to 1999
+  // and a Buddhist one, as 642, rejects.
   ExpectRows<DateConvention>(
       [](DateConvention convention) {
         return ObjectWith(convention).AddMonth(OleDate::FromParts(100, 1, 15), -1);
@@ -61,7 +61,7 @@ TEST(Months, FirstAndLastDay) {
       {{{kDmy, 24}, "2024-01-01"}, {{kDmy, 32767}, "error 13"}, {{kDmyBe, 32767}, "error 6"}});
 }
 
-// Every month step of 400 years against the civil calendar.
+// Every step of months over 400 years, against the civil calendar.
 TEST(MonthsBreadth, StepsAgreeWithTheCalendar) {
   for (const DateConvention convention : {kMdy, kDmyBe}) {
     const StandardObject object = ObjectWith(convention);

@@ -1,15 +1,15 @@
 #include <ZQ7Standard/StandardObject.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
 static const StandardObject kThai = ObjectWith(kDmyBe);
 static const StandardObject kGregorian = ObjectWith(kDmy);
 
-// The order is never guessed. CTDATE raises 9 without a slash, takes any year
-// and reads each field as far as it is a number, halves to even; IsTDate wants
-// the first typed year or a later one in four digits, and takes no notice of signs.
+// The order is never guessed. CTDATE raises 9 without a slash, accepts any year and reads each
+// field as far as it is a number, halves to even; IsTDate requires the first typed year or later in
+// four digits, and ignores signs.
 TEST(TypedDates, CTDATEReadsAndIsTDateChecks) {
   const auto typed = [](DateConvention convention) {
     return [object = ObjectWith(convention)](TextView text) {
@@ -49,7 +49,7 @@ TEST(TypedDates, CDATE2000CarriesTheSystemsYear) {
   // clang-format on
 }
 
-// Both the date reader and CTDATE must take the text.
+// Both the date reader and CTDATE must accept the text.
 TEST(TypedDates, GETValidDateFallsBackToToday) {
   // clang-format off
   ExpectTexts([](TextView text) { return kThai.GETValidDate(text); }, {
@@ -73,7 +73,7 @@ TEST(TypedDates, IsTDateTimeAndIsMounthYear) {
   // clang-format on
 }
 
-// As a Gregorian and as a Buddhist system reads them.
+// As read by Gregorian and by Buddhist systems.
 TEST(TypedDates, SortableKeys) {
   const auto call = [](TextView text) {
     return Shown(kGregorian.GETDateFromTextYYYYMMDD(text)) + ", " +

@@ -1,6 +1,6 @@
 #include <ZQ7Standard/StandardObject.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -58,7 +58,7 @@ TEST(PaymentTerms, TradeNotation) {
   EXPECT_EQ(Utf8(kObject.FormatCondition(0, 0, 1e30F, kNanF, 30)), "N/30 AID");
 }
 
-// "BILL" and the last "DATE" are unlike the names of their types.
+// "BILL" and the last "DATE" differ from the names of their types.
 TEST(PaymentTerms, Words) {
   const auto call = [](float type) {
     return Utf8(kObject.FormatCondition(0, 0, type, 0, 1) + u" | " +

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

@@ -1,6 +1,6 @@
 #include <ZQ7Standard/StandardObject.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -17,7 +17,7 @@ TEST(TypedTimes, CTTimeAndIsTTimeTakeFourDigits) {
   // clang-format on
 }
 
-// To the last bit, as hosts compare them: the one divides the hours, the other the minutes.
+// Exact to the last bit, since hosts compare them: one divides the hours, the other the minutes.
 TEST(TypedTimesBreadth, BitsOfEveryMinute) {
   EXPECT_EQ(kObject.CTTime(u"0009").Days(), 0.0062499999999999995);
   EXPECT_EQ(kObject.Str2TIME(u"0009").Days(), 0.00625);
@@ -29,7 +29,7 @@ TEST(TypedTimesBreadth, BitsOfEveryMinute) {
   }
 }
 
-// Noon and after wrap round when PM is added.
+// From noon on, adding PM wraps around.
 TEST(TypedTimes, Str2TIMEAndStr2AddDay) {
   // clang-format off
   ExpectTexts([](TextView text) { return kObject.FormatTime(kObject.Str2TIME(text)); }, {
@@ -49,7 +49,7 @@ TEST(TypedTimes, Str2TIMEAndStr2AddDay) {
   EXPECT_EQ(kObject.Str2AddDay(u"x").Days(), 0);
 }
 
-// Days, hours, whether it is a day-time and whether it is an hour.
+// Days, hours, and whether the text is a day-time and an hour.
 TEST(Spans, DaysAndHours) {
   const auto call = [](TextView text) {
     EXPECT_TRUE(kObject.isDayTime(text, true) && kObject.isHour(text, true)) << Utf8(text);

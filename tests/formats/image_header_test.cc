@@ -1,6 +1,6 @@
 #include "formats/image_header.h"
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 using namespace std::string_literals;
@@ -19,7 +19,7 @@ std::string Frame(int marker, char components) {
 
 }  // namespace
 
-// What an encoder writes is read in image_info_test.cc; here is what none would.
+// image_info_test.cc reads what encoders write; here is what none would.
 TEST(ReadImageHeader, ReadsAnyBytes) {
   const std::string start = "\xFF\xD8";
   const std::string jpeg = start + Frame(0xC0, 3);

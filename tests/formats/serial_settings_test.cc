@@ -1,6 +1,6 @@
 #include "formats/serial_settings.h"
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

@@ -1,5 +1,5 @@
-// Any line of a batch has one line of JSON for an answer, and any JSON that is read is
-// written as what reads the same.
+// The answer to any line of a batch is one line of JSON, and any JSON read is written as JSON that
+// reads the same.
 
 #include <nlohmann/json.hpp>
 
@@ -10,7 +10,7 @@ using namespace ZQ7Tool;
 
 namespace {
 
-/// The class whose calls touch nothing but the session.
+/// A class whose calls touch nothing outside the session.
 constexpr std::string_view kClass = "StandardObject";
 
 std::string CallOf(std::string_view arguments, std::uint8_t index) {
@@ -31,7 +31,7 @@ bool IsSafe(const std::string& line) {
       std::string again;
       ReadJson("{\"id\":" + id + "}", &again);
       ZQ7Standard::Check(again == id);
-      request.erase("id");  // its numbers may be beyond the doubles
+      request.erase("id");  // its numbers may exceed doubles
     }
     ZQ7Standard::Check(ReadJson(WriteJson(request)) == request);
     return !request.is_object() || !request.contains("class") || request["class"] == kClass;

@@ -1,5 +1,5 @@
-// Feeds the block cipher on libsodium with texts that claim to be enciphered. Each
-// that decodes has to be the only text of its bytes, and none may be deciphered.
+// Gives the block cipher on libsodium texts that claim to be encrypted. One that decodes must be
+// the only text of its bytes, and none may be decrypted.
 #include <ZQ7Standard/platform/sodium_block_cipher.h>
 
 #include <utility>

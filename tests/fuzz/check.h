@@ -9,12 +9,12 @@
 
 namespace ZQ7Standard {
 
-/// Ends the run, which makes libFuzzer keep the input.
+/// Aborts the run if `holds` is false, so that libFuzzer keeps the input.
 inline void Check(bool holds) {
   if (!holds) std::abort();
 }
 
-/// The fuzzer's bytes as UTF-8, so that names and Thai letters are in reach.
+/// The fuzzer's bytes as UTF-8, to bring names and Thai letters within reach.
 inline Text FuzzText(const std::uint8_t* data, std::size_t size) {
   return FromUtf8(std::string(data, data + size));
 }

@@ -1,5 +1,5 @@
-// Any pattern is written or refused, with no more than its pieces can need, and text that
-// is quoted or escaped comes out as it went in.
+// Any pattern is formatted or refused, no longer than its pieces allow, and quoted or escaped text
+// comes out unchanged.
 
 #include <ZQ7Standard/RunTimeError.h>
 
@@ -10,7 +10,7 @@
 
 using namespace ZQ7Standard;
 
-/// Each byte is a piece that patterns are made of.
+/// Each byte stands for a piece of a pattern.
 static Text PatternText(const std::uint8_t* data, std::size_t size) {
   constexpr TextView kPieces[] = {u"d", u"m",  u"y",  u"b",      u"h",     u"n", u"s", u"D",
                                   u"M", u"H",  u"\"", u"\\",     u"AM/PM", u"/", u":", u"am/pm",

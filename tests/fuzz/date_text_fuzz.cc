@@ -1,4 +1,4 @@
-// The reader and the operations above it take any text, and agree with each other.
+// The reader and the operations that use it accept any text, and agree with each other.
 
 #include <ZQ7Standard/RunTimeError.h>
 
@@ -8,8 +8,7 @@
 
 using namespace ZQ7Standard;
 
-/// Each byte is a piece that dates are made of, which random letters would
-/// hardly hit.
+/// Each byte stands for a piece of a date, which random letters would hardly ever form.
 static Text DateText(const std::uint8_t* data, std::size_t size) {
   constexpr TextView kPieces[] = {
       u"0", u"1", u"2", u"3",  u"4",       u"5",    u"6",  u"7",        u"8",   u"9",   u"/",
@@ -26,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const StandardObject object = ObjectWith(convention);
     const auto read = ReadDateText(text, convention, 2024);
     Check(object.IsTDateTime(text) == read.has_value());
-    if (read) {  // what is read is a date that is written and read again
+    if (read) {  // a date that was read can be written and read again
       const Text written = object.FormatTDate2(*read, ZQ7Detect);
       Check(object.isBlankDate(*read) || ReadDateText(written, convention, 2024).has_value());
     }

@@ -1,4 +1,4 @@
-// Any bytes have a header, and it is the same when zeros follow them.
+// Any bytes have a header, which stays the same if zeros follow them.
 
 #include "formats/image_header.h"
 #include "tests/fuzz/check.h"

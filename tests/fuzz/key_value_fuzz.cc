@@ -1,11 +1,11 @@
-// The value of a key in any bytes against the rule done line by line in UTF-16, and the
-// rewrites against the value.
+// Compares the value of a key in any bytes with the rule applied line by line in UTF-16, and the
+// rewrites with the value.
 
 #include <algorithm>
 
 #include "base/case_mapping.h"
 #include "base/code_page.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "formats/key_value_text.h"
 #include "formats/lines.h"
 #include "tests/fuzz/check.h"

@@ -1,5 +1,5 @@
-// The list and key operations against their rules done step by step, each step
-// with a text of its own.
+// Compares the list and key operations with their rules applied step by step, each step with a text
+// of its own.
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/StandardObject.h>
@@ -8,7 +8,7 @@
 #include <cctype>
 
 #include "base/case_mapping.h"
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/replace.h"
 #include "tests/fuzz/check.h"
 
@@ -63,7 +63,7 @@ Text IncreasedByStep(const Text& key, const Text& step) {
   return key.substr(0, start) + zeros + number;
 }
 
-/// The number at the end of a key, each of its ends read anew.
+/// The number at the end of a key, reading each suffix anew.
 Text SortSuffixByStep(const Text& text) {
   std::size_t start = text.size();
   while (start > 0 && kObject.StrVal(TextView(text).substr(start - 1)) > 0) --start;

@@ -1,4 +1,4 @@
-// Any double and any unit word give words, which hold no double blank.
+// Any double and any unit word have words, without double blanks.
 
 #include <ZQ7Standard/BahtStringObject.h>
 

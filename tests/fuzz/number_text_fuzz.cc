@@ -1,5 +1,5 @@
-// Any text reads as a number, and any number survives its shortest text. Any text is a
-// price in letters or is refused, and any price survives its letters.
+// Any text reads as a number, and any number survives its shortest text. Any text is a price code
+// or is refused, and any price survives its code.
 
 #include <ZQ7Standard/RunTimeError.h>
 
@@ -12,7 +12,7 @@
 
 using namespace ZQ7Standard;
 
-/// The price behind a code; an infinity for what is refused.
+/// The price of a code; infinity if it is refused.
 static double ReadCode(const StandardObject& object, TextView code) {
   try {
     return object.DeFormatCostCode2(code, u"BLACKHORSE", u"X");
@@ -22,7 +22,7 @@ static double ReadCode(const StandardObject& object, TextView code) {
   }
 }
 
-/// The price in the letters of two words, of which `word` may be none.
+/// Encodes and decodes the price with two words, of which `word` may be invalid.
 static void CheckPrice(const StandardObject& object, double price, const Text& word) {
   const double rounded = object.FixNumber(price, 2);
   if (std::abs(rounded) >= 1e15) return;
@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const double price = ReadCode(object, text);
   if (std::isfinite(price)) CheckPrice(object, price, text);
 
-  // Plain ASCII digits read as the standard library reads them.
+  // Plain ASCII digits read as in the standard library.
   const std::string ascii = Utf8(text);
   double expected = 0;
   const auto end = std::from_chars(ascii.data(), ascii.data() + ascii.size(), expected);

@@ -1,4 +1,4 @@
-// A path comes back from its parts, from its trimmed text, and from its native path.
+// A path can be restored from its parts, from its trimmed text, and from its native path.
 
 #include <ZQ7Standard/DiskObject.h>
 #include <ZQ7Standard/platform/path_text.h>

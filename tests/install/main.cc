@@ -1,4 +1,4 @@
-// A host that knows nothing of the library but what is installed.
+// A host that uses only what is installed.
 
 #include <ZQ7Standard/BahtStringObject.h>
 #include <ZQ7Standard/RunTimeError.h>

@@ -14,7 +14,7 @@
 #include <ZQ7Standard/platform/serial_port.h>
 
 #include "tests/support/printers.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -23,11 +23,11 @@ using namespace std::chrono_literals;
 
 using Raise = std::function<void()>;
 
-// What services throw: the library's own error, a standard one, and no exception at all.
+// What services throw: a library error, a standard exception, and something else.
 const Raise kRaises[] = {[] { throw RunTimeError(57, "x"); }, [] { throw std::logic_error("x"); },
                          [] { throw 5; }};
 
-/// Services of which no call succeeds.
+/// Services whose every call fails.
 struct Thrower final : FileStatusSource, FileReader, FileCopier, MessageBox, Registry, SerialPort {
   explicit Thrower(Raise thrown) : raise(std::move(thrown)) {}
 
@@ -58,7 +58,7 @@ struct Thrower final : FileStatusSource, FileReader, FileCopier, MessageBox, Reg
   Raise raise;
 };
 
-/// What `call` returns, or "thrown".
+/// The result of `call`, or "thrown".
 std::string OutcomeOf(const auto& call) {
   try {
     return Shown(call());
@@ -116,7 +116,7 @@ TEST(Failures, OfPrintersStayInsideOrBecomePrinterErrors) {
   }
 }
 
-/// A list whose one printer has no settings and no document.
+/// A list whose only printer has no settings and no document.
 struct BarePrinters final : PrinterList {
   std::vector<Printer> Installed() override { return {Current()}; }
   Printer Current() override { return {u"Bare", nullptr, nullptr}; }

@@ -1,4 +1,4 @@
-// The printing module in a process that uses the shared library as hosts do.
+// Tests the printing module in a process that uses the shared library like a host.
 
 #include <ZQ7Standard/Modules.h>
 #include <ZQ7Standard/PrintObject.h>
@@ -27,7 +27,7 @@ bool IsCairoLoaded() {
   return false;
 }
 
-/// Whether the machine's printers can be used, and their errors are caught as the core's.
+/// Whether the machine's printers can be used, and their errors caught as the core's.
 bool Prints() {
   PrintObject printer;
   try {

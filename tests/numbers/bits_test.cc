@@ -59,7 +59,7 @@ TEST(BitByteObject, ReadsAndWritesTexts) {
   for (const auto& [reason, call] : overflows) EXPECT_EQ(ErrorOf(call), 6) << reason;
 }
 
-// Each bit of every 16-bit number, by way of its binary text.
+// Each bit of every 16-bit number, checked against its binary text.
 TEST(BitByteObject, BitsAgreeWithTheTexts) {
   for (int n = Int16::min(); n <= Int16::max(); ++n) {
     const auto number = static_cast<std::int16_t>(n);

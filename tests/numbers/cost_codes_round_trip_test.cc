@@ -1,4 +1,4 @@
-// Every price to 100,000.00 through its code and back.
+// Encodes and decodes every price up to 100,000.00.
 
 #include <ZQ7Standard/StandardObject.h>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@ using namespace ZQ7Standard;
 
 static constexpr TextView kLetters = u"BLACKHORSE";
 static constexpr TextView kMarks = u"/:,+*#@![]";
-static constexpr TextView kThai = u"กิขคงจฉชซฌ";  // the second unit stands above the first
+static constexpr TextView kThai = u"กิขคงจฉชซฌ";  // the second unit is a mark above the first
 
 TEST(CostCodes, EveryPriceReadsBack) {
   const StandardObject object;

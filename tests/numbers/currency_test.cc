@@ -1,6 +1,6 @@
 #include <ZQ7Standard/Types.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -29,7 +29,7 @@ TEST(Currency, ConvertsFromAndToDouble) {
       {922337203685477.625, "error 6"}, {922337203685478.0, "error 6"}, {-1e300, "error 6"},
       {kNan, "error 6"}, {kInfinity, "error 6"}});
   // clang-format on
-  // Fifteen digits survive the way through a double.
+  // Fifteen digits survive a double.
   for (std::int64_t scaled = 1; scaled < 900'000'000'000'000; scaled = scaled * 3 + 7) {
     EXPECT_EQ(Currency(Currency::FromScaled(scaled).ToDouble()).Scaled(), scaled);
     EXPECT_EQ(Currency(Currency::FromScaled(-scaled).ToDouble()).Scaled(), -scaled);

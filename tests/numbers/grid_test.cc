@@ -26,8 +26,8 @@ Shape ShapeOf(const Grid& grid) {
   return {grid.Rows(), grid.Cols(), grid.FixedRows(), grid.FixedCols()};
 }
 
-/// 6 rows and 4 columns with 2 heading rows and 1 heading column; each cell
-/// holds its row and column, 31 for the second of the fourth row.
+/// 6 rows and 4 columns with 2 heading rows and 1 heading column; each cell holds its row and
+/// column, such as 31 for the second in the fourth row.
 void MakeHeadings(Grid& grid) {
   EXPECT_EQ(ErrorOf([&] { grid.Setvalue(5, -2, 0); }), 9);
   EXPECT_TRUE(grid.SetFirst(1, 4, 1, 2));
@@ -35,7 +35,7 @@ void MakeHeadings(Grid& grid) {
 }
 
 TEST(GridValueObject, TakesItsShape) {
-  // Rows, columns, heading columns, heading rows, and the shape then.
+  // Rows, columns, heading columns, heading rows, and the resulting shape.
   const std::pair<Shape, Shape> firsts[] = {{{10, 5, 1, 1}, {1, 5, 0, 1}}, {{1, 5, 5, 0}, {1, 5}},
                                             {{1, 0, 0, 0}, kNew},          {{0, 5, 0, 0}, kNew},
                                             {{1, 5, -1, 0}, kNew},         {{1, 5, 0, -1}, kNew}};
@@ -71,7 +71,7 @@ TEST(GridValueObject, TakesItsShape) {
   }
 }
 
-// What is left to say beside the plain model below.
+// What the plain model below does not cover.
 TEST(GridValueObject, KeepsItsCells) {
   Grid grid;
   MakeHeadings(grid);
@@ -93,9 +93,9 @@ TEST(GridValueObject, KeepsItsCells) {
   EXPECT_EQ(grid.SumCol(1), 0) << "from the top down";
 }
 
-// On 2 rows of 40,000 columns: no machine addresses 2^31 such rows.
+// With 2 rows of 40,000 columns: no machine can address 2^31 such rows.
 TEST(GridValueObject, RaisesForCellsThatCannotBe) {
-  // Row, column, error, rows afterwards.
+  // Row, column, error, rows after the call.
   const Shape cases[] = {
       {-1, 0, 9, 2}, {0, -1, 9, 2}, {4, -1, 9, 5}, {kLast32, 0, 7, 2}, {kLast32 - 1, 0, 7, 2}};
   for (const auto& [r, c, error, rows] : cases) {
@@ -117,7 +117,7 @@ TEST(GridValueObject, RaisesForCellsThatCannotBe) {
   EXPECT_EQ(ShapeOf(grid), (Shape{kLast32, -1}));
 }
 
-/// The rules in plain words, on rows with room for 5 cells.
+/// The rules in plain form, on rows with room for 5 cells.
 class Model {
  public:
   explicit Model(const Grid& grid)
@@ -203,7 +203,7 @@ TEST(GridValueObject, AgreesWithAPlainModelUnderRandomOperations) {
   }
 }
 
-// A million rows of one column, and few rows of many.
+// A million rows of one column, and a few rows of many.
 TEST(GridValueObject, GrowsInProportionAndKeepsTwiceItsCellsAtMost) {
   const auto bytes_in_use = [] { return mallinfo2().uordblks + mallinfo2().hblkhd; };
   for (const auto& [last, cols] : {std::pair(1'000'000, 1), {60, 20'000}}) {
@@ -226,7 +226,7 @@ TEST(GridValueObject, GrowsInProportionAndKeepsTwiceItsCellsAtMost) {
   }
 }
 
-/// Hands on each cell that it hears of.
+/// Calls a function for each changed cell.
 struct Recorder : GridValueListener {
   explicit Recorder(std::function<void(int, int)> act) : hear(std::move(act)) {}
   void DataChange() override { ADD_FAILURE(); }
@@ -237,7 +237,7 @@ struct Recorder : GridValueListener {
 struct GridEvents : testing::Test {
   GridEvents() { grid.SetCols(3); }
 
-  /// A listener that writes down what it hears and then acts.
+  /// A listener that records what it hears and then acts.
   std::shared_ptr<Recorder> Listen(
       std::string name, std::function<void()> act = [] {}) {
     auto listener = std::make_shared<Recorder>([this, name, act](int row, int col) {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -69,7 +69,7 @@ TEST(MoneyWords, AnInstanceKeepsItsLastUnits) {
   EXPECT_NE(object.About(), u"");
 }
 
-/// What Thai words say, read back.
+/// Reads an amount back from its Thai words.
 static std::uint64_t ReadThaiWords(TextView words) {
   const std::pair<TextView, std::uint64_t> names[] = {
       {u"หนึ่ง", 1},      {u"เอ็ด", 1},      {u"สอง", 2},   {u"ยี่", 2},     {u"สาม", 3},
@@ -92,8 +92,7 @@ static std::uint64_t ReadThaiWords(TextView words) {
   return millions + group + digit;
 }
 
-// Every pattern of zero and other digits in thirteen digits: the words must
-// say the amount.
+// Every pattern of zero and other digits in thirteen digits: the words must state the amount.
 TEST(MoneyWordsBreadth, EveryPatternOfZerosReadsBack) {
   BahtStringObject object;
   for (std::uint64_t pattern = 1; pattern < (1U << 13); ++pattern) {

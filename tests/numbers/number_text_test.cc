@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -12,7 +12,7 @@ static std::string Format(double value, int decimals, Grouping grouping = Groupi
   return Utf8(FormatDecimal(*ToDecimal(value), decimals, grouping));
 }
 
-/// `number`, which has more decimals, rounded half up as at school.
+/// `number`, which has more decimals, rounded half up as taught at school.
 static std::string SchoolRound(std::string number, int decimals) {
   const std::size_t keep = number.find('.') + 1 + static_cast<std::size_t>(decimals);
   bool up = number[keep] >= '5';
@@ -25,8 +25,8 @@ static std::string SchoolRound(std::string number, int decimals) {
   return up ? "1" + number : number;
 }
 
-/// What FormatDecimal must write of a value from 2^-23 to 10^15, by arithmetic on
-/// all the decimals that the double has.
+/// The expected result of FormatDecimal for a value from 2^-23 to 10^15, calculated from all
+/// decimals of the double.
 static std::string SchoolFormat(double value, int decimals) {
   char buffer[128];
   const auto end =
@@ -53,7 +53,7 @@ TEST(FormatDecimalBreadth, AgreesWithExactArithmetic) {
       value = std::exp2(exponent(random)) * (i % 8 == 0 ? 1 : -1);
     } else if (i % 4 == 1) {  // halves, quarters, eighths: exact ties
       value = static_cast<double>(digits(random) >> 16) / static_cast<double>(1 << i % 8);
-    } else {  // decimal texts, half of them ties at the decimal rounded to
+    } else {  // decimal texts, half of them ties at the last decimal
       const std::int64_t n = digits(random);
       value = static_cast<double>(i % 4 == 2 ? n : n / 10 * 10 + 5) / std::pow(10, scale(random));
     }

@@ -1,6 +1,6 @@
 #include <ZQ7Standard/StandardObject.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -28,7 +28,7 @@ TEST(Reading, IntegersGoHalfToEvenAndOverflow) {
       {u"2.5", "2"}, {u"3.5", "4"}, {u"-32768.5", "-32768"}, {u"32767.49", "32767"},
       {u"32767.5", "error 6"}});
   // clang-format on
-  EXPECT_EQ(kObject.StrInt(u"2.45", 1), 2);  // 2.5 before it is a whole number
+  EXPECT_EQ(kObject.StrInt(u"2.45", 1), 2);  // 2.5 before it is rounded to a whole number
   // clang-format off
   ExpectRows<TextView>([](TextView text) { return kObject.StrLng(text); }, {
       {u"-2,147,483,648", "-2147483648"}, {u"2147483648", "error 6"}});

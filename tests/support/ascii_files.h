@@ -49,8 +49,8 @@ class AsciiFiles {
     return {std::istreambuf_iterator(file), {}};
   }
 
-  /// The bytes of the file after `change`, and what was shown. Before it the file holds
-  /// `bytes`, or is not there.
+  /// The bytes of the file after `change`, and what was shown. Before that the file contains
+  /// `bytes`, or does not exist.
   std::string After(const std::optional<std::string>& bytes, const auto& change) {
     std::filesystem::remove(File());
     if (bytes) Write(*bytes);

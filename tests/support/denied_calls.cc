@@ -14,7 +14,7 @@ sock_filter Load(std::size_t offset) {
   return BPF_STMT(BPF_LD | BPF_W | BPF_ABS, static_cast<std::uint32_t>(offset));
 }
 
-/// Goes on with the next instruction if so, else past the next `else_skip`.
+/// Continues with the next instruction if so, otherwise after the next `else_skip`.
 sock_filter If(std::uint16_t test, std::uint32_t value, std::uint8_t else_skip) {
   return BPF_JUMP(static_cast<std::uint16_t>(BPF_JMP | test | BPF_K), value, 0, else_skip);
 }

@@ -7,15 +7,15 @@
 
 namespace ZQ7Standard {
 
-/// A system call that is to fail.
+/// A system call that must fail.
 struct DeniedCall {
   long number;              ///< such as SYS_linkat
   int error;                ///< its errno; 0 kills the process instead
   std::uint32_t flags = 0;  ///< fails only with one of these in its third argument
 };
 
-/// Does `steps` in a process of its own, to which the system denies `calls`. Returns its
-/// exit status, which is 0 when `steps` threw nothing, or minus the signal that killed it.
+/// Runs `steps` in a process of its own, to which the system denies `calls`. Returns its exit
+/// status, which is 0 if `steps` did not throw, or minus the signal that killed it.
 int RunDenied(const std::vector<DeniedCall>& calls, const std::function<void()>& steps);
 
 }  // namespace ZQ7Standard

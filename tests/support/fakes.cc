@@ -49,7 +49,7 @@ class RecordingCipher final : public BlockCipher {
   std::string& calls_;
 };
 
-/// Writes a call down; whether it is to succeed.
+/// Records a call; returns whether it should succeed.
 bool Record(RegistryScript& script, const std::string& call, const std::vector<Text>& arguments) {
   script.calls += call;
   for (const Text& argument : arguments) script.calls += " " + Utf8(argument);

@@ -26,14 +26,14 @@ inline constexpr DateConvention kMdyBe{FieldOrder::kMonthFirst, Era::kBuddhist};
 inline constexpr DateConvention kDmyBe{FieldOrder::kDayFirst, Era::kBuddhist};
 inline constexpr std::array kConventions = {kMdy, kDmy, kMdyBe, kDmyBe};
 
-/// The moment that the tests run at: Monday 2024-01-15 09:30.
+/// The tests' current moment: Monday 2024-01-15 09:30.
 OleDate TestNow();
 
 /// An object on a machine with that convention and clock.
 StandardObject ObjectWith(DateConvention convention, OleDate now = TestNow());
 
-/// Gives `draw` whenever it was reseeded since the last draw, and otherwise a
-/// number that no generator gives.
+/// Returns `draw` if it was reseeded since the last draw, otherwise a number that no generator
+/// returns.
 class FakeRandomSource final : public RandomSource {
  public:
   explicit FakeRandomSource(float draw) : draw_(draw) {}
@@ -45,12 +45,12 @@ class FakeRandomSource final : public RandomSource {
   bool reseeded_ = false;
 };
 
-/// Makes block ciphers that write what they see to `calls`, from "made" to "gone".
-/// Their text is "#" and the plain text, padded with a zero byte. They cannot decode a
-/// text without "#", and decrypt nothing that ends in "wrong".
+/// Makes block ciphers that record in `calls` what they see, from "made" to "gone". Their text is
+/// "#" and the plain text, padded with a zero byte. They cannot decode a text without "#", and
+/// decrypt nothing that ends in "wrong".
 BlockCipherFactory FakeBlockCipher(std::string& calls);
 
-/// Writes what is set to `calls`, then gives them to `on_call`.
+/// Records what is set in `calls`, then passes it to `on_call`.
 struct RecordingSerialPort final : SerialPort {
   void SetCommPort(std::int16_t port) override { Record(" port " + std::to_string(port)); }
   void SetSettings(TextView settings) override { Record(" settings " + Utf8(settings)); }
@@ -63,23 +63,23 @@ struct RecordingSerialPort final : SerialPort {
   std::function<void(const std::string&)> on_call;
 };
 
-/// What a `FakeRegistry` saw, and how it is to answer.
+/// What a `FakeRegistry` saw, and how it should answer.
 struct RegistryScript {
   std::string calls;
-  std::string failing;  // the call that answers with nothing: "Open", "Create", "Query" or "Set"
-  bool raises = false;  // instead of answering with nothing
+  std::string failing;  // the call that returns nothing: "Open", "Create", "Query" or "Set"
+  bool raises = false;  // instead of returning nothing
 };
 
-/// A registry that holds the number 7, whatever it is asked for.
+/// A registry that returns the number 7 for every query.
 std::shared_ptr<Registry> FakeRegistry(RegistryScript& script);
 
-/// The run-time error number that `call` raises; 0 when it raises none.
+/// The number of the run-time error that `call` raises, or 0.
 int ErrorOf(const std::function<void()>& call);
 
 /// "2024-01-15", or "2024-01-15 09:30:00" for a date with a time of day.
 std::string IsoText(OleDate date);
 
-// How values print in a failure.
+// How failures print values.
 void PrintTo(OleDate date, std::ostream* stream);
 void PrintTo(Currency amount, std::ostream* stream);
 

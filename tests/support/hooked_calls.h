@@ -9,11 +9,11 @@
 
 namespace ZQ7Standard {
 
-/// What the calls of `kHookedCalls` ask first: the errno that they are to fail with, or 0
-/// to do what the system does. `call` is the system's, such as `&kSystemCalls.fsync`.
+/// Asked by the calls of `kHookedCalls` first: returns the errno to fail with, or 0 to call the
+/// system. `call` is the system's, such as `&kSystemCalls.fsync`.
 inline std::function<int(const void* call)> call_hook;
 
-/// The pauses that were made by `kHookedCalls`, whose clock goes on by them alone.
+/// The pauses made by `kHookedCalls`, whose clock advances only by them.
 inline std::vector<std::chrono::nanoseconds> pauses;
 
 template <auto Call>
@@ -27,7 +27,7 @@ struct Hooked<Call> {
   }
 };
 
-/// Whatever is written takes more than one call.
+/// Makes every write take more than one call.
 inline ssize_t WriteHalf(int file, const void* bytes, std::size_t size) {
   return Hooked<&SystemCalls::write>::Do(file, bytes, (size + 1) / 2);
 }

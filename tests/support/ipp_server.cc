@@ -17,7 +17,7 @@ sockaddr_in Loopback() {
   return address;
 }
 
-/// A printer of two papers that has words where numbers belong.
+/// A printer with two papers that answers words where numbers belong.
 void Describe(ipp_t* answer) {
   const auto words = [answer](const char* attribute, const char* word) {
     ippAddString(answer, IPP_TAG_PRINTER, IPP_TAG_KEYWORD, attribute, nullptr, word);
@@ -70,7 +70,7 @@ std::string IppServer::Address() const {
   return "127.0.0.1:" + std::to_string(ntohs(address.sin_port));
 }
 
-/// Leaves no room for one more connection, so that the system drops the next.
+/// Leaves no room for another connection, so that the system drops the next.
 void IppServer::FillQueue() {
   sockaddr_in address{};
   socklen_t size = sizeof address;
@@ -81,7 +81,7 @@ void IppServer::FillQueue() {
   }
 }
 
-/// Whether the server goes on after that time, -1 for ever.
+/// Waits for that time, -1 for ever; returns whether the server continues.
 bool IppServer::Wait(int milliseconds) const {
   pollfd stop{stop_[0], POLLIN, 0};
   return poll(&stop, 1, milliseconds) == 0;
@@ -131,7 +131,7 @@ void IppServer::Send(http_t* client, ipp_t* request) const {
   ippDelete(answer);
 }
 
-/// Answers a request whose attributes were read. Returns whether it keeps the connection.
+/// Answers a request whose attributes have been read. Returns whether it keeps the connection.
 bool IppServer::Answer(http_t* client, ipp_t* request) {
   const bool is_job = ippGetOperation(request) == IPP_OP_PRINT_JOB;
   if (is_job && fault_ == Fault::kStallsInJob) Wait(-1);

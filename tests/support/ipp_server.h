@@ -16,21 +16,21 @@ namespace ZQ7Standard {
 /// What is wrong with a print server.
 enum class Fault : std::uint8_t {
   kNone,
-  kIsOutOfReach,    ///< no connection to it comes about
-  kHangsUp,         ///< on whoever calls
+  kIsOutOfReach,    ///< cannot be connected to
+  kHangsUp,         ///< on every client
   kIsSilent,        ///< accepts and never answers
-  kDribbles,        ///< a byte of an answer each 0.2 s
+  kDribbles,        ///< a byte of an answer every 0.2 s
   kIsSlow,          ///< 2 s for each answer
   kPauses,          ///< 0.3 s within each answer
   kWantsPassword,   ///< answers 401
-  kGuardsJobs,      ///< answers 401 to jobs alone
-  kStallsInJob,     ///< reads its start and no more
-  kStallsAfterJob,  ///< reads it and does not answer
+  kGuardsJobs,      ///< answers 401 only to jobs
+  kStallsInJob,     ///< reads only the start of a job
+  kStallsAfterJob,  ///< reads a job and does not answer
   kDiesInJob,
 };
 
-/// A print server of one printer, "Odd", on a port of the loopback of its own, which
-/// serves one connection at a time.
+/// A print server with one printer, "Odd", on a loopback port of its own, which serves one
+/// connection at a time.
 class IppServer {
  public:
   explicit IppServer(Fault fault = Fault::kNone);
@@ -40,7 +40,7 @@ class IppServer {
 
   std::string Address() const;
   int Connections() const { return connections_; }
-  /// The names of the attributes that jobs asked for, each with a blank behind.
+  /// The names of the attributes requested by jobs, each followed by a blank.
   std::string JobAttributes() const { return job_attributes_; }
 
  private:
@@ -57,7 +57,7 @@ class IppServer {
   std::atomic<int> connections_ = 0;
   std::string job_attributes_;
   std::vector<Descriptor> waiting_;  // connections that nobody accepts
-  std::thread thread_;               // the last, which uses all of them
+  std::thread thread_;               // declared last, because it uses all others
 };
 
 }  // namespace ZQ7Standard

@@ -9,7 +9,7 @@
 #include <functional>
 #include <string>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
 
@@ -22,7 +22,7 @@ inline auto Refusing(std::string refused, std::function<void()> raise = {}) {
   };
 }
 
-/// Recording printers of these names, of which the first is current.
+/// Recording printers with these names; the first is current.
 inline std::shared_ptr<PrinterList> Recorded(PrintRecord& record,
                                              const std::vector<Text>& names = {u"Laser"}) {
   return RecordingPrinters(names, {std::shared_ptr<void>(), &record});

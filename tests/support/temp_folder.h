@@ -9,7 +9,7 @@
 
 namespace ZQ7Standard {
 
-/// A folder of a test's own, which is gone at its end.
+/// A folder for a test, removed by the destructor.
 class TempFolder {
  public:
   explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
@@ -19,7 +19,7 @@ class TempFolder {
   const std::filesystem::path& Native() const { return native_; }
   Text Path(const std::string& name) const { return PathText(native_ / name); }
 
-  /// What a shell command prints, run in the folder.
+  /// The output of a shell command run in the folder.
   std::string Run(const std::string& command) const {
     std::string output;
     FILE* pipe = popen(("cd " + native_.native() + "\n" + command).c_str(), "r");

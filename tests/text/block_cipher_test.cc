@@ -50,8 +50,8 @@ TEST(SodiumBlockCipher, GivesBackEveryDamagedText) {
   ExpectUnread(text + u"A", kPassword);
 }
 
-// Texts that hosts keep have to stay readable. Made from the description of the
-// form in docs/security.md, with libsodium called from Python.
+// Texts that hosts have stored must stay readable. Made from the description in docs/security.md,
+// with libsodium called from Python.
 TEST(SodiumBlockCipher, ReadsTextsOfEveryCost) {
   for (const char16_t* const text :
        {u"ZQ71AAABAgMEBQYHCAkKCwwNDg9kZWZnaGlqa2xtbm9wcXJzdHV2d3h5entu6izJmnfjU8-UbBPj"

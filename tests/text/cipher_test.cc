@@ -26,7 +26,7 @@ TEST(EncryptBS, CombinesWithTheRepeatedPassword) {
       {u"ABC", u"A", u"\0\3\2"s},
       {u"abcde", u"\1\2\3", u"```eg"},
       {u"a", u"\1zzz", u"`"},
-      {u"日A😀", u"\1", u">@>>"},  // "?" for what is not in the code page
+      {u"日A😀", u"\1", u">@>>"},  // "?" for characters outside the code page
       {u"AA", u"日", u"~~"},
       {u"", u"", u""},
   };

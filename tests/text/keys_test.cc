@@ -10,7 +10,7 @@ namespace {
 
 const StandardObject kObject;
 
-// The options: blanks inside, only digits, upper case, only English, runs of blanks.
+// The options: blanks inside, digits only, upper case, English only, runs of blanks.
 TEST(FormatPrimaryKey, CleansInItsOrder) {
   // clang-format off
   const std::tuple<const char*, TextView, std::array<std::int16_t, 5>, TextView> cases[] = {

@@ -10,11 +10,11 @@ namespace {
 
 TEST(CalculateMD5, GivesTheDigestOfTheCodePageBytes) {
   const Text letters = u"abcdefghijklmnopqrstuvwxyz";
-  Text digests;  // of every length up to two blocks and a bit
+  Text digests;  // of every length up to slightly over two blocks
   for (Text text; text.size() <= 130; text += letters[text.size() % 26]) {
     digests += StandardObject().CalculateMD5(text);
   }
-  // The first seven are from RFC 1321, the others by iconv and md5sum.
+  // The first seven are from RFC 1321, the others made with iconv and md5sum.
   const std::tuple<Text, TextView> rows[] = {
       {u"", u"d41d8cd98f00b204e9800998ecf8427e"},
       {u"a", u"0cc175b9c0f1b6a831c399e269772661"},

@@ -18,7 +18,7 @@ TEST(ReverseString, TurnsCodeUnits) {
 }
 
 TEST(TrimSpaceToOne, ShrinksRunsOfBlanks) {
-  // A text with its blanks trimmed nowhere, in front, at the back, at both ends.
+  // A text with its blanks not trimmed, trimmed in front, at the end, at both ends.
   const std::array<TextView, 5> cases[] = {
       {u"  a   b  ", u" a b ", u"a b ", u" a b", u"a b"},
       {u"   ", u" ", u"", u"", u""},
@@ -85,7 +85,7 @@ TEST(FormatTextSort, FillsToALength) {
 
 TEST(Instr2, SearchesFromEitherEnd) {
   const auto binary = ZQ7CompareBinary, text = ZQ7CompareText;
-  // The last two are the position found and the one found from the back.
+  // The last two are the positions found from the front and from the back.
   const std::tuple<int, TextView, TextView, ZQ7CompareMethod, int, int> cases[] = {
       {2, u"abcabc", u"bc", binary, 2, 5}, {3, u"abcabc", u"bc", binary, 5, 5},
       {1, u"abc", u"B", binary, 0, 0},     {1, u"abc", u"bc", binary, 2, 2},
@@ -106,7 +106,7 @@ TEST(Instr2, SearchesFromEitherEnd) {
   }
 }
 
-// Every text and part of two letters that are short, and long ones that nearly repeat.
+// All short texts and parts of two letters, and long ones that nearly repeat.
 TEST(SearchBreadth, AgreesWithThePlainSearch) {
   const auto letters = [](std::size_t bits, std::size_t size) {
     Text text(size, u'a');

@@ -1,4 +1,4 @@
-// The worked examples of the catalogue, on the host that shows them.
+// The worked examples of the catalogue, on the host for which they are shown.
 
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/automation/invoke.h>

@@ -1,4 +1,4 @@
-// The tool with streams of the test's own.
+// Runs the tool with the test's own streams.
 
 #include <ZQ7Standard/automation/invoke.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ struct CommandRow {
   std::vector<std::string> words;
   int status;
   std::string out;  ///< all of it, or up to "..."
-  std::string err;  ///< some of it
+  std::string err;  ///< part of it
   std::string in = {};
 };
 
@@ -59,7 +59,7 @@ TEST(Tool, StreamsAndStatus) {
       {{"call", x + "ReverseString", "--", "a=b"}, 0, "b=a\n", ""},
       {{"call", x + "ReverseString", "iString=a=b"}, 0, "b=a\n", ""},
       {{"call", x + "ReverseString", "--", "--json"}, 0, "nosj--\n", ""},
-      {{"call", x + "ReverseString", "a=b"}, 2, "", "\"a\" is no parameter of ReverseString."},
+      {{"call", x + "ReverseString", "a=b"}, 2, "", "\"a\" is not a parameter of ReverseString."},
       {{"call", x + "ReverseString", "iStrin=b"}, 2, "", "Did you mean iString?"},
       {{"call", x + "ReverseString", "\xFF"}, 2, "", "not UTF-8"},
       {{"call", x + "ReverseString", "a", "iString=b"}, 2, "", "(error 450)"},
@@ -70,9 +70,9 @@ TEST(Tool, StreamsAndStatus) {
       {{"call", "GridValueObject.Clear"}, 0, "", ""},
       {{"call", "--json", "GridValueObject.Clear"}, 0, "null\n", ""},
       {{"call", "--jsn", x + "CTYEAR"}, 2, "", "Did you mean --json?"},
-      {{"call", "--now", "today", x + "CTYEAR"}, 2, "", "--now \"today\" is no date"},
-      {{"call", "--now", "2024-02-30", x + "CTYEAR"}, 2, "", "is no date"},
-      {{"call", "--convention", "ymd", x + "CTYEAR"}, 2, "", "is none of mdy,"},
+      {{"call", "--now", "today", x + "CTYEAR"}, 2, "", "--now \"today\" is not a date"},
+      {{"call", "--now", "2024-02-30", x + "CTYEAR"}, 2, "", "is not a date"},
+      {{"call", "--convention", "ymd", x + "CTYEAR"}, 2, "", "is not one of mdy,"},
       {{"call"}, 2, "", "CLASS.OPERATION is required."},
       {{}, 2, "", "A subcommand is required."},
       {{"lst"}, 2, "", "Did you mean list?"},
@@ -82,7 +82,7 @@ TEST(Tool, StreamsAndStatus) {
       {{"help", "GridValueObject.rows"},
        0,
        "GridValueObject.Rows: The number of rows; 1 on a new grid.\n\n"
-       "  GridValueObject.Rows As Long, only read\n",
+       "  GridValueObject.Rows As Long, read-only\n",
        ""},
       {{"help", x + "ReverseString"},
        0,
@@ -113,7 +113,7 @@ TEST(Tool, StreamsAndStatus) {
   }
 }
 
-/// What a JSON text is written as once it was a value; an error where it is none.
+/// The JSON text of a value read from JSON; the error if it cannot be read.
 std::string ThereAndBack(const std::string& json) {
   static const NamedObjects objects = {{"it", Create("GridValueObject")}};
   try {
@@ -143,22 +143,23 @@ TEST(Tool, JsonValues) {
       {"-1e400", "error: a number is too large"},
       {R"({"double":"NaN"})", R"(double {"double":"NaN"})"},
       {R"({"double":"-Infinity"})", R"(double {"double":"-Infinity"})"},
-      {R"({"double":"inf"})", R"(error: "inf" is no double)"},
+      {R"({"double":"inf"})", R"(error: "inf" is not a double)"},
       {R"({"days":45306.5})", "date " + day},
       {R"({"date":"2024-01-15T12:00"})", "date " + day},
       {day, "date " + day},
       {R"({"date":"2024-01-15","days":45306.5})",
-       R"(error: {"date":"2024-01-15","days":45306.5} is two dates)"},
+       R"(error: {"date":"2024-01-15","days":45306.5} is two different dates)"},
       {R"({"days":-657434})", R"(date {"date":"0100-01-01 00:00:00","days":-657434})"},
       {R"({"days":-657435})", "error: -657435 is beyond the range of dates"},
-      {R"({"date":"15/1/2567"})", R"(error: "15/1/2567" is no date such as "2024-01-15 09:30:00")"},
+      {R"({"date":"15/1/2567"})",
+       R"(error: "15/1/2567" is not a date such as "2024-01-15 09:30:00")"},
       {R"({"currency":"-10.3"})", R"(money {"currency":"-10.3000"})"},
-      {R"({"currency":10.3})", "error: 10.3 is no string"},
+      {R"({"currency":10.3})", "error: 10.3 is not a string"},
       {R"(["a",""])", R"(text list ["a",""])"},
-      {R"(["a",1])", "error: 1 is no string"},
+      {R"(["a",1])", "error: 1 is not a string"},
       {R"({"object":"it"})", R"(object {"object":"it"})"},
-      {R"({"object":"other"})", R"(error: "other" is the name of no object)"},
-      {R"({"object":"it","x":1})", R"(error: {"object":"it","x":1} is no value)"},
+      {R"({"object":"other"})", R"(error: "other" is not the name of an object)"},
+      {R"({"object":"it","x":1})", R"(error: {"object":"it","x":1} is not a value)"},
       {R"("ก\u0e02\u0000\n")", R"(text "กข\u0000\n")"},
       {R"("\ud83d\ude00 \\ud83d \udbff\udfff")", "text \"😀 \\\\ud83d \U0010FFFF\""},
       {R"("\ud83d")", "error: a lone surrogate at byte 8: " + advice},
@@ -175,12 +176,12 @@ TEST(Tool, JsonValues) {
       {R"({"utf16":"d83d\t0041"})", R"(error: "d83d\t0041" is not UTF-16 such as "d83d 0041")"},
       {R"({"utf16":"d83d "})", R"(error: "d83d " is not UTF-16 such as "d83d 0041")"},
       {R"({"utf16":" d83d"})", R"(error: " d83d" is not UTF-16 such as "d83d 0041")"},
-      {R"({"utf16":55357})", "error: 55357 is no string"},
-      {R"({"currency":{"utf16":"0031"}})", R"(error: {"utf16":"0031"} is no string)"},
+      {R"({"utf16":55357})", "error: 55357 is not a string"},
+      {R"({"currency":{"utf16":"0031"}})", R"(error: {"utf16":"0031"} is not a string)"},
       {"\"\xF4\x8F\xA0\"", "error: not JSON at byte 5"},
       {"\"\xED\xA0\x80\"", "error: not JSON at byte 3"},
       {std::string("1\0", 2), "error: a NUL byte in the line"},
-      {R"({"a":1,"a":1})", R"(error: "a" stands there twice)"},
+      {R"({"a":1,"a":1})", R"(error: "a" appears twice)"},
       {std::string(101, '['), "error: nested too deep"},
   };
   for (const auto& [json, expected] : rows) EXPECT_EQ(ThereAndBack(json), expected) << json;

@@ -8,9 +8,8 @@
 
 namespace ZQ7Tool {
 
-/// Answers each line of `in` that is not blank by one line of `out`, until the end of
-/// `in` or a failure of `out`. What is written is flushed whenever `in` has to be
-/// waited for. What reading throws reaches the caller.
+/// Answers each non-blank line of `in` by one line of `out`, until `in` ends or `out` fails. Output
+/// is flushed before waiting for `in`. Exceptions from reading reach the caller.
 void RunBatch(std::streambuf& in, std::ostream& out, const Settings& settings);
 
 }  // namespace ZQ7Tool

@@ -17,7 +17,7 @@ namespace ZQ7Tool {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
-/// What happens on the side while a line is answered.
+/// What happens besides, while a line is answered.
 class BatchSession::Journal final : public EventSink, public MessageBox {
  public:
   void Raise(const EventInfo& event, std::span<const Value> arguments) override {
@@ -46,17 +46,17 @@ const std::vector<std::string> kKeys = {"id",  "class", "object", "call",
                                         "get", "set",   "args",   "value"};
 
 Json ErrorOf(const char* what) {
-  // The text may quote what somebody else wrote.
+  // The text may quote arbitrary input.
   return {{"message", Utf8(FromUtf8(what))}};
 }
 
 std::string StringAt(const Json& request, const char* key) {
   const Json& value = request[key];
-  if (!value.is_string()) throw JsonError(Quoted(key) + " is no string");
+  if (!value.is_string()) throw JsonError(Quoted(key) + " is not a string");
   return value.get<std::string>();
 }
 
-/// Whether `key` is there, which it may be only beside `other`.
+/// Whether `key` is present, which it may be only together with `other`.
 bool HasBeside(const Json& request, const char* key, const char* other) {
   if (!request.contains(key)) return false;
   if (!request.contains(other)) {
@@ -65,7 +65,7 @@ bool HasBeside(const Json& request, const char* key, const char* other) {
   return true;
 }
 
-/// Refuses a line whose keys ask for no call, or for more than one.
+/// Refuses a line whose keys ask for no call, or for several.
 void CheckKeys(const Json& request) {
   for (const auto& [key, value] : request.items()) {
     if (std::ranges::find(kKeys, key) != kKeys.end()) continue;
@@ -76,7 +76,7 @@ void CheckKeys(const Json& request) {
       static_cast<int>(has("call")) + static_cast<int>(has("get")) + static_cast<int>(has("set"));
   if (verbs > 1) throw JsonError(R"(more than one of "call", "get" and "set")");
   if (!has("class") && !has("object")) throw JsonError(R"(neither "class" nor "object")");
-  // A class and the name of an object are enough to make it.
+  // A class and an object name are enough to create an object.
   if (verbs == 0 && !(has("class") && has("object"))) {
     throw JsonError(R"(none of "call", "get" and "set")");
   }
@@ -86,8 +86,7 @@ void CheckKeys(const Json& request) {
   }
 }
 
-/// Reads a text where a member of an enumeration is wanted; a number as text is left to the
-/// call.
+/// Reads a text as the name of an enumeration member; a number as text is left to the call.
 void ReadMember(const OperationInfo& operation, const ParameterInfo& parameter, Value& value) {
   const EnumerationInfo* const enumeration = parameter.type.enumeration;
   const auto* const text = std::get_if<Text>(&value);
@@ -142,8 +141,7 @@ Value BatchSession::Perform(const Json& request) {
   return Omitted{};
 }
 
-/// The object that a line is about: a new one where it names a class, which lives on
-/// where it also names the object.
+/// The object of a line: a new one if it names a class, kept if it also names the object.
 Object BatchSession::ObjectFor(const Json& request) {
   if (!request.contains("class")) {
     const std::string name = StringAt(request, "object");
@@ -170,10 +168,10 @@ Value BatchSession::CallOperation(const Object& object, const Json& request) con
       named.push_back({name, ValueOfJson(value, objects_)});
     }
   } else {
-    throw JsonError(R"("args" is no list and no object)");
+    throw JsonError(R"("args" is neither a list nor an object)");
   }
   const OperationInfo* const found = FindOperation(object.Class(), operation);
-  if (found == nullptr) return Invoke(object, operation, {});  // raises that there is none
+  if (found == nullptr) return Invoke(object, operation, {});  // raises that it does not exist
   TypedCall call = {object.Class(), *found, std::move(positional), std::move(named)};
   ForEachArgument(call, [&](const ParameterInfo& parameter, Value& value) {
     ReadMember(*found, parameter, value);

@@ -12,14 +12,13 @@
 
 namespace ZQ7Tool {
 
-/// Answers the lines of a batch. From one line to the next it keeps the named objects
-/// alone.
+/// Answers the lines of a batch. From one line to the next it keeps only the named objects.
 class BatchSession {
  public:
   explicit BatchSession(const Settings& settings);
 
-  /// The result line, without its end, of a line that asks for a call; an error line
-  /// for any other text.
+  /// The result line, without its end, for a line that asks for a call; an error line for any other
+  /// text.
   std::string Answer(std::string_view line);
 
  private:
@@ -30,12 +29,12 @@ class BatchSession {
   ZQ7Standard::Automation::Value CallOperation(const ZQ7Standard::Automation::Object& object,
                                                const Json& request) const;
 
-  std::shared_ptr<Journal> journal_;  // hears the events and messages of a line
+  std::shared_ptr<Journal> journal_;  // receives the events and messages of a line
   Host host_;
   NamedObjects objects_;
 };
 
-/// The error line, without its end, of a line that is not looked at.
+/// The error line, without its end, for a line that is not examined.
 std::string ErrorLine(const std::string& message);
 
 }  // namespace ZQ7Tool

@@ -30,7 +30,7 @@ Member FindOperationNamed(std::string_view name) {
     throw WrongUse(Quoted(name) + " is a property. A batch gets and sets properties.");
   }
   const std::string list = "zq7 list " + std::string(member.owner->name);
-  throw WrongUse(Quoted(name) + " is no operation. " + Quoted(list) + " shows the operations.");
+  throw WrongUse(Quoted(name) + " is not an operation. " + Quoted(list) + " shows the operations.");
 }
 
 Text TextOfWord(const std::string& word) {
@@ -39,11 +39,11 @@ Text TextOfWord(const std::string& word) {
   return text;
 }
 
-/// The member of an enumeration by its name. Any other word that looks like a name
-/// would be no number either.
+/// The member of an enumeration by name. Any other word that looks like a name would not be a
+/// number either.
 Value EnumeratorOf(const EnumerationInfo& enumeration, const std::string& word) {
   if (const auto value = ValueOfEnumerator(enumeration, word)) return *value;
-  throw WrongUse(Quoted(word) + " is no " + std::string(enumeration.name) + "." +
+  throw WrongUse(Quoted(word) + " is not a member of " + std::string(enumeration.name) + "." +
                  EnumeratorHint(enumeration, word));
 }
 
@@ -52,7 +52,7 @@ Value ValueOfWord(const std::string& word, const TypeInfo& type) {
   return member ? EnumeratorOf(*type.enumeration, word) : Value(TextOfWord(word));
 }
 
-/// The arguments of a call, taken from its words one by one.
+/// Collects the arguments of a call word by word.
 class WordArguments {
  public:
   explicit WordArguments(const OperationInfo& operation) : operation_(operation) {}
@@ -70,7 +70,7 @@ class WordArguments {
   void TakePositional(const std::string& word) {
     const std::size_t place = positional_.size();
     const auto& parameters = operation_.parameters;
-    // One too many is told by the call.
+    // The call reports one argument too many.
     const TypeInfo type = place < parameters.size() ? parameters[place].type : TypeInfo();
     positional_.push_back(ValueOfWord(word, type));
   }
@@ -84,9 +84,9 @@ class WordArguments {
       if (SameName(parameter.name, name)) return parameter;
       names.emplace_back(parameter.name);
     }
-    throw WrongUse(Quoted(name) + " is no parameter of " + std::string(operation_.name) + "." +
+    throw WrongUse(Quoted(name) + " is not a parameter of " + std::string(operation_.name) + "." +
                    Hint(name, names) +
-                   R"( A text with "=" in it goes behind "--" or its parameter's name.)");
+                   R"( A text with "=" in it goes after "--" or its parameter's name.)");
   }
 
   const OperationInfo& operation_;

@@ -13,12 +13,12 @@ namespace ZQ7Tool {
 struct CallWords {
   std::string operation;               ///< "CLASS.OPERATION"
   std::vector<std::string> arguments;  ///< "ARG" and "NAME=ARG"
-  std::vector<std::string> verbatim;   ///< those behind "--": never a name
+  std::vector<std::string> verbatim;   ///< after "--": never names
 };
 
-/// Calls an operation on a new instance and returns its result. An argument is a text
-/// that the library converts, or the name of a member of the parameter's enumeration.
-/// Raises what the operation raises; `WrongUse` for words that are no call.
+/// Calls an operation on a new instance and returns its result. An argument is a text that the
+/// library converts, or the name of a member of the parameter's enumeration. Raises what the
+/// operation raises; `WrongUse` if the words are not a call.
 ZQ7Standard::Automation::Value CallByWords(const CallWords& words,
                                            const ZQ7Standard::Services& services);
 

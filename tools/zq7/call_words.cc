@@ -19,7 +19,7 @@ bool IsControl(char c) {
   return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
 }
 
-/// A word with control characters, which a terminal would act on: $'\x1bp0'.
+/// A word with its control characters, which a terminal would act on, escaped: $'\x1bp0'.
 std::string EscapedWord(std::string_view word) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   std::string escaped = "$'";

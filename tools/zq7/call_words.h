@@ -5,22 +5,20 @@
 #include <string_view>
 #include <vector>
 
-/// The words of a command line as a shell gives them, and which of them are the
-/// arguments of a call.
+/// The words of a command line as a shell passes them, and which of them are arguments of a call.
 namespace ZQ7Tool {
 
-/// Behind it every word is an argument by its position.
+/// After it every word is a positional argument.
 inline constexpr std::string_view kEndOfOptions = "--";
 
-/// Whether a word is an option of the tool. "-1" and "-abc" are none, so that negative
-/// numbers are arguments.
+/// Whether a word is an option of the tool. "-1" and "-abc" are not, so that negative numbers are
+/// arguments.
 bool IsOption(std::string_view word);
 
-/// The "NAME" of "NAME=ARG", which is letters, digits and "_"; empty for a word that is
-/// an argument by its position.
+/// The "NAME" of "NAME=ARG", made of letters, digits and "_"; empty for a positional argument.
 std::string_view ArgumentName(std::string_view word);
 
-/// The word as a shell takes it back: in quotation marks where it needs them.
+/// The word as a shell reads it back, in quotation marks if necessary.
 std::string ShellWord(std::string_view word);
 
 }  // namespace ZQ7Tool

@@ -54,7 +54,7 @@ void Batch(const Commands& commands, const Streams& streams) {
       return RunBatch(file, streams.out, commands.GetSettings());
     }
   } catch (const std::ios_base::failure&) {
-    // Told below: a folder, for one, opens and cannot be read.
+    // Reported below: a folder, for one, can be opened but not read.
   }
   const std::string reason = std::generic_category().message(errno);
   throw WrongUse("cannot read " + (name == "-" ? "standard input" : name) + ": " + reason);

@@ -15,7 +15,7 @@ enum ExitStatus : int {
   kWrongUse = 2,  ///< nothing was called, or the input cannot be read
 };
 
-/// What the tool reads and writes, and the columns that lines of help may take.
+/// The tool's input and outputs, and the number of columns for help.
 struct Streams {
   std::istream& in;
   std::ostream& out;
@@ -23,7 +23,7 @@ struct Streams {
   std::size_t width = 80;
 };
 
-/// Carries out the words behind the name of the program; returns the exit status.
+/// Executes the words after the program's name; returns the exit status.
 int Run(const std::vector<std::string>& words, const Streams& streams);
 
 }  // namespace ZQ7Tool

@@ -31,18 +31,18 @@ constexpr std::array<ConventionRow, 4> kConventions = {{
     {"dmy-buddhist", {FieldOrder::kDayFirst, Era::kBuddhist}},
 }};
 
-constexpr const char* kMoreHelp = R"( "zq7 --help" shows what the tool takes.)";
+constexpr const char* kMoreHelp = R"( "zq7 --help" shows the usage.)";
 
 OleDate Moment(const std::string& text) {
   if (const auto now = ReadIsoDate(text)) return *now;
-  throw WrongUse("--now " + Quoted(text) + R"( is no date such as "2024-01-15 09:30:00".)");
+  throw WrongUse("--now " + Quoted(text) + R"( is not a date such as "2024-01-15 09:30:00".)");
 }
 
 DateConvention ConventionNamed(const std::string& name) {
   const auto row = std::ranges::find(kConventions, name, &ConventionRow::name);
   if (row != kConventions.end()) return row->convention;
   throw WrongUse("--convention " + Quoted(name) +
-                 " is none of mdy, dmy, mdy-buddhist and dmy-buddhist.");
+                 " is not one of mdy, dmy, mdy-buddhist and dmy-buddhist.");
 }
 
 void AddOptionNames(std::vector<std::string>& names, const CLI::App& app) {
@@ -62,7 +62,7 @@ const CLI::Option& OptionOf(const std::string& word, const CLI::App& root,
     AddOptionNames(names, *app);
   }
   throw WrongUse("There is no option " + Quoted(word) + "." + Hint(name, names) +
-                 R"( Arguments that begin with "--" go behind a "--".)");
+                 R"( Arguments that begin with "--" go after "--".)");
 }
 
 CLI::Option* AddName(CLI::App* subcommand, const char* name, std::string& value,
@@ -94,13 +94,13 @@ Commands::Commands() : app_("Calls the operations of the ZQ7Standard library by 
   app_.get_formatter()->column_width(22);
   app_.set_version_flag("--version", VersionLines,
                         "Print the version, and which modules can be used.");
-  app_.set_help_flag("-h,--help", "Print what the tool, or a subcommand, takes.");
+  app_.set_help_flag("-h,--help", "Print the usage of the tool or of a subcommand.");
   app_.require_subcommand(1);
   app_.fallthrough();
   AddSettings();
 
   CLI::App* list = app_.add_subcommand("list", "List the classes, or the members of one.");
-  AddName(list, "CLASS", name_, "A class; the case of letters does not count.");
+  AddName(list, "CLASS", name_, "A class, in upper or lower case.");
 
   CLI::App* help = app_.add_subcommand("help", "Print the documentation of a class or a member.");
   AddName(help, "CLASS[.MEMBER]", name_, "A class, or one of its members.");
@@ -108,15 +108,15 @@ Commands::Commands() : app_("Calls the operations of the ZQ7Standard library by 
   CLI::App* call = app_.add_subcommand("call", "Call an operation of a new object.");
   AddName(call, "CLASS.OPERATION", call_.operation, "What to call.")->required();
   call->add_option("ARG", call_.arguments,
-                   "A value by its place, or NAME=VALUE. Behind \"--\"\nalways by its place.")
+                   "A value in its place, or NAME=VALUE. After \"--\"\nalways in its place.")
       ->type_name("");
   call->add_flag("--json", json_, "Print the result as a batch does.");
 
   CLI::App* batch = app_.add_subcommand("batch", "Answer calls written as lines of JSON.");
-  AddName(batch, "FILE", file_, "The lines; \"-\" or none for standard input.");
+  AddName(batch, "FILE", file_, "The lines; \"-\" or nothing for standard input.");
 
   for (CLI::App* subcommand : {list, help, call, batch}) {
-    subcommand->footer(R"(The options of "zq7 --help" stand anywhere.)");
+    subcommand->footer(R"(The options of "zq7 --help" may be anywhere on the line.)");
   }
 }
 
@@ -131,15 +131,15 @@ void Commands::AddSettings() {
           "Set how dates are typed: mdy, dmy, mdy-buddhist\nor dmy-buddhist.")
       ->type_name("NAME");
   app_.add_flag("--example", settings_.example,
-                "Run as the examples in the help: at 2024-01-15 09:30,\n"
-                "with dmy-buddhist; drive C:, registry and printer of\n"
-                "their own; no block cipher. Other drives, and paths\n"
+                "Run like the examples in the help: at 2024-01-15 09:30,\n"
+                "with dmy-buddhist, a drive C:, registry and printer of\n"
+                "its own, and no block cipher. Other drives, and paths\n"
                 "without a drive, are the machine's.");
 }
 
 void Commands::Parse(const std::vector<std::string>& words) {
   std::vector<std::string> rest = WithoutArguments(words);
-  std::ranges::reverse(rest);  // as the parser wants them
+  std::ranges::reverse(rest);  // the order that the parser expects
   try {
     app_.parse(std::move(rest));
   } catch (const CLI::Success&) {
@@ -149,12 +149,12 @@ void Commands::Parse(const std::vector<std::string>& words) {
   }
 }
 
-/// The words without the arguments of a call, which go to `call_`: to the parser some
-/// of them would be options, lists or empty.
+/// The words without the arguments of a call, which go to `call_`: the parser would read some of
+/// them as options or lists, or as missing.
 std::vector<std::string> Commands::WithoutArguments(const std::vector<std::string>& words) {
   std::vector<std::string> rest;
   const CLI::App* subcommand = nullptr;
-  bool has_target = false;  // the first word behind the subcommand
+  bool has_target = false;  // the first word after the subcommand
   bool verbatim = false;
   for (auto word = words.begin(); word != words.end(); ++word) {
     if (!verbatim && IsOption(*word)) {

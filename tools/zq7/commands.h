@@ -10,13 +10,13 @@
 
 namespace ZQ7Tool {
 
-/// The subcommands and options of the tool, and what a command line says of them.
+/// The subcommands and options of the tool, and their values on a command line.
 class Commands {
  public:
   Commands();
 
-  /// Takes the words behind the name of the program. `WrongUse` for what cannot be
-  /// carried out; `CLI::Success` where help or the version is asked for.
+  /// Parses the words after the program's name. Throws `WrongUse` if they cannot be executed, and
+  /// `CLI::Success` if they ask for help or the version.
   void Parse(const std::vector<std::string>& words);
 
   const CLI::App& App() const { return app_; }
@@ -25,7 +25,7 @@ class Commands {
 
   const Settings& GetSettings() const { return settings_; }
   const CallWords& Call() const { return call_; }
-  /// The class or member of `list` and `help`; empty for none.
+  /// The class or member of `list` and `help`; empty if there is none.
   const std::string& Name() const { return name_; }
   const std::string& File() const { return file_; }
   bool Json() const { return json_; }

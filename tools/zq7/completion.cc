@@ -19,7 +19,7 @@ std::string Lines(const std::vector<std::string>& words) {
   return lines;
 }
 
-/// The lines of a `case` for each operation that takes an enumeration.
+/// The `case` lines of operations with enumeration parameters.
 std::string MemberCases() {
   std::string cases;
   for (const ClassInfo& owner : Classes()) {

@@ -9,12 +9,12 @@
 
 namespace ZQ7Tool {
 
-/// Returns the value of the member with that name, whatever its case; nullopt if there is
-/// no such member.
+/// Returns the value of the member with that name, ignoring case; nullopt if there is no such
+/// member.
 std::optional<std::int32_t> ValueOfEnumerator(
     const ZQ7Standard::Automation::EnumerationInfo& enumeration, std::string_view name);
 
-/// " Did you mean X?" for the member nearest to a misspelt name; empty when none is near.
+/// " Did you mean X?" for the member nearest to a misspelt name; empty if none is close.
 std::string EnumeratorHint(const ZQ7Standard::Automation::EnumerationInfo& enumeration,
                            std::string_view misspelt);
 

@@ -19,7 +19,7 @@ using namespace ZQ7Standard::Automation;
 
 constexpr std::string_view kIndent = "  ";
 
-/// A date as it is typed day first in the Buddhist Era, which the examples run with.
+/// A date as typed day first in the Buddhist Era, the convention of the examples.
 std::string TypedDate(OleDate date) {
   std::string typed = std::to_string(date.Day()) + "/" + std::to_string(date.Month()) + "/" +
                       std::to_string(date.Year() + kBuddhistOffset);
@@ -27,14 +27,14 @@ std::string TypedDate(OleDate date) {
   return typed += iso.substr(std::string_view("2024-01-15").size());
 }
 
-/// The word that stands for an argument.
+/// The word for an argument.
 std::string WordFor(const Value& value, const TypeInfo& type) {
   if (const auto* date = std::get_if<OleDate>(&value)) return TypedDate(*date);
   return type.enumeration == nullptr ? PlainText(value) : Literal(value, type);
 }
 
-/// Whether a word can stand for an argument: one that is there, and in a text only what
-/// a command line can hold.
+/// Whether a word can express an argument: it must be present, and a text must be possible on a
+/// command line.
 bool IsWord(const Value& value) {
   const auto* text = std::get_if<Text>(&value);
   if (text == nullptr) {
@@ -65,7 +65,7 @@ Json Arguments(const std::vector<Value>& values) {
   return arguments;
 }
 
-/// The lines of a batch that make one object, and show what its last call gives.
+/// The batch lines that create an object and show the result of its last call.
 std::string BatchLines(const ClassInfo& owner, const OperationInfo& operation,
                        const Example& example) {
   std::vector<ZQ7Standard::Automation::Call> calls = example.before;

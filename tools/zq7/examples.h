@@ -7,8 +7,7 @@
 
 namespace ZQ7Tool {
 
-/// The worked examples of an operation as lines to paste into a shell, what they print
-/// below each.
+/// The worked examples of an operation as lines to paste into a shell, each followed by its output.
 std::string ExampleLines(const ZQ7Standard::Automation::ClassInfo& owner,
                          const ZQ7Standard::Automation::OperationInfo& operation);
 

@@ -26,10 +26,10 @@ std::string Section(std::string_view title, const std::string& lines) {
   return std::string("\n").append(title).append("\n").append(lines);
 }
 
-/// What a property is for, where it is not for both.
+/// What a property can be used for, if not both.
 std::string_view Access(const PropertyInfo& property) {
-  if (!property.writable) return ", only read";
-  return !property.readable ? ", only set" : "";
+  if (!property.writable) return ", read-only";
+  return !property.readable ? ", write-only" : "";
 }
 
 std::string PropertyRows(const ClassInfo& owner, std::size_t width) {
@@ -50,7 +50,7 @@ std::string EventRows(const ClassInfo& owner, std::size_t width) {
   return Columns(rows, kIndent, width);
 }
 
-/// The operations under the titles of their subjects.
+/// The operations grouped by subject.
 std::string OperationSections(const ClassInfo& owner, std::size_t width) {
   std::string sections;
   std::vector<Row> rows;
@@ -95,7 +95,7 @@ std::string EnumeratorRows(const EnumerationInfo& enumeration, std::size_t width
   return Columns(rows, kIndent, width);
 }
 
-/// The members of each enumeration that an operation takes or gives.
+/// The members of each enumeration that an operation takes or returns.
 std::string EnumerationSections(const OperationInfo& operation, std::size_t width) {
   std::vector<const EnumerationInfo*> enumerations;
   const auto add = [&](const TypeInfo& type) {
@@ -111,7 +111,7 @@ std::string EnumerationSections(const OperationInfo& operation, std::size_t widt
   return sections;
 }
 
-/// The name and its line of help, how it is written, and all there is to say.
+/// The name with its one-line help, the declaration, and the details.
 std::string Documentation(const std::string& name, std::string_view help,
                           const std::string& declaration, std::string_view details,
                           std::size_t width) {

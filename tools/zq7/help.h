@@ -7,20 +7,20 @@
 #include <string>
 #include <string_view>
 
-/// What `zq7 list` and `zq7 help` print, in lines of at most `width` columns as far as
-/// words allow.
+/// The output of `zq7 list` and `zq7 help`, in lines of at most `width` columns as far as words
+/// allow.
 namespace ZQ7Tool {
 
-/// Every class with a line of help.
+/// Every class with its one-line help.
 std::string ClassList(std::size_t width);
 
-/// The name of a class and its line of help.
+/// The name of a class and its one-line help.
 std::string ClassLine(const ZQ7Standard::Automation::ClassInfo& owner, std::size_t width);
 
 /// The properties, operations by subject, and events of a class.
 std::string MemberList(const ZQ7Standard::Automation::ClassInfo& owner, std::size_t width);
 
-/// The documentation of a class or of a member; `WrongUse` for a name that is none.
+/// The documentation of a class or a member; `WrongUse` if there is none with that name.
 std::string Help(std::string_view name, std::size_t width);
 
 }  // namespace ZQ7Tool

@@ -16,7 +16,7 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
-/// A new folder that nobody else may use.
+/// Creates a folder that nobody else may use.
 std::filesystem::path NewFolder() {
   const std::filesystem::path parent = std::filesystem::temp_directory_path();
   std::random_device random;

@@ -10,18 +10,18 @@
 
 namespace ZQ7Tool {
 
-/// What a command line sets in place of the machine.
+/// What a command line overrides of the machine.
 struct Settings {
   std::optional<ZQ7Standard::OleDate> now = std::nullopt;
   std::optional<ZQ7Standard::DateConvention> convention = std::nullopt;
-  bool example = false;  ///< run as the catalogue's examples do
+  bool example = false;  ///< run like the catalogue's examples
 };
 
-/// The services that the tool gives to the classes. Examples print nothing, and drive C:
-/// is to them a temporary folder with a folder "shop" in it, which goes with the host.
+/// The services that the tool provides to classes. Examples print nothing, and their drive C: is a
+/// temporary folder that contains a folder "shop" and is removed with the host.
 class Host {
  public:
-  /// `message_box` hears the messages of the classes.
+  /// `message_box` receives the messages of the classes.
   Host(const Settings& settings, std::shared_ptr<ZQ7Standard::MessageBox> message_box);
   ~Host();
   Host(const Host&) = delete;
@@ -31,10 +31,10 @@ class Host {
 
  private:
   ZQ7Standard::Services services_;
-  std::filesystem::path example_drive_;  // empty for none
+  std::filesystem::path example_drive_;  // empty if there is none
 };
 
-/// The block cipher that the library was built with; empty for none.
+/// The block cipher that the library was built with; empty if there is none.
 ZQ7Standard::BlockCipherFactory BuiltInBlockCipher();
 
 }  // namespace ZQ7Tool

@@ -15,7 +15,7 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// Whether `text` follows the front of `pattern`, where "0" is any digit and " " also "T".
+/// Whether `text` matches the front of `pattern`, in which "0" is any digit and " " also "T".
 bool Follows(std::string_view text, std::string_view pattern) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool fits = pattern[i] == '0'   ? IsDigit(text[i])

@@ -9,14 +9,14 @@
 
 namespace ZQ7Tool {
 
-/// "2024-01-15 09:30:00": a Gregorian year, whatever the date convention.
+/// "2024-01-15 09:30:00": in the Gregorian calendar, whatever the date convention.
 std::string IsoDateTime(ZQ7Standard::OleDate date);
 
-/// The same, and the day alone for a date without a time of day.
+/// The same, but only the day for a date without a time of day.
 std::string IsoDate(ZQ7Standard::OleDate date);
 
-/// Reads "2024-01-15", "2024-01-15 09:30" and "2024-01-15 09:30:00", a blank or "T"
-/// between; nothing for any other text and for what is no date.
+/// Reads "2024-01-15", "2024-01-15 09:30" and "2024-01-15 09:30:00", also with a "T" in the middle;
+/// nullopt for any other text and for dates that do not exist.
 std::optional<ZQ7Standard::OleDate> ReadIsoDate(std::string_view text);
 
 }  // namespace ZQ7Tool

@@ -14,11 +14,11 @@ namespace {
 
 constexpr const char* kTooLarge = "a number is too large";
 
-/// The parser stops at a number that its type cannot hold; an id may pass the doubles.
+/// The parser rejects numbers beyond its type; an id may exceed a double.
 using WideJson = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool,
                                       std::int64_t, std::uint64_t, long double>;
 
-/// Builds a tree of what the parser finds, within the limits, and writes the id.
+/// Builds a tree from the parser's events, within the limits, and copies the id.
 class LineBuilder final : public WideJson::json_sax_t {
  public:
   LineBuilder(Json& root, std::string* id) : root_(root), id_(id) {}
@@ -33,13 +33,13 @@ class LineBuilder final : public WideJson::json_sax_t {
   bool end_object() override { return Close('}'); }
   bool end_array() override { return Close(']'); }
 
-  // The parser calls this for numbers with a "-" alone.
+  // The parser calls this only for numbers with a "-".
   bool number_integer(number_integer_t value) override {
     return value == 0 ? AddNumber(value, "-0") : Add(value);
   }
 
   bool number_float(number_float_t /*wide*/, const string_t& text) override {
-    // The wide number would be rounded a second time.
+    // The wide number would be rounded twice.
     const double number = std::strtod(text.c_str(), nullptr);
     if (!in_id_ && !std::isfinite(number)) throw JsonError(kTooLarge);
     return AddNumber(number, text);
@@ -47,7 +47,7 @@ class LineBuilder final : public WideJson::json_sax_t {
 
   bool key(string_t& name) override {
     const Json& object = *open_.back();
-    if (object.contains(name)) throw JsonError(Quoted(name) + " stands there twice");
+    if (object.contains(name)) throw JsonError(Quoted(name) + " appears twice");
     if (object.size() == kMaxJsonMembers) throw JsonError("an object has too many members");
     if (open_.size() == 1) {
       in_id_ = id_ != nullptr && name == "id";
@@ -62,7 +62,7 @@ class LineBuilder final : public WideJson::json_sax_t {
                    const nlohmann::detail::exception& error) override {
     constexpr int kOutOfRange = 406;
     if (error.id == kOutOfRange) throw JsonError(kTooLarge);
-    // What went wrong comes before what was read, which may say "surrogate" as well.
+    // The cause precedes the quoted input, which may say "surrogate" as well.
     const std::string_view what = error.what();
     const bool surrogate = what.find("surrogate") < what.find("last read");
     const std::string place = " at byte " + std::to_string(position);
@@ -104,7 +104,7 @@ class LineBuilder final : public WideJson::json_sax_t {
     return true;
   }
 
-  /// Writes a key or the beginning of a value, after a comma where one is due.
+  /// Writes a key or the start of a value, after a comma if necessary.
   void Echo(std::string_view text) {
     constexpr std::string_view kNothingBefore = "[{:";
     if (!id_->empty() && kNothingBefore.find(id_->back()) == std::string_view::npos) *id_ += ',';
@@ -113,15 +113,15 @@ class LineBuilder final : public WideJson::json_sax_t {
 
   Json& root_;
   std::string* id_;          // null if it is not wanted
-  bool in_id_ = false;       // within the member "id" of the root, which is wanted
-  std::vector<Json*> open_;  // from the root to what is being filled
+  bool in_id_ = false;       // inside the requested member "id" of the root
+  std::vector<Json*> open_;  // from the root to the innermost open one
   std::string key_;
 };
 
 }  // namespace
 
 Json ReadJson(std::string_view text, std::string* id) {
-  // The parser takes a NUL for the end.
+  // The parser would take a NUL for the end.
   if (text.find('\0') != std::string_view::npos) throw JsonError("a NUL byte in the line");
   if (id != nullptr) id->clear();
   Json root;

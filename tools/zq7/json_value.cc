@@ -33,14 +33,14 @@ constexpr std::array<SpecialNumber, 3> kSpecialNumbers = {{
     {"-Infinity", -std::numeric_limits<double>::infinity()},
 }};
 
-[[noreturn]] void Refuse(const Json& json, const std::string& wanted) {
+[[noreturn]] void Refuse(const Json& json, const std::string& mistake) {
   constexpr std::size_t kLongest = 60;
   const std::string text = WriteJson(json);
-  throw JsonError((text.size() > kLongest ? "a long value" : text) + " is " + wanted);
+  throw JsonError((text.size() > kLongest ? "a long value" : text) + " is " + mistake);
 }
 
 const std::string& StringOf(const Json& json) {
-  if (!json.is_string()) Refuse(json, "no string");
+  if (!json.is_string()) Refuse(json, "not a string");
   return json.get_ref<const std::string&>();
 }
 
@@ -55,12 +55,12 @@ Value Number(const Json& json) {
 Value SpecialNumberNamed(const Json& json) {
   if (json.is_number()) return json.get<double>();
   const auto special = std::ranges::find(kSpecialNumbers, StringOf(json), &SpecialNumber::name);
-  if (special == kSpecialNumbers.end()) Refuse(json, "no double");
+  if (special == kSpecialNumbers.end()) Refuse(json, "not a double");
   return special->value;
 }
 
 OleDate DateOfDays(const Json& days) {
-  if (!days.is_number()) Refuse(days, "no number of days");
+  if (!days.is_number()) Refuse(days, "not a number of days");
   try {
     return OleDate(days.get<double>());
   } catch (const RunTimeError&) {
@@ -70,16 +70,16 @@ OleDate DateOfDays(const Json& days) {
 
 OleDate DateOfText(const Json& text) {
   const auto date = ReadIsoDate(StringOf(text));
-  if (!date) Refuse(text, R"(no date such as "2024-01-15 09:30:00")");
+  if (!date) Refuse(text, R"(not a date such as "2024-01-15 09:30:00")");
   return *date;
 }
 
-/// A result given back has both forms, of which the days tell more.
+/// A result passed back has both forms; the days are more precise.
 Value DateOf(const Json& object) {
   if (!object.contains("days")) return DateOfText(object["date"]);
   const OleDate date = DateOfDays(object["days"]);
   if (object.contains("date") && IsoDateTime(date) != IsoDateTime(DateOfText(object["date"]))) {
-    Refuse(object, "two dates");
+    Refuse(object, "two different dates");
   }
   return date;
 }
@@ -126,17 +126,17 @@ Value CurrencyOf(const Json& json) {
   try {
     return Currency::FromText(FromUtf8(StringOf(json)));
   } catch (const RunTimeError&) {
-    Refuse(json, R"(no amount such as "10.3000")");
+    Refuse(json, R"(not an amount such as "10.3000")");
   }
 }
 
 Value ObjectOf(const Json& json, const NamedObjects& objects) {
   const auto found = objects.find(StringOf(json));
-  if (found == objects.end()) Refuse(json, "the name of no object");
+  if (found == objects.end()) Refuse(json, "not the name of an object");
   return found->second;
 }
 
-/// An object that stands for a value, by its one key, or the two of a date.
+/// The value of an object with a single key that names its type, or the two of a date.
 Value Tagged(const Json& json, const NamedObjects& objects) {
   const bool date = json.contains("date") || json.contains("days");
   const bool both = json.contains("date") && json.contains("days");
@@ -146,7 +146,7 @@ Value Tagged(const Json& json, const NamedObjects& objects) {
     if (json.contains("double")) return SpecialNumberNamed(json["double"]);
     if (json.contains("object")) return ObjectOf(json["object"], objects);
   }
-  Refuse(json, "no value");
+  Refuse(json, "not a value");
 }
 
 TextList ListOf(const Json& json) {
@@ -155,8 +155,7 @@ TextList ListOf(const Json& json) {
   return list;
 }
 
-/// A single as the double that its shortest text is read as, so that it is written by
-/// that text.
+/// A single as the double that its shortest text reads as, so that it is written as that text.
 double AsPrinted(float number) {
   std::array<char, 32> text;
   const auto end = std::to_chars(text.begin(), text.end(), number);

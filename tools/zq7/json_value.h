@@ -18,7 +18,7 @@
 ///     single, double       7.5; {"double":"NaN"}, "Infinity", "-Infinity"
 ///     Boolean              true
 ///     date                 {"date":"2024-01-15 09:30:00","days":45306.395833333336},
-///                          one of the two being enough
+///                          either of which suffices
 ///     currency             {"currency":"10.3000"}
 ///     list of texts        ["a","b"]
 ///     object               {"object":"grid1"}, by its name
@@ -26,13 +26,13 @@ namespace ZQ7Tool {
 
 using NamedObjects = std::map<std::string, ZQ7Standard::Automation::Object, std::less<>>;
 
-/// `JsonError` for what is none of these.
+/// Throws `JsonError` for anything else.
 ZQ7Standard::Automation::Value ValueOfJson(const Json& json, const NamedObjects& objects = {});
 
-/// A text alone.
+/// The JSON of a text.
 Json JsonOfText(ZQ7Standard::TextView text);
 
-/// The name of an object without one is null.
+/// An object without a name is written as null.
 Json JsonOfValue(const ZQ7Standard::Automation::Value& value, const NamedObjects& objects = {});
 
 }  // namespace ZQ7Tool

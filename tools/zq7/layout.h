@@ -6,12 +6,11 @@
 #include <string_view>
 #include <vector>
 
-/// Lines of UTF-8 for a terminal, each ended.
+/// Text for terminals, as complete lines of UTF-8.
 namespace ZQ7Tool {
 
-/// `prefix` and then `words` with a blank between, as many as fit on each line of
-/// `width` columns; the lines below the first are indented. Thai marks that stand above
-/// or below a letter take no column.
+/// Fills lines of `width` columns with `prefix` and then `words`, separated by blanks; all lines
+/// but the first are indented. Thai marks above or below a letter occupy no column.
 std::string Filled(std::string_view prefix, const std::vector<std::string>& words,
                    std::size_t indent, std::size_t width);
 
@@ -19,8 +18,8 @@ std::string Filled(std::string_view prefix, const std::vector<std::string>& word
 std::string Wrapped(std::string_view prefix, std::string_view text, std::size_t indent,
                     std::size_t width);
 
-/// The paragraphs of a documentation, parted by blank lines, each filled anew; one that
-/// begins with two blanks stays as it is.
+/// The paragraphs of a documentation, separated by blank lines, each refilled; one that begins with
+/// two blanks is kept as it is.
 std::string Paragraphs(std::string_view documentation, std::size_t width);
 
 struct Row {
@@ -28,7 +27,7 @@ struct Row {
   std::string text;
 };
 
-/// Names and, beside them in a column of their own, what is said of them.
+/// Names and, in a second column, their texts.
 std::string Columns(const std::vector<Row>& rows, std::size_t indent, std::size_t width);
 
 }  // namespace ZQ7Tool

@@ -9,19 +9,19 @@
 
 namespace ZQ7Tool {
 
-/// Reads lines of up to `kMaxLine` bytes one at a time; of a longer one no more is held
-/// than that.
+/// Reads lines of up to `kMaxLine` bytes, one at a time, and never holds more than that of a longer
+/// line.
 class LineReader {
  public:
   static constexpr std::size_t kMaxLine = std::size_t{16} << 20;
 
-  /// `before_wait` is called before a read that may have to wait for more input.
+  /// `before_wait` is called before a read that may have to wait for input.
   LineReader(std::streambuf& source, std::function<void()> before_wait);
 
   enum class Found { kLine, kTooLong, kEnd };
 
-  /// The next line without its end, valid until the next call. What the source throws
-  /// reaches the caller.
+  /// The next line without its end, valid until the next call. Exceptions of the source reach the
+  /// caller.
   Found Next(std::string_view& line);
 
  private:
@@ -31,7 +31,7 @@ class LineReader {
   std::streambuf& source_;
   std::function<void()> before_wait_;
   std::string buffer_;
-  std::size_t start_ = 0;  // of what is not taken yet
+  std::size_t start_ = 0;  // of what has not been returned yet
 };
 
 }  // namespace ZQ7Tool

@@ -1,4 +1,4 @@
-// The command-line tool of the library: its classes by name.
+// The command-line tool: calls the library's classes by name.
 
 #include <algorithm>
 #include <iostream>
@@ -9,8 +9,8 @@
 int main(int argc, char** argv) {
   constexpr std::size_t kDefaultColumns = 80;
   constexpr std::size_t kFewestColumns = 40;
-  // Without buffers shared with C, input is read in blocks, and a failed read is told
-  // from the end.
+  // Without sharing buffers with C, input is read in blocks, and read errors are distinguished from
+  // the end.
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
   const std::size_t columns = ZQ7Tool::TerminalColumns().value_or(kDefaultColumns);

@@ -10,7 +10,7 @@ namespace {
 
 using namespace ZQ7Standard::Automation;
 
-/// `text` with what the formatter would take for its own escaped.
+/// `text` with everything escaped that the formatter would interpret.
 std::string Escaped(std::string_view text) {
   std::string escaped;
   for (const char c : text) {

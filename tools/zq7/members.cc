@@ -15,7 +15,7 @@ using namespace ZQ7Standard::Automation;
 std::string ClassHint(std::string_view name) {
   std::vector<std::string> names;
   for (const ClassInfo& owner : Classes()) {
-    // The name of an operation alone lacks its class.
+    // The name of an operation without its class.
     if (const auto* operation = FindOperation(owner, name)) {
       return " Did you mean " + QualifiedName(owner, operation->name) + "?";
     }

@@ -7,7 +7,7 @@
 
 namespace ZQ7Tool {
 
-/// What "CLASS.MEMBER" names: a class, and of its members at most one.
+/// What "CLASS.MEMBER" names: a class and at most one of its members.
 struct Member {
   const ZQ7Standard::Automation::ClassInfo* owner = nullptr;
   const ZQ7Standard::Automation::OperationInfo* operation = nullptr;
@@ -15,7 +15,7 @@ struct Member {
   const ZQ7Standard::Automation::EventInfo* event = nullptr;
 };
 
-/// The class or the member with that name; `WrongUse` with the nearest one for none.
+/// The class or member with that name; if there is none, throws `WrongUse` with the nearest.
 Member MemberNamed(std::string_view name);
 
 }  // namespace ZQ7Tool

@@ -11,9 +11,9 @@ bool IsIdentifierCharacter(char c) {
   return (Lower(c) >= 'a' && Lower(c) <= 'z') || (c >= '0' && c <= '9') || c == '_';
 }
 
-/// The letters to put in, take out or change to make one name of the other.
+/// The number of letters to insert, delete or change to turn one name into the other.
 std::size_t EditDistance(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);  // of the front of `a` so far to each front of `b`
+  std::vector<std::size_t> row(b.size() + 1);  // from the prefix of `a` so far to those of `b`
   std::iota(row.begin(), row.end(), std::size_t{0});
   for (std::size_t i = 0; i < a.size(); ++i) {
     std::size_t diagonal = row[0];
@@ -27,7 +27,7 @@ std::size_t EditDistance(std::string_view a, std::string_view b) {
   return row.back();
 }
 
-/// The same for a name that may also be cut off.
+/// The same for a name that may also be cut short.
 std::size_t DistanceFrom(std::string_view name, std::string_view candidate) {
   const std::size_t cut = EditDistance(name, candidate.substr(0, name.size())) + 1;
   return std::min(EditDistance(name, candidate), cut);
@@ -45,8 +45,7 @@ bool IsIdentifier(std::string_view word) {
 }
 
 std::string Hint(std::string_view misspelt, const std::vector<std::string>& candidates) {
-  // One letter in three may be wrong; past that, two names have nothing to do with
-  // each other.
+  // One letter in three may be wrong; beyond that, two names are unrelated.
   std::size_t nearest = (misspelt.size() + 2) / 3 + 1;
   const std::string* found = nullptr;
   for (const std::string& candidate : candidates) {

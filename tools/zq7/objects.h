@@ -7,7 +7,7 @@
 
 namespace ZQ7Tool {
 
-/// What a call of the tool is made of.
+/// The parts of a call of the tool.
 struct TypedCall {
   const ZQ7Standard::Automation::ClassInfo& owner;
   const ZQ7Standard::Automation::OperationInfo& operation;
@@ -15,8 +15,8 @@ struct TypedCall {
   std::vector<ZQ7Standard::Automation::NamedArgument> named = {};
 };
 
-/// Calls `change` with each argument and its parameter. An argument of which there is no
-/// parameter is left to the call, which refuses it.
+/// Calls `change` with each argument and its parameter. An argument without a parameter is left to
+/// the call, which refuses it.
 template <typename Change>
 void ForEachArgument(TypedCall& call, const Change& change) {
   const auto& parameters = call.operation.parameters;
@@ -30,9 +30,9 @@ void ForEachArgument(TypedCall& call, const Change& change) {
   }
 }
 
-/// Makes the objects that texts stand for among the arguments: a new one of the class that
-/// the text names; the picture of a file, by its path, in place of a `PrintPicture`. Raises
-/// 13 for any other text, and what a picture raises.
+/// Replaces the texts among the arguments that stand for objects: the name of a class by a new
+/// object of it; for a `PrintPicture`, the path of a file by its picture. Raises 13 for any other
+/// text, and what a picture raises.
 void MakeObjects(TypedCall& call, const ZQ7Standard::Services& services);
 
 }  // namespace ZQ7Tool

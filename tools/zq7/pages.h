@@ -4,11 +4,11 @@
 #include <map>
 #include <string>
 
-/// What is installed beside the tool: zq7.1 and zq7.bash, which are zq7.1.in and zq7.bash.in
-/// with each "@NAME@" filled from the catalogue and the command line by scripts/pages.
+/// The pages installed with the tool, zq7.1 and zq7.bash: zq7.1.in and zq7.bash.in with each
+/// "@NAME@" filled from the catalogue and the command line by scripts/pages.
 namespace ZQ7Tool {
 
-/// The text for each "@NAME@", in lines.
+/// The lines for each "@NAME@".
 using Fields = std::map<std::string, std::string>;
 
 /// Of the manual page zq7(1).

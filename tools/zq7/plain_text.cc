@@ -15,7 +15,7 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
-/// Numbers of an ordinary size are written out, the others with an exponent.
+/// Numbers of ordinary size are written out, others with an exponent.
 std::string FloatingText(std::floating_point auto number) {
   if (std::isnan(number)) return "NaN";
   if (std::isinf(number)) return number > 0 ? "Infinity" : "-Infinity";

@@ -7,13 +7,11 @@
 
 namespace ZQ7Tool {
 
-/// A value in one line of UTF-8: a text as it is, True and False, the shortest number
-/// that reads back the same, dates as `IsoDate`. A surrogate without its partner is
-/// U+FFFD. Empty for `Omitted`.
+/// A value in one line of UTF-8: a text as it is, True and False, the shortest number that reads
+/// back the same, dates as `IsoDate`. A lone surrogate becomes U+FFFD. Empty for `Omitted`.
 std::string PlainText(const ZQ7Standard::Automation::Value& value);
 
-/// The lines that a result is printed as: one for each item of a list, none for no
-/// result.
+/// The printed lines of a result: one per item of a list; none if there is no result.
 std::string PlainLines(const ZQ7Standard::Automation::Value& result);
 
 }  // namespace ZQ7Tool

@@ -6,7 +6,7 @@
 
 namespace ZQ7Tool {
 
-/// The columns of the terminal that standard output is; nothing when it is none.
+/// The columns of the terminal on standard output; nullopt if that is not a terminal.
 std::optional<std::size_t> TerminalColumns();
 
 }  // namespace ZQ7Tool

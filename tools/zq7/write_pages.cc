@@ -33,8 +33,7 @@ std::string Filled(Path page, const Fields& fields) {
 
 bool Check(const Path& page, const Fields& fields) {
   if (Content(page) == Filled(page, fields)) return true;
-  std::cerr << page.string() << " is not what the catalogue and the command line say. "
-            << "scripts/pages writes it anew.\n";
+  std::cerr << page.string() << " is out of date: run scripts/pages.\n";
   return false;
 }
 

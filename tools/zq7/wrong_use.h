@@ -5,7 +5,7 @@
 
 namespace ZQ7Tool {
 
-/// A command line that the tool cannot carry out, told in UTF-8 with a hint.
+/// A command line that the tool cannot execute: a message in UTF-8, with a hint.
 class WrongUse : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -1,4 +1,4 @@
-# Completion of zq7 for bash. The case of letters does not count.
+# Completion of zq7 for bash, ignoring case.
 
 _zq7_options="
   --version
@@ -230,7 +230,7 @@ _zq7_others="
   SerialPort.Output
 "
 
-# Offers those of the words in $1 that begin with $2.
+# Offers the words in $1 that begin with $2.
 _zq7_offer() {
   local word
   for word in $1; do
@@ -238,7 +238,7 @@ _zq7_offer() {
   done
 }
 
-# The members of the enumerations that the operation $1 takes.
+# The members of the enumerations of the parameters of operation $1.
 _zq7_members() {
   case ${1,,} in
     registryobject.getkeyvaluelong) echo HKEY_CLASSES_ROOT HKEY_CURRENT_USER HKEY_LOCAL_MACHINE HKEY_PERFORMANCE_DATA HKEY_USERS ;;

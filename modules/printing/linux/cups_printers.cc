@@ -14,7 +14,7 @@
 namespace ZQ7Standard {
 namespace {
 
-/// The address of a printer on its server, with what is not for addresses encoded.
+/// The URI of a printer on its server, percent-encoded.
 std::string UriOf(const std::string& printer) {
   std::array<char, HTTP_MAX_URI> uri{};
   httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp", nullptr,
@@ -22,7 +22,7 @@ std::string UriOf(const std::string& printer) {
   return uri.data();
 }
 
-/// The part of an address behind the host.
+/// The path of a URI.
 std::string PathOf(const std::string& uri) {
   return uri.substr(uri.find('/', std::string_view("ipp://").size()));
 }
@@ -36,7 +36,7 @@ IppMessage RequestFor(ipp_op_t operation, const std::string& printer) {
   return request;
 }
 
-/// The first text of an attribute; empty when there is none.
+/// The first text of an attribute; empty if there is none.
 std::string TextOf(ipp_attribute_t* attribute) {
   const char* const text = ippGetString(attribute, 0, nullptr);
   return text == nullptr ? "" : text;
@@ -53,19 +53,19 @@ bool IsNumber(ipp_tag_t tag) {
   return tag == IPP_TAG_ENUM || tag == IPP_TAG_INTEGER;
 }
 
-/// The default that a printer tells for a setting; empty when it tells none.
+/// The printer's default for a setting; empty if it reports none.
 std::string DefaultName(ipp_t* printer, const SettingNames& setting) {
   const std::string name = setting.attribute + std::string("-default");
   ipp_attribute_t* const attribute = ippFindAttribute(printer, name.c_str(), IPP_TAG_ZERO);
   if (IsNumber(ippGetValueTag(attribute))) return std::to_string(ippGetInteger(attribute, 0));
-  // Some printers answer with a word where a number is wanted, and so tell nothing.
+  // Some printers answer with a word instead of a number, which tells nothing.
   if (setting.kind == NameKind::kNumber) return "";
   if (attribute != nullptr) return TextOf(attribute);
   ipp_attribute_t* const media = ippFindAttribute(printer, "media-col-default", IPP_TAG_ZERO);
   return TextOf(ippFindAttribute(ippGetCollection(media, 0), setting.attribute, IPP_TAG_ZERO));
 }
 
-/// Adds a paper from a bin, which only a collection can say.
+/// Adds a paper from a bin, which only a collection can express.
 void AddPaperFromBin(ipp_t* job, const std::string& paper, const std::string& bin) {
   const IppMessage collection(ippNew());
   if (const pwg_media_t* const media = pwgMediaForPWG(paper.c_str())) {
@@ -84,7 +84,7 @@ void AddNumber(ipp_t* job, const char* attribute, const std::string& number) {
   ippAddInteger(job, IPP_TAG_JOB, IPP_TAG_ENUM, attribute, std::stoi(number));
 }
 
-/// Adds what is set of a printer to a job for it.
+/// Adds a printer's settings to a job.
 void AddSettings(ipp_t* job, const SettingValues& values) {
   const auto& [orientation, paper, bin, quality] = values;
   AddNumber(job, "orientation-requested", orientation.name);
@@ -128,7 +128,7 @@ class CupsQueue final : public NamedSettings {
     return attribute != nullptr && ippContainsString(attribute, name.c_str()) != 0;
   }
 
-  /// What the server knows of the printer, as it was when it was first asked.
+  /// The server's attributes of the printer, as of the first call.
   ipp_t* Attributes() {
     if (attributes_) return attributes_.get();
     const IppMessage request = RequestFor(IPP_OP_GET_PRINTER_ATTRIBUTES, name_);

@@ -8,19 +8,17 @@
 
 namespace ZQ7Standard {
 
-// The printers of the CUPS server that the environment names. Each request has a
-// connection of its own, so that a server that went away and came back is found
-// again, and ends in time (`QuestionTime`). What fails raises error 482.
+// The printers of the environment's CUPS server. Each request has its own connection, so that a
+// server that went away is found again when it returns, and has a time limit (`QuestionTime`).
+// Failures raise error 482.
 
-/// The names of its printers, in the order of the server; none where no server
-/// answers.
+/// The names of its printers, in the server's order; empty if no server answers.
 std::vector<std::string> CupsPrinterNames();
 
-/// The name of the printer that the user or the server has as default; empty when
-/// there is none.
+/// The name of the user's or server's default printer; empty if there is none.
 std::string CupsDefaultName();
 
-/// The printer of that name, with the settings that the server has for it.
+/// The printer of that name, with its settings on the server.
 Printer CupsPrinter(const std::string& name);
 
 }  // namespace ZQ7Standard

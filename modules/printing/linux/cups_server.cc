@@ -13,7 +13,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds kQuestions{5};
 constexpr std::chrono::seconds kJob{30};
-constexpr double kLookSeconds = 0.05;  // how often a silent server is given up or not
+constexpr double kLookSeconds = 0.05;  // how often to check whether to give up on a silent server
 
 /// The questions that a thread is about to ask.
 struct Questions {
@@ -28,7 +28,7 @@ Clock::time_point EndOf(Purpose purpose) {
   return questions ? questions->end : Clock::now() + kQuestions;
 }
 
-/// Whether to wait on for a server; `end` is a time point.
+/// Whether to keep waiting for a server; `end` is a time point.
 int HasTime(http_t* /*server*/, void* end) {
   return Clock::now() < *static_cast<Clock::time_point*>(end) ? 1 : 0;
 }
@@ -61,7 +61,7 @@ CupsServer::CupsServer(Purpose purpose) : end_(EndOf(purpose)) {
 }
 
 void CupsServer::Connect() {
-  // A handshake has no end before `httpSetTimeout`, so the encryption comes after it.
+  // A handshake has no time limit before `httpSetTimeout`, so encryption starts after it.
   const http_encryption_t wanted = cupsEncryption();
   const bool encrypts = wanted == HTTP_ENCRYPTION_REQUIRED || wanted == HTTP_ENCRYPTION_ALWAYS;
   http_.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
@@ -72,7 +72,7 @@ void CupsServer::Connect() {
   if (encrypts && httpEncryption(http_.get(), wanted) != 0) Fail();
 }
 
-/// From 1: CUPS takes 0 for time without end.
+/// At least 1: for CUPS, 0 means no limit.
 int CupsServer::MillisecondsLeft() const {
   const auto left = std::chrono::ceil<std::chrono::milliseconds>(end_ - Clock::now());
   if (left.count() <= 0) Fail();
@@ -98,8 +98,7 @@ http_status_t CupsServer::Send(const IppMessage& request, const std::string& pat
   return cupsWriteRequestData(http_.get(), data.data(), data.size());
 }
 
-/// The message that a server answers with. CUPS's own way of reading it would take a
-/// short pause for the end.
+/// A server's answer. CUPS's own reader would take a short pause for the end.
 IppMessage CupsServer::Receive() {
   IppMessage answer(ippNew());
   ipp_state_t state = IPP_STATE_IDLE;
@@ -110,7 +109,7 @@ IppMessage CupsServer::Receive() {
   return answer;
 }
 
-/// Reads for CUPS, until the buffer is full or the time is up.
+/// Reads for CUPS until the buffer is full or the time is up.
 ssize_t CupsServer::ReadOn(void* server, ipp_uchar_t* buffer, std::size_t size) {
   const auto& self = *static_cast<CupsServer*>(server);
   std::size_t count = 0;
@@ -123,8 +122,8 @@ ssize_t CupsServer::ReadOn(void* server, ipp_uchar_t* buffer, std::size_t size) 
   return static_cast<ssize_t>(count);
 }
 
-/// Connects anew in the way that `status` asks for, which may be as a user whom the
-/// machine vouches for. Fails where that is not what it asks.
+/// Reconnects in the way that `status` asks for, which may include authentication as a user known
+/// to this machine. Fails if it asks for something else.
 void CupsServer::TryOtherwise(http_status_t status, const std::string& path) {
   httpFlush(http_.get());
   const bool has_way = status == HTTP_STATUS_UPGRADE_REQUIRED ||
@@ -137,7 +136,7 @@ void CupsServer::TryOtherwise(http_status_t status, const std::string& path) {
 
 std::string CupsServer::DefaultPrinter() {
   if (!IsThere()) Fail();
-  // CUPS reads the answer itself: a pause may last as long as there is time.
+  // CUPS reads the answer itself: a pause may last as long as time is left.
   httpSetTimeout(http_.get(), MillisecondsLeft() / 1000.0, HasTime, &end_);
   const char* const name = cupsGetDefault2(http_.get());
   if (name != nullptr) return name;

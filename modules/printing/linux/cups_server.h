@@ -15,9 +15,9 @@ namespace ZQ7Standard {
 /// A request to a print server, or its answer.
 using IppMessage = Handle<ipp_t, ippDelete>;
 
-/// While one is there, the questions that its thread asks the print server have 5
-/// seconds together, and a server that was not reached is not looked for again. Without
-/// one each question has 5 seconds of its own. One inside another changes nothing.
+/// As long as one exists, the questions of its thread to the print server share 5 seconds, and a
+/// server that was not reached is not tried again. Without one each question has 5 seconds of its
+/// own. Nesting has no effect.
 class QuestionTime {
  public:
   QuestionTime();
@@ -29,14 +29,14 @@ class QuestionTime {
   bool outermost_;
 };
 
-/// What a connection is for, which says how long it may last.
+/// The purpose of a connection, which decides how long it may last.
 enum class Purpose : std::uint8_t {
   kQuestion,  ///< as long as `QuestionTime` says
   kJob,       ///< 30 seconds
 };
 
-/// While one is there, CUPS asks nobody for a password on this thread; afterwards it
-/// asks on the terminal, as it does of itself.
+/// As long as one exists, CUPS asks nobody for a password on this thread; afterwards it asks on the
+/// terminal, as it does by default.
 struct NoPassword {
   NoPassword();
   NoPassword(const NoPassword&) = delete;
@@ -44,8 +44,8 @@ struct NoPassword {
   ~NoPassword();
 };
 
-/// A connection to the print server that the environment names. What fails raises a
-/// error 482, a connection whose time is up included.
+/// A connection to the environment's print server. Failures, including time running out, raise
+/// error 482.
 class CupsServer {
  public:
   explicit CupsServer(Purpose purpose);
@@ -53,13 +53,13 @@ class CupsServer {
   CupsServer& operator=(const CupsServer&) = delete;
   ~CupsServer() = default;
 
-  /// Whether a server was reached. What follows raises where none was.
+  /// Whether a server was reached. If not, all other calls raise.
   bool IsThere() const { return http_ != nullptr; }
 
   /// The answer to `request` and the `data` after it, sent to `path`; it may be a refusal.
   IppMessage Ask(const IppMessage& request, const std::string& path, std::string_view data = {});
 
-  /// The default printer of the user or the server; empty when there is none.
+  /// The default printer of the user or the server; empty if there is none.
   std::string DefaultPrinter();
 
  private:

@@ -23,7 +23,7 @@ const CodeName* RowOf(const SettingNames& setting, std::int16_t code) {
   return row == setting.names.end() ? nullptr : &*row;
 }
 
-/// The sheet of a paper; A4 for one that has no size of its own.
+/// The sheet of a paper; A4 if it has no fixed size.
 PageSize SheetOf(const std::string& paper) {
   const pwg_media_t* const media = pwgMediaForPWG(paper.c_str());
   if (media == nullptr || media->width <= 0 || media->length <= 0) return kA4;

@@ -12,7 +12,7 @@
 
 namespace ZQ7Standard {
 
-/// The value of a setting; the name is empty where the printer tells none.
+/// The value of a setting; the name is empty if the printer reports none.
 struct SettingValue {
   std::int16_t code = 0;
   std::string name;
@@ -20,10 +20,10 @@ struct SettingValue {
 
 using SettingValues = std::array<SettingValue, kSettings.size()>;
 
-/// The value of the name that CUPS has for it.
+/// The value with that CUPS name.
 SettingValue ValueOf(const SettingNames& setting, std::string_view name);
 
-/// A printer whose settings go by the names of CUPS.
+/// A printer whose settings have CUPS names.
 class NamedSettings : public PrinterSettings, public PageTarget {
  public:
   std::int16_t Get(PrinterSetting setting) final;
@@ -34,7 +34,7 @@ class NamedSettings : public PrinterSettings, public PageTarget {
   const SettingValues& Values();
 
  private:
-  /// What the settings are before any is set.
+  /// The settings before any is set.
   virtual SettingValues Defaults() = 0;
   virtual bool Supports(const SettingNames& setting, const std::string& name) = 0;
 
@@ -43,7 +43,7 @@ class NamedSettings : public PrinterSettings, public PageTarget {
   std::optional<SettingValues> values_;
 };
 
-/// The printer of that name, on the settings and the target that `printer` is.
+/// A printer of that name with `printer` as its settings and its target.
 Printer PrinterOn(Text device_name, const std::shared_ptr<NamedSettings>& printer);
 
 }  // namespace ZQ7Standard

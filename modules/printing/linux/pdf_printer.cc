@@ -20,8 +20,8 @@
 namespace ZQ7Standard {
 namespace {
 
-/// GLib asks the environment for it, which a process with more rights than the user who
-/// started it cannot trust.
+/// GLib takes it from the environment, which a process with more rights than the user who started
+/// it cannot trust.
 std::filesystem::path DocumentsFolder() {
   if (getauxval(AT_SECURE) != 0)
     throw RunTimeError(Error::kPrinterError, "the program has to name the folder");
@@ -30,7 +30,7 @@ std::filesystem::path DocumentsFolder() {
   return std::filesystem::path(g_get_home_dir()) / "Documents";
 }
 
-// Who may read a document: the user alone, or whom the umask lets.
+// Who may read a document: the user alone, or everyone the umask allows.
 constexpr unsigned kPrivate = 0600;
 constexpr unsigned kShared = 0666;
 
@@ -42,8 +42,8 @@ std::string StemAt(OleDate now) {
   return stem.data();
 }
 
-/// Writes `bytes` to a file "`stem`.pdf" in `folder`, " (2)" and so on after the stem
-/// where there is one.
+/// Writes `bytes` to a file "`stem`.pdf" in `folder`, with " (2)" and so on after the stem if it
+/// exists.
 void WriteDocument(const std::filesystem::path& folder, const std::string& stem,
                    std::string_view bytes, unsigned mode) {
   const Descriptor opened(open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));

@@ -13,12 +13,11 @@
 
 namespace ZQ7Standard {
 
-/// A code of a setting and the name that CUPS has for it. Where a name stands twice,
-/// its code is the first.
+/// A code of a setting and its CUPS name. If a name is listed twice, its code is the first.
 struct CodeName {
   std::int16_t code;
   std::string_view name;
-  bool turned = false;  ///< a paper that lies on its side as its code counts it
+  bool turned = false;  ///< a paper that lies on its side in the terms of its code
 };
 
 /// Numbers of orientation-requested (RFC 8011).
@@ -28,15 +27,15 @@ inline constexpr auto kOrientationNames = std::to_array<CodeName>({{1, "3"}, {2,
 inline constexpr auto kQualityNames =
     std::to_array<CodeName>({{-3, "4"}, {-1, "3"}, {-2, "3"}, {-4, "5"}});
 
-/// Keywords of media-source (PWG 5100.3), and what CUPS makes of the slots of a
-/// printer description that have none.
+/// Keywords of media-source (PWG 5100.3), and CUPS's names for the slots in printer descriptions
+/// that have no keyword.
 inline constexpr auto kBinNames = std::to_array<CodeName>({
     {1, "top"},
     {2, "bottom"},
     {3, "middle"},
     {4, "manual"},
     {5, "envelope"},
-    {6, "manual"},  // an envelope put in by hand
+    {6, "manual"},  // an envelope fed by hand
     {7, "auto"},
     {8, "tractor"},
     {9, "small-format"},
@@ -90,19 +89,19 @@ inline constexpr auto kPaperNames = std::to_array<CodeName>({
     {41, "na_foolscap_8.5x13in"},
 });
 
-/// What the names of a setting are in CUPS.
+/// The form of a setting's names in CUPS.
 enum class NameKind : std::uint8_t {
-  kNumber,  ///< decimal digits alone
+  kNumber,  ///< decimal digits only
   kWord,
 };
 
-/// A setting as CUPS has it.
+/// A setting in CUPS.
 struct SettingNames {
   PrinterSetting setting;
   const char* attribute;  ///< of IPP, without "-default" and "-supported"
   NameKind kind;
   std::span<const CodeName> names;
-  std::int16_t other;  ///< the code of a name that has none
+  std::int16_t other;  ///< the code of a name that has no code
 };
 
 /// In the order of the settings.
@@ -114,7 +113,7 @@ inline constexpr auto kSettings = std::to_array<SettingNames>({
     {PrinterSetting::kPrintQuality, "print-quality", NameKind::kNumber, kQualityNames, -3},
 });
 
-/// Whether each name stands beside a text of the same code.
+/// Whether each name has a text of the same code at its index.
 constexpr bool SameCodes(std::span<const CodeName> names, std::span<const CodeText> texts) {
   for (std::size_t i = 0; i < names.size(); ++i) {
     if (names[i].code != texts[i].code) return false;

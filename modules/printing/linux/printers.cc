@@ -38,7 +38,7 @@ class LinuxPrinters final : public PrinterList {
   }
 
  private:
-  /// The same printer each time, so that its settings and its document stay.
+  /// Returns the same printer each time, which keeps its settings and document.
   const Printer& Queue(const std::string& name) {
     const auto at = queues_.find(name);
     return at != queues_.end() ? at->second

@@ -5,7 +5,7 @@
 
 namespace ZQ7Standard {
 
-/// What the module makes: the printers that `SystemPrinters` tells of.
+/// The functions of the module: they make the printers of `SystemPrinters`.
 extern const PrintingFunctions kPrintingFunctions;
 
 }  // namespace ZQ7Standard

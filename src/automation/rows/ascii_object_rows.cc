@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -52,7 +52,7 @@ void AddTexts(ClassRow& info) {
 
 }  // namespace
 
-ClassRow ASCIIObjectEntry() {
+ClassRow ASCIIObjectRows() {
   ClassRow info = {.name = "ASCIIObject", .create = CreateASCIIObject};
   info.properties = {Property<&ASCIIObject::DisableMsgLevel, &ASCIIObject::SetDisableMsgLevel>(
       9, "DisableMsgLevel")};

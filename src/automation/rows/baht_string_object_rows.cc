@@ -2,20 +2,20 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
 
-/// The parameters of `MoneyText` and of the older name of it.
+/// The parameters of `MoneyText` and of its older name.
 const std::vector<ParameterRow> kMoneyText = {
     ByRef("inDouble"), Optional("useBreak", false), Optional("useEnglish", false),
     Optional("NewUnit", u""), Optional("NewSubUnit", u"")};
 
 }  // namespace
 
-ClassRow BahtStringObjectEntry() {
+ClassRow BahtStringObjectRows() {
   ClassRow info = {.name = "BahtStringObject",
                    .create = [](const Services&) -> std::shared_ptr<void> {
                      return std::make_shared<BahtStringObject>();

@@ -2,12 +2,12 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 
-ClassRow BitByteObjectEntry() {
+ClassRow BitByteObjectRows() {
   ClassRow info = {.name = "BitByteObject", .create = [](const Services&) -> std::shared_ptr<void> {
                      return std::make_shared<BitByteObject>();
                    }};

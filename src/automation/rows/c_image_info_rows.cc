@@ -2,12 +2,12 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 
-ClassRow CImageInfoEntry() {
+ClassRow CImageInfoRows() {
   ClassRow info = {.name = "CImageInfo",
                    .create = [](const Services& services) -> std::shared_ptr<void> {
                      return std::make_shared<CImageInfo>(services);

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -44,7 +44,7 @@ void AddCopies(ClassRow& info) {
 
 }  // namespace
 
-ClassRow DiskObjectEntry() {
+ClassRow DiskObjectRows() {
   ClassRow info = {.name = "DiskObject", .create = CreateDiskObject};
   AddPaths(info);
   AddCopies(info);

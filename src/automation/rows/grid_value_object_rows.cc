@@ -4,14 +4,14 @@
 #include <memory>
 #include <utility>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 #include "base/raise.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
 
-/// Passes the events of a grid on.
+/// Passes on the events of a grid.
 class GridEvents final : public GridValueListener {
  public:
   explicit GridEvents(std::shared_ptr<EventSink> sink) : sink_(std::move(sink)) {}
@@ -34,13 +34,13 @@ std::shared_ptr<void> SubscribeToGrid(std::shared_ptr<void> instance,
   return {events.get(), [grid, events](void*) { grid->RemoveListener(*events); }};
 }
 
-/// A grid of three columns and two rows, the second with 1 and 2 in its first cells.
+/// A grid of three columns and two rows, the second row beginning with 1 and 2.
 const std::vector<Call> kTwoRows = {
     {"SetFirst", {1, 3, 0, 0}}, {"Setvalue", {1, 0, 1.0}}, {"Setvalue", {1, 1, 2.0}}};
 
 }  // namespace
 
-ClassRow GridValueObjectEntry() {
+ClassRow GridValueObjectRows() {
   ClassRow info = {.name = "GridValueObject",
                    .create = [](const Services&) -> std::shared_ptr<void> {
                      return std::make_shared<GridValueObject>();

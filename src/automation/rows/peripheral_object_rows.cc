@@ -2,12 +2,12 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 
-ClassRow PeripheralObjectEntry() {
+ClassRow PeripheralObjectRows() {
   ClassRow info = {.name = "PeripheralObject",
                    .create = [](const Services& services) -> std::shared_ptr<void> {
                      return std::make_shared<PeripheralObject>(services);
@@ -22,7 +22,7 @@ ClassRow PeripheralObjectEntry() {
   return info;
 }
 
-ClassRow SerialPortEntry() {
+ClassRow SerialPortRows() {
   ClassRow info = {.name = "SerialPort",
                    .create = [](const Services& services) -> std::shared_ptr<void> {
                      return SystemSerialPort(services.serial_devices);

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -58,7 +58,7 @@ void AddPrinting(ClassRow& info) {
 
 }  // namespace
 
-ClassRow PrintObjectEntry() {
+ClassRow PrintObjectRows() {
   ClassRow info = {.name = "PrintObject",
                    .create = [](const Services& services) -> std::shared_ptr<void> {
                      return std::make_shared<PrintObject>(services);
@@ -67,7 +67,7 @@ ClassRow PrintObjectEntry() {
   return info;
 }
 
-ClassRow PrintPictureEntry() {
+ClassRow PrintPictureRows() {
   ClassRow info = {.name = "PrintPicture"};
   info.properties = {Property<&PrintPicture::Width>(1, "Width"),
                      Property<&PrintPicture::Height>(2, "Height")};

@@ -2,8 +2,8 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -42,7 +42,7 @@ void AddCipher(ClassRow& info) {
 
 }  // namespace
 
-ClassRow RegistryObjectEntry() {
+ClassRow RegistryObjectRows() {
   ClassRow info = {.name = "RegistryObject",
                    .create = [](const Services& services) -> std::shared_ptr<void> {
                      return std::make_shared<RegistryObject>(services);

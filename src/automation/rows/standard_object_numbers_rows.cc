@@ -1,7 +1,7 @@
 #include <ZQ7Standard/StandardObject.h>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {

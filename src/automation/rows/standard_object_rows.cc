@@ -2,12 +2,12 @@
 
 #include <memory>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 
-ClassRow StandardObjectEntry() {
+ClassRow StandardObjectRows() {
   ClassRow info = {.name = "StandardObject",
                    .create = [](const Services& services) -> std::shared_ptr<void> {
                      return std::make_shared<StandardObject>(services);

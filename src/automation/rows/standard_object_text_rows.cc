@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "automation/catalogue_rows.h"
 #include "automation/classes.h"
-#include "automation/rows.h"
 
 namespace ZQ7Standard::Automation {
 namespace {
@@ -13,14 +13,14 @@ constexpr std::array kNumberedNames = {"i1",  "i2",  "i3",  "i4",  "i5",  "i6", 
                                        "i17", "i18", "i19", "i20", "i21", "i22", "i23", "i24",
                                        "i25", "i26", "i27", "i28", "i29", "i30"};
 
-/// The first `count` of `i1`, `i2` and so on, texts of which only the first must be given.
+/// The first `count` of the parameters `i1`, `i2` and so on, of which only the first is required.
 std::vector<ParameterRow> NumberedTexts(std::size_t count) {
   std::vector<ParameterRow> rows = {kNumberedNames.front()};
   while (rows.size() < count) rows.push_back(Optional(kNumberedNames[rows.size()], u""));
   return rows;
 }
 
-/// An option that is on at the value 1 alone.
+/// An option that is on only for the value 1.
 ParameterRow Flag(const char* name) {
   return ByRef(Optional(name, 0));
 }

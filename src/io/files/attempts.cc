@@ -29,7 +29,7 @@ TextView WriteOrCreate(ServiceSet& services, TextView path, const std::function<
     const TextView problem = FolderProblem(services, path, read_only_problem);
     if (!problem.empty()) return problem;
     if (services.FileWriter().Create(path, bytes)) break;
-    // Another process has made it in between.
+    // Another process has created it in between.
   }
   return {};
 }

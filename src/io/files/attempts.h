@@ -9,23 +9,22 @@
 
 #include "platform/service_set.h"
 
-/// What the operations of `ASCIIObject` that raise nothing do on files. A problem is the
-/// text of a message; empty where there is none.
+/// The file operations of those members of `ASCIIObject` that raise nothing. A problem is the text
+/// of a message, empty if there is none.
 namespace ZQ7Standard {
 
-/// Shows `problem` from level 1 up. No operation fails for want of a message box.
+/// Shows `problem` at level 1 or above. A missing message box is not an error.
 void Warn(ServiceSet& services, std::int16_t level, TextView problem);
 
-/// Does what `find_problem` does, and shows the problem that it returns or, if it fails,
-/// the problem that there is then.
+/// Runs `find_problem` and shows the problem that it returns or, if it fails, a general one.
 void Attempt(ServiceSet& services, std::int16_t level,
              const std::function<TextView()>& find_problem);
 
-/// Returns what keeps a file out of the folder of `path`.
+/// Returns what prevents creating a file in the folder of `path`.
 TextView FolderProblem(ServiceSet& services, TextView path, TextView read_only_problem);
 
-/// Does `write`, which returns false if there is no file, and then makes the file of
-/// `bytes`. Returns the problem of its folder if that has one.
+/// Runs `write`; if it returns false because there is no file, creates the file with `bytes`.
+/// Returns the problem of its folder, if any.
 TextView WriteOrCreate(ServiceSet& services, TextView path, const std::function<bool()>& write,
                        std::string_view bytes, TextView read_only_problem);
 

@@ -14,19 +14,18 @@
 namespace ZQ7Standard {
 namespace {
 
-/// How many lines the passes of a reader take, which counts its passes in 32 bits and
-/// reads a line in those from `from` to `to`.
-std::int64_t LinesTaken(std::int32_t from, std::int32_t to) {
+/// The number of lines that a 32-bit loop from max(`from`, 1) to `to` can read.
+std::int64_t LinesToRead(std::int32_t from, std::int32_t to) {
   const std::int64_t last = to == 0 ? std::numeric_limits<std::int32_t>::max() : to;
   return last - std::max(from, 1) + 1;
 }
 
-/// The lines of `contents`, joined; nothing when there are more than `most`.
+/// The lines of `contents`, joined; nullopt if there are more than `most`.
 std::optional<std::string> JoinLines(std::string_view contents, std::int64_t most) {
   std::string joined;
   for (std::int64_t count = 0; !contents.empty(); ++count) {
     if (count >= most) return std::nullopt;
-    // A first line that is empty leaves no trace.
+    // An empty first line leaves no trace.
     if (!joined.empty()) joined += kLineEnd;
     joined += TakeLine(contents);
   }
@@ -42,7 +41,7 @@ bool IsDesktop(TextView folder) {
 Text ASCIIObject::GETAllTextFile(TextView iTextFile) const {
   const auto contents = Named({"GETAllTextFile", "iTextFile"},
                               [&] { return services_->FileReader().ReadAll(iTextFile); });
-  return contents ? FromCodePage(*JoinLines(*contents, LinesTaken(1, 0))) : Text();
+  return contents ? FromCodePage(*JoinLines(*contents, LinesToRead(1, 0))) : Text();
 }
 
 Text ASCIIObject::GETLineTextFile(TextView iTextFile, std::int32_t FromLine,
@@ -50,7 +49,7 @@ Text ASCIIObject::GETLineTextFile(TextView iTextFile, std::int32_t FromLine,
   const auto contents = Named({"GETLineTextFile", "iTextFile"},
                               [&] { return services_->FileReader().ReadAll(iTextFile); });
   if (!contents) return {};
-  const auto lines = JoinLines(*contents, LinesTaken(FromLine, ToLine));
+  const auto lines = JoinLines(*contents, LinesToRead(FromLine, ToLine));
   if (!lines) Raise(Error::kOverflow, {"GETLineTextFile", "ToLine"}, ToLine);
   return FromCodePage(*lines);
 }

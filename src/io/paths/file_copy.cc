@@ -18,8 +18,8 @@ Text AsFolder(TextView path) {
 
 using FileTime = decltype(FileStatus::last_modified);
 
-/// The multiple of `step` at or before `time`, also before 1970.
-FileTime CutTo(std::chrono::nanoseconds step, FileTime time) {
+/// The multiple of `step` at or before `time`, before 1970 too.
+FileTime FloorTo(std::chrono::nanoseconds step, FileTime time) {
   const auto past = time.time_since_epoch() % step;
   return time - (past.count() < 0 ? past + step : past);
 }
@@ -34,10 +34,9 @@ bool Contains(const FolderIdentities& folders, const FolderIdentity& folder) {
   Raise(Error::kPathFileAccess, {"XCopyFile", "to_file"}, path, "a copy into itself");
 }
 
-/// Copies what the folder `from` holds into the folder `to`, both ending in "\", and
-/// counts it. The subfolders are filled after the files are copied. None of them may be
-/// one of `around`, the folders that `from` and `to` are in: it would hold the copy of
-/// itself.
+/// Copies the contents of the folder `from` into the folder `to`, both ending in "\", and returns
+/// how many entries. Subfolders follow the files. None may be one of `around`, the folders that
+/// contain `from` and `to`: the copy would contain itself.
 std::int32_t CopyEntries(ServiceSet& services, const Text& from, const Text& to,
                          FolderIdentities& around) {
   const std::vector<FolderEntry> entries = services.Folders().List(from);
@@ -74,14 +73,14 @@ std::int32_t CopyFolder(ServiceSet& services, TextView from_file, TextView to_fi
   return (is_target_there ? 1 : 0) + CopyEntries(services, from, to, around);
 }
 
-/// Whether the file `path` has the last-modified time of `source`, as closely as its file
-/// system keeps times.
+/// Whether the file `path` has the last-modified time of `source`, to the precision of its file
+/// system.
 bool HasTimeOf(ServiceSet& services, const FileStatus& source, TextView path,
                const FileStatus& status) {
   if (status.last_modified == source.last_modified) return true;
   auto step = std::chrono::nanoseconds(1);
   Try([&] { step = services.FileStatus().TimeStep(path); });
-  return step.count() > 0 && status.last_modified == CutTo(step, source.last_modified);
+  return step.count() > 0 && status.last_modified == FloorTo(step, source.last_modified);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ void MakeFolder(ServiceSet& services, TextView path) {
   try {
     services.Folders().Create(path);
   } catch (const RunTimeError&) {
-    // Another process may have made it in between.
+    // Another process may have created it in between.
     if (!IsFolder(services, path)) throw;
   }
 }

@@ -9,12 +9,12 @@
 
 namespace ZQ7Standard {
 
-/// The status of a file or folder; nullopt if there is none, or it cannot be told.
+/// The status of a file or folder; nullopt if it does not exist or cannot be read.
 std::optional<FileStatus> StatusOf(ServiceSet& services, TextView path);
 
 bool IsFolder(ServiceSet& services, TextView path);
 
-/// Makes a folder in one that is there, unless it is there itself.
+/// Creates a folder in an existing one, unless it exists.
 void MakeFolder(ServiceSet& services, TextView path);
 
 }  // namespace ZQ7Standard

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/pieces.h"
+#include "base/fields.h"
 #include "base/raise.h"
 #include "formats/path_parts.h"
 #include "io/paths/folder_status.h"
@@ -14,8 +14,8 @@ namespace {
 constexpr TextView kSeparator = u"\\";
 constexpr TextView kNetworkPrefix = u"\\\\";
 
-/// The drive and first folder of `path`, or its server and share, looked for in
-/// the first `length` characters.
+/// The drive and first folder of `path`, or its server and share, searched for in the first
+/// `length` characters.
 TextView Head(TextView path, std::size_t length) {
   std::size_t head_length = 0;
   int separators = 0;

@@ -13,8 +13,8 @@ namespace {
 constexpr TextView kDrawerSettings = u"9600,N,8,1";
 constexpr int kAutomationError = static_cast<int>(Error::kAutomationError);
 
-/// The result for `failure`, 0 for none. Numbers wider than 16 bits carry the run-time
-/// error number in the lower half. One that has nothing there may not pass for success.
+/// The result for `failure`, 0 for none. Numbers wider than 16 bits have the run-time error number
+/// in the lower half; if that is 0, the failure must not look like success.
 std::int16_t ResultOf(const std::optional<Failure>& failure) {
   if (!failure) return 0;
   const auto low =

@@ -9,15 +9,15 @@
 
 namespace ZQ7Standard {
 
-/// Makes the last installed printer of that name current, where the current one has
-/// another. Returns the one that is current then.
+/// Makes the last installed printer of that name current, unless the current one has it already.
+/// Returns the current printer.
 Printer MakeCurrent(PrinterList& printers, const std::optional<Text>& name);
 
-/// Does `steps` as one operation of the list, leaving out those after one that fails.
+/// Runs `steps` as one operation of the list, up to the first that fails.
 void TryOperation(PrinterList& printers, const std::function<void()>& steps);
 
-/// The same, but reports the failure in the name of `operation`: one without a number of
-/// its own is a printer error.
+/// The same, but raises the failure in the name of `operation`; a failure without a number is a
+/// printer error.
 void DoOperation(std::string_view operation, PrinterList& printers,
                  const std::function<void()>& steps);
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kReach = 64;  // code units
 
-/// The first `size` code units of `text`, less the first half of a pair at their end.
+/// The first `size` code units of `text`, without half a surrogate pair at the end.
 TextView WholeCharacters(TextView text, std::size_t size) {
   const bool splits = size > 0 && size < text.size() && IsHighSurrogate(text[size - 1]) &&
                       IsLowSurrogate(text[size]);
@@ -28,7 +28,7 @@ TextView FittingStart(TextView text, double limit, double shrinkage,
     const std::size_t middle = fitting + (too_long - fitting) / 2;
     (width(WholeCharacters(text, middle)) <= limit ? fitting : too_long) = middle;
   }
-  // One that is longer may fit all the same.
+  // A longer text may still fit.
   const std::size_t end = std::min(text.size(), too_long + kReach);
   for (std::size_t size = too_long; size < end; ++size) {
     const double wide = width(WholeCharacters(text, size));

@@ -7,14 +7,13 @@
 
 namespace ZQ7Standard {
 
-/// What is left of `text` when characters are dropped from its end, one at a time,
-/// until `width` of the rest is no more than `limit` (from 0). A surrogate pair is one
-/// character; `width` of the empty text is 0.
+/// What is left of `text` after dropping characters from its end, one at a time, until the `width`
+/// of the rest is at most `limit` (from 0). A surrogate pair is one character; `width` of the empty
+/// text is 0.
 ///
-/// Found by halving, so `width` is called in proportion to the logarithm of the
-/// length. A longer text is usually wider, but where letters join it may be narrower.
-/// The result is right as long as no character narrows the text in front of it by more
-/// than `shrinkage`, or one that is more than 64 code units away.
+/// A binary search calls `width` in proportion to the logarithm of the length. A longer text is
+/// usually wider, but joining letters can make it narrower. The result is right unless a character
+/// narrows the text before it by more than `shrinkage`, or text more than 64 code units away.
 TextView FittingStart(TextView text, double limit, double shrinkage,
                       const std::function<double(TextView)>& width);
 

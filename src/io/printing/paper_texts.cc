@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int16_t kLandscape = 2;
 
-/// The text of `code`; where it has none, `custom` and the code in brackets.
+/// The text of `code`; if it has none, `custom` and the code in brackets.
 Text TextOf(std::span<const CodeText> texts, std::int16_t code, TextView custom) {
   const auto row = std::ranges::find(texts, code, &CodeText::code);
   if (row != texts.end()) return Text(row->text);

@@ -13,14 +13,13 @@ namespace {
 constexpr std::int16_t kUserDefinedPaper = 256;
 constexpr std::int16_t kDefaultBin = 7;
 
-/// The settings of `printer`, which the list of a host may have left empty.
+/// The settings of `printer`, which a host's list may have left empty.
 PrinterSettings& SettingsOf(const Printer& printer) {
   if (!printer.settings) throw RunTimeError(Error::kPrinterError, "the printer has no settings");
   return *printer.settings;
 }
 
-/// Whether the environment variable "OS" names the system that has papers of its own
-/// from 256 up.
+/// Whether the environment variable "OS" names the system that defines papers from 256 up.
 bool IsWindowsNt(const ServiceSet& services) {
   const auto os = services.Os();
   return os && EqualsIgnoringCase(*os, u"WINDOWS_NT");
@@ -33,7 +32,7 @@ PrintObject::PrintObject() : PrintObject(Services{}) {}
 PrintObject::PrintObject(Services services)
     : services_(std::make_shared<ServiceSet>(std::move(services))) {
   if (!services_->Given().printers) return;
-  // Another object with the same printers may make another one current.
+  // Another object with the same printers may make a different one current.
   TryOperation(services_->Printers(),
                [this] { device_name_ = services_->Printers().Current().device_name; });
 }

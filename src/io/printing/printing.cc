@@ -12,21 +12,21 @@
 namespace ZQ7Standard {
 namespace {
 
-constexpr std::int32_t kPrinterPosition = -1;  // as a position: where the printer is
+constexpr std::int32_t kPrinterPosition = -1;  // as a position: the printer's current one
 constexpr std::int32_t kCentred = 1;
 constexpr std::int32_t kEnding = 2;
 
-constexpr std::string_view kText = "PrintGraphicText";
-constexpr std::string_view kObject = "PrintGraphicObject";
+constexpr std::string_view kPrintGraphicText = "PrintGraphicText";
+constexpr std::string_view kPrintGraphicObject = "PrintGraphicObject";
 
 constexpr std::uint8_t kThaiCharset = 222;
 
-// The most, in heights of the font, that a character narrows what stands before it: a
-// family of emoji becomes one.
+// The most that a character can narrow the text before it, in font heights: a family of emoji
+// becomes one.
 constexpr double kShrinkage = 4;
 constexpr double kMillimetresPerPoint = 25.4 / 72;
 
-/// The document of `printer`, which the list of a host may have left empty.
+/// The document of `printer`, which a host's list may have left empty.
 std::shared_ptr<PrintDocument> DocumentOf(const Printer& printer) {
   if (!printer.document) throw RunTimeError(Error::kPrinterError, "the printer has no document");
   return printer.document;
@@ -38,20 +38,20 @@ std::int32_t Rounded(std::string_view operation, double position) {
   return *whole;
 }
 
-/// `asked`, or where the printer is, in whole millimetres.
-float PlaceOf(std::string_view operation, std::int32_t asked, float current) {
+/// `asked`, or the printer's current position, in whole millimetres.
+float AskedOrCurrent(std::string_view operation, std::int32_t asked, float current) {
   return static_cast<float>(asked == kPrinterPosition ? Rounded(operation, current) : asked);
 }
 
-/// Where a text begins that is aligned to `x`.
+/// Where a text aligned to `x` begins.
 float StartOf(std::int32_t alignment, float x, TextView text, PrintDocument& document) {
   if (alignment == kCentred) {
-    return static_cast<float>(Rounded(kText, x - document.TextWidth(text) / 2));
+    return static_cast<float>(Rounded(kPrintGraphicText, x - document.TextWidth(text) / 2));
   }
   return alignment == kEnding ? x - document.TextWidth(text) : x;
 }
 
-/// `text` without the characters at its end that make it wider than `limit`.
+/// `text` without the characters at its end that exceed `limit`.
 TextView Shortened(TextView text, double limit, PrintDocument& document) {
   if (!(limit > 0)) return text;
   const double shrinkage = kShrinkage * document.Font().size * kMillimetresPerPoint;
@@ -78,7 +78,7 @@ void ChangeFont(PrintDocument& document, TextView name, double size, bool bold, 
   document.SetFont(font);
 }
 
-/// The document of `printer` to place something in; `last` starts at its position.
+/// The document of `printer` to place something in; sets `last` to its current position.
 std::shared_ptr<PrintDocument> DocumentToPlaceIn(const Printer& printer, PagePosition& last) {
   auto document = DocumentOf(printer);
   const PagePosition position = document->Position();
@@ -113,14 +113,14 @@ std::int16_t PrintObject::PrintGraphicText(TextView sMsg, std::int32_t x, std::i
                                            std::int32_t MoveLine, std::int32_t Alignment,
                                            double MaxLenText, TextView FontName, double FontSize,
                                            bool FontBold, bool FontItalic) {
-  DoOperation(kText, services_->Printers(), [&] {
+  DoOperation(kPrintGraphicText, services_->Printers(), [&] {
     const auto document =
         DocumentToPlaceIn(MakeCurrent(services_->Printers(), device_name_), last_);
     const TextView text = Shortened(sMsg, MaxLenText, *document);
     ChangeFont(*document, FontName, FontSize, FontBold, FontItalic);
     const PagePosition current = document->Position();
-    const float at = PlaceOf(kText, x, current.x);
-    const float down = MoveLine != 0 ? PlaceOf(kText, y, current.y) : last_.y;
+    const float at = AskedOrCurrent(kPrintGraphicText, x, current.x);
+    const float down = MoveLine != 0 ? AskedOrCurrent(kPrintGraphicText, y, current.y) : last_.y;
     document->MoveTo({StartOf(Alignment, at, text, *document), down});
     last_ = document->Position();
     document->PrintLine(text);
@@ -131,13 +131,13 @@ std::int16_t PrintObject::PrintGraphicText(TextView sMsg, std::int32_t x, std::i
 std::int16_t PrintObject::PrintGraphicObject(const std::shared_ptr<PrintPicture>& Src,
                                              std::int32_t x, std::int32_t y, float W, float H,
                                              std::int32_t MoveLine) {
-  if (!Src) Raise(Error::kInvalidArgument, {kObject, "Src"}, "no picture");
-  DoOperation(kObject, services_->Printers(), [&] {
+  if (!Src) Raise(Error::kInvalidArgument, {kPrintGraphicObject, "Src"}, "no picture");
+  DoOperation(kPrintGraphicObject, services_->Printers(), [&] {
     const auto document =
         DocumentToPlaceIn(MakeCurrent(services_->Printers(), device_name_), last_);
     const PagePosition current = document->Position();
-    const float down = MoveLine != 0 ? PlaceOf(kObject, y, current.y) : last_.y;
-    const PagePosition at{PlaceOf(kObject, x, current.x), down};
+    const float down = MoveLine != 0 ? AskedOrCurrent(kPrintGraphicObject, y, current.y) : last_.y;
+    const PagePosition at{AskedOrCurrent(kPrintGraphicObject, x, current.x), down};
     const PageSize size{W != 0 ? W : Src->Width(), H != 0 ? H : Src->Height()};
     document->MoveTo(at);
     last_ = document->Position();

@@ -13,8 +13,8 @@ namespace {
 
 constexpr std::size_t kTextBuffer = 1024;
 
-// How updates make a key. The length is not that of the platform's structure, and
-// the class says nothing; but the keys that hosts have were made so.
+// How updates create a key. The length is not that of the platform's structure, and the class has
+// no meaning; but hosts' existing keys were created this way.
 constexpr KeyCreation kCreation = {
     .key_class = u"1",
     .options = kKeyNonVolatile,
@@ -38,20 +38,20 @@ std::int32_t NumberOf(const NumberBytes& bytes) {
   return static_cast<std::int32_t>(number);
 }
 
-/// The path of a key or the name of a value as it crosses to a registry: up to its
-/// first character 0, in the characters of the code page.
-Text Crossing(TextView name) {
+/// The path of a key or the name of a value as registries receive it: up to its first NUL, in
+/// characters of the code page.
+Text RegistryText(TextView name) {
   return FromCodePage(ToCodePage(name.substr(0, name.find(u'\0'))));
 }
 
-/// Reads the value into `buffer`; nothing when it cannot be read or is longer. The
-/// registry of a host may throw, and may say that it wrote more than there is room.
+/// Reads the value into `buffer`; nullopt if it cannot be read or is longer. A host's registry may
+/// throw, and may claim to have written more than fits.
 std::optional<QueriedValue> Read(Registry& registry, std::int32_t root, TextView keyname,
                                  TextView subkeyname, std::span<char> buffer) {
   std::optional<QueriedValue> value;
   Try([&] {
-    const auto key = registry.Open(root, Crossing(keyname), kKeyAllAccess);
-    if (key) value = key->Query(Crossing(subkeyname), buffer);
+    const auto key = registry.Open(root, RegistryText(keyname), kKeyAllAccess);
+    if (key) value = key->Query(RegistryText(subkeyname), buffer);
   });
   return value && value->size <= buffer.size() ? value : std::nullopt;
 }
@@ -61,8 +61,8 @@ bool WriteFails(Registry& registry, std::int32_t root, TextView keyname, TextVie
                 std::uint32_t type, std::string_view data) {
   bool written = false;
   Try([&] {
-    const auto key = registry.Create(root, Crossing(keyname), kCreation);
-    written = key && key->Set(Crossing(subkeyname), type, data);
+    const auto key = registry.Create(root, RegistryText(keyname), kCreation);
+    written = key && key->Set(RegistryText(subkeyname), type, data);
   });
   return !written;
 }

@@ -13,8 +13,8 @@
 namespace ZQ7Standard {
 namespace {
 
-/// The order of day and month in a short-date layout such as "%d/%m/%Ey"; a
-/// layout that begins with the year counts as month first.
+/// The order of day and month in a short-date layout such as "%d/%m/%Ey"; a layout that begins with
+/// the year counts as month first.
 std::optional<FieldOrder> OrderOf(std::string_view layout) {
   for (std::size_t at = layout.find('%'); at != std::string_view::npos;
        at = layout.find('%', at + 1)) {
@@ -33,8 +33,8 @@ bool WritesEraYear(std::string_view layout) {
          layout.find("%EY") != std::string_view::npos;
 }
 
-/// Whether an era such as "+:1:-543/01/01:+*:พ.ศ.:%EC %Ey" is the Buddhist one,
-/// which begins 543 years before the Gregorian.
+/// Whether an era such as "+:1:-543/01/01:+*:พ.ศ.:%EC %Ey" is the Buddhist one, which begins 543
+/// years before the Gregorian.
 bool IsBuddhistEra(std::string_view era) {
   const std::size_t direction_end = era.find(':');
   if (direction_end == std::string_view::npos) return false;
@@ -42,8 +42,7 @@ bool IsBuddhistEra(std::string_view era) {
   return offset_end != std::string_view::npos && era.substr(offset_end + 1).starts_with("-543/");
 }
 
-/// The convention in the C library's data; nothing when the locale is not
-/// installed.
+/// The convention in the C library's data; nullopt if the locale is not installed.
 std::optional<DateConvention> ConventionByData(const std::string& locale_name) {
   const locale_t locale = newlocale(LC_TIME_MASK, locale_name.c_str(), nullptr);
   if (locale == nullptr) return std::nullopt;

@@ -14,17 +14,17 @@
 namespace ZQ7Standard {
 namespace {
 
-// Pipes and devices are opened without waiting for anybody, only to be refused.
+// Opens pipes and devices without waiting, only to reject them.
 constexpr int kForReading = O_RDONLY | O_NONBLOCK;
 constexpr int kForReadingStart = O_RDWR | O_CREAT | O_NONBLOCK;
 constexpr int kForAppending = O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK;
 
-/// Refuses to write a read-only file, whoever asks.
+/// Refuses to write a read-only file, even for privileged users.
 void RequireWritable(const OpenFile& file, const struct stat& status) {
   if ((status.st_mode & S_IWUSR) == 0) file.Fail(EACCES, "write");
 }
 
-/// Makes a new file; false when another process makes it first.
+/// Creates a file; false if another process creates it first.
 bool CreateAt(const FilePlace& place, std::string_view bytes) {
   constexpr unsigned kAsTheUmaskLets = 0666;
   try {

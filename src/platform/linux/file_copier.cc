@@ -17,12 +17,11 @@ namespace {
 constexpr std::size_t kMostAtOnce = std::size_t{1} << 30;
 constexpr std::size_t kBufferSize = 65'536;
 
-// A pipe is opened without waiting for its other end, only to be refused.
+// Opens a pipe without waiting for its other end, only to reject it.
 constexpr int kForReading = O_RDONLY | O_NONBLOCK;
 constexpr int kForReplacing = O_WRONLY | O_NONBLOCK;
 
-/// The status of a file, which must be a regular one: a folder or a device has no
-/// content to copy.
+/// The status of a file, which must be a regular one: folders and devices have no content to copy.
 struct stat StatusOf(const OpenFile& file) {
   struct stat status {};
   if (fstat(file.Descriptor(), &status) != 0) file.Fail(errno, "status");
@@ -34,8 +33,8 @@ bool IsSameFile(const struct stat& a, const struct stat& b) {
   return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-/// Copies inside the file system as far as that goes, and reads and writes the rest:
-/// nothing, or all where the file system cannot.
+/// Copies inside the file system as far as possible, which may be not at all, and then reads and
+/// writes the rest.
 void CopyContent(const OpenFile& source, const OpenFile& target) {
   while (copy_file_range(source.Descriptor(), nullptr, target.Descriptor(), nullptr, kMostAtOnce,
                          0) > 0) {
@@ -64,7 +63,7 @@ class Copying {
     }
   }
 
-  /// False when there is no file `target`.
+  /// Returns false if there is no file `target`.
   bool ToExisting(TextView to, const std::string& target) const {
     auto file = OpenFile::IfThere(to, target, kForReplacing);
     if (!file) return false;

@@ -17,7 +17,7 @@ struct ErrorRow {
   Error error;
 };
 
-// Any other is a path that cannot be used this way, such as ENXIO: a pipe or a socket that
+// Any other means that the path cannot be used this way, such as ENXIO: a pipe or a socket that
 // nobody has open.
 constexpr std::array<ErrorRow, 13> kErrors = {{
     {ENOENT, Error::kFileNotFound},

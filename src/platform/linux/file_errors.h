@@ -9,14 +9,14 @@
 
 namespace ZQ7Standard {
 
-/// Whether an `errno` says that a path names nothing.
+/// Whether an `errno` means that a path does not exist.
 bool MeansMissing(int error);
 
-/// Whether an `errno` says that the user has no right to do that.
+/// Whether an `errno` means that the user lacks permission.
 bool MeansDenied(int error);
 
-/// The run-time error of an `errno` that `step` met at the file `path`, whose native path
-/// tells a missing file (53) from a missing folder (76).
+/// The run-time error for an `errno` of `step` on the file `path`, whose native path distinguishes
+/// a missing file (53) from a missing folder (76).
 RunTimeError FileError(int number, std::string_view step, TextView path, const std::string& native);
 
 }  // namespace ZQ7Standard

@@ -13,7 +13,7 @@
 namespace ZQ7Standard {
 namespace {
 
-constexpr int kMostLinks = 40;  // as many as the system follows
+constexpr int kMostLinks = 40;  // the system's own limit
 constexpr int kFolder = O_PATH | O_DIRECTORY;
 constexpr int kLinkItself = O_PATH | O_NOFOLLOW;
 
@@ -31,17 +31,17 @@ std::string NameOf(const std::string& native) {
   return name.empty() ? "." : name;
 }
 
-/// Whether a link may have been put into the folder by a user who has no say there.
-bool IsStrangers(const struct stat& link, const struct stat& folder) {
+/// Whether a user without rights to the folder may have put the link there.
+bool IsStrangersLink(const struct stat& link, const struct stat& folder) {
   constexpr mode_t kOpenToAll = S_ISVTX | S_IWOTH;
   return (folder.st_mode & kOpenToAll) == kOpenToAll && link.st_uid != folder.st_uid &&
          link.st_uid != geteuid();
 }
 
-/// What the link `name` in `folder` names.
+/// The target of the link `name` in `folder`.
 std::string LinkIn(const OpenFile& folder, const std::string& name) {
   const OpenFile link = folder.Open(name, kLinkItself);
-  if (IsStrangers(link.Status(), folder.Status())) folder.Fail(EACCES, "follow");
+  if (IsStrangersLink(link.Status(), folder.Status())) folder.Fail(EACCES, "follow");
   std::array<char, PATH_MAX> target;
   const ssize_t size =
       folder.Calls().readlinkat(link.Descriptor(), "", target.data(), target.size());

@@ -22,13 +22,12 @@ constexpr auto kLongestWait = std::chrono::seconds(10);
 constexpr auto kFirstPause = milliseconds(1);
 constexpr auto kLongestPause = milliseconds(32);
 
-/// The time that a rewrite waits for others: pauses that grow, and differ between those
-/// who wait.
+/// The time that a rewrite waits for others: growing pauses, different for each waiter.
 class Patience {
  public:
   explicit Patience(const SystemCalls& calls) : calls_(calls), end_(calls.now() + kLongestWait) {}
 
-  /// False when the time is over.
+  /// Returns false if the time is up.
   bool Wait() {
     const auto now = calls_.now();
     if (now >= end_) return false;
@@ -43,7 +42,7 @@ class Patience {
   std::chrono::milliseconds longest_ = kFirstPause;
 };
 
-/// The lock of a file, as long as the object lives, where the file can be locked.
+/// Holds the lock of a file, if the file can be locked.
 class Lock {
  public:
   Lock(const SystemCalls& calls, int file)
@@ -53,7 +52,7 @@ class Lock {
                                                                                         : errno) {}
   Lock(const Lock&) = delete;
   Lock& operator=(const Lock&) = delete;
-  /// Unlocks the file also for a child that was forked meanwhile.
+  /// Releases the lock also for a child process forked meanwhile.
   ~Lock() {
     if (error_ == 0) calls_.flock(file_, LOCK_UN);
   }
@@ -74,16 +73,16 @@ bool CannotBeRead(int error) {
   return MeansMissing(error) || MeansDenied(error);
 }
 
-/// The status of the file at `place`; nullopt when that is no longer the file that was
-/// found there, and opened as `file` where the user may read it.
+/// The status of the file at `place`; nullopt if it is no longer the file found there, and opened
+/// as `file` if the user may read it.
 std::optional<struct stat> StatusNow(const FilePlace& place, const std::optional<OpenFile>& file) {
   if (file && !IsSame(file->Status(), place.status)) return std::nullopt;
   const auto status = place.folder.StatusOf(place.name);
   return IsSame(*place.status, status) ? status : std::nullopt;
 }
 
-/// Makes a temporary file, for nobody else to read yet. What stands there under its
-/// name is thrown away and not followed, whoever left it and however it is protected.
+/// Creates a temporary file that nobody else can read yet. Anything that already has its name is
+/// deleted, not followed, whoever left it and however it is protected.
 OpenFile MakeTemporary(const OpenFile& folder, const std::string& name) {
   constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW;
   constexpr unsigned kOwnerOnly = S_IRUSR | S_IWUSR;
@@ -91,8 +90,8 @@ OpenFile MakeTemporary(const OpenFile& folder, const std::string& name) {
   return folder.Open(name, kFlags, kOwnerOnly);
 }
 
-/// Puts a file of `bytes` in the place of another one; false when a writer that does not
-/// know the lock has taken its temporary name.
+/// Replaces a file by one of `bytes`; false if a writer that ignores the lock has taken its
+/// temporary name.
 bool Replace(const FilePlace& place, const FileRights& rights, std::string_view bytes) {
   const OpenFile& folder = place.folder;
   const std::string name = place.name + "$$$$";
@@ -110,11 +109,11 @@ bool Replace(const FilePlace& place, const FileRights& rights, std::string_view 
   return true;
 }
 
-/// Rewrites the file at `place`; false when another writer is there first.
+/// Rewrites the file at `place`; false if another writer was faster.
 bool TryRewrite(const FilePlace& place, const FileChange& change) {
   constexpr int kForReading = O_RDONLY | O_NONBLOCK | O_NOFOLLOW;
   const OpenFile& folder = place.folder;
-  // A device or a pipe would be gone.
+  // A device or a pipe would be destroyed.
   if (!S_ISREG(place.status->st_mode)) folder.Fail(EINVAL, "rewrite");
   const auto file = folder.OpenUnless(CannotBeRead, place.name, kForReading);
   {

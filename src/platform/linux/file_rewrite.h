@@ -7,7 +7,7 @@
 
 namespace ZQ7Standard {
 
-/// Rewrites files by the system calls `calls`, which it refers to.
+/// Rewrites files with `calls`, which must outlive it.
 std::shared_ptr<FileRewriter> FileRewriterBy(const SystemCalls& calls, DriveMap drives = {});
 
 }  // namespace ZQ7Standard

@@ -13,12 +13,12 @@ namespace {
 constexpr const char* kAccessList = "system.posix_acl_access";
 constexpr mode_t kAll = S_IRWXO;  // the rights of one entry
 
-/// The rights that entries of an access control list give, as bits of `S_IRWXO`.
+/// The rights in the entries of an access control list, as bits of `S_IRWXO`.
 struct ListedRights {
   mode_t group = kAll;         ///< the file's own group
-  mode_t mask = kAll;          ///< the most that any but the owner and others have
-  mode_t named_users = kAll;   ///< what all users that are named have
-  mode_t named_groups = kAll;  ///< what all groups that are named have
+  mode_t mask = kAll;          ///< limits everyone but the owner and others
+  mode_t named_users = kAll;   ///< what all named users have
+  mode_t named_groups = kAll;  ///< what all named groups have
 };
 
 void Add(const posix_acl_xattr_entry& entry, ListedRights& rights) {
@@ -56,7 +56,7 @@ bool SetList(const OpenFile& file, const std::string& list) {
   return file.Calls().fsetxattr(file.Descriptor(), kAccessList, list.data(), list.size(), 0) == 0;
 }
 
-/// Takes away what a new file got from its folder's default list.
+/// Removes what a new file inherited from its folder's default list.
 void RemoveList(const OpenFile& file) {
   const auto list = AccessListOf(file);
   if (list && list->empty()) return;
@@ -65,8 +65,8 @@ void RemoveList(const OpenFile& file) {
   }
 }
 
-/// The rights that a file keeps when it comes to a group that is not its old one. The
-/// members of each are others to the other, so they keep what all have.
+/// The mode that a file keeps if its group changes. The members of either group are others to the
+/// other, so they keep what everyone has.
 mode_t ForOtherGroup(mode_t mode) {
   const mode_t everyone = mode >> 3U & mode & S_IRWXO;
   return (mode & S_IRWXU) | everyone << 3U | everyone;
@@ -78,7 +78,7 @@ std::optional<std::string> AccessListOf(const OpenFile& file) {
   const auto get = [&](char* list, std::size_t size) {
     return file.Calls().fgetxattr(file.Descriptor(), kAccessList, list, size);
   };
-  // To ask for the size first is fast where there is no list.
+  // Asking for the size first is fast if there is no list.
   const ssize_t size = get(nullptr, 0);
   if (size < 0 && (errno == ENODATA || errno == EOPNOTSUPP)) return "";
   if (size < 0) return std::nullopt;
@@ -90,8 +90,8 @@ std::optional<std::string> AccessListOf(const OpenFile& file) {
 mode_t ModeWithoutList(mode_t mode, std::string_view list) {
   if (list.size() < sizeof(posix_acl_xattr_header)) return mode;
   const ListedRights rights = RightsOf(list);
-  // A user whom the list names may be one of the group or of the others without it, and
-  // a member of a group that it names one of the others.
+  // Without the list, a user whom it names may belong to the group or to the others, and a member
+  // of a group that it names may be one of the others.
   const mode_t group = rights.group & rights.mask & rights.named_users;
   const mode_t others = mode & rights.mask & rights.named_users & rights.named_groups;
   return (mode & S_IRWXU) | group << 3U | others;

@@ -20,7 +20,7 @@ struct CloseFolder {
 };
 using OpenFolder = std::unique_ptr<DIR, CloseFolder>;
 
-/// Which folder `path` names, from the open folder `start`; nullopt when it names none.
+/// The folder that `path` names, starting at the open folder `start`; nullopt if it is not one.
 std::optional<FolderIdentity> IdentityOf(int start, const char* path) {
   struct stat status {};
   if (fstatat(start, path, &status, 0) != 0 || !S_ISDIR(status.st_mode)) return std::nullopt;
@@ -33,7 +33,7 @@ std::optional<FolderIdentity> IdentityOf(const OpenFolder& folder, const dirent&
   return is_file ? std::nullopt : IdentityOf(dirfd(folder.get()), entry.d_name);
 }
 
-/// `native` without the names at its end that lead to no folder.
+/// `native` without the names at its end that do not lead to a folder.
 std::string WayToNearest(std::string native) {
   while (!IdentityOf(AT_FDCWD, native.c_str())) {
     native.erase(native.find_last_not_of('/') + 1);
@@ -78,7 +78,7 @@ class LinuxFolders final : public Folders {
   std::vector<FolderIdentity> Enclosing(TextView path) override {
     std::vector<FolderIdentity> enclosing;
     std::string way = WayToNearest(NativePath(path, drives_));
-    // Ends at the root, whose ".." is itself, or where the user may not go on.
+    // Ends at the root, which is its own "..", or at a folder that the user may not leave.
     for (auto folder = IdentityOf(AT_FDCWD, way.c_str());
          folder && (enclosing.empty() || *folder != enclosing.back());
          folder = IdentityOf(AT_FDCWD, (way += "/..").c_str())) {

@@ -8,15 +8,15 @@
 namespace ZQ7Standard {
 namespace {
 
-/// Whether an entry of the environment may be one of those that decide, by a
-/// look at two letters: LS_COLORS, for one, is long.
+/// Whether an environment entry may be one of the deciding ones, judging by two letters: LS_COLORS,
+/// for one, is long.
 bool MayDecide(const char* entry) {
   return entry[0] == 'L' && (entry[1] == 'C' || entry[1] == 'A' || entry[1] == 'O');
 }
 
 }  // namespace
 
-// In one pass, which a lookup for each name would repeat.
+// In a single pass instead of a lookup for each name.
 LocaleName LocaleNameFromEnvironment() {
   constexpr std::array<std::string_view, 4> kVariables = {
       "LC_ALL=", "LC_TIME=", "LANG=", "LOCPATH="};

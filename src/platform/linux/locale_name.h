@@ -5,8 +5,8 @@
 
 namespace ZQ7Standard {
 
-/// The locale that the environment names, and the folder of locales that LOCPATH
-/// names, which decides what that locale is.
+/// The environment's locale, and the locale folder named by LOCPATH, which decides what that locale
+/// is.
 struct LocaleName {
   std::string_view locale;
   std::string_view folder;

@@ -25,7 +25,7 @@ constexpr std::array kMonthFirstLanguages = std::to_array<std::string_view>(
 constexpr std::array kMonthFirstPairs = std::to_array<std::string_view>(
     {"az_IR", "de_AT", "de_BE", "de_LU", "en_CA", "en_DK", "en_HK", "en_SE", "fr_CA", "sv_SE"});
 
-/// A letter in lower case, and "-", as other systems write it, for "_".
+/// A letter in lower case; "_" for "-", which other systems write.
 constexpr char Canonical(char c) {
   if (c == '-') return '_';
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;

@@ -7,8 +7,8 @@
 
 namespace ZQ7Standard {
 
-/// The date convention of a locale by its name alone, such as "th_TH.UTF-8" or, as other
-/// systems write it, "th-th": for locales that are not installed.
+/// The date convention of a locale by its name alone, such as "th_TH.UTF-8" or, as other systems
+/// write it, "th-th": for locales that are not installed.
 DateConvention ConventionByName(std::string_view locale);
 
 }  // namespace ZQ7Standard

@@ -10,14 +10,14 @@
 namespace ZQ7Standard {
 namespace {
 
-/// A module's functions, of a type that the caller knows.
+/// A module's functions, whose type the caller knows.
 struct Loaded {
   const void* functions = nullptr;
   std::string problem = {};
 };
 
-/// The folder of the modules, beside the library that this code is in; empty if that was
-/// loaded by a relative path, which a change of the current folder would turn elsewhere.
+/// The folder of the modules, beside the library with this code; empty if that was loaded by a
+/// relative path, which a change of the current folder would redirect.
 std::filesystem::path ModuleFolder() {
   Dl_info self{};
   if (dladdr(&kModuleFunction, &self) == 0 || self.dli_fname == nullptr) return {};
@@ -30,7 +30,7 @@ std::string LoaderProblem() {
   return problem == nullptr ? "it cannot be loaded" : problem;
 }
 
-/// Loads a module for good: its types and its threads may outlive any use of it.
+/// Loads a module permanently: its types and threads may outlive any use of it.
 Loaded Load(const std::string& name) {
   const std::filesystem::path folder = ModuleFolder();
   if (folder.empty()) return {.problem = "the library was loaded by a relative path"};
@@ -54,7 +54,7 @@ Loaded Load(const std::string& name) {
   return {.functions = answer.functions};
 }
 
-/// What only the C++ of the module itself can throw is a problem of it like others.
+/// An exception of the module's own C++ is a problem of the module like any other.
 template <typename Functions>
 ModuleOf<Functions> LoadOf(const std::string& name) {
   try {

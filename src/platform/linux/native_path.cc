@@ -20,10 +20,10 @@ std::string Slashed(TextView path) {
   return native;
 }
 
-/// `path` on a drive, without a name that ".." takes back. ".." in the drive's own folder
-/// stays there, as it does in the root folder.
+/// `path` on a drive with ".." resolved. As in the root folder, ".." in the drive's own folder
+/// stays there.
 std::string OnDrive(const std::string& path) {
-  // Nothing else leads out, and a chain of folders asks for each of its fronts.
+  // Only ".." leads out, and `path` may be each prefix of a long chain of folders.
   if (path.find("..") == std::string::npos) return path.starts_with('/') ? path : '/' + path;
   return std::filesystem::path('/' + path).lexically_normal();
 }

@@ -7,11 +7,10 @@
 
 namespace ZQ7Standard {
 
-/// The native path, in UTF-8, of a path text: without the drive letter and its colon,
-/// which give the way to the drive's folder where `drives` has one, and with "/" for
-/// "\". A drive alone is its folder, the root where it has none; no ".." leads out of a
-/// drive that `drives` has. What no name can hold (U+0000, half a surrogate pair) becomes
-/// U+FFFD.
+/// The native path, in UTF-8, of a path text: the drive letter and colon are replaced by the
+/// drive's folder if `drives` has one, otherwise dropped, and "\" by "/". A drive alone is its
+/// folder, or else the root; ".." never leads out of a drive in `drives`. What no name can hold
+/// (U+0000, half a surrogate pair) becomes U+FFFD.
 std::string NativePath(TextView path, const DriveMap& drives);
 
 }  // namespace ZQ7Standard

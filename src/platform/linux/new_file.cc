@@ -18,26 +18,26 @@ namespace {
   throw std::system_error(errno, std::generic_category());
 }
 
-/// A new file without any name; none where the file system has no such files.
+/// A new file without a name; -1 if the file system does not support such files.
 Descriptor OpenUnnamed(int folder, unsigned mode) {
   return Descriptor(openat(folder, ".", O_WRONLY | O_TMPFILE | O_CLOEXEC, mode));
 }
 
-/// A new file of that name; none where the name is taken.
+/// A new file of that name; -1 if the name is taken.
 Descriptor OpenNew(int folder, const std::string& name, unsigned mode) {
   Descriptor file(openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
   if (!file && errno != EEXIST) Fail();
   return file;
 }
 
-/// Puts `bytes` on the disk.
+/// Writes `bytes` to the disk.
 void WriteAndSync(const Descriptor& file, std::string_view bytes) {
   if (!WriteAll(kSystemCalls, file.Number(), bytes)) Fail();
   if (fsync(file.Number()) != 0) Fail();
 }
 
-/// What came of a system call that was to make a name: whether the name was free, or
-/// nullopt when the call does not work here.
+/// The outcome of a system call that creates a name: whether the name was free, or nullopt if the
+/// call does not work here.
 std::optional<bool> WasFree(int result) {
   if (result == 0) return true;
   return errno == EEXIST ? std::optional(false) : std::nullopt;
@@ -49,7 +49,7 @@ std::optional<bool> Link(const Descriptor& file, int folder, const std::string& 
   return WasFree(linkat(AT_FDCWD, path.c_str(), folder, name.c_str(), AT_SYMLINK_FOLLOW));
 }
 
-/// Gives the file `hidden` another name, by moving it where there are no links.
+/// Gives the file `hidden` another name, by moving it if links do not work.
 std::optional<bool> Rename(int folder, const std::string& hidden, const std::string& name) {
   const auto linked = WasFree(linkat(folder, hidden.c_str(), folder, name.c_str(), 0));
   if (linked) return linked;
@@ -77,7 +77,7 @@ NewFile::~NewFile() {
 bool NewFile::TakeName(const std::string& name) {
   if (hidden_name_.empty()) {
     if (const auto linked = Link(file_, folder_, name)) return *linked;
-    WriteHidden();  // without /proc a file that has no name gets none
+    WriteHidden();  // without /proc an unnamed file cannot get a name
   }
   const auto renamed = Rename(folder_, hidden_name_, name);
   return renamed ? *renamed : WriteInPlace(name);
@@ -94,8 +94,8 @@ void NewFile::WriteHidden() {
   WriteAndSync(file_, bytes_);
 }
 
-/// Writes the file under its name, where it has neither links nor moves that replace
-/// nothing. A kill may leave it cut short.
+/// Writes the file under its final name, if neither links nor non-replacing moves work. A kill
+/// may leave it truncated.
 bool NewFile::WriteInPlace(const std::string& name) const {
   const Descriptor file = OpenNew(folder_, name, mode_);
   if (!file) return false;

@@ -8,24 +8,22 @@
 
 namespace ZQ7Standard {
 
-/// A file that is to be there whole or not at all: its bytes are on the disk before it
-/// has its name. Where the file system has files without a name, a process that is killed
-/// leaves nothing; elsewhere it may leave a hidden ".zq7-" file. What fails raises a
-/// `std::system_error` of its errno.
+/// A file that appears whole or not at all: its bytes are on the disk before it has its name. If
+/// the process is killed, nothing remains where the file system supports unnamed files; elsewhere a
+/// hidden ".zq7-" file may. Failures raise a `std::system_error` with their errno.
 class NewFile {
  public:
-  /// Writes `bytes` to a file in the folder that the descriptor `folder` is of (O_PATH
-  /// will do). Both must outlast the object. The file has the rights `mode`, less the
-  /// process's umask.
+  /// Writes `bytes` to a file in the folder of the descriptor `folder` (O_PATH will do). Both must
+  /// outlive the object. The file has the rights `mode`, less the process's umask.
   NewFile(int folder, std::string_view bytes, unsigned mode);
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
-  /// A file that did not take a name is gone.
+  /// Discards the file if it did not take a name.
   ~NewFile();
 
-  /// Gives the file the name `name` in the folder. Returns false, and changes nothing,
-  /// when something has that name, be it a link to nowhere; true is the object's last
-  /// use. Does not wait until the folder is on the disk.
+  /// Names the file `name` in the folder; then the object is used up. Returns false and changes
+  /// nothing if the name exists, even as a dangling link. Does not wait until the folder is on the
+  /// disk.
   bool TakeName(const std::string& name);
 
  private:
@@ -37,7 +35,7 @@ class NewFile {
   int folder_;
   std::string_view bytes_;
   unsigned mode_;
-  std::string hidden_name_;  // empty while the file has no name at all
+  std::string hidden_name_;  // empty while the file has no name
 };
 
 }  // namespace ZQ7Standard

@@ -32,13 +32,13 @@ OpenFile::~OpenFile() {
   if (descriptor_ != kClosed) calls_->close(descriptor_);
 }
 
-/// False, and errno, where that fails.
+/// Returns false and sets errno on failure.
 bool OpenFile::TryOpen(int folder, const std::string& name, int flags, unsigned mode) {
   const auto open = [&](int wait) {
     return calls_->openat(folder, name.c_str(), (flags & ~wait) | O_CLOEXEC | O_NOCTTY, mode);
   };
   descriptor_ = Uninterrupted([&] { return open(0); });
-  // A file that is leased to a process, which gives the lease back when it is asked to.
+  // A file leased to a process, which gives up the lease when asked to.
   if (descriptor_ == kClosed && errno == EWOULDBLOCK) {
     descriptor_ = Uninterrupted([&] { return open(O_NONBLOCK); });
   }
@@ -82,9 +82,9 @@ std::size_t OpenFile::Read(std::span<char> buffer) const {
 }
 
 std::string OpenFile::ReadToEnd(const struct stat& status) const {
-  constexpr std::size_t kSizeUnknown = 65535;  // as with files of /proc
+  constexpr std::size_t kSizeUnknown = 65535;  // as in /proc
   const auto expected = static_cast<std::size_t>(status.st_size);
-  // Room for one byte more shows where the end is.
+  // One byte more than expected shows where the end is.
   std::string bytes((expected > 0 ? expected : kSizeUnknown) + 1, '\0');
   std::size_t size = 0;
   while (const std::size_t count = Read(std::span(bytes).subspan(size))) {
@@ -101,7 +101,7 @@ void OpenFile::Write(std::string_view bytes) const {
 }
 
 void OpenFile::Sync() const {
-  // Some file systems cannot sync a folder, and say so by EINVAL.
+  // Some file systems cannot sync a folder and say so with EINVAL.
   if (Uninterrupted([this] { return calls_->fsync(descriptor_); }) != 0 && errno != EINVAL) {
     Fail(errno, "sync");
   }

@@ -13,13 +13,12 @@
 
 namespace ZQ7Standard {
 
-/// An open file or folder, which is closed at the end. What fails raises the run-time
-/// error of its errno, which names the path text.
+/// An open file or folder, closed by the destructor. Failures raise the run-time error of their
+/// errno, which names the path text.
 class OpenFile {
  public:
-  /// Opens the file `native`, with the flags of open(2). A file that this makes has
-  /// the rights `mode`, less the process's umask. With O_NONBLOCK a pipe or a device is
-  /// not waited for.
+  /// Opens the file `native`, with the flags of open(2). A created file has the rights `mode`, less
+  /// the process's umask. With O_NONBLOCK a pipe or a device is not waited for.
   OpenFile(TextView path, std::string native, int flags, unsigned mode = 0666);
   OpenFile(const OpenFile&) = delete;
   OpenFile(OpenFile&& other) noexcept;
@@ -27,35 +26,35 @@ class OpenFile {
   OpenFile& operator=(OpenFile&&) = delete;
   ~OpenFile();
 
-  /// The same where the file is there; nothing where it is not.
+  /// The same if the file exists; otherwise nullopt.
   static std::optional<OpenFile> IfThere(TextView path, std::string native, int flags,
                                          const SystemCalls& calls = kSystemCalls);
 
-  // For an open folder: what is in it. Failures name the folder's path text, and a name
-  // that begins with "/" leaves the folder.
+  // For the contents of an open folder. Failures name the folder's path text, and a name that
+  // begins with "/" leaves the folder.
 
   /// Opens `name`.
   OpenFile Open(const std::string& name, int flags, unsigned mode = 0666) const;
-  /// The same; nullopt if that fails with an errno that is `expected`.
+  /// The same; nullopt if it fails with an errno that is `expected`.
   std::optional<OpenFile> OpenUnless(bool (*expected)(int error), const std::string& name,
                                      int flags) const;
-  /// The status of `name`, not of what a link names; nothing where there is none.
+  /// The status of `name` itself, not of a link's target; nullopt if there is none.
   std::optional<struct stat> StatusOf(const std::string& name) const;
 
-  /// Reads once. Fewer bytes than `buffer` has room for are not yet the end; none are.
+  /// Reads once. Fewer bytes than `buffer` holds are not yet the end; none are.
   std::size_t Read(std::span<char> buffer) const;
-  /// Reads a file of that status from its start to its end.
+  /// Reads a file with that status from start to end.
   std::string ReadToEnd(const struct stat& status) const;
   /// Writes all of `bytes`.
   void Write(std::string_view bytes) const;
   /// Waits until what was written is on the disk.
   void Sync() const;
-  /// Closes the file; a write that the system put off may fail here.
+  /// Closes the file; a deferred write may fail here.
   void Close();
 
   struct stat Status() const;
 
-  /// For system calls of other kinds, whose failure `Fail` raises.
+  /// For other system calls, whose failures `Fail` raises.
   int Descriptor() const { return descriptor_; }
   const SystemCalls& Calls() const { return *calls_; }
   [[noreturn]] void Fail(int error, std::string_view step) const;

@@ -7,8 +7,7 @@
 namespace ZQ7Standard {
 namespace {
 
-// The mark of our databases, "ZQ7R", and the version of their tables, as `kSchema`
-// sets them.
+// The mark of our databases, "ZQ7R", and the version of the tables in `kSchema`.
 constexpr std::int64_t kApplication = 0x5A513752;
 constexpr std::int64_t kVersion = 1;
 
@@ -51,8 +50,8 @@ constexpr const char* kSet = R"(
 
 enum class Content { kNothing, kRegistry, kOther };
 
-/// What a database holds; what cannot be read counts as something other. The caller is in
-/// a transaction, since another process may make the tables between two of the questions.
+/// The kind of a database; one that cannot be read counts as another kind. The caller holds a
+/// transaction, since another process may create the tables between two queries.
 Content ContentOf(SqliteConnection& connection) {
   const std::int64_t application = connection.Number("PRAGMA application_id", -1);
   const std::int64_t version = connection.Number("PRAGMA user_version", -1);
@@ -82,8 +81,8 @@ std::shared_ptr<RegistryDatabase> RegistryDatabase::Open(const std::filesystem::
   const bool ready = connection.Execute("PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON") &&
                      database->PrepareStatements();
   if (!ready) return nullptr;
-  // Stays undone while another process has the database open without a log, which
-  // is slower and no less safe.
+  // Fails while another process has the database open without a log, which is slower but no less
+  // safe.
   connection.Execute("PRAGMA journal_mode = WAL");
   return database;
 }
@@ -117,7 +116,7 @@ bool RegistryDatabase::Set(const KeyPlace& place, TextView name, std::uint32_t t
   return Finish(set_) && connection_.Changes() == 1;
 }
 
-/// Makes the tables, unless another process has just done so.
+/// Creates the tables, unless another process has just done so.
 bool RegistryDatabase::MakeSchema() {
   if (!connection_.Execute("BEGIN IMMEDIATE")) return false;
   const Content content = ContentOf(connection_);
@@ -184,7 +183,7 @@ std::optional<QueriedValue> RegistryDatabase::QueryIn(std::int64_t key, TextView
   return value;
 }
 
-/// Whether anything changed, and with it maybe the keys, since they were found.
+/// Whether anything, possibly the keys, has changed since they were found.
 bool RegistryDatabase::ForgetChangedKeys() {
   const unsigned version = connection_.DataVersion();
   if (version == found_in_) return false;

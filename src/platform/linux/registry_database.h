@@ -9,7 +9,7 @@
 
 namespace ZQ7Standard {
 
-/// Where a key is: a root, and the path below it in the form of `KeyPath`.
+/// The place of a key: a root, and the path below it in the form of `KeyPath`.
 struct KeyPlace {
   std::int32_t root;
   Text path;
@@ -23,34 +23,33 @@ struct KeyPlace {
   };
 };
 
-/// An open database of registry keys, used by one thread at a time. What fails, or
-/// is asked in a child of the process that opened it, is answered with nothing.
+/// An open database of registry keys, used by one thread at a time. Operations that fail, or run in
+/// a child of the process that opened it, return nothing.
 ///
-/// The name of a key or a value is kept as its creator wrote it, beside the text in
-/// lower case that it is looked up by.
+/// A key's or value's name is stored as its creator wrote it, and in lower case for lookup.
 class RegistryDatabase {
  public:
   using WhenMissing = SqliteConnection::WhenMissing;
 
-  /// The database in `file`; nothing when there is none (unless it may be made), it
-  /// may not be written, or it is a link, damaged, not a registry or of a later version.
-  /// Those are left as they are; an empty file counts as none.
+  /// The database in `file`; null if it is missing (and may not be created), read-only, a link,
+  /// damaged, not a registry, or of a later version. Those are left unchanged; an empty file counts
+  /// as missing.
   static std::shared_ptr<RegistryDatabase> Open(const std::filesystem::path& file,
                                                 WhenMissing when_missing);
 
   bool IsUsable() const { return connection_.IsUsable(); }
   bool WasMoved() { return connection_.WasMoved(); }
 
-  /// Whether there is a key. It may be gone by now when it was found before.
+  /// Whether a key exists. It may have disappeared since it was last found.
   bool HasKey(const KeyPlace& place) { return FindKey(place).has_value(); }
 
-  /// Makes a key, and those above it, unless they are there. Whether they are now.
+  /// Creates a key and those above it, unless they exist. Returns whether they do now.
   bool MakeKey(const KeyPlace& place);
 
   std::optional<QueriedValue> Query(const KeyPlace& place, TextView name, std::span<char> buffer);
   bool Set(const KeyPlace& place, TextView name, std::uint32_t type, std::string_view data);
 
-  /// For `Open` alone.
+  /// Only for `Open`.
   RegistryDatabase(const std::filesystem::path& file, WhenMissing when_missing)
       : connection_(file, when_missing) {}
 
@@ -68,8 +67,8 @@ class RegistryDatabase {
   sqlite3_stmt* make_key_ = nullptr;
   sqlite3_stmt* query_ = nullptr;
   sqlite3_stmt* set_ = nullptr;
-  // The numbers of the keys that were found in one state of the database: to look
-  // one up takes as long as to read a value.
+  // The numbers of keys found in one state of the database: looking one up takes as long as reading
+  // a value.
   std::unordered_map<KeyPlace, std::int64_t, KeyPlace::Hash> found_;
   unsigned found_in_ = 0;
 };

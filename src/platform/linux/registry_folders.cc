@@ -11,16 +11,15 @@
 namespace ZQ7Standard {
 namespace {
 
-/// The folder that a variable of the environment names; empty when it names none, or one
-/// that depends on the current folder, or the process has more rights than the user who
-/// made the environment.
+/// The folder named by an environment variable; empty if it names none, or one relative to the
+/// current folder, or the process has more rights than the user who made the environment.
 std::filesystem::path FolderFromEnvironment(const char* variable) {
   const char* const value = secure_getenv(variable);
   const std::filesystem::path folder = value == nullptr ? "" : value;
   return folder.is_absolute() ? folder : std::filesystem::path();
 }
 
-/// Brings the names in `folder` to the disk.
+/// Writes the names in `folder` to the disk.
 void SyncFolder(const std::filesystem::path& folder) {
   const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (opened < 0) return;

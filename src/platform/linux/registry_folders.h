@@ -7,23 +7,21 @@
 
 namespace ZQ7Standard {
 
-/// The folder of the registry of the user who runs the process, below the folder for
-/// data of the XDG base directories; empty when the environment names none, or is not to
-/// be trusted.
+/// The registry folder of the user who runs the process, in the data folder of the XDG base
+/// directories; empty if the environment names none, or cannot be trusted.
 std::filesystem::path UserRegistryFolder();
 
-/// The folder of the registry of the machine.
+/// The registry folder of the machine.
 std::filesystem::path MachineRegistryFolder();
 
-/// The path of `folder` without symbolic links; empty when it is not there.
+/// The path of `folder` without symbolic links; empty if it does not exist.
 std::filesystem::path WithoutLinks(const std::filesystem::path& folder);
 
-/// Whether `folder` belongs to the user who runs the process, and nobody else may write
-/// to it.
+/// Whether `folder` belongs to the user who runs the process, and nobody else may write to it.
 bool IsForUserAlone(const std::filesystem::path& folder);
 
-/// Makes `folder` and those above it that are not there, to stay after a loss of
-/// power, with the permissions `mode`. Whether it is there now.
+/// Creates `folder` and missing folders above it, with the permissions `mode`, so that they survive
+/// a power loss. Returns whether it exists now.
 bool MakeFolder(const std::filesystem::path& folder, mode_t mode);
 
 }  // namespace ZQ7Standard

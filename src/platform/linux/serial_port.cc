@@ -1,6 +1,6 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/serial_port.h>
-#include <asm/termbits.h>  // as <termios.h>, with speeds as plain numbers
+#include <asm/termbits.h>  // like <termios.h>, with speeds as plain numbers
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/file.h>
@@ -28,7 +28,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-/// The error of a line: its device, and what else is known.
+/// The error of a line, with its device and any detail.
 RunTimeError Failure(Error error, const std::string& device, const std::string& detail = "") {
   return RunTimeError(error, detail.empty() ? device : device + ": " + detail);
 }
@@ -53,9 +53,8 @@ RunTimeError OpenFailure(const std::string& device, int error) {
 
 constexpr tcflag_t kFormFlags = CSIZE | CSTOPB | PARENB | PARODD | CMSPAR;
 
-/// The flags of the system for the form of a character; nothing for what serial
-/// hardware cannot send. Its one flag for a long stop bit means 1.5 with 5 data bits
-/// and 2 with more.
+/// The system's flags for the form of a character; nullopt for what serial hardware cannot send.
+/// Its only flag for a long stop bit means 1.5 with 5 data bits and 2 with more.
 std::optional<tcflag_t> FormFlags(const SerialSettings& settings) {
   constexpr std::array<tcflag_t, 4> kSizes = {CS5, CS6, CS7, CS8};
   constexpr std::array<tcflag_t, 5> kParities = {0, PARENB | PARODD, PARENB,
@@ -69,7 +68,7 @@ std::optional<tcflag_t> FormFlags(const SerialSettings& settings) {
   return form | CSTOPB;
 }
 
-/// How a line is to be set up, and the text that says so.
+/// The requested mode of a line, and the text that says so.
 struct LineMode {
   speed_t baud = 9600;
   tcflag_t form = CS8;
@@ -84,8 +83,8 @@ std::optional<LineMode> ReadLineMode(TextView text) {
   return LineMode{settings->baud, *form, Quoted(text)};
 }
 
-/// Whether a driver that was asked for `mode` has set it up as `line`. A speed within
-/// 2 % is what other devices put up with, and as near as most hardware comes.
+/// Whether a driver asked for `mode` has set the line up as `line`. A speed within 2 % is what
+/// other devices tolerate, and as close as most hardware gets.
 bool IsSetUp(const termios2& line, const LineMode& mode) {
   const auto difference = std::max(line.c_ospeed, mode.baud) - std::min(line.c_ospeed, mode.baud);
   return (line.c_cflag & kFormFlags) == mode.form && difference <= mode.baud / 50;
@@ -105,8 +104,7 @@ class Descriptor {
   int number_;
 };
 
-/// A serial line of the machine, open and locked. It gets back the settings that it
-/// was found with.
+/// A serial line of the machine, open and locked. On closing it gets back its original settings.
 class Line {
  public:
   explicit Line(std::string device)
@@ -122,7 +120,7 @@ class Line {
     ioctl(Number(), TIOCNXCL);  // a pseudo-terminal would stay locked
   }
 
-  /// Sets the line up for bytes as they are.
+  /// Sets the line up for raw bytes.
   void SetUp(const LineMode& mode) {
     termios2 line = former_;
     line.c_iflag = IGNBRK | IGNPAR;
@@ -139,9 +137,9 @@ class Line {
     baud_ = mode.baud;
   }
 
-  /// Writes `bytes` in the time that they need on the line and `time_limit` more.
+  /// Writes `bytes` within the time that they need on the line plus `time_limit`.
   void Write(std::string_view bytes, milliseconds time_limit) {
-    // A byte is 12 bits at most: the start, 8 of data, parity and 2 of stop.
+    // A byte takes at most 12 bits: the start, 8 of data, parity and 2 of stop.
     const milliseconds needed(bytes.size() * 12 * 1000 / baud_);
     const auto deadline = steady_clock::now() + needed + time_limit;
     int error = Send(bytes, deadline);
@@ -156,8 +154,8 @@ class Line {
  private:
   int Number() const { return descriptor_.Number(); }
 
-  /// The two locks together keep everyone out: other programs are refused the device,
-  /// and one that the system refuses nothing (root) finds the mark or the file lock.
+  /// Two locks keep everyone out: the system refuses the device to other programs, and root, which
+  /// it refuses nothing, finds the mark or the file lock.
   void Lock() {
     int exclusive = 0;
     if (flock(Number(), LOCK_EX | LOCK_NB) < 0 ||
@@ -167,8 +165,8 @@ class Line {
     ioctl(Number(), TIOCEXCL);
   }
 
-  /// Hands `bytes` to the driver, all at once where it has room for them. Returns 0 or
-  /// the error of the system, ETIME after the deadline.
+  /// Passes `bytes` to the driver, all at once if it has room. Returns 0 or the error of the
+  /// system, ETIME after the deadline.
   int Send(std::string_view bytes, steady_clock::time_point deadline) const {
     while (true) {
       const ssize_t written = write(Number(), bytes.data(), bytes.size());
@@ -182,8 +180,8 @@ class Line {
     }
   }
 
-  /// Waits until the last byte has left the line, with results as those of `Send`. The
-  /// system's own way knows no deadline, so it gets what the hardware holds alone.
+  /// Waits until the last byte has left the line; same results as `Send`. The system's own wait has
+  /// no deadline, so it is used only for what the hardware holds.
   int Drain(steady_clock::time_point deadline) const {
     for (int waiting = 0;; std::this_thread::sleep_for(milliseconds(1))) {
       if (ioctl(Number(), TIOCOUTQ, &waiting) < 0) return errno;

@@ -13,7 +13,7 @@
 namespace ZQ7Standard {
 namespace {
 
-// Long enough for a queue of writers that wait for a slow disk.
+// Long enough for a queue of writers waiting for a slow disk.
 constexpr int kBusyMilliseconds = 10'000;
 
 struct Setting {
@@ -27,13 +27,13 @@ constexpr std::array<Setting, 4> kProtection = {{
     {SQLITE_DBCONFIG_ENABLE_VIEW, 0},
 }};
 
-/// What a process knows of its connections. It stays to the very end, because
-/// connections may be closed by destructors of static objects.
+/// A process's connections. Never destroyed, because destructors of static objects may close
+/// connections.
 struct Process {
   std::mutex mutex;
-  std::vector<SqliteConnection*> connections;  // inherited ones too
+  std::vector<SqliteConnection*> connections;  // including inherited ones
   unsigned forks = 0;
-  bool may_open = true;  // false when it could not let go of an inherited connection
+  bool may_open = true;  // false if it could not let go of an inherited connection
 };
 
 Process& ThisProcess();
@@ -61,9 +61,9 @@ void WatchForks() {
   static_cast<void>(watched);
 }
 
-/// Makes the file `file`, empty, where there is none. SQLite itself would let others read
-/// it. To close a file gives up the locks that the process has on it; but of a new one no
-/// connection has any, as long as the caller holds the mutex.
+/// Creates the file `file`, empty, if it does not exist; SQLite itself would let others read it.
+/// Closing a file releases the process's locks on it, but no connection has locks on a new file as
+/// long as the caller holds the mutex.
 void MakeFile(const std::filesystem::path& file) {
   constexpr mode_t kUserOnly = S_IRUSR | S_IWUSR;
   const int made = open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kUserOnly);
@@ -82,7 +82,7 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, WhenMissin
   if (when_missing == WhenMissing::kMake) MakeFile(file);
   constexpr int kFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOFOLLOW | SQLITE_OPEN_NOMUTEX;
   const int result = sqlite3_open_v2(file.c_str(), &db_, kFlags, nullptr);
-  // A file without the right to write would be opened for reading.
+  // A file without the right to write would be opened read-only.
   const bool writable = result == SQLITE_OK && sqlite3_db_readonly(db_, "main") == 0;
   if (!writable || !Protect()) Close();
   if (db_ != nullptr) sqlite3_busy_timeout(db_, kBusyMilliseconds);
@@ -149,9 +149,9 @@ bool SqliteConnection::LetGoOfInherited() {
   return process.may_open;
 }
 
-/// Closes an inherited connection without a checkpoint, which would be the parent's
-/// to make, and without removing the log. Not while another thread of the parent was
-/// writing at the fork: to close would be to undo, in memory that the parent shares.
+/// Closes an inherited connection without a checkpoint, which is the parent's job, and without
+/// removing the log. Fails if another thread of the parent was writing at the fork: closing would
+/// roll back, in memory shared with the parent.
 bool SqliteConnection::LetGo() {
   if (db_ == nullptr) return true;
   if (sqlite3_txn_state(db_, nullptr) == SQLITE_TXN_WRITE) return false;

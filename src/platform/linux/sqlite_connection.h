@@ -10,48 +10,47 @@
 
 namespace ZQ7Standard {
 
-/// A connection to a database with its prepared statements, used by one thread at a
-/// time, and only in the process that opened it.
+/// A connection to a database with its prepared statements, used by one thread at a time, and only
+/// in the process that opened it.
 ///
-/// The child of a fork has the parent's connections in its memory, and with them
-/// SQLite's belief, held once for each file of a process, that files are locked;
-/// but the locks are the parent's alone. So before a child opens a connection of
-/// its own, it lets go of all that it inherited, in a way that leaves the parent's
-/// files as they are.
+/// The child of a fork inherits the parent's connections in memory, and with them SQLite's record,
+/// one per file and process, of which files are locked; but the locks are the parent's alone. So
+/// before a child opens a connection of its own, it lets go of all that it inherited, leaving the
+/// parent's files unchanged.
 ///
-/// The database may come from someone else: no trigger and no view in it is used, and no
-/// function in the definition of a table that SQLite takes for unsafe.
+/// The database may come from someone else: triggers and views in it are not used, nor functions in
+/// table definitions that SQLite considers unsafe.
 class SqliteConnection {
  public:
   enum class WhenMissing { kFail, kMake };
 
-  /// Opens `file`, which is named without symbolic links. One that is made is for its
-  /// user alone.
+  /// Opens `file`, whose path has no symbolic links. A file that this creates is private to its
+  /// user.
   SqliteConnection(const std::filesystem::path& file, WhenMissing when_missing);
   SqliteConnection(const SqliteConnection&) = delete;
   SqliteConnection& operator=(const SqliteConnection&) = delete;
   ~SqliteConnection();
 
-  /// Whether the file was opened for writing, by this process.
+  /// Whether this process opened the file for writing.
   bool IsUsable() const;
 
-  /// Whether the file is no longer where it was opened.
+  /// Whether the file has been moved or replaced since it was opened.
   bool WasMoved();
 
-  /// A number that changes with the state of the database that the last statement saw.
+  /// A number that changes with the database state seen by the last statement.
   unsigned DataVersion();
 
-  /// How many rows the last statement that writes changed.
+  /// The number of rows changed by the last writing statement.
   int Changes() { return sqlite3_changes(db_); }
 
-  /// Runs statements without parameters; whether all went well.
+  /// Runs statements without parameters; returns whether all succeeded.
   bool Execute(const char* sql);
 
-  /// The number that a statement gives in its first row; `fallback` without one.
+  /// The number in the first row of a statement's result; `fallback` if there is none.
   std::int64_t Number(const char* sql, std::int64_t fallback);
 
-  /// A statement that lives as long as the connection; nullptr when the tables are
-  /// not those that it needs.
+  /// A statement that lives as long as the connection; null if the tables are not those that it
+  /// needs.
   sqlite3_stmt* Prepare(const char* sql);
 
  private:
@@ -61,10 +60,10 @@ class SqliteConnection {
   void Close();
 
   sqlite3* db_ = nullptr;
-  unsigned forks_;  // how many lie between the first process and the one that opened it
+  unsigned forks_;  // the number of forks between the first process and the one that opened it
 };
 
-// Parameters of a statement. Texts and bytes have to stay until the statement has run.
+// Parameters of a statement. Texts and bytes must live until the statement has run.
 struct SqliteBytes {
   std::string_view bytes;
 };
@@ -79,7 +78,7 @@ void Start(sqlite3_stmt* statement, const auto&... parameters) {
   (Bind(statement, ++index, parameters), ...);
 }
 
-/// Runs a statement that gives no rows; whether it went well.
+/// Runs a statement that returns no rows; returns whether it succeeded.
 bool Finish(sqlite3_stmt* statement);
 
 }  // namespace ZQ7Standard

@@ -11,8 +11,8 @@
 
 namespace ZQ7Standard {
 
-/// The system calls by which a file is rewritten. Tests put others in their place: one
-/// that fails, or some that write down what they are asked to do.
+/// The system calls that rewrite a file. Tests replace them: by one that fails, or by some that
+/// record what they are asked to do.
 struct SystemCalls {
   int (*openat)(int folder, const char* name, int flags, mode_t mode);
   int (*fstat)(int file, struct stat* status);
@@ -37,11 +37,11 @@ struct SystemCalls {
 /// The system's own.
 extern const SystemCalls kSystemCalls;
 
-/// Writes all of `bytes` to an open file, one write after the other. False, and errno, if
-/// one fails.
+/// Writes all of `bytes` to an open file, by as many writes as it takes. Returns false and sets
+/// errno if one fails.
 bool WriteAll(const SystemCalls& calls, int file, std::string_view bytes);
 
-/// The result of a system call, made again while signals interrupt it.
+/// Repeats a system call as long as signals interrupt it, and returns its result.
 template <typename Call>
 auto Uninterrupted(Call call) {
   auto result = call();

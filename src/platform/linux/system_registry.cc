@@ -29,8 +29,8 @@ class DatabaseKey final : public RegistryKey {
   KeyPlace place_;
 };
 
-/// The database in a folder of the host's, or else in `own_place`. It is opened when
-/// it is first needed, and again after a fork.
+/// The database in the host's folder, or else in `own_place`. It is opened on first use, and again
+/// after a fork.
 class Store {
  public:
   Store(std::filesystem::path folder, std::filesystem::path (*own_place)(), mode_t mode)
@@ -41,8 +41,8 @@ class Store {
     return database_;
   }
 
-  /// The same, made when it is not there, nor any more: an update of a file that
-  /// was removed or replaced while it was open would be lost.
+  /// The same, created if it does not exist or no longer exists: an update of a file that was
+  /// removed or replaced while open would be lost.
   const std::shared_ptr<RegistryDatabase>& ForWriting() {
     const bool open = database_ && database_->IsUsable() && !database_->WasMoved();
     if (!open) Open(RegistryDatabase::WhenMissing::kMake);
@@ -60,8 +60,8 @@ class Store {
     database_ = RegistryDatabase::Open(folder / "registry.db", when_missing);
   }
 
-  /// A folder that the environment named has to be the user's. A host answers for its own,
-  /// and the machine's may belong to a group.
+  /// A folder named by the environment must belong to the user. Hosts answer for their own, and the
+  /// machine's may belong to a group.
   bool IsTrusted(const std::filesystem::path& folder) const {
     return !folder_.empty() || mode_ != kUserOnly || IsForUserAlone(folder);
   }
@@ -72,8 +72,8 @@ class Store {
   std::shared_ptr<RegistryDatabase> database_;
 };
 
-/// The databases of the user and of the machine. A database that may not be written
-/// may not be used, so every key in it has all rights.
+/// The databases of the user and of the machine. A database that is not writable is not used, so
+/// every key in it grants all rights.
 class DatabaseRegistry final : public Registry {
  public:
   explicit DatabaseRegistry(const RegistryFolders& folders)

@@ -6,8 +6,8 @@
 
 namespace ZQ7Standard {
 
-/// The step of last-modified times in file systems of the type that statfs(2) tells; 1 ns
-/// for those that are not known to have a longer one.
+/// The step of last-modified times in file systems with that type of statfs(2); 1 ns for those not
+/// known to have a longer one.
 std::chrono::nanoseconds TimeStepOf(std::uint32_t file_system_type);
 
 }  // namespace ZQ7Standard

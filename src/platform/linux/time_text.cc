@@ -24,7 +24,7 @@ tm PartsOf(OleDate moment) {
   return parts;
 }
 
-/// A locale by name, or "C" where it is not installed or has no name.
+/// A locale by name, or "C" if it is not installed or the name is empty.
 locale_t NewLocale(const std::string& name) {
   const locale_t locale = newlocale(LC_TIME_MASK, name.empty() ? "C" : name.c_str(), nullptr);
   return locale != nullptr ? locale : newlocale(LC_TIME_MASK, "C", nullptr);
@@ -37,7 +37,7 @@ class LinuxTimeText final : public TimeTextSource {
   LinuxTimeText& operator=(const LinuxTimeText&) = delete;
   ~LinuxTimeText() override { Release(); }
 
-  // In wide characters, which do not depend on the encoding of the locale.
+  // In wide characters, which are independent of the locale's encoding.
   Text LongTime(OleDate moment) override {
     const tm parts = PartsOf(moment);
     std::array<wchar_t, 128> text;
@@ -47,7 +47,7 @@ class LinuxTimeText final : public TimeTextSource {
   }
 
  private:
-  /// The locale of the environment, which is kept while its name stays the same.
+  /// The environment's locale, kept as long as its name stays the same.
   locale_t Current() {
     const LocaleName name = LocaleNameFromEnvironment();
     if (locale_ == nullptr || name.locale != name_ || name.folder != folder_) {

@@ -13,12 +13,12 @@ namespace {
 
 constexpr std::string_view kName = "SodiumBlockCipher";
 
-// An enciphered text begins with this; the digit is the version of the form.
+// Prefix of encrypted texts; the digit is the version of the format.
 constexpr std::string_view kMark = "ZQ71";
 constexpr int kLetters = sodium_base64_VARIANT_URLSAFE_NO_PADDING;
 
-// The parts of a ciphertext: the cost, the salt, the nonce, and the sealed text,
-// which is as long as the plain text and a tag.
+// The parts of a ciphertext: the cost, the salt, the nonce, and the sealed text, which is a tag
+// longer than the plain text.
 constexpr std::size_t kSaltAt = 1;
 constexpr std::size_t kNonceAt = kSaltAt + crypto_pwhash_SALTBYTES;
 constexpr std::size_t kSealedAt = kNonceAt + crypto_aead_xchacha20poly1305_ietf_NPUBBYTES;
@@ -30,14 +30,14 @@ struct CostLimits {
   std::size_t memory;  // bytes
 };
 
-// A text carries its cost by number alone, so these never change.
+// Texts store their cost only by number, so these never change.
 constexpr std::array<CostLimits, 3> kCosts = {{
     {KeyCost::kLeast, 1, std::size_t{8} << 10},
     {KeyCost::kInteractive, 2, std::size_t{64} << 20},
     {KeyCost::kModerate, 3, std::size_t{256} << 20},
 }};
 
-/// The limits of `cost`; nothing when it is none, as in a damaged text.
+/// The limits of `cost`; null if it is unknown, as in a damaged text.
 const CostLimits* FindLimits(KeyCost cost) {
   for (const CostLimits& limits : kCosts) {
     if (limits.cost == cost) return &limits;
@@ -91,9 +91,9 @@ class SodiumCipher final : public BlockCipher {
     return plain;
   }
 
-  /// The key of a text follows from its own salt, which `Decode` has yet to find
-  /// when a text is deciphered. So the material is the password, as the bytes of
-  /// its UTF-16 code units, low byte first, and a salt for `EncryptBlocks`.
+  /// A text's key depends on its own salt, which is unknown until `Decode` when decrypting. So the
+  /// key material is the password, as the bytes of its UTF-16 code units, low byte first, and a
+  /// salt for `EncryptBlocks`.
   void SetUpKey(TextView password, SecretBytes& key, SecretBytes& vector) override {
     key = SecretBytes(2 * password.size());
     for (std::size_t i = 0; i < password.size(); ++i) {

@@ -2,7 +2,7 @@
 #include <ZQ7Standard/platform/path_text.h>
 
 #include "tests/support/ascii_files.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
@@ -16,7 +16,7 @@ TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
   ExpectRows<std::string, TextView>(call, {
       {{"[A]=1\r\n[B]=2\r\n", u"B"}, "2"}, {{"[port]=5", u"PORT"}, "5", "no end of line"},
       {{"  [Port]=5\r\n", u"pORT"}, "5", "indented"}, {{"\t[A]=1", u"A"}, "", "a tab is no blank"},
-      {{"[A] = abc  \r\n", u"A"}, " abc  ", "blanks behind the = stay"},
+      {{"[A] = abc  \r\n", u"A"}, " abc  ", "blanks after the = stay"},
       {{"[A]=1\r\n[A]=2", u"A"}, "1", "the first wins"},
       {{"[A]x\r\n[A]=y", u"A"}, "y"}, {{"[A]  x \r\n", u"A"}, "x ", "no = at all"},
       {{"[A]x\n[A]z\n[B]=1", u"A"}, "z", "the last without ="},
@@ -67,7 +67,7 @@ TEST(KeyValueFile, DeleteValueDropsEveryLineOfTheKey) {
   // clang-format on
 }
 
-// What the operations that write tell of a new file in folders of all kinds.
+// The messages of writing operations about a new file in folders of all kinds.
 TEST(WriteMessages, TellAMissingFolderFromAReadOnlyOne) {
   AsciiFiles files;
   const auto folder = files.Folder() / "sub";

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "tests/support/ascii_files.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 

@@ -1,12 +1,12 @@
 #include <ZQ7Standard/CImageInfo.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;
 
-// EXIF, fill bytes and rows from the top are put into what the encoder writes. Each
-// file is read behind another, whose properties it must not keep.
+// EXIF, fill bytes and top-down rows are inserted into what the encoder writes. Each file is read
+// after another one, whose properties must not remain.
 TEST(ReadImageInfo, ReadsRealFiles) {
   const TempFolder folder;
   CImageInfo info;

@@ -8,12 +8,12 @@
 #include <sys/resource.h>
 
 #include "tests/support/children.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;
 
-// The file "to", or all in the folder: content, mode and year of the last-modified time.
+// The file "to", or everything in the folder: content, mode and year of the last-modified time.
 constexpr const char* kTarget =
     "find to \\( -type d -printf ' %P/\\n' -o -printf ' %P=' -exec cat {} \\; "
     "-printf ',%m,%TY\\n' \\) 2>&- | LC_ALL=C sort | tr -d '\\n'";
@@ -99,7 +99,7 @@ TEST(XCopyFile, CopiesATreeAndCountsIt) {
   // clang-format on
 }
 
-// Copies that would go on for ever. "@" in a path is the folder of the test.
+// Copies that would never end. "@" in a path is the folder of the test.
 TEST(XCopyFile, RefusesATargetInTheSourceByWhateverName) {
   const auto current = std::filesystem::current_path();
   const auto call = [&](const std::string& change, const std::string& from, const std::string& to) {
@@ -152,7 +152,7 @@ TEST(XCopyFile, StopsAtALinkThatWouldGoOnForEver) {
   // clang-format on
 }
 
-// The first two folders have one number, on devices of their own.
+// The first two folders have the same number, on different devices.
 TEST(RootXCopyFile, TellsTheFoldersOfMountsApart) {
   constexpr int kNoMounts = 255;
   const std::pair<const char*, int> rows[] =

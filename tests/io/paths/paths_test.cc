@@ -2,7 +2,7 @@
 #include <ZQ7Standard/platform/file_status.h>
 #include <ZQ7Standard/platform/folders.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;
@@ -18,7 +18,7 @@ TEST(Paths, AreSplitTrimmedAndShortened) {
   ExpectTexts([&](TextView path) { return disk.trimPath(path); }, {
       {"C:\\a", {u"C:\\a", u"C:\\a\\\\\\"}}, {"\\a/", {u"\\a/"}}, {"", {u"", u"\\\\"}}});
   // clang-format on
-  // Spaces around the path go, but its name keeps its own, and they count in its length.
+  // Spaces around the path are removed, but its name keeps its own, and they count in its length.
   // clang-format off
   ExpectRows<TextView>([&](TextView path) { return disk.ScaleFullPath(path, 500); }, {
       {{u"C:\\Data\\Sales\\2024\\report.xls"}, "C:\\Data\\...\\report.xls"},
@@ -47,7 +47,7 @@ TEST(CreateFullPath, MakesEachFolderThatIsMissing) {
             "new new/a srv srv/share x x/w x/y x/y/z ");
 }
 
-/// Another process makes each folder of the machine just before.
+/// Another process creates each folder on the machine just before.
 struct OvertakenFolders final : Folders {
   void Create(TextView path) override {
     real->Create(path);

@@ -2,12 +2,12 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/message_box.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
-/// The steps that a drawer's kick takes on a control that raises `raised` in the step
-/// that begins with `failing`, then the result of `SendCommMsg` and the message shown.
+/// The steps of opening a drawer through a control that raises `raised` in the step that begins
+/// with `failing`, then the result of `SendCommMsg` and the message shown.
 std::string Kick(const std::string& failing, const auto& raised) {
   const auto port = std::make_shared<RecordingSerialPort>();
   port->on_call = [&](const std::string& calls) {

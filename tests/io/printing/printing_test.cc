@@ -9,12 +9,12 @@
 #include "formats/picture_size.h"
 #include "io/printing/fitting_text.h"
 #include "tests/support/printers.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
 namespace {
 
-/// An object whose operations have short names.
+/// An object with short names for its operations.
 struct Pen : PrintObject {
   explicit Pen(PrintRecord& record) : PrintObject({.printers = Recorded(record)}) {}
   void Text(auto... arguments) { PrintGraphicText(arguments...); }
@@ -27,7 +27,7 @@ struct Pen : PrintObject {
   }
 };
 
-/// What calls on an object with one recording printer print.
+/// Calls on an object with one recording printer, and what they print.
 struct Job {
   const char* reason;
   const char* log;
@@ -35,7 +35,7 @@ struct Job {
   const char* refused = "";
 };
 
-/// Checks the log of each job, to which an error is added.
+/// Checks the log of each job, including any error.
 void ExpectJobs(const std::vector<Job>& jobs) {
   for (const Job& job : jobs) {
     PrintRecord record;
@@ -128,7 +128,7 @@ TEST(PrinterSelection, RemembersTheNameOfAPrinterWhoseSettingsCannotBeRead) {
   EXPECT_EQ(record.log, "use PDF use Laser a@2,4");
 }
 
-/// Printers that are asked within an operation alone.
+/// Printers that are used only within an operation.
 struct GuardedPrinters final : PrinterList {
   std::vector<Printer> Installed() override { return Listed()->Installed(); }
   Printer Current() override { return Listed()->Current(); }
@@ -205,7 +205,7 @@ TEST(PaperTexts, StayAsTheyAre) {
 }
 
 TEST(FittingText, IsWhatDroppingOneByOneLeaves) {
-  // An "i" joins an "f", and a family of four is one picture: both make it narrower.
+  // An "i" joins an "f", and a family of four is one picture: both make the text narrower.
   const auto width = [](TextView text) {
     double sum = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {

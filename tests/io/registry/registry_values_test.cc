@@ -1,7 +1,7 @@
 #include <ZQ7Standard/RegistryObject.h>
 #include <ZQ7Standard/platform/registry.h>
 
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
 namespace {

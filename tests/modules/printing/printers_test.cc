@@ -27,7 +27,7 @@
 #include "printing/linux/printer_names.h"
 #include "tests/support/denied_calls.h"
 #include "tests/support/ipp_server.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {
@@ -35,7 +35,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A new folder that others may look into, gone with the object.
+/// A new folder that others can read, removed with the object.
 struct Folder : TempFolder {
   Folder() { fs::permissions(path, fs::perms(0755)); }
   auto Files() const { return std::distance(fs::directory_iterator(path), {}); }
@@ -44,11 +44,11 @@ struct Folder : TempFolder {
   const fs::path& path = Native();
 };
 
-/// The user's folder, before anything looks for it.
+/// The user's folder, set before anything looks for it.
 const Folder kHome;
 const int kHomeIsSet = setenv("HOME", kHome.path.c_str(), 1);
 
-/// What a command prints.
+/// The output of a command.
 std::string OutputOf(const std::string& command) {
   return kHome.Run(command);
 }
@@ -73,7 +73,7 @@ TEST_F(Pages, HaveTheirTextInItsPlace) {
   printer.PrintGraphicText(u"ญาติผู้ใหญ่\tน้ำมัน", 20, 200);
   printer.PrintSet(50.5, 60.3F, 0, u"ที่นี่กี่สตางค์");
   printer.PrintOut();
-  // Where an edge of a word is, in tenths of a millimetre.
+  // The position of a word's edge, in tenths of a millimetre.
   const std::string words = OutputOf("pdftotext -bbox " + folder.Only() + " -");
   const auto edge = [&](std::string word, std::string name) {
     const std::size_t start = words.rfind(name + "=\"", words.find("\">" + word + "<"));
@@ -147,7 +147,7 @@ TEST_F(Pages, AreFilesOfTheirOwn) {
 }
 
 TEST_F(Pages, GoToTheDocumentsOfTheUser) {
-  UseServer("127.0.0.1:1");  // where none listens
+  UseServer("127.0.0.1:1");  // where no server listens
   fs::create_directories(kHome.path / ".config");
   std::ofstream(kHome.path / ".config/user-dirs.dirs") << "XDG_DOCUMENTS_DIR=\"$HOME/เอกสาร\"\n";
   PrintObject object;
@@ -163,7 +163,7 @@ TEST(PrinterNames, ArePapersOfCups) {
   EXPECT_EQ(kPaperNames[6].name, "na_executive_7.25x10.5in");
 }
 
-/// A server of the test's own.
+/// A print server for each test.
 struct Server : testing::Test {
   Server() { Start(), UseServer("localhost:" + port); }
   ~Server() override { Kill(); }
@@ -223,7 +223,7 @@ TEST(OddServer, TellsWordsWhereNumbersBelong) {
   EXPECT_EQ(server.JobAttributes(), "media ");
 }
 
-/// A picture of 16 MB, which no connection takes at once.
+/// A picture of 16 MB, more than a connection takes at once.
 struct LargePicture final : PrintPicture {
   float Width() override { return 10; }
   float Height() override { return 10; }
@@ -239,7 +239,7 @@ struct Outcome {
   double seconds;  // of the longer one
 };
 
-/// What comes of a page for the server at `address`, which is given to this thread alone.
+/// The outcome of printing a page on the server at `address`, which is set for this thread only.
 Outcome PrintAt(const std::string& address, http_encryption_t encryption) {
   using Clock = std::chrono::steady_clock;
   cupsSetServer(address.c_str());
@@ -305,8 +305,8 @@ TEST(OddServer, IsAskedAtTheFirstNeedOfAnObjectsOwnPrinters) {
   EXPECT_GT(server.Connections(), asked);
 }
 
-/// What a process says on a terminal of its own, up to the text `last`.
-std::string Said(const std::function<void()>& process, const std::string& last) {
+/// What a process prints on a terminal of its own, up to the text `last`.
+std::string PrintedOnTerminal(const std::function<void()>& process, const std::string& last) {
   fflush(nullptr);
   int terminal = 0;
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
@@ -334,7 +334,7 @@ TEST(OddServer, HasNobodyAskedForAPassword) {
     dprintf(STDOUT_FILENO, "%d, ", ErrorOf([&] { printer.PrintStart(); }));
     cupsGetPassword("by CUPS itself");
   };
-  EXPECT_EQ(Said(print_then_ask, "self"), "482, by CUPS itself");
+  EXPECT_EQ(PrintedOnTerminal(print_then_ask, "self"), "482, by CUPS itself");
 }
 
 TEST_F(Server, MayDieInADocument) {

@@ -10,11 +10,11 @@
 #include <map>
 
 #include "platform/linux/locale_table.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
-/// Sets variables of the environment and puts the old values back at the end.
+/// Sets environment variables; the destructor restores the old values.
 class Environment {
  public:
   ~Environment() {
@@ -46,9 +46,9 @@ TEST(SystemDateConvention, JudgesInstalledAndOtherLocalesAlike) {
   Environment environment;
   const StandardObject object;
   for (const char* folder : {static_cast<const char*>(nullptr), "/nonexistent"}) {
-    environment.Set("LOCPATH", folder);  // nothing is installed in the second
+    environment.Set("LOCPATH", folder);  // no locale is installed in the second
     // clang-format off
-    // The same object on purpose: no answer may outlive its names.
+    // The same object on purpose: no result may outlive its locale names.
     ExpectRows<const char*>([&](const char* locale) {
       environment.SetLocale(locale);
       return object.GetDateFormat();
@@ -86,8 +86,8 @@ TEST(SystemDateConvention, TakesTheFirstNameThatIsNotEmpty) {
   EXPECT_EQ(convention_of(nullptr, nullptr, nullptr), kMdy);
 }
 
-// The C library has these day first; for one that is not installed the territory
-// decides. Names without a territory are aliases of other locales.
+// The C library has these day first; for one that is not installed, the territory decides. Names
+// without a territory are aliases of other locales.
 TEST(SystemDateConvention, TheTableAgreesWithEveryInstalledLocale) {
   const std::array<std::string_view, 5> by_territory = {"en_PH", "es_PR", "es_US", "unm_US",
                                                         "yi_US"};

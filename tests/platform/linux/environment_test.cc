@@ -3,12 +3,12 @@
 #include <stdlib.h>
 
 #include "tests/support/children.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;
 
-// What the programs below do: 0 when it could be done.
+// The programs run below; status 0 means success.
 TEST(EnvironmentProbe, DISABLED_Update) {
   exit(RegistryObject().UpdateKeyValueLong(HKEY_CURRENT_USER, u"K", u"V", 1) ? 1 : 0);
 }
@@ -21,8 +21,8 @@ TEST(EnvironmentProbe, DISABLED_Print) {
   exit(error == 482 ? 1 : error);
 }
 
-// Whoever starts a setgid program makes its environment, but does not have its rights. A
-// program that was started with another group of its own counts as one.
+// The user who starts a setgid program makes its environment, but lacks its rights. A program
+// started with a different primary group counts as setgid.
 TEST(RootEnvironment, NamesNoFolderToAProgramWithMoreRights) {
   if (geteuid() != 0) GTEST_SKIP() << "no right to change groups";
   const TempFolder folder;

@@ -18,7 +18,7 @@
 #include "tests/support/ascii_files.h"
 #include "tests/support/children.h"
 #include "tests/support/hooked_calls.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 namespace fs = std::filesystem;
@@ -26,8 +26,8 @@ namespace fs = std::filesystem;
 constexpr const char* kOld = "[A]=1\r\n[B]=2\r\n";
 constexpr const char* kFailed = "Warning: Not found specified folder or no permission to write.";
 
-/// Lets a call of `kHookedCalls` fail: the one of a number, counted from 0, among all or
-/// those of one kind.
+/// Makes one call of `kHookedCalls` fail: the one with a number, counted from 0, among all or those
+/// of one kind.
 struct Fault {
   explicit Fault(int number, const void* kind = nullptr, int error = EIO) {
     call_hook = [this, number, kind, error, count = 0](const void* call) mutable {
@@ -47,7 +47,7 @@ bool IsLocked(const fs::path& file) {
   return flock(opened.Number(), LOCK_EX | LOCK_NB) != 0;
 }
 
-// What is written goes by halves, so that one failure leaves a half-written file.
+// Writes happen in halves, so that one failure leaves a half-written file.
 TEST(Rewrite, AFailureOfAnyCallLeavesTheOldFileOrTheNewOne) {
   const std::set<const void*> dispensable = {&kSystemCalls.flock, &kSystemCalls.fgetxattr,
                                              &kSystemCalls.unlinkat, &kSystemCalls.fchown};
@@ -66,7 +66,7 @@ TEST(Rewrite, AFailureOfAnyCallLeavesTheOldFileOrTheNewOne) {
                                                    : kOld + failure;
       EXPECT_EQ(result, expected) << number;
       closes += fault.failed == &kSystemCalls.close && !ignored ? 1 : 0;
-      ASCIIObject().Setvalue(files.Path(), u"B", u"4");  // what is left does not stand in the way
+      ASCIIObject().Setvalue(files.Path(), u"B", u"4");  // leftovers do not get in the way
       EXPECT_EQ(files.object.GetValue(files.Path(), u"B"), u"4");
       EXPECT_EQ(std::distance(fs::directory_iterator(files.Folder()), {}), 1) << number;
       if (fault.failed == nullptr) break;
@@ -137,7 +137,7 @@ TEST(Rewrite, KeepsEverySettingOfFourWriters) {
   EXPECT_EQ(kept, 800);
 }
 
-// What another program does while a rewrite makes one of its calls, and what comes of it.
+// What another program does during a call of a rewrite, and the outcome.
 TEST(Rewrite, BeginsAgainWhenTheFileIsNotTheOneThatItFound) {
   const std::tuple<const void*, int, const char*, const char*> rows[] = {
       {&kSystemCalls.flock, 0, "printf '[C]=5' >n; mv n set.ini", "[C]=5\r\n[A]=3\r\n"},
@@ -256,7 +256,7 @@ TEST(Rewrite, FollowsLinksAndReplacesFilesAlone) {
   // clang-format on
 }
 
-/// Does `work` as a user of no rights, whose status is the result.
+/// Does `work` as a user without rights, whose status is the result.
 int AsNobody(const std::function<int()>& work) {
   return End(Begin([&] {
     const bool is_nobody =
@@ -265,7 +265,7 @@ int AsNobody(const std::function<int()>& work) {
   }));
 }
 
-// What a rewrite by root or by a user of no rights raises and leaves, after commands of root.
+// What a rewrite by root or by a user without rights raises and leaves, after commands run by root.
 TEST(RootRewrite, NeverWidensRights) {
   if (geteuid() != 0) GTEST_SKIP() << "only root can act for another user";
   const auto call = [](const std::string& who, const std::string& commands) {

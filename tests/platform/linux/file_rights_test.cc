@@ -13,7 +13,7 @@ namespace {
 constexpr mode_t kAll = 7;
 constexpr mode_t kOwners = 0600;
 
-/// A list of one named user and one named group.
+/// A list with one named user and one named group.
 struct Entries {
   mode_t user, group, named_group, mask, others;
 };
@@ -32,12 +32,12 @@ std::string ListOf(const Entries& entries) {
   return bytes;
 }
 
-/// A user who asks for something, and is not the owner.
+/// A user other than the owner who asks for access.
 struct Asker {
   bool is_named, in_group, in_named_group;
 };
 
-/// Whether the list gives the user all that is asked for: the rules of the system.
+/// Whether the list grants the user everything asked for, by the rules of the system.
 bool Gives(const Entries& entries, const Asker& asker, mode_t asked) {
   const auto has = [&](mode_t rights) { return (rights & asked) == asked; };
   if (asker.is_named) return has(entries.user & entries.mask);

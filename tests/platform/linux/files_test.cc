@@ -11,7 +11,7 @@
 #include "platform/linux/time_step.h"
 #include "tests/support/ascii_files.h"
 #include "tests/support/children.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 using namespace ZQ7Standard;

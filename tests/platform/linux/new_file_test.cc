@@ -10,7 +10,7 @@
 #include <system_error>
 
 #include "tests/support/denied_calls.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {
@@ -18,8 +18,8 @@ namespace {
 
 constexpr DeniedCall kNoUnnamed = {SYS_openat, EOPNOTSUPP, O_TMPFILE & ~O_DIRECTORY};
 
-/// File systems, from one that can all to one without files that have no name, without
-/// links, without moves that replace nothing.
+/// File systems, from one that supports everything to one without unnamed files, links and
+/// non-replacing moves.
 const std::vector<DeniedCall> kLackings[] = {
     {},
     {kNoUnnamed},
@@ -28,8 +28,8 @@ const std::vector<DeniedCall> kLackings[] = {
     {{SYS_linkat, ENOENT}},  // no /proc
 };
 
-/// Makes a file in `folder` under the first free one of three names, of which "a" is
-/// taken and "b" is a link to nowhere.
+/// Creates a file in `folder` under the first free one of three names, of which "a" is taken and
+/// "b" is a dangling link.
 void Make(const TempFolder& folder, std::string_view bytes) {
   const Descriptor opened(open(folder.Native().c_str(), O_PATH | O_DIRECTORY));
   NewFile file(opened.Number(), bytes, 0640);

@@ -11,11 +11,11 @@
 #include <thread>
 
 #include "base/code_page.h"
-#include "tests/support/rows.h"
+#include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
 
-/// A file that not even root opens for writing.
+/// A file that not even root can open for writing.
 constexpr const char* kReadOnly = "/sys/kernel/uevent_seqnum";
 
 /// A pseudo-terminal pair: its line is port 1 of the control, the other end a device.
@@ -32,7 +32,7 @@ struct SerialLine : testing::Test {
     bytes.resize(static_cast<std::size_t>(read(device, bytes.data(), bytes.size())));
     return bytes;
   }
-  /// Speed, stop bits, whether output is changed and input sent back, the lock.
+  /// Speed, stop bits, output processing, echo, and the lock.
   std::array<unsigned, 5> State() const {
     termios2 t{};
     unsigned locked = 0;
@@ -48,7 +48,7 @@ struct SerialLine : testing::Test {
   std::shared_ptr<SerialPort> port = NewPort(0);
 };
 
-// A pseudo-terminal's driver does 8 data bits without parity alone.
+// A pseudo-terminal's driver supports only 8 data bits without parity.
 TEST_F(SerialLine, RefusesWhatIsNotThereOrCannotBe) {
   ExpectTexts([&](TextView settings) { return Send(u"x", settings); },
               {{"380", {u"", u"9600,N,4,1", u"9600,N,8,1.5", u"9600,N,5,2"}},

@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 constexpr std::int32_t kUser = HKEY_CURRENT_USER;
 
-/// A registry in a folder of its own, which every user may enter.
+/// Tests a registry in its own folder, which every user may enter.
 class SystemRegistryTest : public testing::Test {
  protected:
   SystemRegistryTest() { fs::permissions(folder_, fs::perms{0755}); }
@@ -34,7 +34,7 @@ class SystemRegistryTest : public testing::Test {
   RegistryObject Object() const { return RegistryObject(OwnServices()); }
   fs::path File() const { return folder_ / "u/registry.db"; }
 
-  /// Does what another program may do to the user's database.
+  /// Does what another program might do to the user's database.
   void Run(const char* sql) const {
     sqlite3* db = nullptr;
     sqlite3_open(File().c_str(), &db);
@@ -311,7 +311,7 @@ TEST_F(SystemRegistryBreadth, LosesNothingToKills) {
       }
       return 1;
     });
-    int seen = last;  // committed for certain, as another process saw it
+    int seen = last;  // certainly committed, since another process saw it
     while (seen < last + round % 3) seen = Read(object, u"B");
     usleep(static_cast<useconds_t>(round * 137 % 1000));
     kill(child, SIGKILL);
@@ -322,8 +322,8 @@ TEST_F(SystemRegistryBreadth, LosesNothingToKills) {
   }
 }
 
-// SQLite takes the locks of a parent for the child's own. A child that did not know
-// better would go on writing to a log that the parent, closing last, removes.
+// SQLite takes a parent's locks for the child's own. Unaware of that, a child would go on writing
+// to a log that the parent, closing last, removes.
 TEST_F(SystemRegistryTest, SurvivesAFork) {
   auto object = std::make_unique<RegistryObject>(Object());
   auto unused = std::make_unique<RegistryObject>(Object());

@@ -1,4 +1,4 @@
-#include "base/pieces.h"
+#include "base/fields.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_TESTS_SUPPORT_ROWS_H_
-#define ZQ7STANDARD_TESTS_SUPPORT_ROWS_H_
+#ifndef ZQ7STANDARD_TESTS_SUPPORT_ROW_TESTS_H_
+#define ZQ7STANDARD_TESTS_SUPPORT_ROW_TESTS_H_
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ namespace ZQ7Standard {
 inline constexpr double kInfinity = std::numeric_limits<double>::infinity();
 inline constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
-// A value as the rows of a table write it; numbers with every digit they have.
+// Formats values as in the rows of a table; numbers with all their digits.
 struct Show {
   std::string operator()(const std::string& text) const { return text; }
   std::string operator()(TextView text) const { return Utf8(text); }
@@ -38,7 +38,7 @@ struct Show {
 };
 inline constexpr Show Shown;
 
-/// What `call` gives, as rows write it; "error 13" when it raises that.
+/// The result of `call` as in rows; "error 13" if it raises that.
 std::string ResultOf(const auto& call) {
   std::string result;
   const int error = ErrorOf([&] { result = Shown(call()); });
@@ -52,7 +52,7 @@ struct Row {
   const char* reason = "";
 };
 
-/// Checks what `call` gives of the inputs of each row, against `ResultOf`.
+/// Checks the `ResultOf` calling `call` with the inputs of each row.
 template <typename... Inputs>
 void ExpectRows(const auto& call, const std::vector<Row<Inputs...>>& rows) {
   for (const auto& [inputs, expected, reason] : rows) {
@@ -62,7 +62,7 @@ void ExpectRows(const auto& call, const std::vector<Row<Inputs...>>& rows) {
   }
 }
 
-/// The same for texts, those with the same result behind it.
+/// The same for texts grouped by result.
 void ExpectTexts(const auto& call,
                  const std::vector<std::pair<const char*, std::vector<TextView>>>& groups) {
   for (const auto& [expected, texts] : groups) {
@@ -72,4 +72,4 @@ void ExpectTexts(const auto& call,
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_TESTS_SUPPORT_ROWS_H_
+#endif  // ZQ7STANDARD_TESTS_SUPPORT_ROW_TESTS_H_

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
-#define ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
+#ifndef ZQ7STANDARD_SRC_AUTOMATION_CATALOGUE_ROWS_H_
+#define ZQ7STANDARD_SRC_AUTOMATION_CATALOGUE_ROWS_H_
 
 #include <ZQ7Standard/automation/catalogue.h>
 
@@ -17,13 +17,13 @@
 #include "automation/binding.h"
 #include "automation/entry.h"
 
-/// How the rows of the catalogue are written: names, numbers and examples here, every type
-/// from the member itself, and what is said of it from the headers.
+/// How catalogue rows are written: they hold names, numbers and examples; types come from the
+/// member itself and documentation from the headers.
 namespace ZQ7Standard::Automation {
 
-/// A parameter as a row names it.
+/// A parameter in a row.
 struct ParameterRow {
-  // A bare name in a row is a parameter that a call must give.
+  // A bare name in a row is a required parameter.
   ParameterRow(const char* parameter) : name(parameter) {}  // NOLINT(google-explicit-constructor)
 
   std::string_view name;
@@ -34,7 +34,7 @@ struct ParameterRow {
   const EnumerationInfo* enumeration = nullptr;
 };
 
-/// A 32-bit number that hosts take from an enumeration.
+/// A 32-bit number for which hosts offer the members of an enumeration.
 template <EnumerationType Enumeration>
 ParameterRow MemberOf(const char* name) {
   ParameterRow row(name);
@@ -42,16 +42,16 @@ ParameterRow MemberOf(const char* name) {
   return row;
 }
 
-/// One that may be left out, and what it is then.
+/// A parameter that may be left out, and its value then.
 ParameterRow Optional(const char* name, Value default_value = Omitted{});
 
-/// One that counts as missing where it is null.
+/// A parameter that counts as missing if it is null.
 ParameterRow Nullable(ParameterRow parameter);
 
-/// One that is passed by reference where hosts bind to the class itself.
+/// A parameter passed by reference if hosts bind to the class itself.
 ParameterRow ByRef(ParameterRow parameter);
 
-/// What an example gives: a value, or `Raises`.
+/// The outcome of an example that raises an error.
 struct Raises {
   explicit Raises(int error_number) : number(error_number) {}
   int number;
@@ -82,11 +82,12 @@ struct ClassRow {
   std::vector<OperationRow> operations = {};
 };
 
-/// What the catalogue tells of an operation. Raises where a default, or the result of an
-/// example, does not fit its type.
-OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
-                        std::span<const TypeInfo> types, TypeInfo result,
-                        std::span<const ExampleRow> examples);
+/// The catalogue data of an operation. Raises if a default, or the result of an example, does not
+/// fit its type.
+OperationInfo DescribeOperation(int number, std::string_view name,
+                                std::span<const ParameterRow> parameters,
+                                std::span<const TypeInfo> types, TypeInfo result,
+                                std::span<const ExampleRow> examples);
 
 template <typename... Parameters>
 std::array<TypeInfo, sizeof...(Parameters)> TypesOf(
@@ -99,12 +100,12 @@ template <auto Member>
 OperationRow Operation(int number, std::string_view name, std::span<const ParameterRow> parameters,
                        std::initializer_list<ExampleRow> examples) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
-  return {Described(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(),
-                    {examples.begin(), examples.size()}),
+  return {DescribeOperation(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(),
+                            {examples.begin(), examples.size()}),
           CallMember<Member>};
 }
 
-/// The same with its parameters in braces, as many as the member has.
+/// The same with parameters in braces, as many as the member has.
 template <auto Member, std::size_t N>
 OperationRow Operation(int number, std::string_view name,
                        const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
@@ -134,7 +135,7 @@ void WriteProperty(void* instance, const Value& value, const CallContext& contex
   std::invoke(Setter, *static_cast<ClassOf<Setter>*>(instance), argument.Get());
 }
 
-/// The row of a property that is only read.
+/// The row of a read-only property.
 template <auto Getter>
 PropertyRow Property(int number, std::string_view name) {
   return {.info = {.name = name,
@@ -144,7 +145,7 @@ PropertyRow Property(int number, std::string_view name) {
           .read = ReadProperty<Getter>};
 }
 
-/// The row of a property that is only set.
+/// The row of a write-only property.
 template <auto Setter>
 PropertyRow SetOnlyProperty(int number, std::string_view name) {
   return {.info = {.name = name,
@@ -154,7 +155,7 @@ PropertyRow SetOnlyProperty(int number, std::string_view name) {
           .write = WriteProperty<Setter>};
 }
 
-/// The row of a property that is read and set.
+/// The row of a property that can be read and set.
 template <auto Getter, auto Setter>
 PropertyRow Property(int number, std::string_view name) {
   PropertyRow row = Property<Getter>(number, name);
@@ -163,12 +164,12 @@ PropertyRow Property(int number, std::string_view name) {
   return row;
 }
 
-/// The row of an event, of which `Member` is what hears it.
+/// The row of an event; `Member` is the listener's function.
 template <auto Member>
 EventInfo Event(int number, std::string_view name, std::initializer_list<ParameterRow> parameters) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
   OperationInfo call =
-      Described(number, name, {parameters.begin(), parameters.size()}, types, {}, {});
+      DescribeOperation(number, name, {parameters.begin(), parameters.size()}, types, {}, {});
   return {.name = name, .number = number, .parameters = std::move(call.parameters)};
 }
 
@@ -180,4 +181,4 @@ OleDate Date(int year, int month, int day, int hour = 0, int minute = 0);
 
 }  // namespace ZQ7Standard::Automation
 
-#endif  // ZQ7STANDARD_SRC_AUTOMATION_ROWS_H_
+#endif  // ZQ7STANDARD_SRC_AUTOMATION_CATALOGUE_ROWS_H_

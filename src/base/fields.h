@@ -1,12 +1,12 @@
-#ifndef ZQ7STANDARD_SRC_BASE_PIECES_H_
-#define ZQ7STANDARD_SRC_BASE_PIECES_H_
+#ifndef ZQ7STANDARD_SRC_BASE_FIELDS_H_
+#define ZQ7STANDARD_SRC_BASE_FIELDS_H_
 
 #include <ZQ7Standard/Types.h>
 
 namespace ZQ7Standard {
 
-/// Takes the text up to the next `separator` off the front of `rest`, and the
-/// separator. A text that ends in one has no empty field behind it.
+/// Removes the text up to the next `separator` from the front of `rest`, and the separator. After a
+/// trailing separator there is no empty field.
 TextView TakeField(TextView& rest, char16_t separator);
 
 /// `text` from its first character that is not in `set`.
@@ -17,4 +17,4 @@ TextView TrimBack(TextView text, TextView set = u" ");
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_SRC_BASE_PIECES_H_
+#endif  // ZQ7STANDARD_SRC_BASE_FIELDS_H_

@@ -1,4 +1,4 @@
-#include "automation/rows.h"
+#include "automation/catalogue_rows.h"
 
 #include <algorithm>
 #include <iterator>
@@ -7,8 +7,8 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
-/// `value`, which a row writes in the nearest C++ type, as the type `wanted`.
-Value Typed(const Value& value, TypeInfo wanted, const CallContext& context) {
+/// Converts `value`, which a row writes in the nearest C++ type, to the type `wanted`.
+Value ToType(const Value& value, TypeInfo wanted, const CallContext& context) {
   if (std::holds_alternative<Omitted>(value)) return value;
   switch (wanted.type) {
     case Type::kByte:
@@ -28,12 +28,12 @@ Value Typed(const Value& value, TypeInfo wanted, const CallContext& context) {
   }
 }
 
-Example Worked(const ExampleRow& row, TypeInfo result, const CallContext& context) {
+Example ExampleOf(const ExampleRow& row, TypeInfo result, const CallContext& context) {
   Example example = {.before = row.before, .arguments = row.arguments, .result = Omitted{}};
   if (const auto* raises = std::get_if<Raises>(&row.outcome)) {
     example.error = raises->number;
   } else {
-    example.result = Typed(std::get<Value>(row.outcome), result, context);
+    example.result = ToType(std::get<Value>(row.outcome), result, context);
   }
   return example;
 }
@@ -57,9 +57,10 @@ ParameterRow ByRef(ParameterRow parameter) {
   return parameter;
 }
 
-OperationInfo Described(int number, std::string_view name, std::span<const ParameterRow> parameters,
-                        std::span<const TypeInfo> types, TypeInfo result,
-                        std::span<const ExampleRow> examples) {
+OperationInfo DescribeOperation(int number, std::string_view name,
+                                std::span<const ParameterRow> parameters,
+                                std::span<const TypeInfo> types, TypeInfo result,
+                                std::span<const ExampleRow> examples) {
   ServiceSet services(ExampleServices());
   const CallContext context = {name, {}, services};
   OperationInfo info = {.name = name, .number = number, .result = result};
@@ -68,13 +69,13 @@ OperationInfo Described(int number, std::string_view name, std::span<const Param
     info.parameters.push_back({.name = row.name,
                                .type = types[i],
                                .optional = row.optional,
-                               .default_value = Typed(row.default_value, types[i], context),
+                               .default_value = ToType(row.default_value, types[i], context),
                                .by_reference = row.by_reference,
                                .nullable = row.nullable || types[i].type == Type::kObject});
     if (row.enumeration != nullptr) info.parameters.back().type.enumeration = row.enumeration;
   }
   for (const ExampleRow& row : examples) {
-    info.examples.push_back(Worked(row, result, context));
+    info.examples.push_back(ExampleOf(row, result, context));
   }
   return info;
 }
