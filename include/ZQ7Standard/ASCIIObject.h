@@ -49,7 +49,7 @@ class ZQ7STANDARD_EXPORT ASCIIObject {
 
   // --- Settings, lines of the form [KEY]=value: src/io/files/key_value_file.cc ---
   //
-  // A line belongs to a key when it begins with the key in brackets, in any case, after
+  // A line belongs to a key if it begins with the key in brackets, in any case, after
   // blanks (U+0020). All other lines are kept as they are, without those blanks.
 
   /// The value of a key.

@@ -350,15 +350,15 @@ class ZQ7STANDARD_EXPORT StandardObject {
 
   /// Moves a date by years of twelve single months.
   ///
-  /// `AddMonth` by 12 months a year; 0 counts as 1 year. Raises 6 when the
-  /// months pass 16 bits.
+  /// `AddMonth` by 12 months a year; 0 counts as 1 year. Raises 6 if the
+  /// months exceed 16 bits.
   OleDate AddYear(OleDate InDate, std::int16_t NumberOfYear = 0) const;
 
   /// The first day of a month of a Gregorian year.
   ///
   /// A month below 0 counts as 1, one above 12 as 12. Raises 13 for month 0 and for a
   /// year that the system does not read; a year of one or two digits is read as `CTDATE`
-  /// reads it. Raises 6 when the system's year passes 16 bits.
+  /// reads it. Raises 6 if the system's year exceeds 16 bits.
   OleDate GETFirstDayOfMonthYear(std::int16_t iMonth, std::int16_t iYear2000) const;
 
   /// The last day of a month of a Gregorian year.

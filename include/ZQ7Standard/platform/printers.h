@@ -30,7 +30,7 @@ class ZQ7STANDARD_EXPORT PrinterList {
   /// document each time.
   virtual std::vector<Printer> Installed() = 0;
 
-  /// The system's default printer until another is made current. Fails when no
+  /// The system's default printer until another is made current. Fails if no
   /// printer is installed.
   virtual Printer Current() = 0;
 
