@@ -87,7 +87,7 @@ void CheckKeys(const Json& request) {
 }
 
 /// Reads a text as the name of an enumeration member; a number as text is left to the call.
-void ReadMember(const OperationInfo& operation, const ParameterInfo& parameter, Value& value) {
+void ReadMember(const TypedCall& call, const ParameterInfo& parameter, Value& value) {
   const EnumerationInfo* const enumeration = parameter.type.enumeration;
   const auto* const text = std::get_if<Text>(&value);
   if (enumeration == nullptr || text == nullptr) return;
@@ -97,7 +97,8 @@ void ReadMember(const OperationInfo& operation, const ParameterInfo& parameter, 
   if (!member) {
     throw RunTimeError({.number = static_cast<int>(Error::kTypeMismatch),
                         .text = "type mismatch." + EnumeratorHint(*enumeration, name),
-                        .operation = std::string(operation.name),
+                        .class_name = std::string(call.owner.name),
+                        .operation = std::string(call.operation.name),
                         .parameter = std::string(parameter.name),
                         .input = *text});
   }
@@ -174,7 +175,7 @@ Value BatchSession::CallOperation(const Object& object, const Json& request) con
   if (found == nullptr) return Invoke(object, operation, {});  // raises that it does not exist
   TypedCall call = {object.Class(), *found, std::move(positional), std::move(named)};
   ForEachArgument(call, [&](const ParameterInfo& parameter, Value& value) {
-    ReadMember(*found, parameter, value);
+    ReadMember(call, parameter, value);
   });
   MakeObjects(call, host_.Services());
   return Invoke(object, *found, {call.positional, call.named});
