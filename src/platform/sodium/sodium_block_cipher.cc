@@ -153,7 +153,7 @@ class SodiumCipher final : public BlockCipher {
 
 BlockCipherFactory SodiumBlockCipher(KeyCost cost) {
   if (FindLimits(cost) == nullptr) {
-    Raise(Error::kInvalidArgument, {"SodiumBlockCipher", "cost"}, static_cast<int>(cost));
+    Raise(Error::kInvalidArgument, {kName, "cost"}, static_cast<int>(cost));
   }
   return [cost]() -> std::unique_ptr<BlockCipher> {
     if (sodium_init() < 0) return nullptr;
