@@ -238,7 +238,8 @@ class Page {
     constexpr std::size_t kEnglishFitting = 84;
     constexpr Style kEnglish = {.size = 10.5};
     BahtStringObject baht;
-    const Text thai = u"(" + baht.BahtString(invoice_.amount) + u")";
+    Text thai = u"(";
+    thai.append(baht.BahtString(invoice_.amount)).append(u")");
     const Text english = baht.BahtString(invoice_.amount, false, true);
     const double shrinkage = std::min(1.0, kThaiFitting / TerminalWidth(thai));
     Shade(kTop, 21);
