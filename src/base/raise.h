@@ -6,6 +6,7 @@
 #include <concepts>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ZQ7Standard {
 
@@ -23,7 +24,7 @@ class ErrorInput {
  public:
   // Arguments are easiest to read where each converts implicitly. NOLINTBEGIN(*-explicit-*)
   ErrorInput(TextView text) : text_(text) {}
-  ErrorInput(const Text& text) : text_(text) {}
+  ErrorInput(Text text) : text_(std::move(text)) {}
   ErrorInput(double number);
   ErrorInput(OleDate date) : text_(date.ToText()) {}
   ErrorInput(Currency amount) : text_(amount.ToText()) {}
