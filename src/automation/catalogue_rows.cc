@@ -80,6 +80,16 @@ OperationInfo DescribeOperation(int number, std::string_view name,
   return info;
 }
 
+std::vector<OperationRow> MayBlock(std::vector<OperationRow> operations) {
+  for (OperationRow& operation : operations) operation.info.may_block = true;
+  return operations;
+}
+
+PropertyRow MayBlock(PropertyRow property) {
+  property.info.may_block = true;
+  return property;
+}
+
 void AddOperations(ClassRow& owner, std::vector<OperationRow> operations) {
   std::ranges::move(operations, std::back_inserter(owner.operations));
 }

@@ -173,6 +173,12 @@ EventInfo Event(int number, std::string_view name, std::initializer_list<Paramet
   return {.name = name, .number = number, .parameters = std::move(call.parameters)};
 }
 
+/// Operations that may wait for something outside the program.
+std::vector<OperationRow> MayBlock(std::vector<OperationRow> operations);
+
+/// A property that may wait when it is set.
+PropertyRow MayBlock(PropertyRow property);
+
 /// Adds operations to a class.
 void AddOperations(ClassRow& owner, std::vector<OperationRow> operations);
 

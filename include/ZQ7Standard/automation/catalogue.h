@@ -78,6 +78,9 @@ struct OperationInfo {
   int number = 0;
   std::vector<ParameterInfo> parameters = {};
   TypeInfo result = {};
+  /// Whether it may wait for a file, a device, a print server or a message box, or derive
+  /// keys. A host with a lock of its own should not hold it meanwhile.
+  bool may_block = false;
   std::string_view help = {};     ///< one line, the first of the documentation
   std::string_view details = {};  ///< the rest, paragraphs separated by blank lines; may be empty
   std::string_view subject = {};  ///< shared by operations that belong together; may be empty
@@ -90,6 +93,7 @@ struct PropertyInfo {
   TypeInfo type = {};
   bool readable = false;
   bool writable = false;
+  bool may_block = false;  ///< as of an operation, when it is set
   std::string_view help = {};
   std::string_view details = {};
 };

@@ -15,22 +15,23 @@ std::shared_ptr<void> CreateASCIIObject(const Services& services) {
 }
 
 void AddSettings(ClassRow& info) {
-  AddOperations(info,
-                {Operation<&ASCIIObject::GetValue>(
-                     1, "GetValue", {"iTextFile", "IKey"},
-                     {{{kFile, u"PORT"}, u"9600", {{"Setvalue", {kFile, u"Port", u"9600"}}}},
-                      {{u"C:\\shop\\none.ini", u"Port"}, u""}}),
-                 Operation<&ASCIIObject::Setvalue>(2, "Setvalue", {"iTextFile", "IKey", "iValue"},
-                                                   {{{kFile, u"Port", u"9600"}}}),
-                 Operation<&ASCIIObject::DeleteValue>(3, "DeleteValue", {"iTextFile", "IKey"},
-                                                      {{{kFile, u"Port"}}})});
+  AddOperations(
+      info,
+      MayBlock({Operation<&ASCIIObject::GetValue>(
+                    1, "GetValue", {"iTextFile", "IKey"},
+                    {{{kFile, u"PORT"}, u"9600", {{"Setvalue", {kFile, u"Port", u"9600"}}}},
+                     {{u"C:\\shop\\none.ini", u"Port"}, u""}}),
+                Operation<&ASCIIObject::Setvalue>(2, "Setvalue", {"iTextFile", "IKey", "iValue"},
+                                                  {{{kFile, u"Port", u"9600"}}}),
+                Operation<&ASCIIObject::DeleteValue>(3, "DeleteValue", {"iTextFile", "IKey"},
+                                                     {{{kFile, u"Port"}}})}));
 }
 
 void AddLogs(ClassRow& info) {
   AddOperations(info,
-                {Operation<&ASCIIObject::AddLog>(
+                MayBlock({Operation<&ASCIIObject::AddLog>(
                     4, "AddLog", {"iTextFile", "iOwner", "iType", "iSuccess", "iDescription"},
-                    {{{u"C:\\shop\\sales.log", u"ADMIN", u"LOGIN", u"Y", u"user logged in"}}})});
+                    {{{u"C:\\shop\\sales.log", u"ADMIN", u"LOGIN", u"Y", u"user logged in"}}})}));
 }
 
 void AddTexts(ClassRow& info) {
@@ -38,16 +39,18 @@ void AddTexts(ClassRow& info) {
   const std::vector<Call> two_lines = {{"SaveStringToTextFile", {kNote, u"one\r\ntwo"}}};
   AddOperations(
       info,
-      {Operation<&ASCIIObject::GETAllTextFile>(5, "GETAllTextFile", {"iTextFile"},
-                                               {{{kNote}, u"one\r\ntwo", two_lines}}),
-       Operation<&ASCIIObject::GETLineTextFile>(
-           6, "GETLineTextFile", {"iTextFile", Optional("FromLine", 0), Optional("ToLine", 0)},
-           {{{kNote, 1, 2}, u"one\r\ntwo", two_lines}, {{kNote, 1, 1}, Raises(6), two_lines}}),
-       Operation<&ASCIIObject::SaveStringToTextFile>(7, "SaveStringToTextFile",
-                                                     {"iTextFile", "iValue"}, {{{kNote, u"one"}}}),
-       Operation<&ASCIIObject::SaveStringToTextFile2>(
-           8, "SaveStringToTextFile2", {"iTextFile", "iValue", Optional("UseAppendMode", false)},
-           {{{kNote, u"two", true}}})});
+      MayBlock(
+          {Operation<&ASCIIObject::GETAllTextFile>(5, "GETAllTextFile", {"iTextFile"},
+                                                   {{{kNote}, u"one\r\ntwo", two_lines}}),
+           Operation<&ASCIIObject::GETLineTextFile>(
+               6, "GETLineTextFile", {"iTextFile", Optional("FromLine", 0), Optional("ToLine", 0)},
+               {{{kNote, 1, 2}, u"one\r\ntwo", two_lines}, {{kNote, 1, 1}, Raises(6), two_lines}}),
+           Operation<&ASCIIObject::SaveStringToTextFile>(
+               7, "SaveStringToTextFile", {"iTextFile", "iValue"}, {{{kNote, u"one"}}}),
+           Operation<&ASCIIObject::SaveStringToTextFile2>(
+               8, "SaveStringToTextFile2",
+               {"iTextFile", "iValue", Optional("UseAppendMode", false)},
+               {{{kNote, u"two", true}}})}));
 }
 
 }  // namespace

@@ -16,9 +16,9 @@ ClassRow CImageInfoRows() {
       Property<&CImageInfo::Width>(1, "Width"), Property<&CImageInfo::Height>(2, "Height"),
       Property<&CImageInfo::Depth>(3, "Depth"), Property<&CImageInfo::ImageType>(4, "ImageType")};
   AddOperations(info,
-                {Operation<&CImageInfo::ReadImageInfo>(
+                MayBlock({Operation<&CImageInfo::ReadImageInfo>(
                     5, "ReadImageInfo", {ByRef("sFileName")},
-                    {{{u"C:\\shop\\logo.png"}}, {{u"C:\\shop\\none\\logo.png"}, Raises(76)}})});
+                    {{{u"C:\\shop\\logo.png"}}, {{u"C:\\shop\\none\\logo.png"}, Raises(76)}})}));
   return info;
 }
 

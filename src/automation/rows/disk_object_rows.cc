@@ -23,23 +23,24 @@ void AddPaths(ClassRow& info) {
        Operation<&DiskObject::ScaleFullPath>(
            4, "ScaleFullPath", {"inFullPath", Optional("MaxLen", 0)},
            {{{u"C:\\Data\\Sales\\2024\\report.xls"}, u"C:\\Data\\...\\report.xls"},
-            {{u"C:\\Data\\report.xls"}, u"C:\\Data\\report.xls"}}),
-       Operation<&DiskObject::CreateFullPath>(5, "CreateFullPath", {"FullPathName"},
-                                              {{{u"C:\\shop\\2567\\01"}, -1}, {{u""}, 0}})});
+            {{u"C:\\Data\\report.xls"}, u"C:\\Data\\report.xls"}})});
 }
 
-void AddCopies(ClassRow& info) {
-  AddOperations(info,
-                {Operation<&DiskObject::CopyFileCheck>(
-                     6, "CopyFileCheck",
-                     {"FromFile", "ToFile", ByRef(Optional("OverwriteFile", false)),
-                      Optional("CheckCondition", 0)},
-                     {{{u"C:\\shop\\none.txt", u"C:\\shop\\copy.txt"}, 0}}),
-                 Operation<&DiskObject::XCopyFile>(7, "XCopyFile", {"from_file", "to_file"},
-                                                   {{{u"C:\\shop\\2567", u"C:\\shop\\old"},
-                                                     2,
-                                                     {{"CreateFullPath", {u"C:\\shop\\2567\\01"}}}},
-                                                    {{u"C:\\shop\\none", u"C:\\shop\\old"}, 0}})});
+void AddFiles(ClassRow& info) {
+  AddOperations(
+      info,
+      MayBlock({Operation<&DiskObject::CreateFullPath>(5, "CreateFullPath", {"FullPathName"},
+                                                       {{{u"C:\\shop\\2567\\01"}, -1}, {{u""}, 0}}),
+                Operation<&DiskObject::CopyFileCheck>(
+                    6, "CopyFileCheck",
+                    {"FromFile", "ToFile", ByRef(Optional("OverwriteFile", false)),
+                     Optional("CheckCondition", 0)},
+                    {{{u"C:\\shop\\none.txt", u"C:\\shop\\copy.txt"}, 0}}),
+                Operation<&DiskObject::XCopyFile>(7, "XCopyFile", {"from_file", "to_file"},
+                                                  {{{u"C:\\shop\\2567", u"C:\\shop\\old"},
+                                                    2,
+                                                    {{"CreateFullPath", {u"C:\\shop\\2567\\01"}}}},
+                                                   {{u"C:\\shop\\none", u"C:\\shop\\old"}, 0}})}));
 }
 
 }  // namespace
@@ -47,7 +48,7 @@ void AddCopies(ClassRow& info) {
 ClassRow DiskObjectRows() {
   ClassRow info = {.name = "DiskObject", .create = CreateDiskObject};
   AddPaths(info);
-  AddCopies(info);
+  AddFiles(info);
   return info;
 }
 

@@ -14,11 +14,13 @@ ClassRow PeripheralObjectRows() {
                    }};
   AddOperations(
       info,
-      {Operation<&PeripheralObject::SendCommMsg>(
-           1, "SendCommMsg", {"iControl", "iCode", "iPort", Optional("Setting", u"9600,N,8,1")},
-           {{{u"SerialPort", u"READY", 99}, 8002}, {{u"SerialPort", u"READY", 99, u"9600"}, 380}}),
-       Operation<&PeripheralObject::OpenDraw>(2, "OpenDraw", {"iControl", "iCode", "iPort"},
-                                              {{{u"SerialPort", u"\x1bp0", 99}, 1}})});
+      MayBlock(
+          {Operation<&PeripheralObject::SendCommMsg>(
+               1, "SendCommMsg", {"iControl", "iCode", "iPort", Optional("Setting", u"9600,N,8,1")},
+               {{{u"SerialPort", u"READY", 99}, 8002},
+                {{u"SerialPort", u"READY", 99, u"9600"}, 380}}),
+           Operation<&PeripheralObject::OpenDraw>(2, "OpenDraw", {"iControl", "iCode", "iPort"},
+                                                  {{{u"SerialPort", u"\x1bp0", 99}, 1}})}));
   return info;
 }
 
@@ -27,11 +29,12 @@ ClassRow SerialPortRows() {
                    .create = [](const Services& services) -> std::shared_ptr<void> {
                      return SystemSerialPort(services.serial_devices);
                    }};
-  info.properties = {SetOnlyProperty<&SerialPort::SetCommPort>(1, "CommPort"),
-                     SetOnlyProperty<&SerialPort::SetSettings>(2, "Settings"),
-                     SetOnlyProperty<&SerialPort::SetInputLen>(3, "InputLen"),
-                     Property<&SerialPort::PortOpen, &SerialPort::SetPortOpen>(4, "PortOpen"),
-                     SetOnlyProperty<&SerialPort::SetOutput>(5, "Output")};
+  info.properties = {
+      SetOnlyProperty<&SerialPort::SetCommPort>(1, "CommPort"),
+      SetOnlyProperty<&SerialPort::SetSettings>(2, "Settings"),
+      SetOnlyProperty<&SerialPort::SetInputLen>(3, "InputLen"),
+      MayBlock(Property<&SerialPort::PortOpen, &SerialPort::SetPortOpen>(4, "PortOpen")),
+      MayBlock(SetOnlyProperty<&SerialPort::SetOutput>(5, "Output"))};
   return info;
 }
 

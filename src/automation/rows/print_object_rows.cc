@@ -10,17 +10,18 @@ namespace {
 
 void AddSelection(ClassRow& info) {
   AddOperations(
-      info, {Operation<&PrintObject::SelectPrinter>(
-                 1, "SelectPrinter", {"DeviceName", "Orientation", "PaperSize", "PaperBin"},
-                 {{{u"PDF", 1, 9, 7}, 1}}),
-             Operation<&PrintObject::SelectPrinter2>(
-                 2, "SelectPrinter2",
-                 {"DeviceName", "Orientation", "PaperSize", "PaperBin", "PrintQuality"},
-                 {{{u"PDF", 1, 9, 7, -4}, 1}}),
-             Operation<&PrintObject::CheckPaperSize>(3, "CheckPaperSize",
-                                                     {Optional("StartSize", 0)}, {{{11}, 11}}),
-             Operation<&PrintObject::CheckPaperBin>(4, "CheckPaperBin", {Optional("StartBin", 0)},
-                                                    {{{1}, 1}})});
+      info,
+      MayBlock({Operation<&PrintObject::SelectPrinter>(
+                    1, "SelectPrinter", {"DeviceName", "Orientation", "PaperSize", "PaperBin"},
+                    {{{u"PDF", 1, 9, 7}, 1}}),
+                Operation<&PrintObject::SelectPrinter2>(
+                    2, "SelectPrinter2",
+                    {"DeviceName", "Orientation", "PaperSize", "PaperBin", "PrintQuality"},
+                    {{{u"PDF", 1, 9, 7, -4}, 1}}),
+                Operation<&PrintObject::CheckPaperSize>(3, "CheckPaperSize",
+                                                        {Optional("StartSize", 0)}, {{{11}, 11}}),
+                Operation<&PrintObject::CheckPaperBin>(4, "CheckPaperBin",
+                                                       {Optional("StartBin", 0)}, {{{1}, 1}})}));
 }
 
 void AddTexts(ClassRow& info) {
@@ -38,22 +39,23 @@ void AddPrinting(ClassRow& info) {
   const std::vector<Call> line = {{"PrintStart"}, {"PrintGraphicText", {u"ใบเสร็จ", 105, 20, 1, 1}}};
   AddOperations(
       info,
-      {Operation<&PrintObject::PrintStart>(8, "PrintStart", {{{}, 0}}),
-       Operation<&PrintObject::PrintSet>(9, "PrintSet", {"Row", "Col", "FSize", "message"},
-                                         {{{20, 30, 10, u"สวัสดี"}, 0}}),
-       Operation<&PrintObject::PrintGraphicText>(
-           10, "PrintGraphicText",
-           {"sMsg", Optional("x", -1), Optional("y", -1), Optional("MoveLine", 1),
-            Optional("Alignment", 0), Optional("MaxLenText", 0), Optional("FontName", u""),
-            Optional("FontSize", 0), Optional("FontBold", false), Optional("FontItalic", false)},
-           {{{u"ใบเสร็จ", 105, 20, 1, 1}, 0}}),
-       Operation<&PrintObject::PrintGraphicObject>(
-           11, "PrintGraphicObject",
-           {"Src", Optional("x", -1), Optional("y", -1), Optional("W", 0), Optional("H", 0),
-            Optional("MoveLine", 1)},
-           {{{u"C:\\none\\logo.png", 10, 10}, Raises(53)}}),
-       Operation<&PrintObject::PrintOut>(12, "PrintOut", {{{}, 0, line}}),
-       Operation<&PrintObject::PrintCancel>(13, "PrintCancel", {{{}, 0, line}})});
+      MayBlock({Operation<&PrintObject::PrintStart>(8, "PrintStart", {{{}, 0}}),
+                Operation<&PrintObject::PrintSet>(9, "PrintSet", {"Row", "Col", "FSize", "message"},
+                                                  {{{20, 30, 10, u"สวัสดี"}, 0}}),
+                Operation<&PrintObject::PrintGraphicText>(
+                    10, "PrintGraphicText",
+                    {"sMsg", Optional("x", -1), Optional("y", -1), Optional("MoveLine", 1),
+                     Optional("Alignment", 0), Optional("MaxLenText", 0), Optional("FontName", u""),
+                     Optional("FontSize", 0), Optional("FontBold", false),
+                     Optional("FontItalic", false)},
+                    {{{u"ใบเสร็จ", 105, 20, 1, 1}, 0}}),
+                Operation<&PrintObject::PrintGraphicObject>(
+                    11, "PrintGraphicObject",
+                    {"Src", Optional("x", -1), Optional("y", -1), Optional("W", 0),
+                     Optional("H", 0), Optional("MoveLine", 1)},
+                    {{{u"C:\\none\\logo.png", 10, 10}, Raises(53)}}),
+                Operation<&PrintObject::PrintOut>(12, "PrintOut", {{{}, 0, line}}),
+                Operation<&PrintObject::PrintCancel>(13, "PrintCancel", {{{}, 0, line}})}));
 }
 
 }  // namespace
