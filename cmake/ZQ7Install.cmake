@@ -9,6 +9,14 @@ foreach(kind IN LISTS kinds)
     DESTINATION ${package_dir} COMPONENT Development)
 endforeach()
 
+if(TARGET zq7standard_c)
+  install(TARGETS zq7standard_c EXPORT zq7standard_c
+    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development)
+  install(EXPORT zq7standard_c FILE ZQ7Standard-c.cmake NAMESPACE ZQ7Standard::
+    DESTINATION ${package_dir} COMPONENT Development)
+  install(FILES include/zq7standard.h TYPE INCLUDE COMPONENT Development)
+endif()
+
 if(TARGET zq7_printing_module)
   install(TARGETS zq7_printing_module
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/zq7standard COMPONENT Printing)
@@ -45,7 +53,12 @@ endif()
 list(JOIN pc_requires " " pc_requires)
 file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 configure_file(cmake/ZQ7Standard.pc.in ZQ7Standard.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/ZQ7Standard.pc
+set(pc_files ${PROJECT_BINARY_DIR}/ZQ7Standard.pc)
+if(TARGET zq7standard_c)
+  configure_file(cmake/ZQ7StandardC.pc.in ZQ7StandardC.pc @ONLY)
+  list(APPEND pc_files ${PROJECT_BINARY_DIR}/ZQ7StandardC.pc)
+endif()
+install(FILES ${pc_files}
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 
 configure_package_config_file(cmake/ZQ7StandardConfig.cmake.in ZQ7StandardConfig.cmake

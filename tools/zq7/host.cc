@@ -1,5 +1,6 @@
 #include "host.h"
 
+#include <ZQ7Standard/platform/block_cipher.h>
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
 #include <ZQ7Standard/platform/message_box.h>

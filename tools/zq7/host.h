@@ -34,9 +34,6 @@ class Host {
   std::filesystem::path example_drive_;  // empty if there is none
 };
 
-/// The block cipher that the library was built with; empty if there is none.
-ZQ7Standard::BlockCipherFactory BuiltInBlockCipher();
-
 }  // namespace ZQ7Tool
 
 #endif  // ZQ7STANDARD_TOOLS_ZQ7_HOST_H_

@@ -2,6 +2,7 @@
 #define ZQ7STANDARD_PLATFORM_BLOCK_CIPHER_H_
 
 #include <ZQ7Standard/Export.h>
+#include <ZQ7Standard/Services.h>
 #include <ZQ7Standard/Types.h>
 
 #include <cstddef>
@@ -66,6 +67,10 @@ class ZQ7STANDARD_EXPORT BlockCipher {
   /// The ciphertext that `text` carries; nullopt if `Encode` did not write it.
   virtual std::optional<std::string> Decode(TextView text) = 0;
 };
+
+/// The cipher that comes with the library, at its usual cost: `SodiumBlockCipher`. Empty in
+/// a library built without one.
+ZQ7STANDARD_EXPORT BlockCipherFactory BuiltInBlockCipher();
 
 }  // namespace ZQ7Standard
 

@@ -161,4 +161,8 @@ BlockCipherFactory SodiumBlockCipher(KeyCost cost) {
   };
 }
 
+BlockCipherFactory BuiltInBlockCipher() {
+  return SodiumBlockCipher();
+}
+
 }  // namespace ZQ7Standard

@@ -1,0 +1,205 @@
+#include "objects.h"
+
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <memory_resource>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "failures.h"
+#include "host_table.h"
+#include "values.h"
+
+namespace ZQ7C {
+namespace {
+
+using namespace ZQ7Standard::Automation;
+
+/// Values for a call, on the stack unless there are very many.
+class Values {
+ public:
+  explicit Values(std::size_t count) { values_.reserve(count); }
+
+  void Add(const zq7_value& value) { values_.push_back(ToValue(value)); }
+  std::span<const Value> Get() const { return values_; }
+
+ private:
+  std::array<std::byte, 12 * sizeof(Value)> memory_;
+  std::pmr::monotonic_buffer_resource resource_{memory_.data(), memory_.size()};
+  std::pmr::vector<Value> values_{&resource_};
+};
+
+zq7_object& Required(zq7_object* object) {
+  Require(object != nullptr, "no object");
+  return *object;
+}
+
+void RequireArguments(const void* arguments, std::size_t count) {
+  Require(arguments != nullptr || count == 0, "no arguments");
+}
+
+/// Raises 438 for a number that is not a member's.
+[[noreturn]] void RaiseUnsupported(const zq7_object& object, int32_t number) {
+  using namespace ZQ7Standard;
+  ErrorDetails details = RunTimeError(Error::kUnsupportedMember).Details();
+  details.class_name = object.owner.c.name;
+  details.operation = std::to_string(number);
+  throw RunTimeError(std::move(details));
+}
+
+const OperationInfo& OperationOf(const zq7_object& object, int32_t number) {
+  const Member member = object.owner.Find(number);
+  if (member.operation == nullptr) RaiseUnsupported(object, number);
+  return *member.operation;
+}
+
+const PropertyInfo& PropertyOf(const zq7_object& object, int32_t number) {
+  const Member member = object.owner.Find(number);
+  if (member.property == nullptr) RaiseUnsupported(object, number);
+  return *member.property;
+}
+
+/// Runs `call` and writes its value to `result`, which is empty after a failure and may be null.
+template <typename Call>
+zq7_status Written(zq7_value* result, const Call& call) {
+  if (result != nullptr) *result = {};
+  return Guarded([&] {
+    const Value value = call();
+    if (result != nullptr) Write(value, *result);
+  });
+}
+
+/// Passes the events of an object to a host.
+class HostSink final : public EventSink {
+ public:
+  HostSink(const zq7_event_sink& table, const Class& owner) : table_(table), owner_(owner) {}
+
+  void Raise(const EventInfo& event, std::span<const Value> arguments) override {
+    std::vector<zq7_value> values(arguments.size());
+    const std::shared_ptr<void> cleared(nullptr, [&](void*) {
+      for (zq7_value& value : values) zq7_value_clear(&value);
+    });
+    for (std::size_t i = 0; i < arguments.size(); ++i) Write(arguments[i], values[i]);
+    CallHost(table_->raise, table_->context, owner_.Find(event.number).c, values.data(),
+             values.size());
+  }
+
+ private:
+  HostTable<zq7_event_sink> table_;
+  const Class& owner_;
+};
+
+}  // namespace
+}  // namespace ZQ7C
+
+using ZQ7C::Guarded;
+using ZQ7C::Require;
+using ZQ7C::Required;
+
+/// Events are sent as long as it exists.
+struct zq7_subscription {
+  std::shared_ptr<void> kept;
+};
+
+int32_t zq7_version() {
+  return ZQ7STANDARD_VERSION_NUMBER;
+}
+
+zq7_status zq7_create(const char* class_name, const zq7_services* services, zq7_object** object) {
+  return ZQ7C::Made(object, [&] {
+    Require(class_name != nullptr, "no name of a class");
+    return services == nullptr ? ZQ7Standard::Automation::Create(class_name)
+                               : ZQ7Standard::Automation::Create(class_name, services->services);
+  });
+}
+
+void zq7_release(zq7_object* object) {
+  delete object;
+}
+
+const zq7_class* zq7_class_of(const zq7_object* object) {
+  return object == nullptr ? nullptr : &object->owner.c;
+}
+
+zq7_status zq7_invoke(zq7_object* object, int32_t number, const zq7_value* arguments, size_t count,
+                      zq7_value* result) {
+  return ZQ7C::Written(result, [&] {
+    const auto& operation = ZQ7C::OperationOf(Required(object), number);
+    ZQ7C::RequireArguments(arguments, count);
+    ZQ7C::Values values(count);
+    for (size_t i = 0; i < count; ++i) values.Add(arguments[i]);
+    return ZQ7Standard::Automation::Invoke(object->object, operation, {values.Get()});
+  });
+}
+
+zq7_status zq7_invoke_by_name(zq7_object* object, const char* operation,
+                              const zq7_argument* arguments, size_t count, zq7_value* result) {
+  return ZQ7C::Written(result, [&] {
+    Require(operation != nullptr, "no name of an operation");
+    ZQ7C::RequireArguments(arguments, count);
+    ZQ7C::Values values(count);
+    size_t i = 0;
+    for (; i < count && arguments[i].name == nullptr; ++i) values.Add(arguments[i].value);
+    std::vector<ZQ7Standard::Automation::NamedArgument> named;
+    for (; i < count; ++i) {
+      Require(arguments[i].name != nullptr, "an argument by position after one by name");
+      named.push_back({arguments[i].name, ZQ7C::ToValue(arguments[i].value)});
+    }
+    return ZQ7Standard::Automation::Invoke(Required(object).object, operation,
+                                           {values.Get(), named});
+  });
+}
+
+zq7_status zq7_get(zq7_object* object, int32_t number, zq7_value* value) {
+  return ZQ7C::Written(value, [&] {
+    const auto& property = ZQ7C::PropertyOf(Required(object), number);
+    return ZQ7Standard::Automation::GetProperty(object->object, property);
+  });
+}
+
+zq7_status zq7_get_by_name(zq7_object* object, const char* property, zq7_value* value) {
+  return ZQ7C::Written(value, [&] {
+    Require(property != nullptr, "no name of a property");
+    return ZQ7Standard::Automation::GetProperty(Required(object).object, property);
+  });
+}
+
+zq7_status zq7_set(zq7_object* object, int32_t number, const zq7_value* value) {
+  return Guarded([&] {
+    const auto& property = ZQ7C::PropertyOf(Required(object), number);
+    Require(value != nullptr, "no value");
+    ZQ7Standard::Automation::SetProperty(object->object, property, ZQ7C::ToValue(*value));
+  });
+}
+
+zq7_status zq7_set_by_name(zq7_object* object, const char* property, const zq7_value* value) {
+  return Guarded([&] {
+    Require(property != nullptr, "no name of a property");
+    Require(value != nullptr, "no value");
+    ZQ7Standard::Automation::SetProperty(Required(object).object, property, ZQ7C::ToValue(*value));
+  });
+}
+
+zq7_status zq7_subscribe(zq7_object* object, const zq7_event_sink* sink,
+                         zq7_subscription** subscription) {
+  return Guarded([&] {
+    Require(subscription != nullptr, "no place for the subscription");
+    *subscription = nullptr;
+    const auto& owner = Required(object).owner;
+    ZQ7C::CheckTable(sink, &zq7_event_sink::raise);
+    if ((owner.c.flags & ZQ7_HAS_EVENTS) == 0) {
+      throw ZQ7Standard::RunTimeError(ZQ7Standard::Error::kUnsupportedMember, "no events");
+    }
+    *subscription = new zq7_subscription{ZQ7Standard::Automation::Subscribe(
+        object->object, std::make_shared<ZQ7C::HostSink>(*sink, owner))};
+  });
+}
+
+void zq7_unsubscribe(zq7_subscription* subscription) {
+  delete subscription;
+}

@@ -1,0 +1,29 @@
+#ifndef ZQ7STANDARD_BINDINGS_C_VALUES_H_
+#define ZQ7STANDARD_BINDINGS_C_VALUES_H_
+
+#include <ZQ7Standard/automation/value.h>
+#include <zq7standard.h>
+
+namespace ZQ7C {
+
+/// The value that a caller passed. Raises 5 for a tag that is not a value's, or a null pointer.
+ZQ7Standard::Automation::Value ToValue(const zq7_value& value);
+
+/// The text that a caller passed. Raises 5 for any other value.
+ZQ7Standard::TextView ToTextView(const zq7_value* value);
+
+/// The date that a caller passed. Raises 5 for any other value.
+ZQ7Standard::OleDate ToDate(const zq7_value* value);
+
+/// Makes `out` a copy of `value`, which belongs to the library.
+void Write(const ZQ7Standard::Automation::Value& value, zq7_value& out);
+
+/// A text that belongs to someone else.
+zq7_value View(ZQ7Standard::TextView text);
+
+/// The tag of values of a type.
+zq7_tag TagOf(ZQ7Standard::Automation::Type type);
+
+}  // namespace ZQ7C
+
+#endif  // ZQ7STANDARD_BINDINGS_C_VALUES_H_
