@@ -25,6 +25,7 @@ std::vector<Page> Pages() {
       {"tools/zq7/zq7.bash", "tools/zq7/zq7.bash.in", CompletionFields},
       {reference / "README.md", "tools/pages/index.md.in", IndexFields},
       {reference / "enumerations.md", "tools/pages/enumerations.md.in", EnumerationsFields},
+      {"bindings/csharp/ZQ7Standard.cs", "bindings/csharp/ZQ7Standard.cs.in", CSharpFields},
   };
   for (const auto& owner : ZQ7Standard::Automation::Classes()) {
     pages.push_back({reference / (std::string(owner.name) + ".md"), "tools/pages/class.md.in",

@@ -25,6 +25,9 @@ Fields EnumerationsFields();
 /// not exist.
 Fields IndexFields();
 
+/// Of the C# classes.
+Fields CSharpFields();
+
 }  // namespace ZQ7Pages
 
 #endif  // ZQ7STANDARD_TOOLS_PAGES_WRITERS_H_
