@@ -3851,14 +3851,15 @@ internal unsafe struct Value {
   internal void Omit() => _tag = 0;
   internal void SetNull() => _tag = Null;
 
-  /// Before day 0 the time of day counts forward from the whole day too. The library refuses a
-  /// year before 100 itself.
+  /// Before day 0 the time of day counts forward from the whole day too. It is cut to the
+  /// millisecond, so that it never rounds up to the next day. The library refuses a year before
+  /// 100 itself.
   internal void Set(DateTime value) {
     long ticks = value.Ticks - s_dayZero;
     long time = ticks % TimeSpan.TicksPerDay;
     if (time < 0) time += TimeSpan.TicksPerDay;
     long day = (ticks - time) / TimeSpan.TicksPerDay;
-    double fraction = time / (double)TimeSpan.TicksPerDay;
+    double fraction = (time - time % TimeSpan.TicksPerMillisecond) / (double)TimeSpan.TicksPerDay;
     SetNumber(DateTag, day < 0 ? day - fraction : day + fraction);
   }
 
