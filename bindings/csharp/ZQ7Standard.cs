@@ -226,7 +226,7 @@ public abstract class ZQ7Object : IDisposable {
   /// <see cref="ObjectDisposedException"/>.</summary>
   public void Dispose() {
     Handle.Events.Dispose();
-    Handle.Dispose();
+    Handle.Release();
   }
 }
 
@@ -505,9 +505,9 @@ public sealed unsafe partial class ASCIIObject : ZQ7Object {
   /// </remarks>
   public string GETAllTextFile(string iTextFile) {
     fixed (char* text0_ = iTextFile) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iTextFile);
-      return Handle.Invoke(5, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, iTextFile);
+      return Handle.Invoke(5, &value_, 1).TakeText();
     }
   }
 
@@ -538,7 +538,7 @@ public sealed unsafe partial class ASCIIObject : ZQ7Object {
       values_[0].Set(text0_, iTextFile);
       values_[1].Set(FromLine);
       values_[2].Set(ToLine);
-      return Handle.Invoke(6, values_, 3).TakeText();
+      return Handle.Invoke(6, values_, ToLine != 0 ? 3 : FromLine != 0 ? 2 : 1).TakeText();
     }
   }
 
@@ -579,7 +579,7 @@ public sealed unsafe partial class ASCIIObject : ZQ7Object {
       values_[0].Set(text0_, iTextFile);
       values_[1].Set(text1_, iValue);
       values_[2].Set(UseAppendMode);
-      Handle.Invoke(8, values_, 3);
+      Handle.Invoke(8, values_, UseAppendMode != false ? 3 : 2);
     }
   }
 }
@@ -629,7 +629,8 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
       values_[2].Set(useEnglish);
       values_[3].Set(text3_, NewUnit);
       values_[4].Set(text4_, NewSubUnit);
-      return Handle.Invoke(1, values_, 5).TakeText();
+      return Handle.Invoke(1, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
+          false ? 3 : useBreak != false ? 2 : 1).TakeText();
     }
   }
 
@@ -644,7 +645,8 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
       values_[2].Set(useEnglish);
       values_[3].Set(text3_, NewUnit);
       values_[4].Set(text4_, NewSubUnit);
-      return Handle.Invoke(2, values_, 5).TakeText();
+      return Handle.Invoke(2, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
+          false ? 3 : useBreak != false ? 2 : 1).TakeText();
     }
   }
 
@@ -655,17 +657,17 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
   /// bound.</para>
   /// </remarks>
   public string MoneyTextT(double inDouble) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(inDouble);
-    return Handle.Invoke(3, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(inDouble);
+    return Handle.Invoke(3, &value_, 1).TakeText();
   }
 
   /// <summary>The same as <c>MoneyTextT</c>.</summary>
   /// <returns>For example, <c>BahtStringT(1)</c> returns <c>"หนึ่งบาทถ้วน"</c>.</returns>
   public string BahtStringT(double inDouble) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(inDouble);
-    return Handle.Invoke(4, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(inDouble);
+    return Handle.Invoke(4, &value_, 1).TakeText();
   }
 
   /// <summary>An amount in English words with baht and satang.</summary>
@@ -677,17 +679,17 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
   /// (docs/surprises.md).</para>
   /// </remarks>
   public string MoneyTextE(double inDouble) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(inDouble);
-    return Handle.Invoke(5, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(inDouble);
+    return Handle.Invoke(5, &value_, 1).TakeText();
   }
 
   /// <summary>The same as <c>MoneyTextE</c>.</summary>
   /// <returns>For example, <c>BahtStringE(0)</c> returns <c>"Zero baht"</c>.</returns>
   public string BahtStringE(double inDouble) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(inDouble);
-    return Handle.Invoke(6, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(inDouble);
+    return Handle.Invoke(6, &value_, 1).TakeText();
   }
 
   /// <summary>Always the empty text.</summary>
@@ -729,9 +731,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// </remarks>
   public string Bin2Oct(string BinString) {
     fixed (char* text0_ = BinString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, BinString);
-      return Handle.Invoke(1, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, BinString);
+      return Handle.Invoke(1, &value_, 1).TakeText();
     }
   }
 
@@ -743,9 +745,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// </remarks>
   public string Bin2hex(string BinString) {
     fixed (char* text0_ = BinString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, BinString);
-      return Handle.Invoke(2, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, BinString);
+      return Handle.Invoke(2, &value_, 1).TakeText();
     }
   }
 
@@ -761,9 +763,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// </remarks>
   public short Bin2Dec(string BinString) {
     fixed (char* text0_ = BinString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, BinString);
-      return Handle.Invoke(3, values_, 1).TakeInteger();
+      var value_ = new Value();
+      value_.Set(text0_, BinString);
+      return Handle.Invoke(3, &value_, 1).TakeInteger();
     }
   }
 
@@ -782,7 +784,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, OctString);
       values_[1].Set(KeepZeroFront);
-      return Handle.Invoke(4, values_, 2).TakeText();
+      return Handle.Invoke(4, values_, KeepZeroFront != false ? 2 : 1).TakeText();
     }
   }
 
@@ -796,7 +798,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, HexString);
       values_[1].Set(KeepZeroFront);
-      return Handle.Invoke(5, values_, 2).TakeText();
+      return Handle.Invoke(5, values_, KeepZeroFront != false ? 2 : 1).TakeText();
     }
   }
 
@@ -808,9 +810,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// </remarks>
   public string Oct2hex(string OctString) {
     fixed (char* text0_ = OctString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, OctString);
-      return Handle.Invoke(6, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, OctString);
+      return Handle.Invoke(6, &value_, 1).TakeText();
     }
   }
 
@@ -822,9 +824,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// </remarks>
   public string Hex2Oct(string HexString) {
     fixed (char* text0_ = HexString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, HexString);
-      return Handle.Invoke(7, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, HexString);
+      return Handle.Invoke(7, &value_, 1).TakeText();
     }
   }
 
@@ -836,9 +838,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// 1), and a negative number gives 0.</para>
   /// </remarks>
   public short Oct2Dec(short OctString) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(OctString);
-    return Handle.Invoke(8, values_, 1).TakeInteger();
+    var value_ = new Value();
+    value_.Set(OctString);
+    return Handle.Invoke(8, &value_, 1).TakeInteger();
   }
 
   /// <summary>Decimal digits read as a hexadecimal number.</summary>
@@ -851,9 +853,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// gives -26215. A negative number gives 0. Raises 6 from five digits up.</para>
   /// </remarks>
   public short Hex2Dec(short HexString) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(HexString);
-    return Handle.Invoke(9, values_, 1).TakeInteger();
+    var value_ = new Value();
+    value_.Set(HexString);
+    return Handle.Invoke(9, &value_, 1).TakeInteger();
   }
 
   /// <summary>The number of hexadecimal digits.</summary>
@@ -866,9 +868,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// </remarks>
   public short Hex2Dec2(string HexString) {
     fixed (char* text0_ = HexString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, HexString);
-      return Handle.Invoke(10, values_, 1).TakeInteger();
+      var value_ = new Value();
+      value_.Set(text0_, HexString);
+      return Handle.Invoke(10, &value_, 1).TakeInteger();
     }
   }
 
@@ -881,9 +883,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// "37777777777".</para>
   /// </remarks>
   public string Dec2Oct(int DecNumber) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(DecNumber);
-    return Handle.Invoke(11, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(DecNumber);
+    return Handle.Invoke(11, &value_, 1).TakeText();
   }
 
   /// <summary>A number as hexadecimal digits.</summary>
@@ -895,9 +897,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// "FFFFFFFF".</para>
   /// </remarks>
   public string Dec2hex(int DecNumber) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(DecNumber);
-    return Handle.Invoke(12, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(DecNumber);
+    return Handle.Invoke(12, &value_, 1).TakeText();
   }
 
   /// <summary>A number as binary text, three bits a group.</summary>
@@ -915,7 +917,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(Dec);
     values_[1].Set(KeepZeroFront);
-    return Handle.Invoke(13, values_, 2).TakeText();
+    return Handle.Invoke(13, values_, KeepZeroFront != false ? 2 : 1).TakeText();
   }
 
   /// <summary>The number of a spreadsheet column.</summary>
@@ -928,9 +930,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// </remarks>
   public int Base26To10(string Base26) {
     fixed (char* text0_ = Base26) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, Base26);
-      return Handle.Invoke(14, values_, 1).TakeLong();
+      var value_ = new Value();
+      value_.Set(text0_, Base26);
+      return Handle.Invoke(14, &value_, 1).TakeLong();
     }
   }
 
@@ -940,9 +942,9 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   /// <para>27 is "AA", 702 is "ZZ". Empty for 0 and negative numbers.</para>
   /// </remarks>
   public string Base10To26(short colNum) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(colNum);
-    return Handle.Invoke(15, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(colNum);
+    return Handle.Invoke(15, &value_, 1).TakeText();
   }
 
   /// <summary>Whether a bit is set; bits count from the right, from 1.</summary>
@@ -1041,9 +1043,9 @@ public sealed unsafe partial class CImageInfo : ZQ7Object {
   /// </remarks>
   public void ReadImageInfo(string sFileName) {
     fixed (char* text0_ = sFileName) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, sFileName);
-      Handle.Invoke(5, values_, 1);
+      var value_ = new Value();
+      value_.Set(text0_, sFileName);
+      Handle.Invoke(5, &value_, 1);
     }
   }
 }
@@ -1066,9 +1068,9 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
   /// </remarks>
   public string FileName(string full_name) {
     fixed (char* text0_ = full_name) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, full_name);
-      return Handle.Invoke(1, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, full_name);
+      return Handle.Invoke(1, &value_, 1).TakeText();
     }
   }
 
@@ -1079,9 +1081,9 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
   /// </remarks>
   public string Pathname(string full_name) {
     fixed (char* text0_ = full_name) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, full_name);
-      return Handle.Invoke(2, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, full_name);
+      return Handle.Invoke(2, &value_, 1).TakeText();
     }
   }
 
@@ -1093,9 +1095,9 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
   /// </remarks>
   public string trimPath(string Path) {
     fixed (char* text0_ = Path) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, Path);
-      return Handle.Invoke(3, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, Path);
+      return Handle.Invoke(3, &value_, 1).TakeText();
     }
   }
 
@@ -1116,7 +1118,7 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, inFullPath);
       values_[1].Set(MaxLen);
-      return Handle.Invoke(4, values_, 2).TakeText();
+      return Handle.Invoke(4, values_, MaxLen != 0 ? 2 : 1).TakeText();
     }
   }
 
@@ -1133,9 +1135,9 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
   /// </remarks>
   public short CreateFullPath(string FullPathName) {
     fixed (char* text0_ = FullPathName) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, FullPathName);
-      return Handle.Invoke(5, values_, 1).TakeInteger();
+      var value_ = new Value();
+      value_.Set(text0_, FullPathName);
+      return Handle.Invoke(5, &value_, 1).TakeInteger();
     }
   }
 
@@ -1172,7 +1174,8 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
       values_[1].Set(text1_, ToFile);
       values_[2].Set(OverwriteFile);
       values_[3].Set(CheckCondition);
-      return Handle.Invoke(6, values_, 4).TakeInteger();
+      return Handle.Invoke(6, values_, CheckCondition != 0 ? 4 : OverwriteFile != false ? 3 :
+          2).TakeInteger();
     }
   }
 
@@ -1286,9 +1289,9 @@ public sealed unsafe partial class GridValueObject : ZQ7Object {
   /// yet set are then 0 for good, so set columns first (docs/surprises.md).</para>
   /// </remarks>
   public void SetRows(int Rows) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(Rows);
-    Handle.Invoke(6, values_, 1);
+    var value_ = new Value();
+    value_.Set(Rows);
+    Handle.Invoke(6, &value_, 1);
   }
 
   /// <summary>Sets the number of columns, once.</summary>
@@ -1298,9 +1301,9 @@ public sealed unsafe partial class GridValueObject : ZQ7Object {
   /// <para>Does nothing when they are set already, or <c>Cols</c> is not above 0.</para>
   /// </remarks>
   public void SetCols(int Cols) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(Cols);
-    Handle.Invoke(7, values_, 1);
+    var value_ = new Value();
+    value_.Set(Cols);
+    Handle.Invoke(7, &value_, 1);
   }
 
   /// <summary>Stores a number in a cell and tells the listeners.</summary>
@@ -1353,9 +1356,9 @@ public sealed unsafe partial class GridValueObject : ZQ7Object {
   /// they are, so that row numbers in a heading stay right.</para>
   /// </remarks>
   public void RemaveItem(int Row) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(Row);
-    Handle.Invoke(10, values_, 1);
+    var value_ = new Value();
+    value_.Set(Row);
+    Handle.Invoke(10, &value_, 1);
   }
 
   /// <summary>Sets the data of a row to 0.</summary>
@@ -1363,9 +1366,9 @@ public sealed unsafe partial class GridValueObject : ZQ7Object {
   /// <para>Heading columns are left as they are; does nothing if there is no such row.</para>
   /// </remarks>
   public void ResetRow(int Row) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(Row);
-    Handle.Invoke(11, values_, 1);
+    var value_ = new Value();
+    value_.Set(Row);
+    Handle.Invoke(11, &value_, 1);
   }
 
   /// <summary>Leaves the headings and one blank row.</summary>
@@ -1381,9 +1384,9 @@ public sealed unsafe partial class GridValueObject : ZQ7Object {
   /// <para>Added from the top down; 0 for a heading and for a column that is not there.</para>
   /// </remarks>
   public double SumCol(int Col) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(Col);
-    return Handle.Invoke(13, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(Col);
+    return Handle.Invoke(13, &value_, 1).TakeDouble();
   }
 
   /// <summary>The sum of a row's data.</summary>
@@ -1393,9 +1396,9 @@ public sealed unsafe partial class GridValueObject : ZQ7Object {
   /// <para>Added from left to right; 0 for a heading and for a row that is not there.</para>
   /// </remarks>
   public double SumRow(int Row) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(Row);
-    return Handle.Invoke(14, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(Row);
+    return Handle.Invoke(14, &value_, 1).TakeDouble();
   }
 
   /// <summary>Handles <see cref="DataChange"/>.</summary>
@@ -1465,7 +1468,7 @@ public sealed unsafe partial class PeripheralObject : ZQ7Object {
       values_[1].Set(text1_, iCode);
       values_[2].Set(iPort);
       values_[3].Set(text3_, Setting);
-      Value result_ = Handle.Invoke(1, values_, 4);
+      Value result_ = Handle.Invoke(1, values_, Setting != "9600,N,8,1" ? 4 : 3);
       GC.KeepAlive(iControl);
       return result_.TakeInteger();
     }
@@ -1561,9 +1564,9 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   /// the printer cannot be asked at all.</para>
   /// </remarks>
   public short CheckPaperSize(short StartSize = 0) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(StartSize);
-    return Handle.Invoke(3, values_, 1).TakeInteger();
+    var value_ = new Value();
+    value_.Set(StartSize);
+    return Handle.Invoke(3, &value_, StartSize != 0 ? 1 : 0).TakeInteger();
   }
 
   /// <summary>Sets the bin and returns the one in force.</summary>
@@ -1575,9 +1578,9 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   /// bin), leaves the printer's own.</para>
   /// </remarks>
   public short CheckPaperBin(short StartBin = 0) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(StartBin);
-    return Handle.Invoke(4, values_, 1).TakeInteger();
+    var value_ = new Value();
+    value_.Set(StartBin);
+    return Handle.Invoke(4, &value_, StartBin != 0 ? 1 : 0).TakeInteger();
   }
 
   /// <summary>The name of a paper.</summary>
@@ -1588,9 +1591,9 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   /// in".</para>
   /// </remarks>
   public string GETPaperSizeText(short PaperSize) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(PaperSize);
-    return Handle.Invoke(5, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(PaperSize);
+    return Handle.Invoke(5, &value_, 1).TakeText();
   }
 
   /// <summary>The name of a bin.</summary>
@@ -1599,9 +1602,9 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   /// <para>"Upper Bin" for 1, "Custom Bin: ( 12 )" for a code that has no name.</para>
   /// </remarks>
   public string GETPaperBinText(short PaperBin) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(PaperBin);
-    return Handle.Invoke(6, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(PaperBin);
+    return Handle.Invoke(6, &value_, 1).TakeText();
   }
 
   /// <summary>"Landscape" or "Portrait".</summary>
@@ -1610,9 +1613,9 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   /// <para>"Landscape" for 2, "Portrait" for any other value.</para>
   /// </remarks>
   public string GETPaperOrientationText(short Orientation) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(Orientation);
-    return Handle.Invoke(7, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(Orientation);
+    return Handle.Invoke(7, &value_, 1).TakeText();
   }
 
   /// <summary>Makes the printer use millimetres, and moves to 1, 1.</summary>
@@ -1701,7 +1704,9 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
       values_[7].Set(FontSize);
       values_[8].Set(FontBold);
       values_[9].Set(FontItalic);
-      return Handle.Invoke(10, values_, 10).TakeInteger();
+      return Handle.Invoke(10, values_, FontItalic != false ? 10 : FontBold != false ? 9 : FontSize
+          != 0 ? 8 : FontName != "" ? 7 : MaxLenText != 0 ? 6 : Alignment != 0 ? 5 : MoveLine != 1 ?
+          4 : y != -1 ? 3 : x != -1 ? 2 : 1).TakeInteger();
     }
   }
 
@@ -1731,7 +1736,8 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
     values_[3].Set(W);
     values_[4].Set(H);
     values_[5].Set(MoveLine);
-    Value result_ = Handle.Invoke(11, values_, 6);
+    Value result_ = Handle.Invoke(11, values_, MoveLine != 1 ? 6 : H != 0f ? 5 : W != 0f ? 4 : y !=
+        -1 ? 3 : x != -1 ? 2 : 1);
     GC.KeepAlive(Src);
     return result_.TakeInteger();
   }
@@ -1908,9 +1914,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// eras, it is 3333.</para>
   /// </remarks>
   public short Year2000(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(3, values_, 1).TakeInteger();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(3, &value_, 1).TakeInteger();
   }
 
   /// <summary>The code of the system's date layout, 1 to 4.</summary>
@@ -1926,9 +1932,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>"m/d/yyyy" for the codes 1 and 3, "d/m/yyyy" for 2 and 4, else empty.</para>
   /// </remarks>
   public string GetDateFormatString(short DateFormat) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(DateFormat);
-    return Handle.Invoke(5, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(DateFormat);
+    return Handle.Invoke(5, &value_, 1).TakeText();
   }
 
   /// <summary>The date that stands for no date, 3333-03-03.</summary>
@@ -1951,18 +1957,18 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// With any other time of day <c>iDate</c> is an ordinary date.</para>
   /// </remarks>
   public bool isBlankDate(DateTime iDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iDate);
-    return Handle.Invoke(8, values_, 1).TakeBoolean();
+    var value_ = new Value();
+    value_.Set(iDate);
+    return Handle.Invoke(8, &value_, 1).TakeBoolean();
   }
 
   /// <summary>The same day at 00:00.</summary>
   /// <returns>For example, <c>TrimDate(2024-01-15 09:30:00)</c> returns
   /// <c>2024-01-15</c>.</returns>
   public DateTime TrimDate(DateTime iDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iDate);
-    return Handle.Invoke(9, values_, 1).TakeDate();
+    var value_ = new Value();
+    value_.Set(iDate);
+    return Handle.Invoke(9, &value_, 1).TakeDate();
   }
 
   /// <summary>Reads "D:H:M" as a number of days.</summary>
@@ -1975,9 +1981,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public double DAYTIME2DAY(string iDDHHMMText) {
     fixed (char* text0_ = iDDHHMMText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iDDHHMMText);
-      return Handle.Invoke(10, values_, 1).TakeDouble();
+      var value_ = new Value();
+      value_.Set(text0_, iDDHHMMText);
+      return Handle.Invoke(10, &value_, 1).TakeDouble();
     }
   }
 
@@ -1990,9 +1996,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// millisecond, then cut to the minute. Raises 6 if <c>iDay</c> is infinite or NaN.</para>
   /// </remarks>
   public string DAY2DAYTIME(double iDay) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iDay);
-    return Handle.Invoke(11, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(iDay);
+    return Handle.Invoke(11, &value_, 1).TakeText();
   }
 
   /// <summary>Writes a number of hours as "H:MM".</summary>
@@ -2005,9 +2011,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <c>CTHour</c> reads it back. Raises 6 from 1E+15 hours on and for infinities and NaN.</para>
   /// </remarks>
   public string FormatHour(double iHour) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iHour);
-    return Handle.Invoke(12, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(iHour);
+    return Handle.Invoke(12, &value_, 1).TakeText();
   }
 
   /// <summary>Whether a "D:H:M" text amounts to anything but zero.</summary>
@@ -2025,7 +2031,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, IDayTimeText);
       values_[1].Set(AcceptZeroValue);
-      return Handle.Invoke(13, values_, 2).TakeBoolean();
+      return Handle.Invoke(13, values_, AcceptZeroValue != false ? 2 : 1).TakeBoolean();
     }
   }
 
@@ -2048,7 +2054,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, iText);
       values_[1].Set(NoUsedBackwardSupportOnly);
-      return Handle.Invoke(14, values_, 2).TakeDate();
+      return Handle.Invoke(14, values_, NoUsedBackwardSupportOnly != false ? 2 : 1).TakeDate();
     }
   }
 
@@ -2068,7 +2074,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, iText);
       values_[1].Set(NoUsedBackwardSupportOnly);
-      return Handle.Invoke(15, values_, 2).TakeBoolean();
+      return Handle.Invoke(15, values_, NoUsedBackwardSupportOnly != false ? 2 : 1).TakeBoolean();
     }
   }
 
@@ -2082,9 +2088,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public DateTime CDATE2000(string iText) {
     fixed (char* text0_ = iText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iText);
-      return Handle.Invoke(16, values_, 1).TakeDate();
+      var value_ = new Value();
+      value_.Set(text0_, iText);
+      return Handle.Invoke(16, &value_, 1).TakeDate();
     }
   }
 
@@ -2096,9 +2102,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public DateTime GETValidDate(string DateString) {
     fixed (char* text0_ = DateString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, DateString);
-      return Handle.Invoke(17, values_, 1).TakeDate();
+      var value_ = new Value();
+      value_.Set(text0_, DateString);
+      return Handle.Invoke(17, &value_, 1).TakeDate();
     }
   }
 
@@ -2110,9 +2116,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public bool IsTDateTime(string iText) {
     fixed (char* text0_ = iText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iText);
-      return Handle.Invoke(18, values_, 1).TakeBoolean();
+      var value_ = new Value();
+      value_.Set(text0_, iText);
+      return Handle.Invoke(18, &value_, 1).TakeBoolean();
     }
   }
 
@@ -2126,9 +2132,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public bool isMounthYear(string inMMYYYY) {
     fixed (char* text0_ = inMMYYYY) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, inMMYYYY);
-      return Handle.Invoke(19, values_, 1).TakeBoolean();
+      var value_ = new Value();
+      value_.Set(text0_, inMMYYYY);
+      return Handle.Invoke(19, &value_, 1).TakeBoolean();
     }
   }
 
@@ -2146,9 +2152,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public DateTime GETDateFromTextYYYYMMDD(string iDateYYYY_MM_DD) {
     fixed (char* text0_ = iDateYYYY_MM_DD) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iDateYYYY_MM_DD);
-      return Handle.Invoke(20, values_, 1).TakeDate();
+      var value_ = new Value();
+      value_.Set(text0_, iDateYYYY_MM_DD);
+      return Handle.Invoke(20, &value_, 1).TakeDate();
     }
   }
 
@@ -2161,9 +2167,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public DateTime CTPeriod(string iText) {
     fixed (char* text0_ = iText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iText);
-      return Handle.Invoke(21, values_, 1).TakeDate();
+      var value_ = new Value();
+      value_.Set(text0_, iText);
+      return Handle.Invoke(21, &value_, 1).TakeDate();
     }
   }
 
@@ -2171,9 +2177,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <returns>For example, <c>IsTPeriod("2567/03")</c> returns <c>True</c>.</returns>
   public bool IsTPeriod(string iText) {
     fixed (char* text0_ = iText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iText);
-      return Handle.Invoke(22, values_, 1).TakeBoolean();
+      var value_ = new Value();
+      value_.Set(text0_, iText);
+      return Handle.Invoke(22, &value_, 1).TakeBoolean();
     }
   }
 
@@ -2185,9 +2191,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public DateTime CTTime(string ITimeText) {
     fixed (char* text0_ = ITimeText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, ITimeText);
-      return Handle.Invoke(23, values_, 1).TakeDate();
+      var value_ = new Value();
+      value_.Set(text0_, ITimeText);
+      return Handle.Invoke(23, &value_, 1).TakeDate();
     }
   }
 
@@ -2198,9 +2204,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public bool isTTime(string ITimeText) {
     fixed (char* text0_ = ITimeText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, ITimeText);
-      return Handle.Invoke(24, values_, 1).TakeBoolean();
+      var value_ = new Value();
+      value_.Set(text0_, ITimeText);
+      return Handle.Invoke(24, &value_, 1).TakeBoolean();
     }
   }
 
@@ -2218,7 +2224,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, InTime);
       values_[1].Set(StartValue);
-      return Handle.Invoke(25, values_, 2).TakeDate();
+      return Handle.Invoke(25, values_, StartValue != 0 ? 2 : 1).TakeDate();
     }
   }
 
@@ -2231,9 +2237,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public DateTime Str2TIME(string InTime) {
     fixed (char* text0_ = InTime) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, InTime);
-      return Handle.Invoke(26, values_, 1).TakeDate();
+      var value_ = new Value();
+      value_.Set(text0_, InTime);
+      return Handle.Invoke(26, &value_, 1).TakeDate();
     }
   }
 
@@ -2245,9 +2251,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public double CTHour(string ITimeText) {
     fixed (char* text0_ = ITimeText) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, ITimeText);
-      return Handle.Invoke(27, values_, 1).TakeDouble();
+      var value_ = new Value();
+      value_.Set(text0_, ITimeText);
+      return Handle.Invoke(27, &value_, 1).TakeDouble();
     }
   }
 
@@ -2265,7 +2271,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, IHourText);
       values_[1].Set(AcceptZeroValue);
-      return Handle.Invoke(28, values_, 2).TakeBoolean();
+      return Handle.Invoke(28, values_, AcceptZeroValue != false ? 2 : 1).TakeBoolean();
     }
   }
 
@@ -2327,9 +2333,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para><c>FormatTDate2</c> with the layout <c>ZQ7MMMYYYY</c>: "January 2024".</para>
   /// </remarks>
   public string MonthYearTextFull(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(33, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(33, &value_, 1).TakeText();
   }
 
   /// <summary>Writes a date in the system's own layout.</summary>
@@ -2341,7 +2347,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(ZeroLeader);
-    return Handle.Invoke(34, values_, 2).TakeText();
+    return Handle.Invoke(34, values_, ZeroLeader != false ? 2 : 1).TakeText();
   }
 
   /// <summary>Writes a date in one of the layouts of <c>CTDateType</c>.</summary>
@@ -2363,7 +2369,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[0].Set(InDate);
     values_[1].Set((int)DateType);
     values_[2].Set(ZeroLeader);
-    return Handle.Invoke(35, values_, 3).TakeText();
+    return Handle.Invoke(35, values_, ZeroLeader != false ? 3 : 2).TakeText();
   }
 
   /// <summary>Writes a date in the system's own layout and the time of day.</summary>
@@ -2377,7 +2383,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(ZeroLeader);
-    return Handle.Invoke(36, values_, 2).TakeText();
+    return Handle.Invoke(36, values_, ZeroLeader != false ? 2 : 1).TakeText();
   }
 
   /// <summary>Writes a date by a pattern, in the system's era and language.</summary>
@@ -2401,7 +2407,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(37, values_, 2).TakeText();
+      return Handle.Invoke(37, values_, FormatText != "d/m/yyyy" ? 2 : 1).TakeText();
     }
   }
 
@@ -2416,7 +2422,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(38, values_, 2).TakeText();
+      return Handle.Invoke(38, values_, FormatText != "d mmmm bbbb" ? 2 : 1).TakeText();
     }
   }
 
@@ -2428,9 +2434,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// reads it back.</para>
   /// </remarks>
   public string FormatThaiRevere(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(39, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(39, &value_, 1).TakeText();
   }
 
   /// <summary>Writes a date by a pattern, with English names and Gregorian years.</summary>
@@ -2445,7 +2451,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(40, values_, 2).TakeText();
+      return Handle.Invoke(40, values_, FormatText != "d mmmm yyyy" ? 2 : 1).TakeText();
     }
   }
 
@@ -2457,9 +2463,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>A Buddhist 29 February becomes the 28th if its Gregorian year has none.</para>
   /// </remarks>
   public string FormatQuery(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(41, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(41, &value_, 1).TakeText();
   }
 
   /// <summary>Writes a date and its time for a database query; NULL for a blank date.</summary>
@@ -2469,17 +2475,17 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>"2024-01-15 09:30:00"; otherwise as <c>FormatQuery</c>.</para>
   /// </remarks>
   public string FormatQueryTime(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(42, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(42, &value_, 1).TakeText();
   }
 
   /// <summary>Writes the time of day as "HH:MM".</summary>
   /// <returns>For example, <c>FormatTime(2024-01-15 09:30:00)</c> returns <c>"09:30"</c>.</returns>
   public string FormatTime(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(43, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(43, &value_, 1).TakeText();
   }
 
   /// <summary>Writes the time of day by a pattern.</summary>
@@ -2496,7 +2502,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(44, values_, 2).TakeText();
+      return Handle.Invoke(44, values_, FormatText != "hh:nn:ss" ? 2 : 1).TakeText();
     }
   }
 
@@ -2507,9 +2513,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// shows. Empty for a blank date.</para>
   /// </remarks>
   public string FormatPeriod(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(45, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(45, &value_, 1).TakeText();
   }
 
   /// <summary>Writes the month of a date, the month first.</summary>
@@ -2518,9 +2524,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>As <c>isMounthYear</c> accepts it: "01/2567"; otherwise as <c>FormatPeriod</c>.</para>
   /// </remarks>
   public string FormatTPeriod(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(46, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(46, &value_, 1).TakeText();
   }
 
   /// <summary>Moves a date by single months, cut back to the last day of each.</summary>
@@ -2542,7 +2548,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(NumberOfMonth);
-    return Handle.Invoke(47, values_, 2).TakeDate();
+    return Handle.Invoke(47, values_, NumberOfMonth != 0 ? 2 : 1).TakeDate();
   }
 
   /// <summary>Moves a date by years of twelve single months.</summary>
@@ -2556,7 +2562,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(NumberOfYear);
-    return Handle.Invoke(48, values_, 2).TakeDate();
+    return Handle.Invoke(48, values_, NumberOfYear != 0 ? 2 : 1).TakeDate();
   }
 
   /// <summary>The first day of a month of a Gregorian year.</summary>
@@ -2629,9 +2635,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// that it means. 29 February counts as the 28th if that year has none.</para>
   /// </remarks>
   public short GETWeekOfMonth(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(53, values_, 1).TakeInteger();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(53, &value_, 1).TakeInteger();
   }
 
   /// <summary>The pay period of the month that a date is in, 1 or 2.</summary>
@@ -2640,9 +2646,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>1 for the days 1 to 15, 2 from the 16th on. A blank date gives 0.</para>
   /// </remarks>
   public short GETPeriodOfMonth(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(54, values_, 1).TakeInteger();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(54, &value_, 1).TakeInteger();
   }
 
   /// <summary>Whether a date is a Saturday or a Sunday.</summary>
@@ -2651,9 +2657,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>The weekdays are those of <c>GETWeekOfMonth</c>. A blank date is neither.</para>
   /// </remarks>
   public bool ISWeekHoliday(DateTime InDate) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(InDate);
-    return Handle.Invoke(55, values_, 1).TakeBoolean();
+    var value_ = new Value();
+    value_.Set(InDate);
+    return Handle.Invoke(55, &value_, 1).TakeBoolean();
   }
 
   /// <summary>Estimates the days that work will still take from the part done so far.</summary>
@@ -2693,7 +2699,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(TimeLeft);
     if (UseThai.HasValue) values_[1].Set(UseThai.Value); else values_[1].Omit();
-    return Handle.Invoke(57, values_, 2).TakeText();
+    return Handle.Invoke(57, values_, UseThai != null ? 2 : 1).TakeText();
   }
 
   /// <summary>Writes the time that work will still take.</summary>
@@ -2710,7 +2716,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[1].Set(DoneCount);
     values_[2].Set(TotalCount);
     if (UseThai.HasValue) values_[3].Set(UseThai.Value); else values_[3].Omit();
-    return Handle.Invoke(58, values_, 4).TakeText();
+    return Handle.Invoke(58, values_, UseThai != null ? 4 : 3).TakeText();
   }
 
   /// <summary>The due date of an invoice.</summary>
@@ -2844,9 +2850,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// two decimals first: -2.5 gives -2 and 2.999 gives 3.</para>
   /// </remarks>
   public double Floor(double iValue) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iValue);
-    return Handle.Invoke(65, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(iValue);
+    return Handle.Invoke(65, &value_, 1).TakeDouble();
   }
 
   /// <summary><c>Floor</c>, plus 1 if the number is above it.</summary>
@@ -2855,9 +2861,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>2.001 gives 3, -2.5 gives -2.</para>
   /// </remarks>
   public double Ceiling(double iValue) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iValue);
-    return Handle.Invoke(66, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(iValue);
+    return Handle.Invoke(66, &value_, 1).TakeDouble();
   }
 
   /// <summary>Rounds a number and brings it to a whole unit.</summary>
@@ -2906,7 +2912,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(iValue);
       values_[1].Set(IncreaseToCeiling);
       values_[2].Set(text2_, CelingList);
-      return Handle.Invoke(68, values_, 3).TakeCurrency();
+      return Handle.Invoke(68, values_, CelingList != "" ? 3 : 2).TakeCurrency();
     }
   }
 
@@ -2919,9 +2925,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public double StrVal(string istr) {
     fixed (char* text0_ = istr) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, istr);
-      return Handle.Invoke(69, values_, 1).TakeDouble();
+      var value_ = new Value();
+      value_.Set(text0_, istr);
+      return Handle.Invoke(69, &value_, 1).TakeDouble();
     }
   }
 
@@ -2954,7 +2960,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, istr);
       values_[1].Set(DecimalDigit);
-      return Handle.Invoke(71, values_, 2).TakeInteger();
+      return Handle.Invoke(71, values_, DecimalDigit != -1 ? 2 : 1).TakeInteger();
     }
   }
 
@@ -2969,7 +2975,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, istr);
       values_[1].Set(DecimalDigit);
-      return Handle.Invoke(72, values_, 2).TakeLong();
+      return Handle.Invoke(72, values_, DecimalDigit != -1 ? 2 : 1).TakeLong();
     }
   }
 
@@ -2984,16 +2990,16 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, istr);
       values_[1].Set(DecimalDigit);
-      return Handle.Invoke(73, values_, 2).TakeSingle();
+      return Handle.Invoke(73, values_, DecimalDigit != -1 ? 2 : 1).TakeSingle();
     }
   }
 
   /// <summary>A number, or 0 for a missing one.</summary>
   /// <returns>For example, <c>Null2Zero(1.5)</c> returns <c>1.5</c>.</returns>
   public double Null2Zero(double? InputValue = null) {
-    Value* values_ = stackalloc Value[1];
-    if (InputValue.HasValue) values_[0].Set(InputValue.Value); else values_[0].Omit();
-    return Handle.Invoke(74, values_, 1).TakeDouble();
+    var value_ = new Value();
+    if (InputValue.HasValue) value_.Set(InputValue.Value); else value_.Omit();
+    return Handle.Invoke(74, &value_, InputValue != null ? 1 : 0).TakeDouble();
   }
 
   /// <summary>The digits of a text.</summary>
@@ -3014,7 +3020,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iText);
       values_[1].Set(IncludeDot);
       values_[2].Set(IncludeSign);
-      return Handle.Invoke(75, values_, 3).TakeText();
+      return Handle.Invoke(75, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 :
+          1).TakeText();
     }
   }
 
@@ -3026,40 +3033,41 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iText);
       values_[1].Set(IncludeDot);
       values_[2].Set(IncludeSign);
-      return Handle.Invoke(76, values_, 3).TakeText();
+      return Handle.Invoke(76, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 :
+          1).TakeText();
     }
   }
 
   /// <summary>Days to hours.</summary>
   /// <returns>For example, <c>d2h(0.5)</c> returns <c>12</c>.</returns>
   public double d2h(double iDay) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iDay);
-    return Handle.Invoke(77, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(iDay);
+    return Handle.Invoke(77, &value_, 1).TakeDouble();
   }
 
   /// <summary>Days to minutes.</summary>
   /// <returns>For example, <c>d2m(0.5)</c> returns <c>720</c>.</returns>
   public double d2m(double iDay) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iDay);
-    return Handle.Invoke(78, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(iDay);
+    return Handle.Invoke(78, &value_, 1).TakeDouble();
   }
 
   /// <summary>Hours to days.</summary>
   /// <returns>For example, <c>h2d(12)</c> returns <c>0.5</c>.</returns>
   public double h2d(double iHour) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iHour);
-    return Handle.Invoke(79, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(iHour);
+    return Handle.Invoke(79, &value_, 1).TakeDouble();
   }
 
   /// <summary>Minutes to days.</summary>
   /// <returns>For example, <c>m2d(720)</c> returns <c>0.5</c>.</returns>
   public double m2d(double iMinute) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iMinute);
-    return Handle.Invoke(80, values_, 1).TakeDouble();
+    var value_ = new Value();
+    value_.Set(iMinute);
+    return Handle.Invoke(80, &value_, 1).TakeDouble();
   }
 
   /// <summary>The shortest text of a number.</summary>
@@ -3070,9 +3078,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// from 1E+15 up and below 1E-04: "1234.5", "1E+15". Raises 6 for infinities and NaN.</para>
   /// </remarks>
   public string d2Str(double iValue) {
-    Value* values_ = stackalloc Value[1];
-    values_[0].Set(iValue);
-    return Handle.Invoke(81, values_, 1).TakeText();
+    var value_ = new Value();
+    value_.Set(iValue);
+    return Handle.Invoke(81, &value_, 1).TakeText();
   }
 
   /// <summary>Writes a cost price in the letters of a code word.</summary>
@@ -3199,7 +3207,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iList);
       values_[1].Set(text1_, iAdd);
       values_[2].Set(text2_, SeparateChar);
-      return Handle.Invoke(86, values_, 3).TakeText();
+      return Handle.Invoke(86, values_, SeparateChar != ";" ? 3 : 2).TakeText();
     }
   }
 
@@ -3235,7 +3243,10 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[17].Set(text17_, i18);
       values_[18].Set(text18_, i19);
       values_[19].Set(text19_, i20);
-      return Handle.Invoke(87, values_, 20).TakeTextList();
+      return Handle.Invoke(87, values_, i20 != "" ? 20 : i19 != "" ? 19 : i18 != "" ? 18 : i17 != ""
+          ? 17 : i16 != "" ? 16 : i15 != "" ? 15 : i14 != "" ? 14 : i13 != "" ? 13 : i12 != "" ? 12
+          : i11 != "" ? 11 : i10 != "" ? 10 : i9 != "" ? 9 : i8 != "" ? 8 : i7 != "" ? 7 : i6 != ""
+          ? 6 : i5 != "" ? 5 : i4 != "" ? 4 : i3 != "" ? 3 : i2 != "" ? 2 : 1).TakeTextList();
     }
   }
 
@@ -3322,7 +3333,12 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[27].Set(text27_, i28);
       values_[28].Set(text28_, i29);
       values_[29].Set(text29_, i30);
-      return Handle.Invoke(88, values_, 30).TakeTextList();
+      return Handle.Invoke(88, values_, i30 != "" ? 30 : i29 != "" ? 29 : i28 != "" ? 28 : i27 != ""
+          ? 27 : i26 != "" ? 26 : i25 != "" ? 25 : i24 != "" ? 24 : i23 != "" ? 23 : i22 != "" ? 22
+          : i21 != "" ? 21 : i20 != "" ? 20 : i19 != "" ? 19 : i18 != "" ? 18 : i17 != "" ? 17 : i16
+          != "" ? 16 : i15 != "" ? 15 : i14 != "" ? 14 : i13 != "" ? 13 : i12 != "" ? 12 : i11 != ""
+          ? 11 : i10 != "" ? 10 : i9 != "" ? 9 : i8 != "" ? 8 : i7 != "" ? 7 : i6 != "" ? 6 : i5 !=
+          "" ? 5 : i4 != "" ? 4 : i3 != "" ? 3 : i2 != "" ? 2 : 1).TakeTextList();
     }
   }
 
@@ -3333,9 +3349,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public string ReverseList(string iList) {
     fixed (char* text0_ = iList) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iList);
-      return Handle.Invoke(89, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, iList);
+      return Handle.Invoke(89, &value_, 1).TakeText();
     }
   }
 
@@ -3369,9 +3385,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public string ReverseString(string iString) {
     fixed (char* text0_ = iString) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, iString);
-      return Handle.Invoke(91, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, iString);
+      return Handle.Invoke(91, &value_, 1).TakeText();
     }
   }
 
@@ -3387,7 +3403,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, inString);
       values_[1].Set(TrimFront);
       values_[2].Set(TrimBack);
-      return Handle.Invoke(92, values_, 3).TakeText();
+      return Handle.Invoke(92, values_, TrimBack != true ? 3 : TrimFront != true ? 2 :
+          1).TakeText();
     }
   }
 
@@ -3412,7 +3429,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, InputString);
       values_[1].Set(text1_, AddStringNumber);
-      return Handle.Invoke(93, values_, 2).TakeText();
+      return Handle.Invoke(93, values_, AddStringNumber != "" ? 2 : 1).TakeText();
     }
   }
 
@@ -3483,7 +3500,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[2].Set(text2_, SearchString);
       values_[3].Set((int)Compare);
       values_[4].Set(SearchFromBack);
-      return Handle.Invoke(95, values_, 5).TakeLong();
+      return Handle.Invoke(95, values_, SearchFromBack != false ? 5 : Compare !=
+          ZQ7CompareMethod.ZQ7CompareBinary ? 4 : 3).TakeLong();
     }
   }
 
@@ -3557,7 +3575,10 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[8].Set(Reserve2);
       values_[9].Set(Reserve3);
       values_[10].Set(Reserve4);
-      return Handle.Invoke(97, values_, 11).TakeText();
+      return Handle.Invoke(97, values_, Reserve4 != 0 ? 11 : Reserve3 != 0 ? 10 : Reserve2 != 0 ? 9
+          : AcceptInsideMultiSpace != 0 ? 8 : AcceptOnlyEnglishCharAndNumber != 0 ? 7 :
+          AutoUpperCase != 0 ? 6 : NumberOnly != 0 ? 5 : AcceptInsideSpace != 0 ? 4 : MaxLen != 0 ?
+          3 : PrimaryKeyMode != 0 ? 2 : 1).TakeText();
     }
   }
 
@@ -3583,7 +3604,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[3].Set(NumberOnly);
       values_[4].Set(AutoUpperCase);
       values_[5].Set(AcceptOnlyEnglishCharAndNumber);
-      return Handle.Invoke(98, values_, 6).TakeText();
+      return Handle.Invoke(98, values_, AcceptOnlyEnglishCharAndNumber != 0 ? 6 : AutoUpperCase != 0
+          ? 5 : NumberOnly != 0 ? 4 : AcceptInsideSpace != 0 ? 3 : MaxLen != 30 ? 2 : 1).TakeText();
     }
   }
 
@@ -3601,7 +3623,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, InputBarCodeValue);
       values_[1].Set(BarcodeType);
-      return Handle.Invoke(99, values_, 2).TakeText();
+      return Handle.Invoke(99, values_, BarcodeType != 0 ? 2 : 1).TakeText();
     }
   }
 
@@ -3621,7 +3643,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, StringIP);
       values_[1].Set(ForceIPV4);
-      return Handle.Invoke(100, values_, 2).TakeText();
+      return Handle.Invoke(100, values_, ForceIPV4 != true ? 2 : 1).TakeText();
     }
   }
 
@@ -3633,9 +3655,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public short GetEAN13ChekDigit(string sCodice) {
     fixed (char* text0_ = sCodice) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, sCodice);
-      return Handle.Invoke(101, values_, 1).TakeInteger();
+      var value_ = new Value();
+      value_.Set(text0_, sCodice);
+      return Handle.Invoke(101, &value_, 1).TakeInteger();
     }
   }
 
@@ -3646,9 +3668,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public short GetITF14ChekDigit(string sCodice) {
     fixed (char* text0_ = sCodice) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, sCodice);
-      return Handle.Invoke(102, values_, 1).TakeInteger();
+      var value_ = new Value();
+      value_.Set(text0_, sCodice);
+      return Handle.Invoke(102, &value_, 1).TakeInteger();
     }
   }
 
@@ -3735,9 +3757,9 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// </remarks>
   public string CalculateMD5(string strMessage) {
     fixed (char* text0_ = strMessage) {
-      Value* values_ = stackalloc Value[1];
-      values_[0].Set(text0_, strMessage);
-      return Handle.Invoke(107, values_, 1).TakeText();
+      var value_ = new Value();
+      value_.Set(text0_, strMessage);
+      return Handle.Invoke(107, &value_, 1).TakeText();
     }
   }
 }
@@ -3832,7 +3854,7 @@ internal unsafe struct Value {
   private const int Null = 1, TextTag = 2, IntegerTag = 3, LongTag = 4, SingleTag = 5, DoubleTag = 6,
                     BooleanTag = 7, DateTag = 8, CurrencyTag = 9, ObjectTag = 11;
   private const int MillisecondsPerDay = 86400000;
-  private static readonly long s_dayZero = new DateTime(1899, 12, 30).Ticks;
+  private const long DayZero = 599264352000000000;  // 1899-12-30
 
   [FieldOffset(0)] private int _tag;  // 0 is an argument that is left out
   [FieldOffset(4)] private int _owned;
@@ -3855,7 +3877,7 @@ internal unsafe struct Value {
   /// millisecond, so that it never rounds up to the next day. The library refuses a year before
   /// 100 itself.
   internal void Set(DateTime value) {
-    long ticks = value.Ticks - s_dayZero;
+    long ticks = value.Ticks - DayZero;
     long time = ticks % TimeSpan.TicksPerDay;
     if (time < 0) time += TimeSpan.TicksPerDay;
     long day = (ticks - time) / TimeSpan.TicksPerDay;
@@ -3877,7 +3899,7 @@ internal unsafe struct Value {
   internal void Set(char* text, string value) {
     _tag = value == null ? 0 : TextTag;
     _pointer = text;
-    _length = (ulong)(value?.Length ?? 0);
+    _length = value == null ? 0 : (ulong)value.Length;
   }
 
   /// The caller keeps `value` alive during the call.
@@ -3897,7 +3919,7 @@ internal unsafe struct Value {
   internal DateTime TakeDate() {
     double day = Math.Truncate(_number);
     long milliseconds = (long)Math.Round(Math.Abs(_number - day) * MillisecondsPerDay);
-    return new DateTime(s_dayZero + (long)day * TimeSpan.TicksPerDay +
+    return new DateTime(DayZero + (long)day * TimeSpan.TicksPerDay +
                         Math.Min(milliseconds, MillisecondsPerDay - 1) *
                             TimeSpan.TicksPerMillisecond);
   }
@@ -4071,7 +4093,7 @@ internal static unsafe class Failures {
     if (status != 0) Throw();
   }
 
-  private static void Throw() {
+  internal static void Throw() {
     Exception thrown = t_thrown;
     t_thrown = null;
     NativeError* error = Native.zq7_last_error();
@@ -4132,6 +4154,9 @@ internal sealed unsafe class ObjectHandle : SafeHandle {
   internal readonly EventHandlers Events;
   /// Kept, because the library calls its functions as long as the object is used.
   internal readonly Services Services;
+  // An object belongs to one thread at a time, so that these need no lock.
+  private int _calls;
+  private bool _released;
 
   internal ObjectHandle(IntPtr instance, Services services) : base(IntPtr.Zero, true) {
     SetHandle(instance);
@@ -4152,45 +4177,44 @@ internal sealed unsafe class ObjectHandle : SafeHandle {
 
   /// The library's own handle.
   internal IntPtr Open() {
-    if (IsClosed) throw new ObjectDisposedException(nameof(ZQ7Object));
+    if (_released) throw new ObjectDisposedException(nameof(ZQ7Object));
     return handle;
   }
 
   internal Value Invoke(int number, Value* arguments, int count) {
-    bool held = false;
-    try {
-      DangerousAddRef(ref held);
-      Failures.Begin();
-      Value result;
-      Failures.Check(Native.zq7_invoke(handle, number, arguments, (UIntPtr)count, &result));
-      return result;
-    } finally {
-      if (held) DangerousRelease();
-    }
+    Begin();
+    Value result;
+    End(Native.zq7_invoke(handle, number, arguments, (UIntPtr)count, &result));
+    return result;
   }
 
   internal Value Get(int number) {
-    bool held = false;
-    try {
-      DangerousAddRef(ref held);
-      Failures.Begin();
-      Value value;
-      Failures.Check(Native.zq7_get(handle, number, &value));
-      return value;
-    } finally {
-      if (held) DangerousRelease();
-    }
+    Begin();
+    Value value;
+    End(Native.zq7_get(handle, number, &value));
+    return value;
   }
 
   internal void Set(int number, Value* value) {
-    bool held = false;
-    try {
-      DangerousAddRef(ref held);
-      Failures.Begin();
-      Failures.Check(Native.zq7_set(handle, number, value));
-    } finally {
-      if (held) DangerousRelease();
-    }
+    Begin();
+    End(Native.zq7_set(handle, number, value));
+  }
+
+  /// Releases the object, after the calls that it is in.
+  internal void Release() {
+    _released = true;
+    if (_calls == 0) Dispose();
+  }
+
+  private void Begin() {
+    if (_released) throw new ObjectDisposedException(nameof(ZQ7Object));
+    ++_calls;
+    Failures.Begin();
+  }
+
+  private void End(int status) {
+    if (--_calls == 0 && _released) Dispose();
+    if (status != 0) Failures.Throw();
   }
 
   protected override bool ReleaseHandle() {

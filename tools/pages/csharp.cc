@@ -250,8 +250,7 @@ std::string TextPointer(std::size_t place) {
 }
 
 /// The statement that passes an argument.
-std::string Passed(const ParameterInfo& parameter, std::size_t place) {
-  const std::string value = "values_[" + std::to_string(place) + "]";
+std::string Passed(const ParameterInfo& parameter, std::size_t place, const std::string& value) {
   const std::string name = Name(parameter.name);
   const std::string cast = parameter.type.enumeration != nullptr ? "(int)" : "";
   if (parameter.type.type == Type::kTextList) throw std::logic_error("a list as an argument");
@@ -261,6 +260,19 @@ std::string Passed(const ParameterInfo& parameter, std::size_t place) {
   if (!IsNullableValue(parameter)) return value + ".Set(" + cast + name + ");";
   return "if (" + name + ".HasValue) " + value + ".Set(" + cast + name + ".Value); else " + value +
          (parameter.optional ? ".Omit();" : ".SetNull();");
+}
+
+/// How many arguments are passed: not those at the end that are their defaults, each of which
+/// would take the library some time.
+std::string ArgumentCount(const std::vector<ParameterInfo>& parameters) {
+  std::string count;
+  for (std::size_t i = parameters.size(); i > 0; --i) {
+    const ParameterInfo& parameter = parameters[i - 1];
+    if (!parameter.optional) return count + std::to_string(i);
+    count +=
+        Name(parameter.name) + " != " + DefaultValue(parameter) + " ? " + std::to_string(i) + " : ";
+  }
+  return count + "0";
 }
 
 /// "fixed (char* text0_ = iText) {"; empty if there are no texts.
@@ -297,20 +309,25 @@ std::string OperationBody(const OperationInfo& operation) {
     const bool none = operation.result.type == Type::kNothing;
     return " => " + (none ? call : Taken(operation.result, call)) + ";\n";
   }
-  const std::string count = std::to_string(parameters.size());
-  std::vector<std::string> statements = {"Value* values_ = stackalloc Value[" + count + "];"};
+  const bool one = parameters.size() == 1;
+  std::vector<std::string> statements = {one ? "var value_ = new Value();"
+                                             : "Value* values_ = stackalloc Value[" +
+                                                   std::to_string(parameters.size()) + "];"};
   for (std::size_t i = 0; i < parameters.size(); ++i) {
-    statements.push_back(Passed(parameters[i], i));
+    statements.push_back(
+        Passed(parameters[i], i, one ? "value_" : "values_[" + std::to_string(i) + "]"));
   }
-  const std::string call = "Handle.Invoke(" + number + ", values_, " + count + ")";
+  const std::string call = "Handle.Invoke(" + number + ", " + (one ? "&value_" : "values_") + ", " +
+                           ArgumentCount(parameters) + ")";
   for (std::string& statement : Returned(operation, call)) {
     statements.push_back(std::move(statement));
   }
 
   const std::string pinned = PinnedTexts(parameters);
   std::string body = " {\n" + Replaced(pinned, ")\n", ") {\n");
+  const std::size_t indent = pinned.empty() ? 4 : 6;
   for (const std::string& statement : statements) {
-    body.append(pinned.empty() ? 4 : 6, ' ').append(statement).append("\n");
+    body += ZQ7Tool::Wrapped(std::string(indent, ' '), statement, indent + 4, kWidth);
   }
   return body + (pinned.empty() ? "" : "    }\n") + "  }\n";
 }
