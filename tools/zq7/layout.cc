@@ -44,24 +44,26 @@ std::string Wrapped(std::string_view prefix, std::string_view text, std::size_t 
   return Filled(prefix, words, indent, width);
 }
 
-std::string Paragraphs(std::string_view documentation, std::size_t width) {
+std::vector<std::string> SplitParagraphs(std::string_view documentation) {
   std::istringstream stream{std::string(documentation)};
-  std::string lines;
-  std::string paragraph;
-  const auto finish = [&] {
-    if (paragraph.empty()) return;
-    if (!lines.empty()) lines += '\n';
-    lines += paragraph.starts_with("  ") ? paragraph : Wrapped("", paragraph, 0, width);
-    paragraph.clear();
-  };
+  std::vector<std::string> paragraphs(1);
   for (std::string line; std::getline(stream, line);) {
-    if (line.empty()) {
-      finish();
-    } else {
-      paragraph += line + "\n";
+    if (!line.empty()) {
+      paragraphs.back() += line + "\n";
+    } else if (!paragraphs.back().empty()) {
+      paragraphs.emplace_back();
     }
   }
-  finish();
+  if (paragraphs.back().empty()) paragraphs.pop_back();
+  return paragraphs;
+}
+
+std::string Paragraphs(std::string_view documentation, std::size_t width) {
+  std::string lines;
+  for (const std::string& paragraph : SplitParagraphs(documentation)) {
+    lines += lines.empty() ? "" : "\n";
+    lines += paragraph.starts_with("  ") ? paragraph : Wrapped("", paragraph, 0, width);
+  }
   return lines;
 }
 

@@ -18,6 +18,9 @@ std::string Filled(std::string_view prefix, const std::vector<std::string>& word
 std::string Wrapped(std::string_view prefix, std::string_view text, std::size_t indent,
                     std::size_t width);
 
+/// The paragraphs of a documentation, which blank lines separate.
+std::vector<std::string> SplitParagraphs(std::string_view documentation);
+
 /// The paragraphs of a documentation, separated by blank lines, each refilled; one that begins with
 /// two blanks is kept as it is.
 std::string Paragraphs(std::string_view documentation, std::size_t width);

@@ -7,10 +7,6 @@
 namespace ZQ7Tool {
 namespace {
 
-bool IsIdentifierCharacter(char c) {
-  return (Lower(c) >= 'a' && Lower(c) <= 'z') || (c >= '0' && c <= '9') || c == '_';
-}
-
 /// The number of letters to insert, delete or change to turn one name into the other.
 std::size_t EditDistance(std::string_view a, std::string_view b) {
   std::vector<std::size_t> row(b.size() + 1);  // from the prefix of `a` so far to those of `b`

@@ -12,6 +12,11 @@ constexpr char Lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
 
+/// Whether `c` is a letter, a digit or "_".
+constexpr bool IsIdentifierCharacter(char c) {
+  return (Lower(c) >= 'a' && Lower(c) <= 'z') || (c >= '0' && c <= '9') || c == '_';
+}
+
 /// `text` in quotation marks, for a message.
 std::string Quoted(std::string_view text);
 

@@ -6,12 +6,13 @@
 
 #include "commands.h"
 #include "names.h"
-#include "pages.h"
+#include "writers.h"
 
-namespace ZQ7Tool {
+namespace ZQ7Pages {
 namespace {
 
 using namespace ZQ7Standard::Automation;
+using namespace ZQ7Tool;
 
 std::string Lines(const std::vector<std::string>& words) {
   std::string lines = "\n";
@@ -67,4 +68,4 @@ Fields CompletionFields() {
           {"OTHERS", Lines(others)},   {"MEMBERS", MemberCases()}};
 }
 
-}  // namespace ZQ7Tool
+}  // namespace ZQ7Pages

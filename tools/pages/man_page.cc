@@ -3,12 +3,13 @@
 #include <string_view>
 
 #include "commands.h"
-#include "pages.h"
+#include "writers.h"
 
-namespace ZQ7Tool {
+namespace ZQ7Pages {
 namespace {
 
 using namespace ZQ7Standard::Automation;
+using namespace ZQ7Tool;
 
 /// `text` with everything escaped that the formatter would interpret.
 std::string Escaped(std::string_view text) {
@@ -115,4 +116,4 @@ Fields ManPageFields() {
           {"CLASSES", ClassSections()}};
 }
 
-}  // namespace ZQ7Tool
+}  // namespace ZQ7Pages
