@@ -44,11 +44,12 @@ uint32_t FlagsOf(const ClassInfo& owner) {
   return FlagIf(owner.creatable, ZQ7_CREATABLE) | FlagIf(!owner.events.empty(), ZQ7_HAS_EVENTS);
 }
 
-/// The catalogue in C, built on first use. Everything in it stays where it is.
+/// The catalogue in C, built on first use. Everything in it stays where it is, and is never
+/// destroyed: finalizers of other languages may run after the program's own statics are gone.
 class Catalogue {
  public:
   static const Catalogue& Get() {
-    static const Catalogue catalogue;
+    static const Catalogue& catalogue = *new Catalogue;
     return catalogue;
   }
 
