@@ -43,7 +43,7 @@ Addresses AddressesFor(const ClassInfo& owner, std::string_view self = {},
                        const std::vector<ParameterInfo>& parameters = {}) {
   return [&owner, self, &parameters](std::string_view word) -> std::string {
     if (word == self || word == owner.name || IsParameter(parameters, word)) return "";
-    if (const std::string member = AddressOfMember(owner, word); !member.empty()) return member;
+    if (std::string member = AddressOfMember(owner, word); !member.empty()) return member;
     const ClassInfo* const other = FindClass(word);
     if (other != nullptr && other->name == word) return std::string(word) + ".md";
     return AddressOfEnumerator(word);
