@@ -200,11 +200,6 @@ const T* const* Counted(const std::vector<const T*>& pointers, size_t* count) {
 
 }  // namespace
 
-Member Class::Find(int32_t number) const {
-  const auto place = static_cast<std::size_t>(number);
-  return number > 0 && place < by_number.size() ? by_number[place] : Member();
-}
-
 const Class& ClassOf(const ClassInfo& info) {
   return Catalogue::Get().ClassOf(info);
 }
