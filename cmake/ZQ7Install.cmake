@@ -15,6 +15,8 @@ if(TARGET zq7standard_c)
   install(EXPORT zq7standard_c FILE ZQ7Standard-c.cmake NAMESPACE ZQ7Standard::
     DESTINATION ${package_dir} COMPONENT Development)
   install(FILES include/zq7standard.h TYPE INCLUDE COMPONENT Development)
+  install(FILES bindings/csharp/ZQ7Standard.cs
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zq7standard/csharp COMPONENT Development)
 endif()
 
 if(TARGET zq7_printing_module)

@@ -1,0 +1,33 @@
+// The five tasks of docs/hosts.md from C#.
+using System;
+using System.IO;
+using ZQ7Standard;
+
+internal static class FiveTasks {
+  private static void Main() {
+    using (var baht = new BahtStringObject()) {
+      Console.WriteLine(baht.BahtString(121.50));
+    }
+
+    var services = new Services { Convention = () => new DateConvention(true, true) };
+    var standard = new StandardObject(services);
+    DateTime date = standard.CTDATE("31/1/2567");
+    Console.WriteLine(standard.FormatQuery(standard.AddMonth(date, 1)));
+
+    string file = "C:" + Path.GetFullPath("settings.ini").Replace('/', '\\');
+    var settings = new ASCIIObject();
+    settings.Setvalue(file, "Port", "9600");
+    Console.WriteLine(settings.GetValue(file, "Port"));
+
+    var grid = new GridValueObject();
+    grid.CellDataChange += (row, column) => Console.WriteLine($"row {row}, column {column}");
+    grid.SetCols(3);
+    grid.Setvalue(7, 2, 12.5);
+
+    try {
+      standard.CTDATE("31/2/2567");
+    } catch (RunTimeException error) {
+      Console.WriteLine("error " + error.Number);
+    }
+  }
+}
