@@ -3937,19 +3937,7 @@ internal unsafe struct Value {
     return texts;
   }
 
-  /// The text. Mono's own constructor of a text takes longer to copy it.
-  private string Copy() {
-    int length = (int)_length;
-    if (length == 0) return "";
-    var text = new string('\0', length);
-    fixed (char* to = text) {
-      var from = (char*)_pointer;
-      int i = 0;
-      for (; i + 4 <= length; i += 4) *(long*)(to + i) = *(long*)(from + i);
-      for (; i < length; ++i) to[i] = from[i];
-    }
-    return text;
-  }
+  private string Copy() => new string((char*)_pointer, 0, (int)_length);
 
   private void Clear() {
     if (_owned == 0) return;
