@@ -72,13 +72,14 @@ const PropertyInfo& PropertyOf(const zq7_object& object, int32_t number) {
   return *member.property;
 }
 
-/// Runs `call` and writes its value to `result`, which is empty after a failure and may be null.
+/// Runs `call` and writes its value to `result`, which is empty after a failure and may be null; a
+/// text goes to `room` if it fits.
 template <typename Call>
-zq7_status Written(zq7_value* result, const Call& call) {
+zq7_status Written(zq7_value* result, const Call& call, std::span<char16_t> room = {}) {
   if (result != nullptr) *result = {};
   return Guarded([&] {
     const Value value = call();
-    if (result != nullptr) Write(value, *result);
+    if (result != nullptr) Write(value, room, *result);
   });
 }
 
@@ -136,12 +137,19 @@ const zq7_class* zq7_class_of(const zq7_object* object) {
 
 zq7_status zq7_invoke(zq7_object* object, int32_t number, const zq7_value* arguments, size_t count,
                       zq7_value* result) {
-  return ZQ7C::Written(result, [&] {
+  return zq7_invoke_text(object, number, arguments, count, nullptr, 0, result);
+}
+
+zq7_status zq7_invoke_text(zq7_object* object, int32_t number, const zq7_value* arguments,
+                           size_t count, char16_t* buffer, size_t capacity, zq7_value* result) {
+  const auto call = [&] {
+    Require(buffer != nullptr || capacity == 0, "no buffer");
     const auto& operation = ZQ7C::OperationOf(Required(object), number);
     ZQ7C::RequireArguments(arguments, count);
     const ZQ7C::Values values(arguments, count);
     return ZQ7Standard::Automation::Invoke(object->object, operation, {values.Get()});
-  });
+  };
+  return ZQ7C::Written(result, call, {buffer, capacity});
 }
 
 zq7_status zq7_invoke_by_name(zq7_object* object, const char* operation,

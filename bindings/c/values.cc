@@ -145,6 +145,16 @@ void Write(const Value& value, zq7_value& out) {
   }
 }
 
+void Write(const Value& value, std::span<char16_t> room, zq7_value& out) {
+  const auto* const text = std::get_if<Text>(&value);
+  if (text == nullptr || room.empty() || text->size() > room.size()) {
+    Write(value, out);
+    return;
+  }
+  std::ranges::copy(*text, room.begin());
+  out = View({room.data(), text->size()});
+}
+
 zq7_value View(TextView text) {
   zq7_value value = {};
   value.tag = ZQ7_TEXT;

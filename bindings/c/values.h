@@ -4,6 +4,8 @@
 #include <ZQ7Standard/automation/value.h>
 #include <zq7standard.h>
 
+#include <span>
+
 namespace ZQ7C {
 
 /// Makes `value` what a caller passed. Raises 5 for a tag that is not a value's, or a null pointer.
@@ -18,6 +20,9 @@ ZQ7Standard::OleDate ToDate(const zq7_value* value);
 
 /// Makes `out` a copy of `value`, which belongs to the library.
 void Write(const ZQ7Standard::Automation::Value& value, zq7_value& out);
+
+/// The same, but a text that fits is written to `room` and belongs to the caller.
+void Write(const ZQ7Standard::Automation::Value& value, std::span<char16_t> room, zq7_value& out);
 
 /// A text that belongs to someone else.
 zq7_value View(ZQ7Standard::TextView text);

@@ -206,6 +206,18 @@ static void TestCalls(void) {
   CHECK(zq7_invoke_by_name(baht, "bahtstring", named, 2, &result) == ZQ7_OK);
   CHECK(IsText(&result, "Two baht"));
   zq7_value_clear(&result);
+
+  char16_t room[8];
+  const int32_t number = NumberOf(baht, "MoneyTextE");
+  argument = Number(2);
+  CHECK(zq7_invoke_text(baht, number, &argument, 1, room, 8, &result) == ZQ7_OK);
+  CHECK(IsText(&result, "Two baht") && result.text == room && result.owned == 0);
+  CHECK(zq7_invoke_text(baht, number, &argument, 1, room, 7, &result) == ZQ7_OK);
+  CHECK(IsText(&result, "Two baht") && result.text != room && result.owned != 0);
+  zq7_value_clear(&result);
+  CHECK(zq7_invoke_text(baht, number, NULL, 0, room, 8, &result) == ZQ7_FAILED);
+  CHECK(result.tag == ZQ7_OMITTED && ErrorIs(449, "MoneyTextE", "inDouble"));
+  CHECK(zq7_invoke_text(baht, number, &argument, 1, NULL, 8, &result) == ZQ7_FAILED);
   zq7_release(baht);
 
   zq7_object* standard = New("StandardObject", NULL);
