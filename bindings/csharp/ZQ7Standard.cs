@@ -430,7 +430,7 @@ public sealed unsafe partial class ASCIIObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, iTextFile);
       values_[1].Set(text1_, IKey);
-      return Handle.Invoke(1, values_, 2).TakeText();
+      return Handle.InvokeText(1, values_, 2);
     }
   }
 
@@ -507,7 +507,7 @@ public sealed unsafe partial class ASCIIObject : ZQ7Object {
     fixed (char* text0_ = iTextFile) {
       var value_ = new Value();
       value_.Set(text0_, iTextFile);
-      return Handle.Invoke(5, &value_, 1).TakeText();
+      return Handle.InvokeText(5, &value_, 1);
     }
   }
 
@@ -538,7 +538,7 @@ public sealed unsafe partial class ASCIIObject : ZQ7Object {
       values_[0].Set(text0_, iTextFile);
       values_[1].Set(FromLine);
       values_[2].Set(ToLine);
-      return Handle.Invoke(6, values_, ToLine != 0 ? 3 : FromLine != 0 ? 2 : 1).TakeText();
+      return Handle.InvokeText(6, values_, ToLine != 0 ? 3 : FromLine != 0 ? 2 : 1);
     }
   }
 
@@ -629,8 +629,8 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
       values_[2].Set(useEnglish);
       values_[3].Set(text3_, NewUnit);
       values_[4].Set(text4_, NewSubUnit);
-      return Handle.Invoke(1, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
-          false ? 3 : useBreak != false ? 2 : 1).TakeText();
+      return Handle.InvokeText(1, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
+          false ? 3 : useBreak != false ? 2 : 1);
     }
   }
 
@@ -645,8 +645,8 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
       values_[2].Set(useEnglish);
       values_[3].Set(text3_, NewUnit);
       values_[4].Set(text4_, NewSubUnit);
-      return Handle.Invoke(2, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
-          false ? 3 : useBreak != false ? 2 : 1).TakeText();
+      return Handle.InvokeText(2, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
+          false ? 3 : useBreak != false ? 2 : 1);
     }
   }
 
@@ -659,7 +659,7 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
   public string MoneyTextT(double inDouble) {
     var value_ = new Value();
     value_.Set(inDouble);
-    return Handle.Invoke(3, &value_, 1).TakeText();
+    return Handle.InvokeText(3, &value_, 1);
   }
 
   /// <summary>The same as <c>MoneyTextT</c>.</summary>
@@ -667,7 +667,7 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
   public string BahtStringT(double inDouble) {
     var value_ = new Value();
     value_.Set(inDouble);
-    return Handle.Invoke(4, &value_, 1).TakeText();
+    return Handle.InvokeText(4, &value_, 1);
   }
 
   /// <summary>An amount in English words with baht and satang.</summary>
@@ -681,7 +681,7 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
   public string MoneyTextE(double inDouble) {
     var value_ = new Value();
     value_.Set(inDouble);
-    return Handle.Invoke(5, &value_, 1).TakeText();
+    return Handle.InvokeText(5, &value_, 1);
   }
 
   /// <summary>The same as <c>MoneyTextE</c>.</summary>
@@ -689,7 +689,7 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
   public string BahtStringE(double inDouble) {
     var value_ = new Value();
     value_.Set(inDouble);
-    return Handle.Invoke(6, &value_, 1).TakeText();
+    return Handle.InvokeText(6, &value_, 1);
   }
 
   /// <summary>Always the empty text.</summary>
@@ -702,13 +702,13 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
     values_[0].Set(MonthNumber);
     values_[1].Set(FullText);
     values_[2].Set(UseThai);
-    return Handle.Invoke(7, values_, 3).TakeText();
+    return Handle.InvokeText(7, values_, 3);
   }
 
   /// <summary>Who made the library.</summary>
   /// <returns>For example, <c>About()</c> returns <c>"ZQ7Standard, by the ZQ7Standard
   /// contributors"</c>.</returns>
-  public string About() => Handle.Invoke(8, null, 0).TakeText();
+  public string About() => Handle.InvokeText(8, null, 0);
 }
 
 /// <summary>Binary, octal and hexadecimal text, column letters and single bits.</summary>
@@ -733,7 +733,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
     fixed (char* text0_ = BinString) {
       var value_ = new Value();
       value_.Set(text0_, BinString);
-      return Handle.Invoke(1, &value_, 1).TakeText();
+      return Handle.InvokeText(1, &value_, 1);
     }
   }
 
@@ -747,7 +747,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
     fixed (char* text0_ = BinString) {
       var value_ = new Value();
       value_.Set(text0_, BinString);
-      return Handle.Invoke(2, &value_, 1).TakeText();
+      return Handle.InvokeText(2, &value_, 1);
     }
   }
 
@@ -784,7 +784,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, OctString);
       values_[1].Set(KeepZeroFront);
-      return Handle.Invoke(4, values_, KeepZeroFront != false ? 2 : 1).TakeText();
+      return Handle.InvokeText(4, values_, KeepZeroFront != false ? 2 : 1);
     }
   }
 
@@ -798,7 +798,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, HexString);
       values_[1].Set(KeepZeroFront);
-      return Handle.Invoke(5, values_, KeepZeroFront != false ? 2 : 1).TakeText();
+      return Handle.InvokeText(5, values_, KeepZeroFront != false ? 2 : 1);
     }
   }
 
@@ -812,7 +812,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
     fixed (char* text0_ = OctString) {
       var value_ = new Value();
       value_.Set(text0_, OctString);
-      return Handle.Invoke(6, &value_, 1).TakeText();
+      return Handle.InvokeText(6, &value_, 1);
     }
   }
 
@@ -826,7 +826,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
     fixed (char* text0_ = HexString) {
       var value_ = new Value();
       value_.Set(text0_, HexString);
-      return Handle.Invoke(7, &value_, 1).TakeText();
+      return Handle.InvokeText(7, &value_, 1);
     }
   }
 
@@ -885,7 +885,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   public string Dec2Oct(int DecNumber) {
     var value_ = new Value();
     value_.Set(DecNumber);
-    return Handle.Invoke(11, &value_, 1).TakeText();
+    return Handle.InvokeText(11, &value_, 1);
   }
 
   /// <summary>A number as hexadecimal digits.</summary>
@@ -899,7 +899,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   public string Dec2hex(int DecNumber) {
     var value_ = new Value();
     value_.Set(DecNumber);
-    return Handle.Invoke(12, &value_, 1).TakeText();
+    return Handle.InvokeText(12, &value_, 1);
   }
 
   /// <summary>A number as binary text, three bits a group.</summary>
@@ -917,7 +917,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(Dec);
     values_[1].Set(KeepZeroFront);
-    return Handle.Invoke(13, values_, KeepZeroFront != false ? 2 : 1).TakeText();
+    return Handle.InvokeText(13, values_, KeepZeroFront != false ? 2 : 1);
   }
 
   /// <summary>The number of a spreadsheet column.</summary>
@@ -944,7 +944,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
   public string Base10To26(short colNum) {
     var value_ = new Value();
     value_.Set(colNum);
-    return Handle.Invoke(15, &value_, 1).TakeText();
+    return Handle.InvokeText(15, &value_, 1);
   }
 
   /// <summary>Whether a bit is set; bits count from the right, from 1.</summary>
@@ -1070,7 +1070,7 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
     fixed (char* text0_ = full_name) {
       var value_ = new Value();
       value_.Set(text0_, full_name);
-      return Handle.Invoke(1, &value_, 1).TakeText();
+      return Handle.InvokeText(1, &value_, 1);
     }
   }
 
@@ -1083,7 +1083,7 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
     fixed (char* text0_ = full_name) {
       var value_ = new Value();
       value_.Set(text0_, full_name);
-      return Handle.Invoke(2, &value_, 1).TakeText();
+      return Handle.InvokeText(2, &value_, 1);
     }
   }
 
@@ -1097,7 +1097,7 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
     fixed (char* text0_ = Path) {
       var value_ = new Value();
       value_.Set(text0_, Path);
-      return Handle.Invoke(3, &value_, 1).TakeText();
+      return Handle.InvokeText(3, &value_, 1);
     }
   }
 
@@ -1118,7 +1118,7 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, inFullPath);
       values_[1].Set(MaxLen);
-      return Handle.Invoke(4, values_, MaxLen != 0 ? 2 : 1).TakeText();
+      return Handle.InvokeText(4, values_, MaxLen != 0 ? 2 : 1);
     }
   }
 
@@ -1593,7 +1593,7 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   public string GETPaperSizeText(short PaperSize) {
     var value_ = new Value();
     value_.Set(PaperSize);
-    return Handle.Invoke(5, &value_, 1).TakeText();
+    return Handle.InvokeText(5, &value_, 1);
   }
 
   /// <summary>The name of a bin.</summary>
@@ -1604,7 +1604,7 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   public string GETPaperBinText(short PaperBin) {
     var value_ = new Value();
     value_.Set(PaperBin);
-    return Handle.Invoke(6, &value_, 1).TakeText();
+    return Handle.InvokeText(6, &value_, 1);
   }
 
   /// <summary>"Landscape" or "Portrait".</summary>
@@ -1615,7 +1615,7 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
   public string GETPaperOrientationText(short Orientation) {
     var value_ = new Value();
     value_.Set(Orientation);
-    return Handle.Invoke(7, &value_, 1).TakeText();
+    return Handle.InvokeText(7, &value_, 1);
   }
 
   /// <summary>Makes the printer use millimetres, and moves to 1, 1.</summary>
@@ -1803,7 +1803,7 @@ public sealed unsafe partial class RegistryObject : ZQ7Object {
       values_[0].Set((int)keyroot);
       values_[1].Set(text1_, keyname);
       values_[2].Set(text2_, subkeyname);
-      return Handle.Invoke(2, values_, 3).TakeText();
+      return Handle.InvokeText(2, values_, 3);
     }
   }
 
@@ -1859,7 +1859,7 @@ public sealed unsafe partial class RegistryObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, StringInput);
       values_[1].Set(text1_, PassWord);
-      return Handle.Invoke(5, values_, 2).TakeText();
+      return Handle.InvokeText(5, values_, 2);
     }
   }
 
@@ -1873,7 +1873,7 @@ public sealed unsafe partial class RegistryObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, EncryptedTextInput);
       values_[1].Set(text1_, PassWord);
-      return Handle.Invoke(6, values_, 2).TakeText();
+      return Handle.InvokeText(6, values_, 2);
     }
   }
 }
@@ -1934,7 +1934,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string GetDateFormatString(short DateFormat) {
     var value_ = new Value();
     value_.Set(DateFormat);
-    return Handle.Invoke(5, &value_, 1).TakeText();
+    return Handle.InvokeText(5, &value_, 1);
   }
 
   /// <summary>The date that stands for no date, 3333-03-03.</summary>
@@ -1998,7 +1998,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string DAY2DAYTIME(double iDay) {
     var value_ = new Value();
     value_.Set(iDay);
-    return Handle.Invoke(11, &value_, 1).TakeText();
+    return Handle.InvokeText(11, &value_, 1);
   }
 
   /// <summary>Writes a number of hours as "H:MM".</summary>
@@ -2013,7 +2013,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string FormatHour(double iHour) {
     var value_ = new Value();
     value_.Set(iHour);
-    return Handle.Invoke(12, &value_, 1).TakeText();
+    return Handle.InvokeText(12, &value_, 1);
   }
 
   /// <summary>Whether a "D:H:M" text amounts to anything but zero.</summary>
@@ -2313,7 +2313,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[0].Set(MonthNumber);
     values_[1].Set(FullText);
     values_[2].Set(UseThai);
-    return Handle.Invoke(31, values_, 3).TakeText();
+    return Handle.InvokeText(31, values_, 3);
   }
 
   /// <summary>The name of a date's weekday.</summary>
@@ -2323,7 +2323,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[0].Set(iDate);
     values_[1].Set(FullText);
     values_[2].Set(UseThai);
-    return Handle.Invoke(32, values_, 3).TakeText();
+    return Handle.InvokeText(32, values_, 3);
   }
 
   /// <summary>The month and year of a date in English.</summary>
@@ -2335,7 +2335,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string MonthYearTextFull(DateTime InDate) {
     var value_ = new Value();
     value_.Set(InDate);
-    return Handle.Invoke(33, &value_, 1).TakeText();
+    return Handle.InvokeText(33, &value_, 1);
   }
 
   /// <summary>Writes a date in the system's own layout.</summary>
@@ -2347,7 +2347,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(ZeroLeader);
-    return Handle.Invoke(34, values_, ZeroLeader != false ? 2 : 1).TakeText();
+    return Handle.InvokeText(34, values_, ZeroLeader != false ? 2 : 1);
   }
 
   /// <summary>Writes a date in one of the layouts of <c>CTDateType</c>.</summary>
@@ -2369,7 +2369,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[0].Set(InDate);
     values_[1].Set((int)DateType);
     values_[2].Set(ZeroLeader);
-    return Handle.Invoke(35, values_, ZeroLeader != false ? 3 : 2).TakeText();
+    return Handle.InvokeText(35, values_, ZeroLeader != false ? 3 : 2);
   }
 
   /// <summary>Writes a date in the system's own layout and the time of day.</summary>
@@ -2383,7 +2383,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(ZeroLeader);
-    return Handle.Invoke(36, values_, ZeroLeader != false ? 2 : 1).TakeText();
+    return Handle.InvokeText(36, values_, ZeroLeader != false ? 2 : 1);
   }
 
   /// <summary>Writes a date by a pattern, in the system's era and language.</summary>
@@ -2407,7 +2407,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(37, values_, FormatText != "d/m/yyyy" ? 2 : 1).TakeText();
+      return Handle.InvokeText(37, values_, FormatText != "d/m/yyyy" ? 2 : 1);
     }
   }
 
@@ -2422,7 +2422,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(38, values_, FormatText != "d mmmm bbbb" ? 2 : 1).TakeText();
+      return Handle.InvokeText(38, values_, FormatText != "d mmmm bbbb" ? 2 : 1);
     }
   }
 
@@ -2436,7 +2436,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string FormatThaiRevere(DateTime InDate) {
     var value_ = new Value();
     value_.Set(InDate);
-    return Handle.Invoke(39, &value_, 1).TakeText();
+    return Handle.InvokeText(39, &value_, 1);
   }
 
   /// <summary>Writes a date by a pattern, with English names and Gregorian years.</summary>
@@ -2451,7 +2451,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(40, values_, FormatText != "d mmmm yyyy" ? 2 : 1).TakeText();
+      return Handle.InvokeText(40, values_, FormatText != "d mmmm yyyy" ? 2 : 1);
     }
   }
 
@@ -2465,7 +2465,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string FormatQuery(DateTime InDate) {
     var value_ = new Value();
     value_.Set(InDate);
-    return Handle.Invoke(41, &value_, 1).TakeText();
+    return Handle.InvokeText(41, &value_, 1);
   }
 
   /// <summary>Writes a date and its time for a database query; NULL for a blank date.</summary>
@@ -2477,7 +2477,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string FormatQueryTime(DateTime InDate) {
     var value_ = new Value();
     value_.Set(InDate);
-    return Handle.Invoke(42, &value_, 1).TakeText();
+    return Handle.InvokeText(42, &value_, 1);
   }
 
   /// <summary>Writes the time of day as "HH:MM".</summary>
@@ -2485,7 +2485,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string FormatTime(DateTime InDate) {
     var value_ = new Value();
     value_.Set(InDate);
-    return Handle.Invoke(43, &value_, 1).TakeText();
+    return Handle.InvokeText(43, &value_, 1);
   }
 
   /// <summary>Writes the time of day by a pattern.</summary>
@@ -2502,7 +2502,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(InDate);
       values_[1].Set(text1_, FormatText);
-      return Handle.Invoke(44, values_, FormatText != "hh:nn:ss" ? 2 : 1).TakeText();
+      return Handle.InvokeText(44, values_, FormatText != "hh:nn:ss" ? 2 : 1);
     }
   }
 
@@ -2515,7 +2515,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string FormatPeriod(DateTime InDate) {
     var value_ = new Value();
     value_.Set(InDate);
-    return Handle.Invoke(45, &value_, 1).TakeText();
+    return Handle.InvokeText(45, &value_, 1);
   }
 
   /// <summary>Writes the month of a date, the month first.</summary>
@@ -2526,7 +2526,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string FormatTPeriod(DateTime InDate) {
     var value_ = new Value();
     value_.Set(InDate);
-    return Handle.Invoke(46, &value_, 1).TakeText();
+    return Handle.InvokeText(46, &value_, 1);
   }
 
   /// <summary>Moves a date by single months, cut back to the last day of each.</summary>
@@ -2699,7 +2699,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(TimeLeft);
     if (UseThai.HasValue) values_[1].Set(UseThai.Value); else values_[1].Omit();
-    return Handle.Invoke(57, values_, UseThai != null ? 2 : 1).TakeText();
+    return Handle.InvokeText(57, values_, UseThai != null ? 2 : 1);
   }
 
   /// <summary>Writes the time that work will still take.</summary>
@@ -2716,7 +2716,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[1].Set(DoneCount);
     values_[2].Set(TotalCount);
     if (UseThai.HasValue) values_[3].Set(UseThai.Value); else values_[3].Omit();
-    return Handle.Invoke(58, values_, UseThai != null ? 4 : 3).TakeText();
+    return Handle.InvokeText(58, values_, UseThai != null ? 4 : 3);
   }
 
   /// <summary>The due date of an invoice.</summary>
@@ -2779,7 +2779,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[2].Set((int)ConditionType);
     values_[3].Set((int)OutputType);
     values_[4].Set(ConditionDay);
-    return Handle.Invoke(60, values_, 5).TakeText();
+    return Handle.InvokeText(60, values_, 5);
   }
 
   /// <summary><c>FormatCondition2</c> with the event and the output as numbers.</summary>
@@ -2796,7 +2796,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[2].Set(ConditionType);
     values_[3].Set(OutputType);
     values_[4].Set(ConditionDay);
-    return Handle.Invoke(61, values_, 5).TakeText();
+    return Handle.InvokeText(61, values_, 5);
   }
 
   /// <summary>Rounds a number as it prints, half away from zero.</summary>
@@ -3020,8 +3020,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iText);
       values_[1].Set(IncludeDot);
       values_[2].Set(IncludeSign);
-      return Handle.Invoke(75, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 :
-          1).TakeText();
+      return Handle.InvokeText(75, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 : 1);
     }
   }
 
@@ -3033,8 +3032,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iText);
       values_[1].Set(IncludeDot);
       values_[2].Set(IncludeSign);
-      return Handle.Invoke(76, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 :
-          1).TakeText();
+      return Handle.InvokeText(76, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 : 1);
     }
   }
 
@@ -3080,7 +3078,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   public string d2Str(double iValue) {
     var value_ = new Value();
     value_.Set(iValue);
-    return Handle.Invoke(81, &value_, 1).TakeText();
+    return Handle.InvokeText(81, &value_, 1);
   }
 
   /// <summary>Writes a cost price in the letters of a code word.</summary>
@@ -3106,7 +3104,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(Price);
       values_[1].Set(text1_, CodeWord);
-      return Handle.Invoke(82, values_, 2).TakeText();
+      return Handle.InvokeText(82, values_, 2);
     }
   }
 
@@ -3134,7 +3132,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(Price);
       values_[1].Set(text1_, CodeWord);
       values_[2].Set(text2_, RepeatCharacter);
-      return Handle.Invoke(83, values_, 3).TakeText();
+      return Handle.InvokeText(83, values_, 3);
     }
   }
 
@@ -3207,7 +3205,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iList);
       values_[1].Set(text1_, iAdd);
       values_[2].Set(text2_, SeparateChar);
-      return Handle.Invoke(86, values_, SeparateChar != ";" ? 3 : 2).TakeText();
+      return Handle.InvokeText(86, values_, SeparateChar != ";" ? 3 : 2);
     }
   }
 
@@ -3351,7 +3349,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     fixed (char* text0_ = iList) {
       var value_ = new Value();
       value_.Set(text0_, iList);
-      return Handle.Invoke(89, &value_, 1).TakeText();
+      return Handle.InvokeText(89, &value_, 1);
     }
   }
 
@@ -3373,7 +3371,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, istr);
       values_[1].Set(iNum);
-      return Handle.Invoke(90, values_, 2).TakeText();
+      return Handle.InvokeText(90, values_, 2);
     }
   }
 
@@ -3387,7 +3385,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     fixed (char* text0_ = iString) {
       var value_ = new Value();
       value_.Set(text0_, iString);
-      return Handle.Invoke(91, &value_, 1).TakeText();
+      return Handle.InvokeText(91, &value_, 1);
     }
   }
 
@@ -3403,8 +3401,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, inString);
       values_[1].Set(TrimFront);
       values_[2].Set(TrimBack);
-      return Handle.Invoke(92, values_, TrimBack != true ? 3 : TrimFront != true ? 2 :
-          1).TakeText();
+      return Handle.InvokeText(92, values_, TrimBack != true ? 3 : TrimFront != true ? 2 : 1);
     }
   }
 
@@ -3429,7 +3426,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, InputString);
       values_[1].Set(text1_, AddStringNumber);
-      return Handle.Invoke(93, values_, AddStringNumber != "" ? 2 : 1).TakeText();
+      return Handle.InvokeText(93, values_, AddStringNumber != "" ? 2 : 1);
     }
   }
 
@@ -3455,7 +3452,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, InputString);
       values_[1].Set(Length);
-      return Handle.Invoke(94, values_, 2).TakeText();
+      return Handle.InvokeText(94, values_, 2);
     }
   }
 
@@ -3575,10 +3572,10 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[8].Set(Reserve2);
       values_[9].Set(Reserve3);
       values_[10].Set(Reserve4);
-      return Handle.Invoke(97, values_, Reserve4 != 0 ? 11 : Reserve3 != 0 ? 10 : Reserve2 != 0 ? 9
-          : AcceptInsideMultiSpace != 0 ? 8 : AcceptOnlyEnglishCharAndNumber != 0 ? 7 :
+      return Handle.InvokeText(97, values_, Reserve4 != 0 ? 11 : Reserve3 != 0 ? 10 : Reserve2 != 0
+          ? 9 : AcceptInsideMultiSpace != 0 ? 8 : AcceptOnlyEnglishCharAndNumber != 0 ? 7 :
           AutoUpperCase != 0 ? 6 : NumberOnly != 0 ? 5 : AcceptInsideSpace != 0 ? 4 : MaxLen != 0 ?
-          3 : PrimaryKeyMode != 0 ? 2 : 1).TakeText();
+          3 : PrimaryKeyMode != 0 ? 2 : 1);
     }
   }
 
@@ -3604,8 +3601,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[3].Set(NumberOnly);
       values_[4].Set(AutoUpperCase);
       values_[5].Set(AcceptOnlyEnglishCharAndNumber);
-      return Handle.Invoke(98, values_, AcceptOnlyEnglishCharAndNumber != 0 ? 6 : AutoUpperCase != 0
-          ? 5 : NumberOnly != 0 ? 4 : AcceptInsideSpace != 0 ? 3 : MaxLen != 30 ? 2 : 1).TakeText();
+      return Handle.InvokeText(98, values_, AcceptOnlyEnglishCharAndNumber != 0 ? 6 : AutoUpperCase
+          != 0 ? 5 : NumberOnly != 0 ? 4 : AcceptInsideSpace != 0 ? 3 : MaxLen != 30 ? 2 : 1);
     }
   }
 
@@ -3623,7 +3620,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, InputBarCodeValue);
       values_[1].Set(BarcodeType);
-      return Handle.Invoke(99, values_, BarcodeType != 0 ? 2 : 1).TakeText();
+      return Handle.InvokeText(99, values_, BarcodeType != 0 ? 2 : 1);
     }
   }
 
@@ -3643,7 +3640,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, StringIP);
       values_[1].Set(ForceIPV4);
-      return Handle.Invoke(100, values_, ForceIPV4 != true ? 2 : 1).TakeText();
+      return Handle.InvokeText(100, values_, ForceIPV4 != true ? 2 : 1);
     }
   }
 
@@ -3689,7 +3686,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, StringInput);
       values_[1].Set(text1_, PassWord);
-      return Handle.Invoke(103, values_, 2).TakeText();
+      return Handle.InvokeText(103, values_, 2);
     }
   }
 
@@ -3703,7 +3700,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, EncryptedTextInput);
       values_[1].Set(text1_, PassWord);
-      return Handle.Invoke(104, values_, 2).TakeText();
+      return Handle.InvokeText(104, values_, 2);
     }
   }
 
@@ -3721,7 +3718,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, StringInput);
       values_[1].Set(text1_, PassWord);
-      return Handle.Invoke(105, values_, 2).TakeText();
+      return Handle.InvokeText(105, values_, 2);
     }
   }
 
@@ -3741,7 +3738,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, EncryptedTextInput);
       values_[1].Set(text1_, PassWord);
-      return Handle.Invoke(106, values_, 2).TakeText();
+      return Handle.InvokeText(106, values_, 2);
     }
   }
 
@@ -3759,7 +3756,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     fixed (char* text0_ = strMessage) {
       var value_ = new Value();
       value_.Set(text0_, strMessage);
-      return Handle.Invoke(107, &value_, 1).TakeText();
+      return Handle.InvokeText(107, &value_, 1);
     }
   }
 }
@@ -4042,6 +4039,10 @@ internal static unsafe class Native {
   internal static extern int zq7_invoke(IntPtr handle, int number, Value* arguments, UIntPtr count,
                                         Value* result);
   [DllImport(Library)]
+  internal static extern int zq7_invoke_text(IntPtr handle, int number, Value* arguments,
+                                             UIntPtr count, char* buffer, UIntPtr capacity,
+                                             Value* result);
+  [DllImport(Library)]
   internal static extern int zq7_get(IntPtr handle, int number, Value* value);
   [DllImport(Library)]
   internal static extern int zq7_set(IntPtr handle, int number, Value* value);
@@ -4157,6 +4158,9 @@ internal sealed unsafe class ObjectHandle : SafeHandle {
   // An object belongs to one thread at a time, so that these need no lock.
   private int _calls;
   private bool _released;
+  // Where short texts are written. A call within a call has read its own when the outer one ends.
+  private char[] _room;
+  private const int RoomSize = 200;
 
   internal ObjectHandle(IntPtr instance, Services services) : base(IntPtr.Zero, true) {
     SetHandle(instance);
@@ -4186,6 +4190,17 @@ internal sealed unsafe class ObjectHandle : SafeHandle {
     Value result;
     End(Native.zq7_invoke(handle, number, arguments, (UIntPtr)count, &result));
     return result;
+  }
+
+  internal string InvokeText(int number, Value* arguments, int count) {
+    if (_room == null) _room = new char[RoomSize];
+    Begin();
+    fixed (char* room = _room) {
+      Value result;
+      End(Native.zq7_invoke_text(handle, number, arguments, (UIntPtr)count, room,
+                                 (UIntPtr)RoomSize, &result));
+      return result.TakeText();
+    }
   }
 
   internal Value Get(int number) {

@@ -1,23 +1,24 @@
 // The five tasks of docs/hosts.md from C#.
 using System;
-using System.IO;
+using System.Collections.Generic;
 using ZQ7Standard;
 
 internal static class FiveTasks {
   private static void Main() {
-    using (var baht = new BahtStringObject()) {
-      Console.WriteLine(baht.BahtString(121.50));
-    }
+    var baht = new BahtStringObject();
+    Console.WriteLine(baht.BahtString(121.50));
 
-    var services = new Services { Convention = () => new DateConvention(true, true) };
+    var services = new Services {
+      Convention = () => new DateConvention(dayFirst: true, buddhist: true),
+      Drives = new Dictionary<char, string> { ['C'] = "." },
+    };
     var standard = new StandardObject(services);
     DateTime date = standard.CTDATE("31/1/2567");
-    Console.WriteLine(standard.FormatQuery(standard.AddMonth(date, 1)));
+    Console.WriteLine(standard.AddMonth(date, 1).ToString("yyyy-MM-dd"));
 
-    string file = "C:" + Path.GetFullPath("settings.ini").Replace('/', '\\');
-    var settings = new ASCIIObject();
-    settings.Setvalue(file, "Port", "9600");
-    Console.WriteLine(settings.GetValue(file, "Port"));
+    var settings = new ASCIIObject(services);
+    settings.Setvalue(@"C:\settings.ini", "Port", "9600");
+    Console.WriteLine(settings.GetValue(@"C:\settings.ini", "Port"));
 
     var grid = new GridValueObject();
     grid.CellDataChange += (row, column) => Console.WriteLine($"row {row}, column {column}");

@@ -201,8 +201,14 @@ std::string TypeName(const TypeInfo& type) {
   return std::string(RowOf(type).name);
 }
 
+/// The name of the function that calls an operation.
+std::string_view Caller(const OperationInfo& operation) {
+  return operation.result.type == Type::kText ? "Handle.InvokeText(" : "Handle.Invoke(";
+}
+
 /// The expression that reads a result.
 std::string Taken(const TypeInfo& type, const std::string& value) {
+  if (value.starts_with("Handle.InvokeText(")) return value;
   const std::string cast = type.enumeration != nullptr ? "(" + TypeName(type) + ")" : "";
   return cast + value + "." + std::string(RowOf(type).take) + "()";
 }
@@ -305,7 +311,7 @@ std::string OperationBody(const OperationInfo& operation) {
   const auto& parameters = operation.parameters;
   const std::string number = std::to_string(operation.number);
   if (parameters.empty()) {
-    const std::string call = "Handle.Invoke(" + number + ", null, 0)";
+    const std::string call = std::string(Caller(operation)) + number + ", null, 0)";
     const bool none = operation.result.type == Type::kNothing;
     return " => " + (none ? call : Taken(operation.result, call)) + ";\n";
   }
@@ -317,8 +323,8 @@ std::string OperationBody(const OperationInfo& operation) {
     statements.push_back(
         Passed(parameters[i], i, one ? "value_" : "values_[" + std::to_string(i) + "]"));
   }
-  const std::string call = "Handle.Invoke(" + number + ", " + (one ? "&value_" : "values_") + ", " +
-                           ArgumentCount(parameters) + ")";
+  const std::string call = std::string(Caller(operation)) + number + ", " +
+                           (one ? "&value_" : "values_") + ", " + ArgumentCount(parameters) + ")";
   for (std::string& statement : Returned(operation, call)) {
     statements.push_back(std::move(statement));
   }
