@@ -3848,8 +3848,8 @@ public sealed unsafe partial class SerialPort : ZQ7Object {
 /// An argument or a result.
 [StructLayout(LayoutKind.Explicit, Size = 24)]
 internal unsafe struct Value {
-  private const int Null = 1, TextTag = 2, IntegerTag = 3, LongTag = 4, SingleTag = 5, DoubleTag = 6,
-                    BooleanTag = 7, DateTag = 8, CurrencyTag = 9, ObjectTag = 11;
+  private const int Null = 1, TextTag = 2, IntegerTag = 3, LongTag = 4, SingleTag = 5,
+                    DoubleTag = 6, BooleanTag = 7, DateTag = 8, CurrencyTag = 9, ObjectTag = 11;
   private const int MillisecondsPerDay = 86400000;
   private const long DayZero = 599264352000000000;  // 1899-12-30
 
@@ -4111,11 +4111,16 @@ internal static unsafe class Failures {
       function();
       return 0;
     } catch (Exception thrown) {
-      Native.zq7_fail(Number(thrown), Native.Utf8(Text(thrown)));
-      t_thrown = thrown;
-      s_anyThrown = true;
-      return 1;
+      return Keep(thrown);
     }
+  }
+
+  /// Tells the library of a failure.
+  internal static int Keep(Exception thrown) {
+    Native.zq7_fail(Number(thrown), Native.Utf8(Text(thrown)));
+    t_thrown = thrown;
+    s_anyThrown = true;
+    return 1;
   }
 
   private static int Number(Exception thrown) =>
@@ -4390,8 +4395,8 @@ internal static unsafe class Callbacks {
   internal static readonly IntPtr Now = Keep(new NowFunction((context, now) =>
     Failures.Guard(() => now->Set(Target<Services>(context).Clock()))));
 
-  internal static readonly IntPtr Current = Keep(new CurrentFunction((context, dayFirst, buddhist) =>
-    Failures.Guard(() => {
+  internal static readonly IntPtr Current = Keep(new CurrentFunction(
+    (context, dayFirst, buddhist) => Failures.Guard(() => {
       DateConvention convention = Target<Services>(context).Convention();
       *dayFirst = convention.DayFirst ? 1 : 0;
       *buddhist = convention.Buddhist ? 1 : 0;
@@ -4425,8 +4430,16 @@ internal static unsafe class Callbacks {
       fixed (byte* first = pinned) *bytes = first;
     })));
 
-  internal static readonly IntPtr Raise = Keep(new RaiseFunction((context, member, values, count) =>
-    Failures.Guard(() => Target<EventHandlers>(context).Raise(member->Number, values))));
+  // As often as cells are set, and so without a closure.
+  internal static readonly IntPtr Raise = Keep(new RaiseFunction(
+    (context, member, values, count) => {
+      try {
+        Target<EventHandlers>(context).Raise(member->Number, values);
+        return 0;
+      } catch (Exception thrown) {
+        return Failures.Keep(thrown);
+      }
+    }));
 
   private static IntPtr Keep(Delegate function) {
     s_kept.Add(function);
