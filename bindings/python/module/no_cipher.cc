@@ -1,0 +1,9 @@
+#include "services.h"
+
+namespace ZQ7Python {
+
+ZQ7Standard::BlockCipherFactory SodiumCipher() {
+  return nullptr;
+}
+
+}  // namespace ZQ7Python
