@@ -39,7 +39,9 @@ py::list ListOf(const Rows& rows, const Convert& convert) {
   return list;
 }
 
-py::object Plain(const Value& value) {
+/// A value of an example; "..." for an argument that is left out.
+py::object Argument(const Value& value) {
+  if (std::holds_alternative<Omitted>(value)) return py::ellipsis();
   return ValueToPython(value, {});
 }
 
@@ -64,10 +66,11 @@ py::object Operation(const OperationInfo& info) {
                                                         [](const Call& call) {
                                                           return py::make_tuple(
                                                               Str(call.operation),
-                                                              ListOf(call.arguments, Plain));
+                                                              ListOf(call.arguments, Argument));
                                                         }),
-                                    "arguments"_a = ListOf(row.arguments, Plain),
-                                    "result"_a = Plain(row.result), "error"_a = row.error);
+                                    "arguments"_a = ListOf(row.arguments, Argument),
+                                    "result"_a = ValueToPython(row.result, {}),
+                                    "error"_a = row.error);
                   }));
 }
 

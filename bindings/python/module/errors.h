@@ -58,6 +58,10 @@ auto InPython(const Code& code) -> std::invoke_result_t<Code> {
     return code();
   } catch (py::error_already_set& error) {
     LibraryCall::Keep(error);
+  } catch (const py::builtin_exception& problem) {
+    problem.set_error();
+    py::error_already_set error;
+    LibraryCall::Keep(error);
   }
 }
 

@@ -58,7 +58,9 @@ double DayCount(const Moment& moment) {
   const auto day = static_cast<double>((moment.day - kDayZero).count());
   const double fraction =
       static_cast<double>(moment.microseconds) / static_cast<double>(kDayMicroseconds);
-  return day < 0 ? day - fraction : day + fraction;
+  const double count = day < 0 ? day - fraction : day + fraction;
+  // A time just before midnight may not round to another day.
+  return std::trunc(count) == day ? count : std::nextafter(count, 0);
 }
 
 /// The moment of a date. A day count of today has steps of 0.6 microseconds, one of the year 9999

@@ -33,12 +33,12 @@ void AddValues(ClassRow& info) {
 }
 
 void AddCipher(ClassRow& info) {
-  AddOperations(info, MayBlock({Operation<&RegistryObject::Encrypt>(
-                                    5, "Encrypt", {"StringInput", "PassWord"},
-                                    {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
-                                Operation<&RegistryObject::Decrypt>(
-                                    6, "Decrypt", {"EncryptedTextInput", "PassWord"},
-                                    {{{u"*)(", u"K"}, u"abc"}})}));
+  AddOperations(
+      info,
+      {Operation<&RegistryObject::Encrypt>(5, "Encrypt", {"StringInput", "PassWord"},
+                                           {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
+       Operation<&RegistryObject::Decrypt>(6, "Decrypt", {"EncryptedTextInput", "PassWord"},
+                                           {{{u"*)(", u"K"}, u"abc"}})});
 }
 
 }  // namespace

@@ -100,17 +100,18 @@ void AddBarcodes(ClassRow& info) {
 }
 
 void AddCiphers(ClassRow& info) {
-  AddOperations(
-      info, {Operation<&StandardObject::EncryptBS>(
-                 103, "EncryptBS", {"StringInput", "PassWord"},
-                 {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
-             Operation<&StandardObject::DecryptBS>(
-                 104, "DecryptBS", {"EncryptedTextInput", "PassWord"}, {{{u"*)(", u"K"}, u"abc"}}),
-             Operation<&StandardObject::Encrypt>(
-                 105, "Encrypt", {"StringInput", "PassWord"},
-                 {{{u"abc", u"secret"}, Raises(429)}, {{u"abc", u""}, u"abc"}}),
-             Operation<&StandardObject::Decrypt>(106, "Decrypt", {"EncryptedTextInput", "PassWord"},
-                                                 {{{u"abc", u"secret"}, Raises(429)}})});
+  AddOperations(info, {Operation<&StandardObject::EncryptBS>(
+                           103, "EncryptBS", {"StringInput", "PassWord"},
+                           {{{u"abc", u"K"}, u"*)("}, {{u"abc", u""}, Raises(11)}}),
+                       Operation<&StandardObject::DecryptBS>(104, "DecryptBS",
+                                                             {"EncryptedTextInput", "PassWord"},
+                                                             {{{u"*)(", u"K"}, u"abc"}})});
+  AddOperations(info, MayBlock({Operation<&StandardObject::Encrypt>(
+                                    105, "Encrypt", {"StringInput", "PassWord"},
+                                    {{{u"abc", u"secret"}, Raises(429)}, {{u"abc", u""}, u"abc"}}),
+                                Operation<&StandardObject::Decrypt>(
+                                    106, "Decrypt", {"EncryptedTextInput", "PassWord"},
+                                    {{{u"abc", u"secret"}, Raises(429)}})}));
 }
 
 void AddDigests(ClassRow& info) {

@@ -5,7 +5,6 @@
 """
 
 import sys
-from types import MethodType
 from typing import Any, List, Optional, Tuple
 
 import numpy
@@ -94,7 +93,8 @@ def apply(method: Any, *arguments: Any, errors: str = "raise", **named: Any) -> 
     """
     if errors not in ("raise", "none"):
         raise ValueError('errors: "raise" or "none"')
-    if not isinstance(method, MethodType) or not isinstance(method.__func__, _native.Method):
+    function = getattr(method, "__func__", None)
+    if not isinstance(function, _native.Method):
         raise TypeError("the first argument is not a method of an object of zq7standard")
     lengths: List[int] = []
     taken = [_argument(None, value, lengths) for value in arguments]
@@ -103,11 +103,12 @@ def apply(method: Any, *arguments: Any, errors: str = "raise", **named: Any) -> 
         raise TypeError("no argument is an array or a Series")
     if min(lengths) != max(lengths):
         raise ValueError(f"columns of different lengths: {lengths}")
-    kind = _native.kind_of_result(method.__func__)
-    results = numpy.empty(lengths[0], {"f": "f8", "b": "u1", "O": object}.get(kind, "i8"))
+    kind = _native.kind_of_result(function)
+    dtype: Any = {"f": "f8", "b": "u1", "O": object}.get(kind, "i8")
+    results = numpy.empty(lengths[0], dtype)
     absent = numpy.zeros(lengths[0], "u1")
     without = _native.apply(
-        method.__func__, method.__self__, taken, results, absent, errors == "none", _missing()
+        function, method.__self__, taken, results, absent, errors == "none", _missing()
     )
     array = _array(kind, results, absent, without)
     series = next((value for value in (*arguments, *named.values()) if _is_series(value)), None)
