@@ -1,5 +1,11 @@
+#include <ZQ7Standard/RunTimeError.h>
+
+#include <exception>
+#include <utility>
+
 #include "catalogue.h"
 #include "columns.h"
+#include "errors.h"
 #include "instance.h"
 #include "method.h"
 #include "python.h"
@@ -32,6 +38,13 @@ PYBIND11_MODULE(_native, module) {
   using namespace ZQ7Python;
   LoadPythonNames();
   LoadDates();
+  py::register_local_exception_translator([](std::exception_ptr error) {
+    try {
+      std::rethrow_exception(std::move(error));
+    } catch (const ZQ7Standard::RunTimeError&) {
+      SetPythonError();
+    }
+  });
   module.attr("Object") = py::handle(Face(NewInstanceType()));
   module.attr("Method") = py::handle(Face(NewMethodType()));
   module.def("method", NewMethod);
