@@ -48,7 +48,9 @@ class Object(_native.Object):
 '''
 
 PICTURE = '''\
-    def __init__(self, path: str, *, drives: Mapping[str, str | PathLike[str]] | None = None) -> None: ...
+    def __init__(
+        self, path: str, *, drives: Mapping[str, str | PathLike[str]] | None = None
+    ) -> None: ...
 '''
 
 
@@ -100,7 +102,8 @@ def stub():
         lines += [operation(one) for one in row["operations"]]
         lines += [event(one) for one in row["events"]]
         parts.append("\n".join(lines) + "\n")
-    parts.append("__all__ = [\n" + "".join(f'    "{name}",\n' for name in zq7standard.__all__) + "]\n")
+    names = "".join(f'    "{name}",\n' for name in zq7standard.__all__)
+    parts.append(f"__all__ = [\n{names}]\n")
     return "\n".join(parts)
 
 

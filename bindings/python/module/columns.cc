@@ -123,6 +123,8 @@ class Rows {
       if (one.ptr() == object) return false;
     }
     if (PyFloat_Check(object) && std::isnan(PyFloat_AS_DOUBLE(object))) return false;
+    // The conversion may run Python code, which could drop the object from the array.
+    const auto held = py::reinterpret_borrow<py::object>(object);
     *argument.value = ValueFromPython(object, PlaceOf(argument), busy_);
     return true;
   }

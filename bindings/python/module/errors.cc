@@ -66,19 +66,18 @@ LibraryCall::~LibraryCall() {
 }
 
 void LibraryCall::Keep(py::error_already_set& error) {
-  const bool has_number = error.matches(Python().run_time_error);
-  const std::string text = py::str(error.value());
-  const int number = has_number ? error.value().attr("number").cast<int>()
-                                : static_cast<int>(Error::kAutomationError);
+  const py::object raised = error.value();
+  if (error.trace()) PyException_SetTraceback(raised.ptr(), error.trace().ptr());
+  const int number = error.matches(Python().run_time_error) ? raised.attr("number").cast<int>() : 0;
   if (innermost == nullptr) {
     error.restore();
     PyErr_WriteUnraisable(nullptr);
   } else if (!innermost->error_) {
-    innermost->error_ = error.value();
-    if (error.trace()) PyException_SetTraceback(error.value().ptr(), error.trace().ptr());
-    innermost->number_ = has_number ? number : 0;
+    innermost->error_ = raised;
+    innermost->number_ = number;
   }
-  throw RunTimeError(number, text);
+  throw RunTimeError(number != 0 ? number : static_cast<int>(Error::kAutomationError),
+                     std::string(py::str(raised)));
 }
 
 void LibraryCall::RaiseKept() {

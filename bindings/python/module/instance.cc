@@ -61,7 +61,6 @@ int Initialise(PyObject* face, PyObject* arguments, PyObject* /*named*/) {
       PyErr_SetString(PyExc_RuntimeError, "an object is initialised once");
       throw py::error_already_set();
     }
-    instance.callables->by_name = py::dict().release().ptr();
     instance.object =
         MakeObject(class_name, py::reinterpret_borrow<py::dict>(services), instance.callables);
     return true;

@@ -296,7 +296,7 @@ Object MakeObject(std::string_view class_name, const py::dict& services,
   if (class_name == "PrintPicture" && services.contains("path")) {
     return Wrap(PictureFromFile(TextOf(services["path"]), DrivesOf(services)));
   }
-  callables->by_name = py::dict(services).inc_ref().ptr();
+  Py_XDECREF(std::exchange(callables->by_name, services.inc_ref().ptr()));
   return Create(class_name, ServiceReader(services, callables).Read());
 }
 

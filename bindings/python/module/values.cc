@@ -28,8 +28,19 @@ constexpr local_days kDayZero{std::chrono::year(1899) / 12 / 30};
 constexpr local_days k1970{std::chrono::year(1970) / 1 / 1};
 constexpr int kFirstYear = 100;
 
-bool IsSurrogate(char16_t unit) {
-  return (unit & 0xF800) == 0xD800;
+/// What decides how a str stores a text.
+struct Units {
+  char16_t bits = 0;  ///< that any of its units has
+  bool surrogate = false;
+};
+
+Units UnitsOf(TextView text) {
+  Units found;
+  for (const char16_t unit : text) {
+    found.bits |= unit;
+    found.surrogate |= (unit & 0xF800) == 0xD800;
+  }
+  return found;
 }
 
 std::string Name(const Place& place) {
@@ -46,6 +57,10 @@ std::string Name(const Place& place) {
 
 [[noreturn]] void RaiseTypeError(const Place& place, const std::string& problem) {
   throw py::type_error(Name(place) + ": " + std::string(place.parameter) + ": " + problem);
+}
+
+[[noreturn]] void RaiseNotAValue(PyObject* object, const Place& place) {
+  RaiseTypeError(place, std::string("a ") + Py_TYPE(object)->tp_name + " is not a value");
 }
 
 /// A day and the microseconds since its midnight.
@@ -101,16 +116,19 @@ Value NumberFromPython(PyObject* number, const Place& place) {
   return read;
 }
 
-Value DoubleFromPython(PyObject* number) {
+Value DoubleFromPython(PyObject* number, const Place& place) {
   const double read = PyFloat_AsDouble(number);
-  if (read == -1 && PyErr_Occurred() != nullptr) throw py::error_already_set();
-  return read;
+  if (read != -1 || PyErr_Occurred() == nullptr) return read;
+  if (PyErr_ExceptionMatches(PyExc_TypeError) == 0) throw py::error_already_set();
+  // NumPy's dates have a conversion to float that refuses.
+  PyErr_Clear();
+  RaiseNotAValue(number, place);
 }
 
 /// A Decimal, with all its digits if an amount is wanted.
 Value DecimalFromPython(PyObject* number, const Place& place) {
   constexpr double kAmountLimit = 1e15;
-  Value read = DoubleFromPython(number);
+  Value read = DoubleFromPython(number, place);
   if (place.type.type != Type::kCurrency || !(std::abs(std::get<double>(read)) < kAmountLimit)) {
     return read;
   }
@@ -127,9 +145,9 @@ Value ListFromPython(PyObject* sequence, const Place& place) {
   return list;
 }
 
-bool IsPlainNumber(PyObject* object) {
+bool IsNumber(PyObject* object) {
   const PyNumberMethods* const methods = Py_TYPE(object)->tp_as_number;
-  return methods != nullptr && methods->nb_float != nullptr;
+  return methods != nullptr && (methods->nb_float != nullptr || methods->nb_index != nullptr);
 }
 
 /// A value that is neither a str nor a number of Python's own.
@@ -143,15 +161,12 @@ Value OtherFromPython(PyObject* object, const Place& place, BusyMarks& busy) {
   if (PyObject_IsInstance(object, Python().decimal.ptr()) == 1) {
     return DecimalFromPython(object, place);
   }
-  if (PyIndex_Check(object) != 0) {
-    return NumberFromPython(Owned(PyNumber_Index(object)).ptr(), place);
-  }
-  if (IsPlainNumber(object)) return DoubleFromPython(object);
+  if (IsNumber(object)) return DoubleFromPython(object, place);
   if (PyList_Check(object) || PyTuple_Check(object)) return ListFromPython(object, place);
   if (place.type.type == Type::kObject) {
     return WrapHostObject(py::reinterpret_borrow<py::object>(object), place.type.object_class);
   }
-  RaiseTypeError(place, std::string("a ") + Py_TYPE(object)->tp_name + " is not a value");
+  RaiseNotAValue(object, place);
 }
 
 py::object ToPython(Omitted /*none*/) {
@@ -203,8 +218,16 @@ void LoadDates() {
 
 py::object TextToPython(TextView text) {
   const auto length = static_cast<Py_ssize_t>(text.size());
-  if (std::ranges::none_of(text, IsSurrogate)) {
-    return Owned(PyUnicode_FromKindAndData(PyUnicode_2BYTE_KIND, text.data(), length));
+  const auto [bits, surrogate] = UnitsOf(text);
+  if (!surrogate) {
+    py::object made = Owned(PyUnicode_New(length, bits));
+    void* const units = PyUnicode_DATA(made.ptr());
+    if (bits < 0x100) {
+      std::ranges::copy(text, static_cast<Py_UCS1*>(units));
+    } else {
+      std::ranges::copy(text, static_cast<Py_UCS2*>(units));
+    }
+    return made;
   }
   int order = std::endian::native == std::endian::little ? -1 : 1;
   return Owned(PyUnicode_DecodeUTF16(

@@ -11,6 +11,7 @@ from zq7standard import BahtStringObject, GridValueObject, RunTimeError, Standar
 
 BAHT = BahtStringObject()
 STANDARD = StandardObject(clock=datetime(2024, 1, 15), convention="dmy-buddhist")
+DAY = numpy.datetime64("2024-01-15")
 ONE, TWO = "หนึ่งบาทถ้วน", "สองบาทถ้วน"
 
 
@@ -20,7 +21,7 @@ class Columns(unittest.TestCase):
             ("doubles", numpy.array([1.0, numpy.nan, 2.0])),
             ("singles, every second", numpy.array([1, 0, numpy.nan, 0, 2, 0], "f4")[::2]),
             ("objects", numpy.array([1, None, Decimal(2)], object)),
-            ("objects of NumPy", numpy.array([numpy.int64(1), numpy.nan, numpy.float32(2)], object)),
+            ("numbers of NumPy", numpy.array([numpy.int8(1), None, numpy.float32(2)], object)),
             ("a Series", pandas.Series([1.0, None, 2.0])),
             ("whole numbers that may be missing", pandas.Series([1, None, 2], dtype="Int64")),
             ("texts", pandas.Series(["1", None, " 2"])),
@@ -76,8 +77,8 @@ class Columns(unittest.TestCase):
         self.assertTrue(pandas.isna(result[9]))
         far = columns.apply(STANDARD.AddMonth, series, 12 * 300)
         self.assertEqual((far.dtype, list(far)), (object, [datetime(2324, 1, 28), None]))
-        objects = pandas.Series([date(2567, 1, 31), pandas.NaT, datetime(1600, 1, 31)], dtype=object)
-        far = columns.apply(STANDARD.AddMonth, objects, 1)
+        objects = [date(2567, 1, 31), pandas.NaT, datetime(1600, 1, 31)]
+        far = columns.apply(STANDARD.AddMonth, pandas.Series(objects, dtype=object), 1)
         self.assertEqual(list(far), [datetime(2567, 2, 28), None, datetime(1600, 2, 29)])
 
     def test_arguments(self):
@@ -96,6 +97,7 @@ class Columns(unittest.TestCase):
             ("not bound", TypeError, lambda: columns.apply(StandardObject.Floor, numbers)),
             ("a keyword", RunTimeError, lambda: columns.apply(STANDARD.Floor, Value=numbers)),
             ("too many", TypeError, lambda: columns.apply(STANDARD.Floor, numbers, 1)),
+            ("a NumPy date for all", TypeError, lambda: columns.apply(STANDARD.Round, numbers, DAY)),
             ("aware dates", TypeError, lambda: columns.apply(STANDARD.TrimDate, aware)),
             ("errors", ValueError, lambda: columns.apply(STANDARD.Floor, numbers, errors="ignore")),
         ]:
@@ -104,11 +106,11 @@ class Columns(unittest.TestCase):
 
     def test_errors(self):
         texts = numpy.array(["1/1/2567", "x", {}], object)
-        self.assertEqual(
-            list(columns.apply(STANDARD.FormatQuery, texts, errors="none")), ["2024-01-01", None, None]
-        )
+        result = columns.apply(STANDARD.FormatQuery, texts, errors="none")
+        self.assertEqual(list(result), ["2024-01-01", None, None])
         result = columns.apply(STANDARD.CTDATE, texts, errors="none")
-        numpy.testing.assert_array_equal(result, numpy.array(["2024-01-01", "NaT", "NaT"], "M8[us]"))
+        wanted = numpy.array(["2024-01-01", "NaT", "NaT"], "M8[us]")
+        numpy.testing.assert_array_equal(result, wanted)
         with self.assertRaises(RunTimeError) as raised:
             columns.apply(STANDARD.CTDATE, texts)
         self.assertEqual(raised.exception.row, 1)

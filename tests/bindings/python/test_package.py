@@ -34,7 +34,6 @@ from zq7standard import (
 
 NOW = datetime(2024, 1, 15, 9, 30)
 PNG = pathlib.Path(__file__).resolve().parents[3] / "docs/invoice.png"
-NOON = datetime(2567, 1, 15, 12)
 
 
 def thai(**services):
@@ -108,22 +107,22 @@ class Examples(unittest.TestCase):
 
 class Values(unittest.TestCase):
     def test_taken(self):
-        standard = thai()
-        baht = BahtStringObject()
+        standard, baht = thai(), BahtStringObject()
+        amount = Decimal("-99999999999999.9999")
         for reason, got, wanted in [
-            ("a text where a date is wanted", standard.AddMonth("31/1/2567", 1), datetime(2024, 2, 29)),
-            ("a date is its midnight", standard.AddMonth(date(2024, 1, 31), 1), datetime(2024, 2, 29)),
+            ("a text as a date", standard.AddMonth("31/1/2567", 1), datetime(2024, 2, 29)),
+            ("a date's midnight", standard.AddMonth(date(2024, 1, 31), 1), datetime(2024, 2, 29)),
             ("a number as a date", standard.FormatQuery(45306), "2024-01-15"),
             ("a fraction", standard.Floor(Fraction(7, 2)), 3.0),
             ("a Decimal as a double", baht.BahtString(Decimal("0.25")), "ยี่สิบห้าสตางค์"),
-            ("a Decimal as a number", standard.TrimN("abcdef", Decimal(2)), standard.TrimN("abcdef", 2)),
-            ("all digits of an amount", standard.FixMoneyDecimal(Decimal("-99999999999999.9999"), False), Decimal("-99999999999999.9999")),
-            ("an amount keeps four decimals", str(standard.FixMoneyDecimal(1.5, False)), "1.0000"),
+            ("a Decimal as a whole number", standard.Round(1.25, Decimal(1)), 1.3),
+            ("all digits of an amount", standard.FixMoneyDecimal(amount, False), amount),
+            ("four decimals of it", str(standard.FixMoneyDecimal(1.5, False)), "1.0000"),
             ("a number beyond 32 bits", standard.Floor(2**40), 2.0**40),
             ("a Boolean is -1", standard.Floor(True), -1.0),
             ("None is no value", standard.Null2Zero(None), 0.0),
             ("left out", standard.Null2Zero(), 0.0),
-            ("a member of an enumeration", standard.FormatTDate2(NOW, CTDateType.ZQ7YYYY_MM_DD), "2024-01-15"),
+            ("an enumerator", standard.FormatTDate2(NOW, CTDateType.ZQ7YYYY_MM_DD), "2024-01-15"),
             ("by keyword", baht.MoneyText(useEnglish=True, inDouble=1), "One baht"),
             ("a list", standard.ArrayString("a", "b"), ["a", "b"]),
             ("Latin-1", standard.ReverseString("aé"), "éa"),
@@ -189,7 +188,7 @@ class Values(unittest.TestCase):
                 with self.subTest(moment=moment):
                     self.assertEqual(standard.GetConditionDueDate(moment, *same_day), moment)
         # Microseconds survive near today, and are 40 apart at the end.
-        for moment in (datetime(2024, 1, 15, 9, 30, 0, 1), datetime(2024, 12, 31, 23, 59, 59, 999999)):
+        for moment in (NOW.replace(microsecond=1), datetime(2024, 12, 31, 23, 59, 59, 999999)):
             self.assertEqual(standard.GetConditionDueDate(moment, *same_day), moment)
         for year, month, day in ((100, 1, 1), (1899, 12, 29), (9999, 12, 31)):
             last = datetime(year, month, day, 23, 59, 59, 999999)
@@ -212,7 +211,7 @@ class Objects(unittest.TestCase):
                 statement()
         for reason, statement in [
             ("a method of another class", lambda: GridValueObject.Clear(StandardObject())),
-            ("an object that was not initialised", lambda: GridValueObject.__new__(GridValueObject).Clear()),
+            ("not initialised", lambda: GridValueObject.__new__(GridValueObject).Clear()),
             ("no object", lambda: GridValueObject.Clear()),
             ("initialised twice", lambda: made.__init__()),
             ("copied", lambda: copy.copy(made)),
@@ -221,7 +220,8 @@ class Objects(unittest.TestCase):
             ("a handler that is not callable", lambda: setattr(made, "CellDataChange", 1)),
             ("the base", lambda: zq7standard.Object()),
         ]:
-            with self.subTest(reason), self.assertRaises((TypeError, RuntimeError, ValueError, RunTimeError)):
+            refusals = (TypeError, RuntimeError, ValueError, RunTimeError)
+            with self.subTest(reason), self.assertRaises(refusals):
                 statement()
 
     def test_introspection(self):
@@ -233,7 +233,8 @@ class Objects(unittest.TestCase):
         layout = inspect.signature(StandardObject.FormatTDate2).parameters["DateType"]
         self.assertIn(CTDateType, layout.annotation.__args__)
         self.assertIn("date", StandardObject.CTDATE.__doc__)
-        self.assertTrue(StandardObject.__doc__ and GridValueObject.Rows.__doc__ and CTDateType.__doc__)
+        for described in (StandardObject, GridValueObject.Rows, CTDateType, RunTimeError):
+            self.assertTrue(described.__doc__)
         self.assertTrue(inspect.isroutine(StandardObject.CTDATE))
         self.assertEqual(KetRootType.HKEY_CURRENT_USER, -(2**31) + 1)
 
@@ -282,7 +283,7 @@ class Control:
 class Services(unittest.TestCase):
     def test_callables(self):
         messages = []
-        peripheral = PeripheralObject(message_box=lambda title, text: messages.append((title, text)))
+        peripheral = PeripheralObject(message_box=lambda *message: messages.append(message))
         self.assertEqual(peripheral.OpenDraw(SerialPort(serial_devices={7: "/none"}), "kick", 7), 1)
         self.assertIn("8002", messages[0][1])
         standard = StandardObject(

@@ -78,7 +78,6 @@ def returned(name: str) -> str:
     return RETURNED.get(name, name)
 
 
-_METHODS: Dict[int, Dict[str, Any]] = {}
 _NAMES: Dict[str, Any] = {
     "str": str,
     "int": int,
@@ -95,12 +94,12 @@ _NAMES: Dict[str, Any] = {
 
 
 def describe(method: Any, row: Dict[str, Any], owner: str, enumerations: Dict[str, Any]) -> None:
-    """Writes name and documentation to a method, and keeps the rest for its signature."""
+    """Writes what `help` and `inspect` read to a method."""
     method.__name__ = row["name"]
     method.__qualname__ = f"{owner}.{row['name']}"
     method.__module__ = "zq7standard"
     method.__doc__ = row["documentation"]
-    _METHODS[id(method)] = row
+    method._row = row
     _NAMES.update(enumerations)
 
 
@@ -109,18 +108,16 @@ def _annotation(text: str) -> Any:
 
 
 def signature_of(method: Any) -> inspect.Signature:
-    row = _METHODS.get(id(method))
-    if row is None:
-        raise AttributeError("__signature__")
+    row = method._row
     parameters = [inspect.Parameter("self", inspect.Parameter.POSITIONAL_ONLY)]
     for parameter in row["parameters"]:
         # "..." stands for a default that the operation itself chooses.
-        default = parameter.get("default", ... if parameter["optional"] else inspect.Parameter.empty)
+        missing = ... if parameter["optional"] else inspect.Parameter.empty
         parameters.append(
             inspect.Parameter(
                 parameter["name"],
                 inspect.Parameter.POSITIONAL_OR_KEYWORD,
-                default=default,
+                default=parameter.get("default", missing),
                 annotation=_annotation(taken(parameter)),
             )
         )

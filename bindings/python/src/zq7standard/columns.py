@@ -80,8 +80,8 @@ def _series(results: Any, like: Any) -> Any:
 
 
 def apply(method: Any, *arguments: Any, errors: str = "raise", **named: Any) -> Any:
-    """Calls `method`, a method of an object of this package, once for each row, and returns an array
-    of the results, or a Series if an argument is one.
+    """Calls `method`, a method of an object of this package, once for each row, and returns an
+    array of the results, or a Series if an argument is one.
 
     Each argument is an array or a Series of the same length, or one value for all rows. The result
     of a row is None if one of its values is NaN, None or NaT; NaT if the results are dates. If a
