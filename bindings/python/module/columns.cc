@@ -53,9 +53,8 @@ struct ColumnArgument {
 /// The call of one row after the other.
 class Rows {
  public:
-  Rows(const Method& method, Instance& instance, const py::list& arguments,
-       const py::tuple& missing)
-      : method_(method), instance_(instance), missing_(missing), busy_(instance) {
+  Rows(const Method& method, Instance& instance, const py::list& arguments, py::tuple missing)
+      : method_(method), instance_(instance), missing_(std::move(missing)), busy_(instance) {
     // Values stay where they are: rows write them in place.
     positional_.reserve(arguments.size());
     named_.reserve(arguments.size());
@@ -172,7 +171,8 @@ void Write(const Column& results, py::ssize_t row, const Value& value, const Typ
   SetPythonError();
   py::error_already_set error;
   error.value().attr("row") = row;
-  throw error;
+  error.restore();
+  throw py::error_already_set();
 }
 
 /// Whether the exception being handled is about the row's values, not about Python code that the

@@ -41,7 +41,7 @@ DateConvention ConventionOf(const py::object& name) {
   for (const NamedConvention& row : kConventions) {
     if (row.name == text) return row.convention;
   }
-  throw py::value_error("convention: \"mdy\", \"dmy\", \"mdy-buddhist\" or \"dmy-buddhist\", not " +
+  throw py::value_error(R"(convention: "mdy", "dmy", "mdy-buddhist" or "dmy-buddhist", not )" +
                         std::string(py::repr(name)));
 }
 
@@ -149,8 +149,9 @@ class Held {
  public:
   explicit Held(py::object object) : object_(std::move(object)) {}
   ~Held() {
-    const py::gil_scoped_acquire lock;
-    object_ = py::object();
+    const PyGILState_STATE lock = PyGILState_Ensure();
+    Py_DECREF(object_.release().ptr());
+    PyGILState_Release(lock);
   }
   Held(const Held&) = delete;
   Held& operator=(const Held&) = delete;

@@ -28,17 +28,18 @@ constexpr local_days kDayZero{std::chrono::year(1899) / 12 / 30};
 constexpr local_days k1970{std::chrono::year(1970) / 1 / 1};
 constexpr int kFirstYear = 100;
 
-/// What decides how a str stores a text.
+/// What decides how a str stores a text. Both are as wide as a unit, so that the loop is vectorised.
 struct Units {
-  char16_t bits = 0;  ///< that any of its units has
-  bool surrogate = false;
+  std::uint16_t bits = 0;        ///< that any unit has
+  std::uint16_t surrogates = 0;  ///< not 0 if there is one
 };
 
 Units UnitsOf(TextView text) {
   Units found;
   for (const char16_t unit : text) {
-    found.bits |= unit;
-    found.surrogate |= (unit & 0xF800) == 0xD800;
+    const bool surrogate = (unit & 0xF800) == 0xD800;
+    found.bits = static_cast<std::uint16_t>(found.bits | unit);
+    found.surrogates = static_cast<std::uint16_t>(found.surrogates | (surrogate ? 1 : 0));
   }
   return found;
 }
@@ -218,8 +219,8 @@ void LoadDates() {
 
 py::object TextToPython(TextView text) {
   const auto length = static_cast<Py_ssize_t>(text.size());
-  const auto [bits, surrogate] = UnitsOf(text);
-  if (!surrogate) {
+  const auto [bits, surrogates] = UnitsOf(text);
+  if (surrogates == 0) {
     py::object made = Owned(PyUnicode_New(length, bits));
     void* const units = PyUnicode_DATA(made.ptr());
     if (bits < 0x100) {
