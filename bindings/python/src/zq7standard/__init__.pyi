@@ -4,12 +4,11 @@ from decimal import Decimal
 from enum import IntEnum
 from os import PathLike
 from typing import Callable, List, Literal, Mapping, NoReturn, Sequence, Tuple
-from typing_extensions import TypeAlias
 
 from . import _native
 from ._support import RunTimeError as RunTimeError, WrongCall as WrongCall
 
-_Convention: TypeAlias = Literal["mdy", "dmy", "mdy-buddhist", "dmy-buddhist"]
+_Convention = Literal["mdy", "dmy", "mdy-buddhist", "dmy-buddhist"]
 
 class Object(_native.Object):
     def __init__(

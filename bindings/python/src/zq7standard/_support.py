@@ -1,6 +1,5 @@
 """What the module needs of Python, and what turns the catalogue into Python's own terms."""
 
-import inspect
 from datetime import date, datetime
 from decimal import Decimal
 from typing import Any, Dict, List, Optional, Union
@@ -107,7 +106,10 @@ def _annotation(text: str) -> Any:
     return Union[tuple(_NAMES[name] for name in text.split(" | "))]
 
 
-def signature_of(method: Any) -> inspect.Signature:
+def signature_of(method: Any) -> Any:
+    """The `inspect.Signature` of a method; `inspect` is slow to import and rarely needed."""
+    import inspect
+
     row = method._row
     parameters = [inspect.Parameter("self", inspect.Parameter.POSITIONAL_ONLY)]
     for parameter in row["parameters"]:
