@@ -579,7 +579,7 @@ public sealed unsafe partial class ASCIIObject : ZQ7Object {
       values_[0].Set(text0_, iTextFile);
       values_[1].Set(text1_, iValue);
       values_[2].Set(UseAppendMode);
-      Handle.Invoke(8, values_, UseAppendMode != false ? 3 : 2);
+      Handle.Invoke(8, values_, UseAppendMode ? 3 : 2);
     }
   }
 }
@@ -629,8 +629,8 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
       values_[2].Set(useEnglish);
       values_[3].Set(text3_, NewUnit);
       values_[4].Set(text4_, NewSubUnit);
-      return Handle.InvokeText(1, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
-          false ? 3 : useBreak != false ? 2 : 1);
+      return Handle.InvokeText(1, values_, (NewSubUnit == null || NewSubUnit.Length > 0) ? 5 :
+          (NewUnit == null || NewUnit.Length > 0) ? 4 : useEnglish ? 3 : useBreak ? 2 : 1);
     }
   }
 
@@ -645,8 +645,8 @@ public sealed unsafe partial class BahtStringObject : ZQ7Object {
       values_[2].Set(useEnglish);
       values_[3].Set(text3_, NewUnit);
       values_[4].Set(text4_, NewSubUnit);
-      return Handle.InvokeText(2, values_, NewSubUnit != "" ? 5 : NewUnit != "" ? 4 : useEnglish !=
-          false ? 3 : useBreak != false ? 2 : 1);
+      return Handle.InvokeText(2, values_, (NewSubUnit == null || NewSubUnit.Length > 0) ? 5 :
+          (NewUnit == null || NewUnit.Length > 0) ? 4 : useEnglish ? 3 : useBreak ? 2 : 1);
     }
   }
 
@@ -784,7 +784,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, OctString);
       values_[1].Set(KeepZeroFront);
-      return Handle.InvokeText(4, values_, KeepZeroFront != false ? 2 : 1);
+      return Handle.InvokeText(4, values_, KeepZeroFront ? 2 : 1);
     }
   }
 
@@ -798,7 +798,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, HexString);
       values_[1].Set(KeepZeroFront);
-      return Handle.InvokeText(5, values_, KeepZeroFront != false ? 2 : 1);
+      return Handle.InvokeText(5, values_, KeepZeroFront ? 2 : 1);
     }
   }
 
@@ -917,7 +917,7 @@ public sealed unsafe partial class BitByteObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(Dec);
     values_[1].Set(KeepZeroFront);
-    return Handle.InvokeText(13, values_, KeepZeroFront != false ? 2 : 1);
+    return Handle.InvokeText(13, values_, KeepZeroFront ? 2 : 1);
   }
 
   /// <summary>The number of a spreadsheet column.</summary>
@@ -1174,7 +1174,7 @@ public sealed unsafe partial class DiskObject : ZQ7Object {
       values_[1].Set(text1_, ToFile);
       values_[2].Set(OverwriteFile);
       values_[3].Set(CheckCondition);
-      return Handle.Invoke(6, values_, CheckCondition != 0 ? 4 : OverwriteFile != false ? 3 :
+      return Handle.Invoke(6, values_, CheckCondition != 0 ? 4 : OverwriteFile ? 3 :
           2).TakeInteger();
     }
   }
@@ -1704,9 +1704,9 @@ public sealed unsafe partial class PrintObject : ZQ7Object {
       values_[7].Set(FontSize);
       values_[8].Set(FontBold);
       values_[9].Set(FontItalic);
-      return Handle.Invoke(10, values_, FontItalic != false ? 10 : FontBold != false ? 9 : FontSize
-          != 0 ? 8 : FontName != "" ? 7 : MaxLenText != 0 ? 6 : Alignment != 0 ? 5 : MoveLine != 1 ?
-          4 : y != -1 ? 3 : x != -1 ? 2 : 1).TakeInteger();
+      return Handle.Invoke(10, values_, FontItalic ? 10 : FontBold ? 9 : FontSize != 0 ? 8 :
+          (FontName == null || FontName.Length > 0) ? 7 : MaxLenText != 0 ? 6 : Alignment != 0 ? 5 :
+          MoveLine != 1 ? 4 : y != -1 ? 3 : x != -1 ? 2 : 1).TakeInteger();
     }
   }
 
@@ -2031,7 +2031,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, IDayTimeText);
       values_[1].Set(AcceptZeroValue);
-      return Handle.Invoke(13, values_, AcceptZeroValue != false ? 2 : 1).TakeBoolean();
+      return Handle.Invoke(13, values_, AcceptZeroValue ? 2 : 1).TakeBoolean();
     }
   }
 
@@ -2054,7 +2054,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, iText);
       values_[1].Set(NoUsedBackwardSupportOnly);
-      return Handle.Invoke(14, values_, NoUsedBackwardSupportOnly != false ? 2 : 1).TakeDate();
+      return Handle.Invoke(14, values_, NoUsedBackwardSupportOnly ? 2 : 1).TakeDate();
     }
   }
 
@@ -2074,7 +2074,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, iText);
       values_[1].Set(NoUsedBackwardSupportOnly);
-      return Handle.Invoke(15, values_, NoUsedBackwardSupportOnly != false ? 2 : 1).TakeBoolean();
+      return Handle.Invoke(15, values_, NoUsedBackwardSupportOnly ? 2 : 1).TakeBoolean();
     }
   }
 
@@ -2271,7 +2271,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, IHourText);
       values_[1].Set(AcceptZeroValue);
-      return Handle.Invoke(28, values_, AcceptZeroValue != false ? 2 : 1).TakeBoolean();
+      return Handle.Invoke(28, values_, AcceptZeroValue ? 2 : 1).TakeBoolean();
     }
   }
 
@@ -2347,7 +2347,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(ZeroLeader);
-    return Handle.InvokeText(34, values_, ZeroLeader != false ? 2 : 1);
+    return Handle.InvokeText(34, values_, ZeroLeader ? 2 : 1);
   }
 
   /// <summary>Writes a date in one of the layouts of <c>CTDateType</c>.</summary>
@@ -2369,7 +2369,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     values_[0].Set(InDate);
     values_[1].Set((int)DateType);
     values_[2].Set(ZeroLeader);
-    return Handle.InvokeText(35, values_, ZeroLeader != false ? 3 : 2);
+    return Handle.InvokeText(35, values_, ZeroLeader ? 3 : 2);
   }
 
   /// <summary>Writes a date in the system's own layout and the time of day.</summary>
@@ -2383,7 +2383,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     Value* values_ = stackalloc Value[2];
     values_[0].Set(InDate);
     values_[1].Set(ZeroLeader);
-    return Handle.InvokeText(36, values_, ZeroLeader != false ? 2 : 1);
+    return Handle.InvokeText(36, values_, ZeroLeader ? 2 : 1);
   }
 
   /// <summary>Writes a date by a pattern, in the system's era and language.</summary>
@@ -2912,7 +2912,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(iValue);
       values_[1].Set(IncreaseToCeiling);
       values_[2].Set(text2_, CelingList);
-      return Handle.Invoke(68, values_, CelingList != "" ? 3 : 2).TakeCurrency();
+      return Handle.Invoke(68, values_, (CelingList == null || CelingList.Length > 0) ? 3 :
+          2).TakeCurrency();
     }
   }
 
@@ -3020,7 +3021,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iText);
       values_[1].Set(IncludeDot);
       values_[2].Set(IncludeSign);
-      return Handle.InvokeText(75, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 : 1);
+      return Handle.InvokeText(75, values_, IncludeSign ? 3 : IncludeDot ? 2 : 1);
     }
   }
 
@@ -3032,7 +3033,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[0].Set(text0_, iText);
       values_[1].Set(IncludeDot);
       values_[2].Set(IncludeSign);
-      return Handle.InvokeText(76, values_, IncludeSign != false ? 3 : IncludeDot != false ? 2 : 1);
+      return Handle.InvokeText(76, values_, IncludeSign ? 3 : IncludeDot ? 2 : 1);
     }
   }
 
@@ -3241,10 +3242,15 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[17].Set(text17_, i18);
       values_[18].Set(text18_, i19);
       values_[19].Set(text19_, i20);
-      return Handle.Invoke(87, values_, i20 != "" ? 20 : i19 != "" ? 19 : i18 != "" ? 18 : i17 != ""
-          ? 17 : i16 != "" ? 16 : i15 != "" ? 15 : i14 != "" ? 14 : i13 != "" ? 13 : i12 != "" ? 12
-          : i11 != "" ? 11 : i10 != "" ? 10 : i9 != "" ? 9 : i8 != "" ? 8 : i7 != "" ? 7 : i6 != ""
-          ? 6 : i5 != "" ? 5 : i4 != "" ? 4 : i3 != "" ? 3 : i2 != "" ? 2 : 1).TakeTextList();
+      return Handle.Invoke(87, values_, (i20 == null || i20.Length > 0) ? 20 : (i19 == null ||
+          i19.Length > 0) ? 19 : (i18 == null || i18.Length > 0) ? 18 : (i17 == null || i17.Length >
+          0) ? 17 : (i16 == null || i16.Length > 0) ? 16 : (i15 == null || i15.Length > 0) ? 15 :
+          (i14 == null || i14.Length > 0) ? 14 : (i13 == null || i13.Length > 0) ? 13 : (i12 == null
+          || i12.Length > 0) ? 12 : (i11 == null || i11.Length > 0) ? 11 : (i10 == null ||
+          i10.Length > 0) ? 10 : (i9 == null || i9.Length > 0) ? 9 : (i8 == null || i8.Length > 0) ?
+          8 : (i7 == null || i7.Length > 0) ? 7 : (i6 == null || i6.Length > 0) ? 6 : (i5 == null ||
+          i5.Length > 0) ? 5 : (i4 == null || i4.Length > 0) ? 4 : (i3 == null || i3.Length > 0) ? 3
+          : (i2 == null || i2.Length > 0) ? 2 : 1).TakeTextList();
     }
   }
 
@@ -3331,12 +3337,20 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[27].Set(text27_, i28);
       values_[28].Set(text28_, i29);
       values_[29].Set(text29_, i30);
-      return Handle.Invoke(88, values_, i30 != "" ? 30 : i29 != "" ? 29 : i28 != "" ? 28 : i27 != ""
-          ? 27 : i26 != "" ? 26 : i25 != "" ? 25 : i24 != "" ? 24 : i23 != "" ? 23 : i22 != "" ? 22
-          : i21 != "" ? 21 : i20 != "" ? 20 : i19 != "" ? 19 : i18 != "" ? 18 : i17 != "" ? 17 : i16
-          != "" ? 16 : i15 != "" ? 15 : i14 != "" ? 14 : i13 != "" ? 13 : i12 != "" ? 12 : i11 != ""
-          ? 11 : i10 != "" ? 10 : i9 != "" ? 9 : i8 != "" ? 8 : i7 != "" ? 7 : i6 != "" ? 6 : i5 !=
-          "" ? 5 : i4 != "" ? 4 : i3 != "" ? 3 : i2 != "" ? 2 : 1).TakeTextList();
+      return Handle.Invoke(88, values_, (i30 == null || i30.Length > 0) ? 30 : (i29 == null ||
+          i29.Length > 0) ? 29 : (i28 == null || i28.Length > 0) ? 28 : (i27 == null || i27.Length >
+          0) ? 27 : (i26 == null || i26.Length > 0) ? 26 : (i25 == null || i25.Length > 0) ? 25 :
+          (i24 == null || i24.Length > 0) ? 24 : (i23 == null || i23.Length > 0) ? 23 : (i22 == null
+          || i22.Length > 0) ? 22 : (i21 == null || i21.Length > 0) ? 21 : (i20 == null ||
+          i20.Length > 0) ? 20 : (i19 == null || i19.Length > 0) ? 19 : (i18 == null || i18.Length >
+          0) ? 18 : (i17 == null || i17.Length > 0) ? 17 : (i16 == null || i16.Length > 0) ? 16 :
+          (i15 == null || i15.Length > 0) ? 15 : (i14 == null || i14.Length > 0) ? 14 : (i13 == null
+          || i13.Length > 0) ? 13 : (i12 == null || i12.Length > 0) ? 12 : (i11 == null ||
+          i11.Length > 0) ? 11 : (i10 == null || i10.Length > 0) ? 10 : (i9 == null || i9.Length >
+          0) ? 9 : (i8 == null || i8.Length > 0) ? 8 : (i7 == null || i7.Length > 0) ? 7 : (i6 ==
+          null || i6.Length > 0) ? 6 : (i5 == null || i5.Length > 0) ? 5 : (i4 == null || i4.Length
+          > 0) ? 4 : (i3 == null || i3.Length > 0) ? 3 : (i2 == null || i2.Length > 0) ? 2 :
+          1).TakeTextList();
     }
   }
 
@@ -3426,7 +3440,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       Value* values_ = stackalloc Value[2];
       values_[0].Set(text0_, InputString);
       values_[1].Set(text1_, AddStringNumber);
-      return Handle.InvokeText(93, values_, AddStringNumber != "" ? 2 : 1);
+      return Handle.InvokeText(93, values_, (AddStringNumber == null || AddStringNumber.Length > 0)
+          ? 2 : 1);
     }
   }
 
@@ -3497,7 +3512,7 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[2].Set(text2_, SearchString);
       values_[3].Set((int)Compare);
       values_[4].Set(SearchFromBack);
-      return Handle.Invoke(95, values_, SearchFromBack != false ? 5 : Compare !=
+      return Handle.Invoke(95, values_, SearchFromBack ? 5 : Compare !=
           ZQ7CompareMethod.ZQ7CompareBinary ? 4 : 3).TakeLong();
     }
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -143,22 +144,18 @@ std::string Remarks(std::string_view details, std::size_t indent) {
 
 /// The sentences that say which errors are raised.
 std::string RaisedErrors(std::string_view details) {
-  std::string sentences;
+  std::string raised;
   for (const std::string& paragraph : ZQ7Tool::SplitParagraphs(details)) {
-    std::size_t at = 0;
-    while (at < paragraph.size()) {
-      const std::size_t end = std::min(paragraph.find_first_of(".", at), paragraph.size() - 1);
-      std::size_t stop = end;
-      while (stop + 1 < paragraph.size() && paragraph[stop + 1] != ' ' &&
-             paragraph[stop + 1] != '\n') {
-        stop = std::min(paragraph.find('.', stop + 1), paragraph.size() - 1);
-      }
-      const std::string sentence = paragraph.substr(at, stop + 1 - at);
-      if (sentence.starts_with("Raises ")) sentences += (sentences.empty() ? "" : " ") + sentence;
-      at = std::min(paragraph.find_first_not_of(" \n", stop + 1), paragraph.size());
+    std::istringstream words(paragraph);
+    std::string sentence;
+    for (std::string word; words >> word;) {
+      sentence += (sentence.empty() ? "" : " ") + word;
+      if (!word.ends_with('.')) continue;
+      if (sentence.starts_with("Raises ")) raised += (raised.empty() ? "" : " ") + sentence;
+      sentence.clear();
     }
   }
-  return sentences;
+  return raised;
 }
 
 std::string ParameterComments(const std::vector<ParameterInfo>& parameters) {
@@ -244,6 +241,7 @@ std::string Declared(const ParameterInfo& parameter) {
 std::string Declaration(const std::string& prefix, const std::vector<ParameterInfo>& parameters) {
   if (parameters.empty()) return prefix + "()";
   std::vector<std::string> pieces;
+  pieces.reserve(parameters.size());
   for (const ParameterInfo& parameter : parameters) pieces.push_back(Declared(parameter) + ",");
   pieces.back().back() = ')';
   std::string lines = ZQ7Tool::Filled(prefix + "( ", pieces, 6, kWidth - 2);
@@ -268,6 +266,16 @@ std::string Passed(const ParameterInfo& parameter, std::size_t place, const std:
          (parameter.optional ? ".Omit();" : ".SetNull();");
 }
 
+/// Whether an argument is not the default of its parameter.
+std::string IsGiven(const ParameterInfo& parameter) {
+  std::string name = Name(parameter.name);
+  const std::string value = DefaultValue(parameter);
+  if (value == "false") return name;
+  // Quicker than comparing texts.
+  if (value == "\"\"") return "(" + name + " == null || " + name + ".Length > 0)";
+  return name + " != " + value;
+}
+
 /// How many arguments are passed: not those at the end that are their defaults, each of which
 /// would take the library some time.
 std::string ArgumentCount(const std::vector<ParameterInfo>& parameters) {
@@ -275,8 +283,7 @@ std::string ArgumentCount(const std::vector<ParameterInfo>& parameters) {
   for (std::size_t i = parameters.size(); i > 0; --i) {
     const ParameterInfo& parameter = parameters[i - 1];
     if (!parameter.optional) return count + std::to_string(i);
-    count +=
-        Name(parameter.name) + " != " + DefaultValue(parameter) + " ? " + std::to_string(i) + " : ";
+    count += IsGiven(parameter) + " ? " + std::to_string(i) + " : ";
   }
   return count + "0";
 }
