@@ -76,7 +76,7 @@ endif()
 
 # The pages link each other as they do in the source.
 set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/zq7standard)
-install(FILES CHANGELOG.md CONTRIBUTING.md LICENSE README.md SECURITY.md
+install(FILES CHANGELOG.md CONTRIBUTING.md LICENSE README.md README.th.md SECURITY.md
   DESTINATION ${doc_dir} COMPONENT Documentation)
 install(DIRECTORY demo examples DESTINATION ${doc_dir} COMPONENT Documentation)
 install(DIRECTORY docs DESTINATION ${doc_dir} COMPONENT Documentation

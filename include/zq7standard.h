@@ -354,7 +354,7 @@ ZQ7_API const zq7_class* zq7_class_of(const zq7_object* object);
 
 /// Calls the operation with that number. Arguments are in the order of the parameters;
 /// `ZQ7_OMITTED` leaves one out. They are converted by the rules of calls by name
-/// (docs/hosts.md). `result` may be null.
+/// (docs/abi.md). `result` may be null.
 ///
 /// Errors: what the operation raises; 438 for a number or name that is not an operation's,
 /// 448 for an argument name that is not a parameter's, 449 for an argument that is missing,

@@ -44,11 +44,12 @@ uint32_t FlagsOf(const ClassInfo& owner) {
   return FlagIf(owner.creatable, ZQ7_CREATABLE) | FlagIf(!owner.events.empty(), ZQ7_HAS_EVENTS);
 }
 
-/// The catalogue in C, built on first use. Everything in it stays where it is.
+/// The catalogue in C, built on first use. Everything in it stays where it is, and is never
+/// destroyed: finalizers of other languages may run after the program's own statics are gone.
 class Catalogue {
  public:
   static const Catalogue& Get() {
-    static const Catalogue catalogue;
+    static const Catalogue& catalogue = *new Catalogue;
     return catalogue;
   }
 
@@ -198,11 +199,6 @@ const T* const* Counted(const std::vector<const T*>& pointers, size_t* count) {
 }
 
 }  // namespace
-
-Member Class::Find(int32_t number) const {
-  const auto place = static_cast<std::size_t>(number);
-  return number > 0 && place < by_number.size() ? by_number[place] : Member();
-}
 
 const Class& ClassOf(const ClassInfo& info) {
   return Catalogue::Get().ClassOf(info);

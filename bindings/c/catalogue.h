@@ -4,6 +4,7 @@
 #include <ZQ7Standard/automation/catalogue.h>
 #include <zq7standard.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace ZQ7C {
@@ -19,10 +20,13 @@ struct Member {
 struct Class {
   zq7_class c = {};
   std::vector<const zq7_member*> members = {};
-  std::vector<Member> by_number = {};
+  std::vector<Member> by_number = {Member()};  ///< the first stands for numbers without a member
 
   /// The member with that number; empty if there is none.
-  Member Find(int32_t number) const;
+  const Member& Find(int32_t number) const {
+    const auto place = static_cast<std::size_t>(number);
+    return by_number[place < by_number.size() ? place : 0];
+  }
 };
 
 /// What the C catalogue knows of a class of the catalogue.

@@ -46,8 +46,8 @@ RunTimeError CurrentError() {
 
 }  // namespace
 
-void Require(bool met, std::string_view wrong) {
-  if (!met) throw RunTimeError(Error::kInvalidArgument, wrong);
+void RaiseWrongUse(std::string_view wrong) {
+  throw RunTimeError(Error::kInvalidArgument, wrong);
 }
 
 void KeepCurrentException() noexcept {

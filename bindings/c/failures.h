@@ -9,8 +9,12 @@
 /// failure of a host's function becomes an exception.
 namespace ZQ7C {
 
-/// Raises 5 with what the caller did wrong, unless `met`.
-void Require(bool met, std::string_view wrong);
+/// Raises 5 with what the caller did wrong.
+[[noreturn]] void RaiseWrongUse(std::string_view wrong);
+
+inline void Require(bool met, std::string_view wrong) {
+  if (!met) RaiseWrongUse(wrong);
+}
 
 /// Keeps the exception being handled for `zq7_last_error`.
 void KeepCurrentException() noexcept;

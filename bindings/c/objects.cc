@@ -5,7 +5,6 @@
 #include <array>
 #include <cstddef>
 #include <memory>
-#include <memory_resource>
 #include <span>
 #include <string>
 #include <utility>
@@ -20,18 +19,27 @@ namespace {
 
 using namespace ZQ7Standard::Automation;
 
-/// Values for a call, on the stack unless there are very many.
+/// The values of a call; those of most calls are on the stack.
 class Values {
  public:
-  explicit Values(std::size_t count) { values_.reserve(count); }
+  Values(const zq7_value* given, std::size_t count) {
+    std::span<Value> room(few_);
+    if (count > few_.size()) {
+      many_.resize(count);
+      room = many_;
+    }
+    values_ = room.first(count);
+    for (std::size_t i = 0; i < count; ++i) Assign(given[i], values_[i]);
+  }
+  Values(const Values&) = delete;
+  Values& operator=(const Values&) = delete;
 
-  void Add(const zq7_value& value) { values_.push_back(ToValue(value)); }
   std::span<const Value> Get() const { return values_; }
 
  private:
-  std::array<std::byte, 12 * sizeof(Value)> memory_;
-  std::pmr::monotonic_buffer_resource resource_{memory_.data(), memory_.size()};
-  std::pmr::vector<Value> values_{&resource_};
+  std::array<Value, 4> few_ = {};
+  std::vector<Value> many_;
+  std::span<Value> values_;
 };
 
 zq7_object& Required(zq7_object* object) {
@@ -53,13 +61,13 @@ void RequireArguments(const void* arguments, std::size_t count) {
 }
 
 const OperationInfo& OperationOf(const zq7_object& object, int32_t number) {
-  const Member member = object.owner.Find(number);
+  const Member& member = object.owner.Find(number);
   if (member.operation == nullptr) RaiseUnsupported(object, number);
   return *member.operation;
 }
 
 const PropertyInfo& PropertyOf(const zq7_object& object, int32_t number) {
-  const Member member = object.owner.Find(number);
+  const Member& member = object.owner.Find(number);
   if (member.property == nullptr) RaiseUnsupported(object, number);
   return *member.property;
 }
@@ -131,8 +139,7 @@ zq7_status zq7_invoke(zq7_object* object, int32_t number, const zq7_value* argum
   return ZQ7C::Written(result, [&] {
     const auto& operation = ZQ7C::OperationOf(Required(object), number);
     ZQ7C::RequireArguments(arguments, count);
-    ZQ7C::Values values(count);
-    for (size_t i = 0; i < count; ++i) values.Add(arguments[i]);
+    const ZQ7C::Values values(arguments, count);
     return ZQ7Standard::Automation::Invoke(object->object, operation, {values.Get()});
   });
 }
@@ -142,16 +149,17 @@ zq7_status zq7_invoke_by_name(zq7_object* object, const char* operation,
   return ZQ7C::Written(result, [&] {
     Require(operation != nullptr, "no name of an operation");
     ZQ7C::RequireArguments(arguments, count);
-    ZQ7C::Values values(count);
-    size_t i = 0;
-    for (; i < count && arguments[i].name == nullptr; ++i) values.Add(arguments[i].value);
+    std::vector<ZQ7Standard::Automation::Value> positional;
     std::vector<ZQ7Standard::Automation::NamedArgument> named;
-    for (; i < count; ++i) {
-      Require(arguments[i].name != nullptr, "an argument by position after one by name");
-      named.push_back({arguments[i].name, ZQ7C::ToValue(arguments[i].value)});
+    for (const auto& [name, value] : std::span(arguments, count)) {
+      if (name != nullptr) {
+        named.push_back({name, ZQ7C::ToValue(value)});
+      } else {
+        Require(named.empty(), "an argument by position after one by name");
+        positional.push_back(ZQ7C::ToValue(value));
+      }
     }
-    return ZQ7Standard::Automation::Invoke(Required(object).object, operation,
-                                           {values.Get(), named});
+    return ZQ7Standard::Automation::Invoke(Required(object).object, operation, {positional, named});
   });
 }
 

@@ -4,6 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <new>
 #include <string>
 
 #include "failures.h"
@@ -56,8 +59,10 @@ struct Writer {
     out.owned = 1;
   }
   void operator()(const Text& text) const {
-    auto* const units = new char16_t[text.size()];
-    std::ranges::copy(text, units);
+    const std::size_t size = text.size() * sizeof(char16_t);
+    auto* const units = static_cast<char16_t*>(std::malloc(size == 0 ? 1 : size));
+    if (units == nullptr) throw std::bad_alloc();
+    std::memcpy(units, text.data(), size);
     Tagged(ZQ7_TEXT).text = units;
     Own(text.size());
   }
@@ -71,36 +76,52 @@ struct Writer {
 
 }  // namespace
 
-Value ToValue(const zq7_value& value) {
-  switch (value.tag) {
+void Assign(const zq7_value& given, Value& value) {
+  switch (given.tag) {
     case ZQ7_OMITTED:
-      return Omitted();
+      value.emplace<Omitted>();
+      break;
     case ZQ7_NULL:
-      return Null();
+      value.emplace<Null>();
+      break;
     case ZQ7_TEXT:
-      return Text(ToTextView(&value));
+      value.emplace<Text>(ToTextView(&given));
+      break;
     case ZQ7_INTEGER:
     case ZQ7_LONG:
-      return std::int32_t{value.integer};
+      value.emplace<std::int32_t>(given.integer);
+      break;
     case ZQ7_SINGLE:
-      return static_cast<float>(value.number);
+      value.emplace<float>(static_cast<float>(given.number));
+      break;
     case ZQ7_DOUBLE:
-      return value.number;
+      value.emplace<double>(given.number);
+      break;
     case ZQ7_BOOLEAN:
-      return value.integer != 0;
+      value.emplace<bool>(given.integer != 0);
+      break;
     case ZQ7_DATE:
-      return OleDate(value.number);
+      value.emplace<OleDate>(given.number);
+      break;
     case ZQ7_CURRENCY:
-      return Currency::FromScaled(value.scaled);
+      value.emplace<Currency>(Currency::FromScaled(given.scaled));
+      break;
     case ZQ7_TEXT_LIST:
-      return ToTextList(value);
+      value.emplace<TextList>(ToTextList(given));
+      break;
     case ZQ7_OBJECT:
-      Require(value.object != nullptr, "an object value without an object; ZQ7_NULL is no object");
-      return value.object->object;
+      Require(given.object != nullptr, "an object value without an object; ZQ7_NULL is no object");
+      value.emplace<Object>(given.object->object);
+      break;
     default:
-      Require(false, "a value with an unknown tag, " + std::to_string(value.tag));
-      return {};
+      RaiseWrongUse("a value with an unknown tag, " + std::to_string(given.tag));
   }
+}
+
+Value ToValue(const zq7_value& given) {
+  Value value;
+  Assign(given, value);
+  return value;
 }
 
 TextView ToTextView(const zq7_value* value) {
@@ -138,13 +159,21 @@ zq7_tag TagOf(Type type) {
 
 }  // namespace ZQ7C
 
+namespace {
+
+void FreeText(const zq7_value& text) {
+  std::free(const_cast<char16_t*>(text.text));  // NOLINT(*-const-cast): it is the library's own
+}
+
+}  // namespace
+
 void zq7_value_clear(zq7_value* value) {
   if (value == nullptr) return;
   if (value->owned != 0) {
-    if (value->tag == ZQ7_TEXT) delete[] value->text;
+    if (value->tag == ZQ7_TEXT) FreeText(*value);
     if (value->tag == ZQ7_OBJECT) zq7_release(value->object);
     if (value->tag == ZQ7_TEXT_LIST) {
-      for (std::size_t i = 0; i < value->length; ++i) delete[] value->list[i].text;
+      for (std::size_t i = 0; i < value->length; ++i) FreeText(value->list[i]);
       delete[] value->list;
     }
   }

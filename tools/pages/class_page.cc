@@ -24,6 +24,8 @@ std::string AddressOfMember(const ClassInfo& owner, std::string_view word) {
   const MemberInfo found = FindMember(owner, word);
   if (found.operation != nullptr && found.operation->name == word) return Anchor(word);
   if (found.property != nullptr && found.property->name == word) return "#properties";
+  const EventInfo* const event = FindEvent(owner, word);
+  if (event != nullptr && event->name == word) return Anchor(word);
   return "";
 }
 
@@ -43,7 +45,7 @@ Addresses AddressesFor(const ClassInfo& owner, std::string_view self = {},
                        const std::vector<ParameterInfo>& parameters = {}) {
   return [&owner, self, &parameters](std::string_view word) -> std::string {
     if (word == self || word == owner.name || IsParameter(parameters, word)) return "";
-    if (const std::string member = AddressOfMember(owner, word); !member.empty()) return member;
+    if (std::string member = AddressOfMember(owner, word); !member.empty()) return member;
     const ClassInfo* const other = FindClass(word);
     if (other != nullptr && other->name == word) return std::string(word) + ".md";
     return AddressOfEnumerator(word);
@@ -90,13 +92,10 @@ std::string WaitLine(bool may_block) {
 
 std::string Operation(const ClassInfo& owner, const OperationInfo& operation) {
   const Addresses addresses = AddressesFor(owner, operation.name, operation.parameters);
-  const std::string result = TypeLink(operation.result);
   return "\n### " + std::string(operation.name) + "\n" + Block(Prose(operation.help, addresses)) +
          Declaration(operation.name, operation.parameters, operation.result) +
          Block(Prose(operation.details, addresses)) + WaitLine(operation.may_block) +
-         ParameterTable(operation, addresses) +
-         (result.starts_with('[') ? "\nThe result is a " + result + ".\n" : "") +
-         ExampleTable(owner, operation);
+         ParameterTable(operation, addresses) + ExampleTable(owner, operation);
 }
 
 bool BeginsSubject(const ClassInfo& owner, const OperationInfo& operation) {
