@@ -36,7 +36,7 @@ Loaded Load(const std::string& name) {
   if (folder.empty()) return {.problem = "the library was loaded by a relative path"};
   const std::filesystem::path path = folder / (name + ".so");
   if (!std::filesystem::exists(path)) {
-    return {.problem = "there is no " + path.string() + " (install libzq7standard-" + name + ")"};
+    return {.problem = "there is no " + path.string() + " (install zq7standard-" + name + ")"};
   }
   void* const library = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
   if (library == nullptr) return {.problem = LoaderProblem()};
