@@ -21,6 +21,7 @@ using namespace ZQ7Standard::Automation;
 template <typename T>
 std::vector<const T*> PointersTo(const std::deque<T>& elements) {
   std::vector<const T*> pointers;
+  pointers.reserve(elements.size());
   for (const T& element : elements) pointers.push_back(&element);
   return pointers;
 }

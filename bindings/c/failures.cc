@@ -11,7 +11,6 @@ namespace ZQ7C {
 namespace {
 
 using ZQ7Standard::Error;
-using ZQ7Standard::ErrorDetails;
 using ZQ7Standard::RunTimeError;
 
 /// What a thread knows of failures. Errors share their details, so keeping one needs no memory.

@@ -7,6 +7,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -19,17 +20,37 @@ namespace {
 
 using namespace ZQ7Standard::Automation;
 
+/// Converts a value that a caller passed. An error, such as that of a date outside the calendar,
+/// names the member and the parameter.
+void AssignFor(const ClassInfo& owner, std::string_view member, std::string_view parameter,
+               const zq7_value& given, Value& value) {
+  try {
+    Assign(given, value);
+  } catch (const ZQ7Standard::RunTimeError& error) {
+    ZQ7Standard::ErrorDetails details = error.Details();
+    details.class_name = owner.name;
+    details.operation = member;
+    details.parameter = parameter;
+    throw ZQ7Standard::RunTimeError(std::move(details));
+  }
+}
+
 /// The values of a call; those of most calls are on the stack.
 class Values {
  public:
-  Values(const zq7_value* given, std::size_t count) {
+  Values(const ClassInfo& owner, const OperationInfo& operation, const zq7_value* given,
+         std::size_t count) {
     std::span<Value> room(few_);
     if (count > few_.size()) {
       many_.resize(count);
       room = many_;
     }
     values_ = room.first(count);
-    for (std::size_t i = 0; i < count; ++i) Assign(given[i], values_[i]);
+    const auto& parameters = operation.parameters;
+    for (std::size_t i = 0; i < count; ++i) {
+      const std::string_view name = i < parameters.size() ? parameters[i].name : "";
+      AssignFor(owner, operation.name, name, given[i], values_[i]);
+    }
   }
   Values(const Values&) = delete;
   Values& operator=(const Values&) = delete;
@@ -146,7 +167,7 @@ zq7_status zq7_invoke_text(zq7_object* object, int32_t number, const zq7_value* 
     Require(buffer != nullptr || capacity == 0, "no buffer");
     const auto& operation = ZQ7C::OperationOf(Required(object), number);
     ZQ7C::RequireArguments(arguments, count);
-    const ZQ7C::Values values(arguments, count);
+    const ZQ7C::Values values(object->object.Class(), operation, arguments, count);
     return ZQ7Standard::Automation::Invoke(object->object, operation, {values.Get()});
   };
   return ZQ7C::Written(result, call, {buffer, capacity});
@@ -189,7 +210,9 @@ zq7_status zq7_set(zq7_object* object, int32_t number, const zq7_value* value) {
   return Guarded([&] {
     const auto& property = ZQ7C::PropertyOf(Required(object), number);
     Require(value != nullptr, "no value");
-    ZQ7Standard::Automation::SetProperty(object->object, property, ZQ7C::ToValue(*value));
+    ZQ7Standard::Automation::Value converted;
+    ZQ7C::AssignFor(object->object.Class(), property.name, "", *value, converted);
+    ZQ7Standard::Automation::SetProperty(object->object, property, converted);
   });
 }
 

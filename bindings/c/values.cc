@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <new>
 #include <string>
 
@@ -45,8 +44,8 @@ struct Writer {
     out.length = length;
   }
 
-  void operator()(Omitted) const { Tagged(ZQ7_OMITTED); }
-  void operator()(Null) const { Tagged(ZQ7_NULL); }
+  void operator()(Omitted /*none*/) const { Tagged(ZQ7_OMITTED); }
+  void operator()(Null /*null*/) const { Tagged(ZQ7_NULL); }
   void operator()(std::int16_t number) const { Tagged(ZQ7_INTEGER).integer = number; }
   void operator()(std::int32_t number) const { Tagged(ZQ7_LONG).integer = number; }
   void operator()(float number) const { Tagged(ZQ7_SINGLE).number = number; }
@@ -62,7 +61,7 @@ struct Writer {
     const std::size_t size = text.size() * sizeof(char16_t);
     auto* const units = static_cast<char16_t*>(std::malloc(size == 0 ? 1 : size));
     if (units == nullptr) throw std::bad_alloc();
-    std::memcpy(units, text.data(), size);
+    std::ranges::copy(text, units);
     Tagged(ZQ7_TEXT).text = units;
     Own(text.size());
   }

@@ -18,7 +18,8 @@ class BuildWithCMake(build_ext):
     """Builds with the CMake project in place of the one source that setuptools could compile."""
 
     def build_extension(self, extension):
-        build = pathlib.Path(self.build_temp).resolve()
+        # Beside the other builds, not among the sources.
+        build = ROOT / "build/pip" / sys.implementation.cache_tag / "release"
         settings = {
             "CMAKE_BUILD_TYPE": "Release",
             "BUILD_SHARED_LIBS": "OFF",

@@ -6,6 +6,6 @@
 
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
-  const ZQ7Standard::BahtStringObject baht;
+  ZQ7Standard::BahtStringObject baht;
   std::cout << ZQ7Standard::Utf8(baht.BahtString(std::atof(argv[1]))) << '\n';
 }

@@ -58,18 +58,17 @@ std::string IfLeftOut(const ParameterInfo& parameter) {
   return value.empty() ? "optional" : Code(value);
 }
 
-/// The parameters, unless the signature says it all.
-std::string ParameterTable(const OperationInfo& operation, const Addresses& addresses) {
+/// The parameters if one has a type to link or accepts null; else the signature says it all, as the
+/// text says what they mean.
+std::string ParameterTable(const OperationInfo& operation) {
   std::string rows;
   bool more = false;
   for (const ParameterInfo& parameter : operation.parameters) {
-    const std::string help =
-        parameter.help == operation.help ? "" : Prose(parameter.help, addresses);
     const std::string type = TypeLink(parameter.type) + (parameter.nullable ? " or null" : "");
-    more |= !help.empty() || type != ZQ7Tool::TypeName(parameter.type);
-    rows += Row({Code(parameter.name), type, IfLeftOut(parameter), help});
+    more |= type != ZQ7Tool::TypeName(parameter.type);
+    rows += Row({Code(parameter.name), type, IfLeftOut(parameter)});
   }
-  return Table({"Parameter", "Type", "If left out", ""}, more ? rows : "");
+  return Table({"Parameter", "Type", "If left out"}, more ? rows : "");
 }
 
 std::string ExampleTable(const ClassInfo& owner, const OperationInfo& operation) {
@@ -95,7 +94,7 @@ std::string Operation(const ClassInfo& owner, const OperationInfo& operation) {
   return "\n### " + std::string(operation.name) + "\n" + Block(Prose(operation.help, addresses)) +
          Declaration(operation.name, operation.parameters, operation.result) +
          Block(Prose(operation.details, addresses)) + WaitLine(operation.may_block) +
-         ParameterTable(operation, addresses) + ExampleTable(owner, operation);
+         ParameterTable(operation) + ExampleTable(owner, operation);
 }
 
 bool BeginsSubject(const ClassInfo& owner, const OperationInfo& operation) {

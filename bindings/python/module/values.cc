@@ -84,6 +84,7 @@ double DayCount(const Moment& moment) {
 Moment MomentOf(OleDate date) {
   const local_days day = date.Civil();
   const double time = date.TimeOfDay() * static_cast<double>(kDayMicroseconds);
+  if (time == 0) return {day, 0};
   for (const std::int64_t step : {1'000'000, 1'000}) {
     const Moment round{day, std::llround(time / static_cast<double>(step)) * step};
     if (round.microseconds < kDayMicroseconds && DayCount(round) == date.Days()) return round;
