@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,7 @@ using namespace ZQ7Standard::Automation;
 constexpr std::size_t kWidth = 96;
 
 /// Whether a word in backticks means a parameter of the operation, whatever else has its name.
-bool IsParameter(const std::vector<ParameterInfo>& parameters, std::string_view word) {
+bool IsParameter(std::span<const ParameterInfo> parameters, std::string_view word) {
   return std::ranges::find(parameters, word, &ParameterInfo::name) != parameters.end();
 }
 
@@ -42,8 +43,8 @@ std::string AddressOfEnumerator(std::string_view word) {
 
 /// The addresses of the words in the documentation of a class and of its member `self`.
 Addresses AddressesFor(const ClassInfo& owner, std::string_view self = {},
-                       const std::vector<ParameterInfo>& parameters = {}) {
-  return [&owner, self, &parameters](std::string_view word) -> std::string {
+                       std::span<const ParameterInfo> parameters = {}) {
+  return [&owner, self, parameters](std::string_view word) -> std::string {
     if (word == self || word == owner.name || IsParameter(parameters, word)) return "";
     if (std::string member = AddressOfMember(owner, word); !member.empty()) return member;
     const ClassInfo* const other = FindClass(word);
