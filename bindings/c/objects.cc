@@ -35,32 +35,41 @@ void AssignFor(const ClassInfo& owner, std::string_view member, std::string_view
   }
 }
 
-/// The values of a call; those of most calls are on the stack.
+/// The values of a call. Those of most calls are on the stack, and only as many are made as there
+/// are.
 class Values {
  public:
+  // Delegates, so that a failure destroys the values made so far.
   Values(const ClassInfo& owner, const OperationInfo& operation, const zq7_value* given,
-         std::size_t count) {
-    std::span<Value> room(few_);
-    if (count > few_.size()) {
-      many_.resize(count);
-      room = many_;
-    }
-    values_ = room.first(count);
+         std::size_t count)
+      : Values() {
+    if (count > few_.size()) many_.resize(count);
     const auto& parameters = operation.parameters;
     for (std::size_t i = 0; i < count; ++i) {
       const std::string_view name = i < parameters.size() ? parameters[i].name : "";
-      AssignFor(owner, operation.name, name, given[i], values_[i]);
+      AssignFor(owner, operation.name, name, given[i], Place(i));
     }
   }
+  ~Values() { std::destroy_n(few_.data(), made_); }
   Values(const Values&) = delete;
   Values& operator=(const Values&) = delete;
 
-  std::span<const Value> Get() const { return values_; }
+  std::span<const Value> Get() const {
+    return many_.empty() ? std::span<const Value>(few_.data(), made_) : many_;
+  }
 
  private:
-  std::array<Value, 4> few_ = {};
+  Values() {}  // NOLINT(*-use-equals-default): leaves the union empty
+
+  Value& Place(std::size_t i) {
+    return many_.empty() ? *std::construct_at(&few_[made_++]) : many_[i];
+  }
+
+  union {
+    std::array<Value, 4> few_;  // the first `made_` exist
+  };
+  std::size_t made_ = 0;
   std::vector<Value> many_;
-  std::span<Value> values_;
 };
 
 zq7_object& Required(zq7_object* object) {

@@ -136,6 +136,11 @@ OleDate ToDate(const zq7_value* value) {
 }
 
 void Write(const Value& value, zq7_value& out) {
+  // Most results are texts, which need not be found by a visit.
+  if (const auto* const text = std::get_if<Text>(&value)) {
+    Writer{out}(*text);
+    return;
+  }
   try {
     std::visit(Writer{out}, value);
   } catch (...) {
