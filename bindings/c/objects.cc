@@ -66,7 +66,7 @@ class Values {
   }
 
   union {
-    std::array<Value, 4> few_;  // the first `made_` exist
+    std::array<Value, 4> few_;  // NOLINT(*-identifier-naming): private; the first `made_` exist
   };
   std::size_t made_ = 0;
   std::vector<Value> many_;
