@@ -17,6 +17,10 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
+// What bindings of other languages lay out by hand (docs/abi.md).
+static_assert(sizeof(zq7_value) == 24 && offsetof(zq7_value, owned) == 4 &&
+              offsetof(zq7_value, number) == 8 && offsetof(zq7_value, length) == 16);
+
 /// By `Type`.
 constexpr auto kTags = std::to_array<zq7_tag>({ZQ7_OMITTED, ZQ7_TEXT, ZQ7_BYTE, ZQ7_INTEGER,
                                                ZQ7_LONG, ZQ7_SINGLE, ZQ7_DOUBLE, ZQ7_BOOLEAN,
