@@ -121,10 +121,10 @@ PyTypeObject* NewInstanceType() {
       {Py_tp_methods, methods.data()},
       {},
   }};
-  static PyType_Spec spec = {"zq7standard._native.Object", static_cast<int>(sizeof(Instance)), 0,
-                             Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | Py_TPFLAGS_HAVE_GC,
-                             slots.data()};
-  instance_type = &Behind<PyTypeObject>(Owned(PyType_FromSpec(&spec)).release().ptr());
+  static PyType_Spec layout = {"zq7standard._native.Object", static_cast<int>(sizeof(Instance)), 0,
+                               Py_TPFLAGS_DEFAULT | Py_TPFLAGS_BASETYPE | Py_TPFLAGS_HAVE_GC,
+                               slots.data()};
+  instance_type = &Behind<PyTypeObject>(Owned(PyType_FromSpec(&layout)).release().ptr());
   return instance_type;
 }
 

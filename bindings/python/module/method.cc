@@ -156,10 +156,10 @@ PyTypeObject* NewMethodType() {
       {Py_tp_getset, computed.data()},
       {},
   }};
-  static PyType_Spec spec = {
+  static PyType_Spec layout = {
       "zq7standard._native.Method", static_cast<int>(sizeof(Method)), 0,
       Py_TPFLAGS_DEFAULT | Py_TPFLAGS_METHOD_DESCRIPTOR | Py_TPFLAGS_HAVE_VECTORCALL, slots.data()};
-  method_type = &Behind<PyTypeObject>(Owned(PyType_FromSpec(&spec)).release().ptr());
+  method_type = &Behind<PyTypeObject>(Owned(PyType_FromSpec(&layout)).release().ptr());
   return method_type;
 }
 
