@@ -187,17 +187,19 @@ zq7_status zq7_invoke_by_name(zq7_object* object, const char* operation,
   return ZQ7C::Written(result, [&] {
     Require(operation != nullptr, "no name of an operation");
     ZQ7C::RequireArguments(arguments, count);
+    const auto& owner = Required(object).object.Class();
     std::vector<ZQ7Standard::Automation::Value> positional;
     std::vector<ZQ7Standard::Automation::NamedArgument> named;
     for (const auto& [name, value] : std::span(arguments, count)) {
       if (name != nullptr) {
-        named.push_back({name, ZQ7C::ToValue(value)});
+        ZQ7C::AssignFor(owner, operation, name, value,
+                        named.emplace_back(ZQ7Standard::Automation::NamedArgument{name, {}}).value);
       } else {
         Require(named.empty(), "an argument by position after one by name");
-        positional.push_back(ZQ7C::ToValue(value));
+        ZQ7C::AssignFor(owner, operation, "", value, positional.emplace_back());
       }
     }
-    return ZQ7Standard::Automation::Invoke(Required(object).object, operation, {positional, named});
+    return ZQ7Standard::Automation::Invoke(object->object, operation, {positional, named});
   });
 }
 
@@ -229,7 +231,9 @@ zq7_status zq7_set_by_name(zq7_object* object, const char* property, const zq7_v
   return Guarded([&] {
     Require(property != nullptr, "no name of a property");
     Require(value != nullptr, "no value");
-    ZQ7Standard::Automation::SetProperty(Required(object).object, property, ZQ7C::ToValue(*value));
+    ZQ7Standard::Automation::Value converted;
+    ZQ7C::AssignFor(Required(object).object.Class(), property, "", *value, converted);
+    ZQ7Standard::Automation::SetProperty(object->object, property, converted);
   });
 }
 

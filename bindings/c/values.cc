@@ -121,12 +121,6 @@ void Assign(const zq7_value& given, Value& value) {
   }
 }
 
-Value ToValue(const zq7_value& given) {
-  Value value;
-  Assign(given, value);
-  return value;
-}
-
 TextView ToTextView(const zq7_value* value) {
   Require(value != nullptr && value->tag == ZQ7_TEXT, "not a text");
   if (value->length == 0) return {};

@@ -10,7 +10,6 @@ namespace ZQ7C {
 
 /// Makes `value` what a caller passed. Raises 5 for a tag that is not a value's, or a null pointer.
 void Assign(const zq7_value& given, ZQ7Standard::Automation::Value& value);
-ZQ7Standard::Automation::Value ToValue(const zq7_value& given);
 
 /// The text that a caller passed. Raises 5 for any other value.
 ZQ7Standard::TextView ToTextView(const zq7_value* value);

@@ -283,6 +283,9 @@ static void TestErrors(void) {
   const zq7_argument wrong_name[] = {{"Text", text}};
   CHECK(zq7_invoke_by_name(standard, "CTDATE", wrong_name, 1, NULL) == ZQ7_FAILED &&
         ErrorIs(448, "CTDATE", ""));
+  const zq7_argument early[] = {{"InDate", too_early}};
+  CHECK(zq7_invoke_by_name(standard, "AddMonth", early, 1, NULL) == ZQ7_FAILED &&
+        ErrorIs(5, "AddMonth", "InDate"));
   CHECK(zq7_create("Object", NULL, &none) == ZQ7_FAILED && none == NULL && ErrorIs(429, "", ""));
   // Wrong use of the interface itself.
   CHECK(zq7_invoke_by_name(standard, "CTDATE", wrong_order, 2, NULL) == ZQ7_FAILED &&
