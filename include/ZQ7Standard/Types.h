@@ -6,6 +6,7 @@
 #include <chrono>
 #include <compare>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -74,6 +75,12 @@ class ZQ7STANDARD_EXPORT OleDate {
   /// "2024-01-15", followed by " 09:30:00" if there is a time of day, whatever the date
   /// convention.
   Text ToText() const;
+
+  /// Reads "2024-01-15", "2024-01-15 09:30" and "2024-01-15 09:30:00", also with a "T" in the
+  /// middle, as `ToText` writes them: in the Gregorian calendar, whatever the date
+  /// convention. Returns nullopt for any other text, and for dates that do not exist or are
+  /// out of range.
+  static std::optional<OleDate> FromIso(std::string_view text);
 
   /// Dates compare as moments, not as day counts: -1.25 (06:00) is before -1.75
   /// (18:00 on the same day).

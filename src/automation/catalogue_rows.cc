@@ -57,13 +57,13 @@ ParameterRow ByRef(ParameterRow parameter) {
   return parameter;
 }
 
-OperationInfo DescribeOperation(int number, std::string_view name,
+OperationInfo DescribeOperation(int number, std::string_view name, Effect effect,
                                 std::span<const ParameterRow> parameters,
                                 std::span<const TypeInfo> types, TypeInfo result,
                                 std::span<const ExampleRow> examples) {
   ServiceSet services(ExampleServices());
   const CallContext context = {name, {}, services};
-  OperationInfo info = {.name = name, .number = number, .result = result};
+  OperationInfo info = {.name = name, .number = number, .result = result, .effect = effect};
   for (std::size_t i = 0; i < types.size(); ++i) {
     const ParameterRow& row = parameters[i];
     info.parameters.push_back({.name = row.name,
@@ -87,6 +87,11 @@ std::vector<OperationRow> MayBlock(std::vector<OperationRow> operations) {
 
 PropertyRow MayBlock(PropertyRow property) {
   property.info.may_block = true;
+  return property;
+}
+
+PropertyRow Outside(PropertyRow property) {
+  property.info.effect = Effect::kOutside;
   return property;
 }
 

@@ -84,7 +84,7 @@ struct ClassRow {
 
 /// The catalogue data of an operation. Raises if a default, or the result of an example, does not
 /// fit its type.
-OperationInfo DescribeOperation(int number, std::string_view name,
+OperationInfo DescribeOperation(int number, std::string_view name, Effect effect,
                                 std::span<const ParameterRow> parameters,
                                 std::span<const TypeInfo> types, TypeInfo result,
                                 std::span<const ExampleRow> examples);
@@ -97,29 +97,31 @@ std::array<TypeInfo, sizeof...(Parameters)> TypesOf(
 
 /// The row of an operation.
 template <auto Member>
-OperationRow Operation(int number, std::string_view name, std::span<const ParameterRow> parameters,
+OperationRow Operation(int number, std::string_view name, Effect effect,
+                       std::span<const ParameterRow> parameters,
                        std::initializer_list<ExampleRow> examples) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
-  return {DescribeOperation(number, name, parameters, types, TypeInfoOf<ResultOf<Member>>(),
+  return {DescribeOperation(number, name, effect, parameters, types, TypeInfoOf<ResultOf<Member>>(),
                             {examples.begin(), examples.size()}),
           CallMember<Member>};
 }
 
 /// The same with parameters in braces, as many as the member has.
 template <auto Member, std::size_t N>
-OperationRow Operation(int number, std::string_view name,
+OperationRow Operation(int number, std::string_view name, Effect effect,
                        const ParameterRow (&parameters)[N],  // NOLINT(*-c-arrays): counts braces
                        std::initializer_list<ExampleRow> examples) {
   static_assert(N == kParameterCount<Member>, "a name for each parameter");
-  return Operation<Member>(number, name, std::span<const ParameterRow>(parameters), examples);
+  return Operation<Member>(number, name, effect, std::span<const ParameterRow>(parameters),
+                           examples);
 }
 
 /// The row of an operation without parameters.
 template <auto Member>
-OperationRow Operation(int number, std::string_view name,
+OperationRow Operation(int number, std::string_view name, Effect effect,
                        std::initializer_list<ExampleRow> examples) {
   static_assert(kParameterCount<Member> == 0, "a name for each parameter");
-  return Operation<Member>(number, name, std::span<const ParameterRow>(), examples);
+  return Operation<Member>(number, name, effect, std::span<const ParameterRow>(), examples);
 }
 
 /// Reads a property.
@@ -155,6 +157,9 @@ PropertyRow SetOnlyProperty(int number, std::string_view name) {
           .write = WriteProperty<Setter>};
 }
 
+/// The row of a property of something outside the program, such as a device.
+PropertyRow Outside(PropertyRow property);
+
 /// The row of a property that can be read and set.
 template <auto Getter, auto Setter>
 PropertyRow Property(int number, std::string_view name) {
@@ -168,8 +173,8 @@ PropertyRow Property(int number, std::string_view name) {
 template <auto Member>
 EventInfo Event(int number, std::string_view name, std::initializer_list<ParameterRow> parameters) {
   const auto types = TypesOf(static_cast<ParametersOf<Member>*>(nullptr));
-  OperationInfo call =
-      DescribeOperation(number, name, {parameters.begin(), parameters.size()}, types, {}, {});
+  OperationInfo call = DescribeOperation(number, name, Effect::kInstance,
+                                         {parameters.begin(), parameters.size()}, types, {}, {});
   return {.name = name, .number = number, .parameters = std::move(call.parameters)};
 }
 

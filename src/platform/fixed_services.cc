@@ -2,8 +2,18 @@
 #include <ZQ7Standard/platform/date_convention.h>
 #include <ZQ7Standard/platform/time_text.h>
 
+#include <algorithm>
+#include <array>
+
 namespace ZQ7Standard {
 namespace {
+
+constexpr std::array<NamedDateConvention, 4> kConventions = {{
+    {"mdy", {FieldOrder::kMonthFirst, Era::kGregorian}},
+    {"dmy", {FieldOrder::kDayFirst, Era::kGregorian}},
+    {"mdy-buddhist", {FieldOrder::kMonthFirst, Era::kBuddhist}},
+    {"dmy-buddhist", {FieldOrder::kDayFirst, Era::kBuddhist}},
+}};
 
 class ConstantClock final : public Clock {
  public:
@@ -31,6 +41,16 @@ std::shared_ptr<Clock> FixedClock(OleDate now) {
 
 std::shared_ptr<DateConventionSource> FixedDateConvention(DateConvention convention) {
   return std::make_shared<ConstantConvention>(convention);
+}
+
+std::span<const NamedDateConvention> DateConventions() {
+  return kConventions;
+}
+
+std::optional<DateConvention> DateConventionNamed(std::string_view name) {
+  const auto row = std::ranges::find(kConventions, name, &NamedDateConvention::name);
+  if (row == kConventions.end()) return std::nullopt;
+  return row->convention;
 }
 
 }  // namespace ZQ7Standard

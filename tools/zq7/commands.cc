@@ -1,16 +1,15 @@
 #include "commands.h"
 
 #include <ZQ7Standard/Modules.h>
+#include <ZQ7Standard/platform/date_convention.h>
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>
-#include <array>
 #include <string_view>
 #include <utility>
 
 #include "call_words.h"
-#include "iso_date.h"
 #include "names.h"
 #include "wrong_use.h"
 
@@ -19,28 +18,15 @@ namespace {
 
 using namespace ZQ7Standard;
 
-struct ConventionRow {
-  std::string_view name;
-  DateConvention convention;
-};
-
-constexpr std::array<ConventionRow, 4> kConventions = {{
-    {"mdy", {FieldOrder::kMonthFirst, Era::kGregorian}},
-    {"dmy", {FieldOrder::kDayFirst, Era::kGregorian}},
-    {"mdy-buddhist", {FieldOrder::kMonthFirst, Era::kBuddhist}},
-    {"dmy-buddhist", {FieldOrder::kDayFirst, Era::kBuddhist}},
-}};
-
 constexpr const char* kMoreHelp = R"( "zq7 --help" shows the usage.)";
 
 OleDate Moment(const std::string& text) {
-  if (const auto now = ReadIsoDate(text)) return *now;
+  if (const auto now = OleDate::FromIso(text)) return *now;
   throw WrongUse("--now " + Quoted(text) + R"( is not a date such as "2024-01-15 09:30:00".)");
 }
 
 DateConvention ConventionNamed(const std::string& name) {
-  const auto row = std::ranges::find(kConventions, name, &ConventionRow::name);
-  if (row != kConventions.end()) return row->convention;
+  if (const auto convention = DateConventionNamed(name)) return *convention;
   throw WrongUse("--convention " + Quoted(name) +
                  " is not one of mdy, dmy, mdy-buddhist and dmy-buddhist.");
 }

@@ -3,9 +3,7 @@
 
 #include <ZQ7Standard/Types.h>
 
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace ZQ7Tool {
 
@@ -14,10 +12,6 @@ std::string IsoDateTime(ZQ7Standard::OleDate date);
 
 /// The same, but only the day for a date without a time of day.
 std::string IsoDate(ZQ7Standard::OleDate date);
-
-/// Reads "2024-01-15", "2024-01-15 09:30" and "2024-01-15 09:30:00", also with a "T" in the middle;
-/// nullopt for any other text and for dates that do not exist.
-std::optional<ZQ7Standard::OleDate> ReadIsoDate(std::string_view text);
 
 }  // namespace ZQ7Tool
 

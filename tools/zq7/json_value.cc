@@ -69,7 +69,7 @@ OleDate DateOfDays(const Json& days) {
 }
 
 OleDate DateOfText(const Json& text) {
-  const auto date = ReadIsoDate(StringOf(text));
+  const auto date = OleDate::FromIso(StringOf(text));
   if (!date) Refuse(text, R"(not a date such as "2024-01-15 09:30:00")");
   return *date;
 }

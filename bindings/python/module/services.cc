@@ -12,7 +12,6 @@
 #include <ZQ7Standard/platform/serial_port.h>
 #include <pybind11/stl.h>
 
-#include <array>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,22 +25,9 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
-struct NamedConvention {
-  std::string_view name;
-  DateConvention convention;
-};
-constexpr std::array<NamedConvention, 4> kConventions = {{
-    {"mdy", {FieldOrder::kMonthFirst, Era::kGregorian}},
-    {"dmy", {FieldOrder::kDayFirst, Era::kGregorian}},
-    {"mdy-buddhist", {FieldOrder::kMonthFirst, Era::kBuddhist}},
-    {"dmy-buddhist", {FieldOrder::kDayFirst, Era::kBuddhist}},
-}};
-
 DateConvention ConventionOf(const py::object& name) {
   const std::string text = py::str(name);
-  for (const NamedConvention& row : kConventions) {
-    if (row.name == text) return row.convention;
-  }
+  if (const auto convention = DateConventionNamed(text)) return *convention;
   throw py::value_error(R"(convention: "mdy", "dmy", "mdy-buddhist" or "dmy-buddhist", not )" +
                         std::string(py::repr(name)));
 }

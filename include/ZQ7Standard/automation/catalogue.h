@@ -73,11 +73,26 @@ struct Example {
   int error = 0;  ///< the run-time error number that it raises instead, if any
 };
 
+/// What a member uses besides its arguments; each also what stands above it, `kNone` to
+/// `kClock`. Bindings decide by it which results may be stored, and which operations may be
+/// called at all.
+///
+/// Up to `kRandom` an instance answers as a new one would, whatever it was asked before.
+enum class Effect : std::uint8_t {
+  kNone,        ///< equal arguments give equal results
+  kConvention,  ///< the date convention
+  kClock,       ///< the clock
+  kRandom,      ///< the random source
+  kInstance,    ///< what the instance keeps: it reads it, or is called in order to change it
+  kOutside,     ///< files, devices, printers, the registry, message boxes, ciphers
+};
+
 struct OperationInfo {
   std::string_view name;
   int number = 0;
   std::vector<ParameterInfo> parameters = {};
   TypeInfo result = {};
+  Effect effect = Effect::kNone;
   /// Whether it may wait for a file, a device, a print server or a message box, or derive
   /// keys. A host with a lock of its own should not hold it meanwhile.
   bool may_block = false;
@@ -93,6 +108,7 @@ struct PropertyInfo {
   TypeInfo type = {};
   bool readable = false;
   bool writable = false;
+  Effect effect = Effect::kInstance;
   bool may_block = false;  ///< as of an operation, when it is set
   std::string_view help = {};
   std::string_view details = {};

@@ -5,6 +5,9 @@
 #include <ZQ7Standard/Types.h>
 
 #include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
 
 namespace ZQ7Standard {
 
@@ -31,6 +34,18 @@ ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> SystemDateConvention();
 /// month-first Buddhist convention, which no locale has.
 ZQ7STANDARD_EXPORT std::shared_ptr<DateConventionSource> FixedDateConvention(
     DateConvention convention);
+
+struct NamedDateConvention {
+  std::string_view name;
+  DateConvention convention;
+};
+
+/// The conventions by the names that settings of hosts use: "mdy", "dmy", "mdy-buddhist"
+/// and "dmy-buddhist".
+ZQ7STANDARD_EXPORT std::span<const NamedDateConvention> DateConventions();
+
+/// The convention of that name, in lower case; nullopt for any other text.
+ZQ7STANDARD_EXPORT std::optional<DateConvention> DateConventionNamed(std::string_view name);
 
 }  // namespace ZQ7Standard
 

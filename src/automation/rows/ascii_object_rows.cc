@@ -8,6 +8,8 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
+using enum Effect;
+
 constexpr auto kFile = u"C:\\shop\\set.ini";
 
 std::shared_ptr<void> CreateASCIIObject(const Services& services) {
@@ -18,20 +20,21 @@ void AddSettings(ClassRow& info) {
   AddOperations(
       info,
       MayBlock({Operation<&ASCIIObject::GetValue>(
-                    1, "GetValue", {"iTextFile", "IKey"},
+                    1, "GetValue", kOutside, {"iTextFile", "IKey"},
                     {{{kFile, u"PORT"}, u"9600", {{"Setvalue", {kFile, u"Port", u"9600"}}}},
                      {{u"C:\\shop\\none.ini", u"Port"}, u""}}),
-                Operation<&ASCIIObject::Setvalue>(2, "Setvalue", {"iTextFile", "IKey", "iValue"},
+                Operation<&ASCIIObject::Setvalue>(2, "Setvalue", kOutside,
+                                                  {"iTextFile", "IKey", "iValue"},
                                                   {{{kFile, u"Port", u"9600"}}}),
-                Operation<&ASCIIObject::DeleteValue>(3, "DeleteValue", {"iTextFile", "IKey"},
-                                                     {{{kFile, u"Port"}}})}));
+                Operation<&ASCIIObject::DeleteValue>(
+                    3, "DeleteValue", kOutside, {"iTextFile", "IKey"}, {{{kFile, u"Port"}}})}));
 }
 
 void AddLogs(ClassRow& info) {
-  AddOperations(info,
-                MayBlock({Operation<&ASCIIObject::AddLog>(
-                    4, "AddLog", {"iTextFile", "iOwner", "iType", "iSuccess", "iDescription"},
-                    {{{u"C:\\shop\\sales.log", u"ADMIN", u"LOGIN", u"Y", u"user logged in"}}})}));
+  AddOperations(
+      info, MayBlock({Operation<&ASCIIObject::AddLog>(
+                4, "AddLog", kOutside, {"iTextFile", "iOwner", "iType", "iSuccess", "iDescription"},
+                {{{u"C:\\shop\\sales.log", u"ADMIN", u"LOGIN", u"Y", u"user logged in"}}})}));
 }
 
 void AddTexts(ClassRow& info) {
@@ -40,15 +43,16 @@ void AddTexts(ClassRow& info) {
   AddOperations(
       info,
       MayBlock(
-          {Operation<&ASCIIObject::GETAllTextFile>(5, "GETAllTextFile", {"iTextFile"},
+          {Operation<&ASCIIObject::GETAllTextFile>(5, "GETAllTextFile", kOutside, {"iTextFile"},
                                                    {{{kNote}, u"one\r\ntwo", two_lines}}),
            Operation<&ASCIIObject::GETLineTextFile>(
-               6, "GETLineTextFile", {"iTextFile", Optional("FromLine", 0), Optional("ToLine", 0)},
+               6, "GETLineTextFile", kOutside,
+               {"iTextFile", Optional("FromLine", 0), Optional("ToLine", 0)},
                {{{kNote, 1, 2}, u"one\r\ntwo", two_lines}, {{kNote, 1, 1}, Raises(6), two_lines}}),
            Operation<&ASCIIObject::SaveStringToTextFile>(
-               7, "SaveStringToTextFile", {"iTextFile", "iValue"}, {{{kNote, u"one"}}}),
+               7, "SaveStringToTextFile", kOutside, {"iTextFile", "iValue"}, {{{kNote, u"one"}}}),
            Operation<&ASCIIObject::SaveStringToTextFile2>(
-               8, "SaveStringToTextFile2",
+               8, "SaveStringToTextFile2", kOutside,
                {"iTextFile", "iValue", Optional("UseAppendMode", false)},
                {{{kNote, u"two", true}}})}));
 }

@@ -7,6 +7,8 @@
 
 namespace ZQ7Standard::Automation {
 
+using enum Effect;
+
 ClassRow CImageInfoRows() {
   ClassRow info = {.name = "CImageInfo",
                    .create = [](const Services& services) -> std::shared_ptr<void> {
@@ -17,7 +19,7 @@ ClassRow CImageInfoRows() {
       Property<&CImageInfo::Depth>(3, "Depth"), Property<&CImageInfo::ImageType>(4, "ImageType")};
   AddOperations(info,
                 MayBlock({Operation<&CImageInfo::ReadImageInfo>(
-                    5, "ReadImageInfo", {ByRef("sFileName")},
+                    5, "ReadImageInfo", kOutside, {ByRef("sFileName")},
                     {{{u"C:\\shop\\logo.png"}}, {{u"C:\\shop\\none\\logo.png"}, Raises(76)}})}));
   return info;
 }

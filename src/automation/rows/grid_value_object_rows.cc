@@ -11,6 +11,8 @@
 namespace ZQ7Standard::Automation {
 namespace {
 
+using enum Effect;
+
 /// Passes on the events of a grid.
 class GridEvents final : public GridValueListener {
  public:
@@ -55,22 +57,24 @@ ClassRow GridValueObjectRows() {
                                                            {ByRef("Row"), ByRef("Col")})};
   AddOperations(
       info,
-      {Operation<&GridValueObject::SetFirst>(5, "SetFirst",
+      {Operation<&GridValueObject::SetFirst>(5, "SetFirst", kInstance,
                                              {"Rows", "Cols", "FixedCols", "FixedRows"},
                                              {{{1, 3, 1, 0}, true}, {{1, 0, 0, 0}, false}}),
-       Operation<&GridValueObject::SetRows>(6, "SetRows", {"Rows"}, {{{5}}}),
-       Operation<&GridValueObject::SetCols>(7, "SetCols", {"Cols"}, {{{3}}}),
+       Operation<&GridValueObject::SetRows>(6, "SetRows", kInstance, {"Rows"}, {{{5}}}),
+       Operation<&GridValueObject::SetCols>(7, "SetCols", kInstance, {"Cols"}, {{{3}}}),
        Operation<&GridValueObject::Setvalue>(
-           8, "Setvalue", {"Row", "Col", "Value"},
+           8, "Setvalue", kInstance, {"Row", "Col", "Value"},
            {{{4, 2, 12.5}, true, {{"SetCols", {3}}}}, {{0, 3, 12.5}, false, {{"SetCols", {3}}}}}),
-       Operation<&GridValueObject::GetValue>(9, "GetValue", {"Row", "Col"},
+       Operation<&GridValueObject::GetValue>(9, "GetValue", kInstance, {"Row", "Col"},
                                              {{{1, 1}, 2, kTwoRows}, {{0, 0}, Raises(9)}}),
-       Operation<&GridValueObject::RemaveItem>(10, "RemaveItem", {"Row"},
+       Operation<&GridValueObject::RemaveItem>(10, "RemaveItem", kInstance, {"Row"},
                                                {{{0}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::ResetRow>(11, "ResetRow", {"Row"}, {{{1}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::Clear>(12, "Clear", {{{}, Omitted{}, kTwoRows}}),
-       Operation<&GridValueObject::SumCol>(13, "SumCol", {"Col"}, {{{1}, 2, kTwoRows}}),
-       Operation<&GridValueObject::SumRow>(14, "SumRow", {"Row"}, {{{1}, 3, kTwoRows}})});
+       Operation<&GridValueObject::ResetRow>(11, "ResetRow", kInstance, {"Row"},
+                                             {{{1}, Omitted{}, kTwoRows}}),
+       Operation<&GridValueObject::Clear>(12, "Clear", kInstance, {{{}, Omitted{}, kTwoRows}}),
+       Operation<&GridValueObject::SumCol>(13, "SumCol", kInstance, {"Col"}, {{{1}, 2, kTwoRows}}),
+       Operation<&GridValueObject::SumRow>(14, "SumRow", kInstance, {"Row"},
+                                           {{{1}, 3, kTwoRows}})});
   return info;
 }
 
