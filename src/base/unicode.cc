@@ -54,6 +54,10 @@ void AppendUtf16(Text& text, char32_t c) {
   }
 }
 
+bool IsSurrogate(char32_t c) {
+  return IsHighSurrogate(c) || IsLowSurrogate(c);
+}
+
 /// A lead byte of UTF-8: its bits, the length of the sequence, and the smallest character that
 /// needs that length.
 struct Lead {
@@ -84,12 +88,16 @@ char32_t DecodeFront(std::string_view bytes, std::size_t& length) {
       if ((tail & 0xC0) != 0x80) return kReplacement;
       c = (c << 6) | (tail & 0x3FU);
     }
-    const bool surrogate = IsHighSurrogate(c) || IsLowSurrogate(c);
-    if (c < lead.smallest || c > 0x10FFFF || surrogate) return kReplacement;
+    if (c < lead.smallest || c > 0x10FFFF || IsSurrogate(c)) return kReplacement;
     length = lead.length;
     return c;
   }
   return kReplacement;
+}
+
+/// Whether the code units at `place` and after it are one character.
+bool IsPairAt(TextView text, std::size_t place) {
+  return IsHighSurrogate(text[place]) && place + 1 < text.size() && IsLowSurrogate(text[place + 1]);
 }
 
 }  // namespace
@@ -99,14 +107,25 @@ std::string Utf8(TextView text) {
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i) {
     char32_t c = text[i];
-    if (IsHighSurrogate(c) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+    if (IsPairAt(text, i)) {
       c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00U);
-    } else if (IsHighSurrogate(c) || IsLowSurrogate(c)) {
+    } else if (IsSurrogate(c)) {
       c = kReplacement;
     }
     AppendUtf8(bytes, c);
   }
   return bytes;
+}
+
+bool IsWellFormed(TextView text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsPairAt(text, i)) {
+      ++i;
+    } else if (IsSurrogate(text[i])) {
+      return false;
+    }
+  }
+  return true;
 }
 
 Text FromUtf8(std::string_view bytes) {
