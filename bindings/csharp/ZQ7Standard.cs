@@ -3774,6 +3774,118 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       return Handle.InvokeText(107, &value_, 1);
     }
   }
+
+  /// <summary>Starts a program, and waits for its end if asked to.</summary>
+  /// <param name="Program"><c>Program</c> is a path, or the name of an installed program.
+  /// <c>WaitSeconds</c> is at most 1000000; any other value raises 5, and so does an empty
+  /// <c>Program</c>.</param>
+  /// <param name="Arguments">It is started directly, never through a shell: each of the
+  /// <c>Arguments</c> reaches it as it is.</param>
+  /// <param name="WaitSeconds">Returns the process number at once if <c>WaitSeconds</c> is 0; the
+  /// program then outlives the host. <c>WaitSeconds</c> is at most 1000000; any other value raises
+  /// 5, and so does an empty <c>Program</c>.</param>
+  /// <param name="Folder">It reads nothing, writes where the host writes, and starts in the
+  /// <c>Folder</c>, or in the host's own.</param>
+  /// <returns>For example, <c>ExecuteProgram("true", [], 5)</c> returns <c>0</c>.</returns>
+  /// <exception cref="RunTimeException">Raises 53 for a program and 76 for a folder that do not
+  /// exist, 70 for what may not be executed.</exception>
+  /// <remarks>
+  /// <para><c>Program</c> is a path, or the name of an installed program. It is started directly,
+  /// never through a shell: each of the <c>Arguments</c> reaches it as it is. It reads nothing,
+  /// writes where the host writes, and starts in the <c>Folder</c>, or in the host's own.</para>
+  /// <para>Returns the process number at once if <c>WaitSeconds</c> is 0; the program then outlives
+  /// the host. Otherwise returns the exit status, 128 and the signal's number if a signal ended it.
+  /// A program that takes longer is told to end, ended two seconds later, and 70 is raised.
+  /// <c>WaitSeconds</c> is at most 1000000; any other value raises 5, and so does an empty
+  /// <c>Program</c>. Raises 53 for a program and 76 for a folder that do not exist, 70 for what may
+  /// not be executed.</para>
+  /// </remarks>
+  public int ExecuteProgram(string Program, string[] Arguments = null, double WaitSeconds = 0,
+      string Folder = "") {
+    using (var memory_ = new NativeMemory())
+    fixed (char* text0_ = Program, text3_ = Folder) {
+      Value* values_ = stackalloc Value[4];
+      values_[0].Set(text0_, Program);
+      values_[1].Set(memory_.List(Arguments), Arguments);
+      values_[2].Set(WaitSeconds);
+      values_[3].Set(text3_, Folder);
+      return Handle.Invoke(108, values_, (Folder == null || Folder.Length > 0) ? 4 : WaitSeconds !=
+          0 ? 3 : Arguments != null ? 2 : 1).TakeLong();
+    }
+  }
+
+  /// <summary>Opens an address with the user's browser.</summary>
+  /// <param name="Address"><c>Address</c> begins with "http://", "https://", "mailto:" or "file:";
+  /// what an address cannot hold, such as Thai letters, is percent-encoded.</param>
+  /// <exception cref="RunTimeException">Raises 429 if there is no display.</exception>
+  /// <remarks>
+  /// <para><c>Address</c> begins with "http://", "https://", "mailto:" or "file:"; what an address
+  /// cannot hold, such as Thai letters, is percent-encoded. A file must exist and be a document or
+  /// a folder, not a program. Any other address raises 5. Raises 429 if there is no display.</para>
+  /// </remarks>
+  public void OpenBrowser(string Address) {
+    fixed (char* text0_ = Address) {
+      var value_ = new Value();
+      value_.Set(text0_, Address);
+      Handle.Invoke(109, &value_, 1);
+    }
+  }
+
+  /// <summary>Begins a message in the user's mail program.</summary>
+  /// <param name="To"><c>To</c> has addresses separated by ";" or ","; nothing in it can attach a
+  /// file.</param>
+  /// <param name="Subject"></param>
+  /// <param name="Body"></param>
+  /// <param name="Attachments">Raises 53 for one of the <c>Attachments</c> that does not exist, 429
+  /// if there is no display.</param>
+  /// <exception cref="RunTimeException">Raises 53 for one of the <c>Attachments</c> that does not
+  /// exist, 429 if there is no display.</exception>
+  /// <remarks>
+  /// <para><c>To</c> has addresses separated by ";" or ","; nothing in it can attach a file. Raises
+  /// 53 for one of the <c>Attachments</c> that does not exist, 429 if there is no display.</para>
+  /// </remarks>
+  public void OpenMail(string To, string Subject = "", string Body = "",
+      string[] Attachments = null) {
+    using (var memory_ = new NativeMemory())
+    fixed (char* text0_ = To, text1_ = Subject, text2_ = Body) {
+      Value* values_ = stackalloc Value[4];
+      values_[0].Set(text0_, To);
+      values_[1].Set(text1_, Subject);
+      values_[2].Set(text2_, Body);
+      values_[3].Set(memory_.List(Attachments), Attachments);
+      Handle.Invoke(110, values_, Attachments != null ? 4 : (Body == null || Body.Length > 0) ? 3 :
+          (Subject == null || Subject.Length > 0) ? 2 : 1);
+    }
+  }
+
+  /// <summary>Opens a new appointment in the user's calendar.</summary>
+  /// <param name="Subject"></param>
+  /// <param name="StartDate">Raises 5 if <c>EndDate</c> is before <c>StartDate</c>, 429 if there is
+  /// no display.</param>
+  /// <param name="EndDate">Raises 5 if <c>EndDate</c> is before <c>StartDate</c>, 429 if there is
+  /// no display.</param>
+  /// <param name="Place"></param>
+  /// <param name="Body"></param>
+  /// <exception cref="RunTimeException">Raises 5 if <c>EndDate</c> is before <c>StartDate</c>, 429
+  /// if there is no display.</exception>
+  /// <remarks>
+  /// <para>The dates are local and have a time of day; the appointment (RFC 5545) goes to the
+  /// calendar in UTC, in a file that only the user may read. Raises 5 if <c>EndDate</c> is before
+  /// <c>StartDate</c>, 429 if there is no display.</para>
+  /// </remarks>
+  public void OpenCalendar(string Subject, DateTime StartDate, DateTime EndDate, string Place = "",
+      string Body = "") {
+    fixed (char* text0_ = Subject, text3_ = Place, text4_ = Body) {
+      Value* values_ = stackalloc Value[5];
+      values_[0].Set(text0_, Subject);
+      values_[1].Set(StartDate);
+      values_[2].Set(EndDate);
+      values_[3].Set(text3_, Place);
+      values_[4].Set(text4_, Body);
+      Handle.Invoke(111, values_, (Body == null || Body.Length > 0) ? 5 : (Place == null ||
+          Place.Length > 0) ? 4 : 3);
+    }
+  }
 }
 
 /// <summary>A picture for <c>PrintObject</c>, with its own size.</summary>
@@ -3864,7 +3976,8 @@ public sealed unsafe partial class SerialPort : ZQ7Object {
 [StructLayout(LayoutKind.Explicit, Size = 24)]
 internal unsafe struct Value {
   private const int Null = 1, TextTag = 2, IntegerTag = 3, LongTag = 4, SingleTag = 5,
-                    DoubleTag = 6, BooleanTag = 7, DateTag = 8, CurrencyTag = 9, ObjectTag = 11;
+                    DoubleTag = 6, BooleanTag = 7, DateTag = 8, CurrencyTag = 9, TextListTag = 10,
+                    ObjectTag = 11;
   private const int MillisecondsPerDay = 86400000;
   private const long DayZero = 599264352000000000;  // 1899-12-30
 
@@ -3912,6 +4025,13 @@ internal unsafe struct Value {
     _tag = value == null ? 0 : TextTag;
     _pointer = text;
     _length = value == null ? 0 : (ulong)value.Length;
+  }
+
+  /// `list` is `texts` in memory of the caller's. Null is left out.
+  internal void Set(Value* list, string[] texts) {
+    _tag = texts == null ? 0 : TextListTag;
+    _pointer = list;
+    _length = texts == null ? 0 : (ulong)texts.Length;
   }
 
   /// The caller keeps `value` alive during the call.
@@ -4077,14 +4197,33 @@ internal static unsafe class Native {
 }
 
 /// Memory for a table that the library copies.
-internal sealed class NativeMemory : IDisposable {
+internal sealed unsafe class NativeMemory : IDisposable {
   private readonly List<IntPtr> _blocks = new List<IntPtr>();
 
   internal IntPtr Utf8(string text) {
     byte[] bytes = Native.Utf8(text);
-    IntPtr block = Marshal.AllocHGlobal(bytes.Length);
-    _blocks.Add(block);
+    IntPtr block = Block(bytes.Length);
     Marshal.Copy(bytes, 0, block, bytes.Length);
+    return block;
+  }
+
+  /// The texts as values; a null among them is the empty text. Null for no list.
+  internal Value* List(string[] texts) {
+    if (texts == null) return null;
+    var values = (Value*)Block((texts.Length + 1) * sizeof(Value));
+    for (int i = 0; i < texts.Length; ++i) {
+      string text = texts[i] ?? "";
+      var units = (char*)Block((text.Length + 1) * sizeof(char));
+      for (int j = 0; j < text.Length; ++j) units[j] = text[j];
+      values[i] = new Value();
+      values[i].Set(units, text);
+    }
+    return values;
+  }
+
+  private IntPtr Block(int size) {
+    IntPtr block = Marshal.AllocHGlobal(size);
+    _blocks.Add(block);
     return block;
   }
 

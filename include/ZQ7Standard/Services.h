@@ -16,6 +16,7 @@ namespace ZQ7Standard {
 class BlockCipher;
 class Clock;
 class DateConventionSource;
+class Desktop;
 class FileCopier;
 class FileReader;
 class FileRewriter;
@@ -24,9 +25,11 @@ class FileWriter;
 class Folders;
 class MessageBox;
 class PrinterList;
+class Programs;
 class RandomSource;
 class Registry;
 class TimeTextSource;
+class TimeZone;
 
 /// Makes a cipher for one call; returns null if it cannot.
 using BlockCipherFactory = std::function<std::unique_ptr<BlockCipher>()>;
@@ -57,6 +60,9 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     drives                        every drive is the root folder
 ///     registry                      the user's and the machine's, for the object alone
 ///     printers                      the print server's, for the object alone
+///     programs                      the machine's programs, with `drives`
+///     desktop                       the programs that the user chose, with `drives`
+///     time_zone                     the process's, for the object alone
 ///     os                            the environment variable "OS", asked each time
 ///
 /// Copies of an object share its services. A host that gives the same services to objects
@@ -78,6 +84,9 @@ struct Services {
   DriveMap drives = {};
   std::shared_ptr<Registry> registry = nullptr;
   std::shared_ptr<PrinterList> printers = nullptr;
+  std::shared_ptr<Programs> programs = nullptr;
+  std::shared_ptr<Desktop> desktop = nullptr;
+  std::shared_ptr<TimeZone> time_zone = nullptr;
   std::optional<Text> os = std::nullopt;
 };
 

@@ -806,6 +806,46 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// detects accidental changes only: anyone can make two texts with the same digest.
   Text CalculateMD5(TextView strMessage) const;
 
+  // --- Programs, addresses, mail, appointments: src/io/programs/programs.cc; docs/system.md ---
+
+  /// Starts a program, and waits for its end if asked to.
+  ///
+  /// `Program` is a path, or the name of an installed program. It is started directly, never
+  /// through a shell: each of the `Arguments` reaches it as it is. It reads nothing, writes
+  /// where the host writes, and starts in the `Folder`, or in the host's own.
+  ///
+  /// Returns the process number at once if `WaitSeconds` is 0; the program then outlives the
+  /// host. Otherwise returns the exit status, 128 and the signal's number if a signal ended
+  /// it. A program that takes longer is told to end, ended two seconds later, and 70 is
+  /// raised. `WaitSeconds` is at most 1000000; any other value raises 5, and so does an empty
+  /// `Program`. Raises 53 for a program and 76 for a folder that do not exist, 70 for what
+  /// may not be executed.
+  std::int32_t ExecuteProgram(TextView Program, const std::vector<Text>& Arguments = {},
+                              double WaitSeconds = 0, TextView Folder = {}) const;
+
+  /// Opens an address with the user's browser.
+  ///
+  /// `Address` begins with "http://", "https://", "mailto:" or "file:"; what an address
+  /// cannot hold, such as Thai letters, is percent-encoded. A file must exist and be a
+  /// document or a folder, not a program. Any other address raises 5. Raises 429 if there is
+  /// no display.
+  void OpenBrowser(TextView Address) const;
+
+  /// Begins a message in the user's mail program.
+  ///
+  /// `To` has addresses separated by ";" or ","; nothing in it can attach a file. Raises 53
+  /// for one of the `Attachments` that does not exist, 429 if there is no display.
+  void OpenMail(TextView To, TextView Subject = {}, TextView Body = {},
+                const std::vector<Text>& Attachments = {}) const;
+
+  /// Opens a new appointment in the user's calendar.
+  ///
+  /// The dates are local and have a time of day; the appointment (RFC 5545) goes to the
+  /// calendar in UTC, in a file that only the user may read. Raises 5 if `EndDate` is before
+  /// `StartDate`, 429 if there is no display.
+  void OpenCalendar(TextView Subject, OleDate StartDate, OleDate EndDate, TextView Place = {},
+                    TextView Body = {}) const;
+
  private:
   std::shared_ptr<ServiceSet> services_;
 };

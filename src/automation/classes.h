@@ -28,6 +28,7 @@ ClassRow SerialPortRows();
 void AddDateOperations(ClassRow& owner);
 void AddNumberOperations(ClassRow& owner);
 void AddTextOperations(ClassRow& owner);
+void AddSystemOperations(ClassRow& owner);
 
 }  // namespace ZQ7Standard::Automation
 

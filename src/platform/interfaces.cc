@@ -1,6 +1,7 @@
 #include <ZQ7Standard/platform/block_cipher.h>
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/desktop.h>
 #include <ZQ7Standard/platform/file_contents.h>
 #include <ZQ7Standard/platform/file_copier.h>
 #include <ZQ7Standard/platform/file_rewrite.h>
@@ -11,10 +12,12 @@
 #include <ZQ7Standard/platform/print_picture.h>
 #include <ZQ7Standard/platform/printer_settings.h>
 #include <ZQ7Standard/platform/printers.h>
+#include <ZQ7Standard/platform/programs.h>
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
 #include <ZQ7Standard/platform/time_text.h>
+#include <ZQ7Standard/platform/time_zone.h>
 
 namespace ZQ7Standard {
 
@@ -23,6 +26,7 @@ namespace ZQ7Standard {
 BlockCipher::~BlockCipher() = default;
 Clock::~Clock() = default;
 DateConventionSource::~DateConventionSource() = default;
+Desktop::~Desktop() = default;
 FileCopier::~FileCopier() = default;
 FileReader::~FileReader() = default;
 FileRewriter::~FileRewriter() = default;
@@ -34,11 +38,13 @@ PrintDocument::~PrintDocument() = default;
 PrintPicture::~PrintPicture() = default;
 PrinterList::~PrinterList() = default;
 PrinterSettings::~PrinterSettings() = default;
+Programs::~Programs() = default;
 RandomSource::~RandomSource() = default;
 Registry::~Registry() = default;
 RegistryKey::~RegistryKey() = default;
 SerialPort::~SerialPort() = default;
 TimeTextSource::~TimeTextSource() = default;
+TimeZone::~TimeZone() = default;
 
 void PrinterList::DoOperation(const std::function<void()>& steps) {
   steps();

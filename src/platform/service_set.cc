@@ -76,6 +76,18 @@ PrinterList& ServiceSet::Printers() {
   return Completed(services_.printers, [] { return SystemPrinters(); });
 }
 
+Programs& ServiceSet::Programs() {
+  return Completed(services_.programs, [this] { return SystemPrograms(services_.drives); });
+}
+
+Desktop& ServiceSet::Desktop() {
+  return Completed(services_.desktop, [this] { return SystemDesktop(services_.drives); });
+}
+
+TimeZone& ServiceSet::Zone() {
+  return Completed(services_.time_zone, SystemTimeZone);
+}
+
 OleDate ServiceSet::Now() {
   return Completed(services_.clock, SharedClock).Now();
 }

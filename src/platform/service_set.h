@@ -5,6 +5,7 @@
 #include <ZQ7Standard/platform/block_cipher.h>
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/desktop.h>
 #include <ZQ7Standard/platform/file_contents.h>
 #include <ZQ7Standard/platform/file_copier.h>
 #include <ZQ7Standard/platform/file_rewrite.h>
@@ -12,9 +13,11 @@
 #include <ZQ7Standard/platform/folders.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/printers.h>
+#include <ZQ7Standard/platform/programs.h>
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/time_text.h>
+#include <ZQ7Standard/platform/time_zone.h>
 
 namespace ZQ7Standard {
 
@@ -37,6 +40,9 @@ class ServiceSet {
   ZQ7Standard::RandomSource& Random();
   ZQ7Standard::Registry& Registry();
   ZQ7Standard::PrinterList& Printers();
+  ZQ7Standard::Programs& Programs();
+  ZQ7Standard::Desktop& Desktop();
+  TimeZone& Zone();
 
   /// The local date and time, and that day at 00:00.
   OleDate Now();

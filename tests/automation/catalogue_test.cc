@@ -52,6 +52,7 @@ std::string CppType(const TypeInfo& type, bool parameter, bool tells_missing) {
   if (type.type == Type::kObject) {
     return "const shared_ptr<" + std::string(type.object_class) + ">&";
   }
+  if (parameter && type.type == Type::kTextList) return "const vector<Text>&";
   static const std::map<Type, std::string> names = {
       {Type::kNothing, "void"},         {Type::kText, "Text"},
       {Type::kByte, "uint8_t"},         {Type::kInteger, "int16_t"},
@@ -68,6 +69,7 @@ std::string CppDefault(const ParameterInfo& parameter) {
   if (const auto* text = std::get_if<Text>(&value)) {
     return text->empty() ? "{}" : "u\"" + Utf8(*text) + "\"";
   }
+  if (std::holds_alternative<TextList>(value)) return "{}";
   if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
   if (const auto* number = std::get_if<std::int16_t>(&value)) return std::to_string(*number);
   if (std::holds_alternative<float>(value)) return Shown(std::get<float>(value));

@@ -222,7 +222,9 @@ bool IsNullableValue(const ParameterInfo& parameter) {
 std::string DefaultValue(const ParameterInfo& parameter) {
   const Value& value = parameter.default_value;
   const TypeInfo& type = parameter.type;
-  if (std::holds_alternative<Omitted>(value)) return "null";
+  if (std::holds_alternative<Omitted>(value) || std::holds_alternative<TextList>(value)) {
+    return "null";
+  }
   if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
   const std::string literal = ZQ7Tool::Literal(value, type);
   if (type.enumeration == nullptr) return literal + std::string(RowOf(type).suffix);
@@ -257,7 +259,9 @@ std::string TextPointer(std::size_t place) {
 std::string Passed(const ParameterInfo& parameter, std::size_t place, const std::string& value) {
   const std::string name = Name(parameter.name);
   const std::string cast = parameter.type.enumeration != nullptr ? "(int)" : "";
-  if (parameter.type.type == Type::kTextList) throw std::logic_error("a list as an argument");
+  if (parameter.type.type == Type::kTextList) {
+    return value + ".Set(memory_.List(" + name + "), " + name + ");";
+  }
   if (parameter.type.type == Type::kText) {
     return value + ".Set(" + TextPointer(place) + ", " + name + ");";
   }
@@ -314,6 +318,12 @@ std::vector<std::string> Returned(const OperationInfo& operation, const std::str
   return kept;
 }
 
+/// The statements that hold memory, the last of which begins a block.
+std::string OpenedBlock(std::string statements) {
+  if (!statements.empty()) statements.replace(statements.size() - 1, 1, " {\n");
+  return statements;
+}
+
 std::string OperationBody(const OperationInfo& operation) {
   const auto& parameters = operation.parameters;
   const std::string number = std::to_string(operation.number);
@@ -336,8 +346,11 @@ std::string OperationBody(const OperationInfo& operation) {
     statements.push_back(std::move(statement));
   }
 
-  const std::string pinned = PinnedTexts(parameters);
-  std::string body = " {\n" + Replaced(pinned, ")\n", ") {\n");
+  const bool lists = std::ranges::any_of(
+      parameters, [](const ParameterInfo& p) { return p.type.type == Type::kTextList; });
+  const std::string pinned =
+      (lists ? "    using (var memory_ = new NativeMemory())\n" : "") + PinnedTexts(parameters);
+  std::string body = " {\n" + OpenedBlock(pinned);
   const std::size_t indent = pinned.empty() ? 4 : 6;
   for (const std::string& statement : statements) {
     body += ZQ7Tool::Wrapped(std::string(indent, ' '), statement, indent + 4, kWidth);

@@ -109,6 +109,13 @@ constexpr auto kDevices = std::to_array<Task>({
     {"send a text to a serial device", "PeripheralObject.SendCommMsg"},
 });
 
+constexpr auto kPrograms = std::to_array<Task>({
+    {"start a program", "StandardObject.ExecuteProgram"},
+    {"open a page or a document", "StandardObject.OpenBrowser"},
+    {"begin a message", "StandardObject.OpenMail"},
+    {"open an appointment", "StandardObject.OpenCalendar"},
+});
+
 constexpr auto kSubjects = std::to_array<Subject>({
     {"Money and numbers", kMoney},
     {"Dates and times", kDates},
@@ -117,6 +124,7 @@ constexpr auto kSubjects = std::to_array<Subject>({
     {"Files and the registry", kFiles},
     {"Grids and bits", kNumbers},
     {"Printers and devices", kDevices},
+    {"Programs and the desktop", kPrograms},
 });
 
 }  // namespace

@@ -208,6 +208,10 @@ _zq7_operations="
   StandardObject.Encrypt
   StandardObject.Decrypt
   StandardObject.CalculateMD5
+  StandardObject.ExecuteProgram
+  StandardObject.OpenBrowser
+  StandardObject.OpenMail
+  StandardObject.OpenCalendar
 "
 _zq7_others="
   ASCIIObject.DisableMsgLevel

@@ -15,6 +15,7 @@ ClassRow StandardObjectRows() {
   AddDateOperations(info);
   AddNumberOperations(info);
   AddTextOperations(info);
+  AddSystemOperations(info);
   return info;
 }
 

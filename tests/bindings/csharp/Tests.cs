@@ -64,6 +64,8 @@ internal static class Tests {
       { "enumeration as default", () => standard.Instr2(1, "abc", "C"), 0 },
       { "enumeration chosen",
         () => standard.Instr2(1, "abc", "C", ZQ7CompareMethod.ZQ7CompareText), 3 },
+      { "list as argument", () => standard.ExecuteProgram(
+            "sh", new[] { "-c", "[ \"$1\" = 'ก \"b' ] && exit 3", null, "ก \"b" }, 30), 3 },
       { "list", () => string.Join("|", standard.ArrayString2("a", "", "c")), "a|c" },
       { "long list", () => standard.GETMonthTextArray(true, true)[12], "ธันวาคม" },
       { "left out and given differ",

@@ -124,6 +124,7 @@ class Values(unittest.TestCase):
             ("left out", standard.Null2Zero(), 0.0),
             ("an enumerator", standard.FormatTDate2(NOW, CTDateType.ZQ7YYYY_MM_DD), "2024-01-15"),
             ("by keyword", baht.MoneyText(useEnglish=True, inDouble=1), "One baht"),
+            ("a list as argument", standard.ExecuteProgram("sh", ("-c", "exit 3"), 30), 3),
             ("a list", standard.ArrayString("a", "b"), ["a", "b"]),
             ("Latin-1", standard.ReverseString("aé"), "éa"),
             ("Thai", standard.ReverseString("กข"), "ขก"),
