@@ -1,8 +1,8 @@
 # Finds the libraries that draw and print pages, as the target ZQ7Standard::printing: Cairo,
-# Pango, Fontconfig and the client library of CUPS.
+# Pango, Fontconfig, libjpeg and the client library of CUPS.
 find_package(PkgConfig QUIET)
 if(PkgConfig_FOUND)
-  pkg_check_modules(ZQ7_PAGES QUIET IMPORTED_TARGET cairo-pdf pangocairo fontconfig)
+  pkg_check_modules(ZQ7_PAGES QUIET IMPORTED_TARGET cairo-pdf pangocairo fontconfig libjpeg)
 endif()
 find_path(ZQ7_CUPS_INCLUDE_DIR cups/cups.h)
 find_library(ZQ7_CUPS_LIBRARY cups)

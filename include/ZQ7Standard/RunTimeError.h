@@ -36,6 +36,7 @@ enum class Error : std::int32_t {
   kNamedArgumentNotFound = 448,
   kArgumentNotOptional = 449,
   kWrongNumberOfArguments = 450,
+  kInvalidPicture = 481,
   kPrinterError = 482,
   kNoSuchPort = 8002,
   kPortAlreadyOpen = 8005,

@@ -24,6 +24,7 @@ class FileStatusSource;
 class FileWriter;
 class Folders;
 class MessageBox;
+class PictureEncoder;
 class PrinterList;
 class Programs;
 class RandomSource;
@@ -62,6 +63,7 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     printers                      the print server's, for the object alone
 ///     programs                      the machine's programs, with `drives`
 ///     desktop                       the programs that the user chose, with `drives`
+///     picture_encoder               the printing module's
 ///     time_zone                     the process's, for the object alone
 ///     os                            the environment variable "OS", asked each time
 ///
@@ -86,6 +88,7 @@ struct Services {
   std::shared_ptr<PrinterList> printers = nullptr;
   std::shared_ptr<Programs> programs = nullptr;
   std::shared_ptr<Desktop> desktop = nullptr;
+  std::shared_ptr<PictureEncoder> picture_encoder = nullptr;
   std::shared_ptr<TimeZone> time_zone = nullptr;
   std::optional<Text> os = std::nullopt;
 };

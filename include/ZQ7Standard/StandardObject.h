@@ -13,6 +13,7 @@
 
 namespace ZQ7Standard {
 
+class PrintPicture;
 class ServiceSet;
 
 /// Dates, payment terms, numbers, lists, keys, bar codes, ciphers and digests.
@@ -845,6 +846,21 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// `StartDate`, 429 if there is no display.
   void OpenCalendar(TextView Subject, OleDate StartDate, OleDate EndDate, TextView Place = {},
                     TextView Body = {}) const;
+
+  // --- Pictures: src/io/images/picture_file.cc; docs/system.md ---
+
+  /// Writes a picture to a JPEG file.
+  ///
+  /// `Picture` is one that `PrintObject` prints; transparent parts become white. A JPEG is
+  /// decoded and written anew. Its density is kept, what else the file told is not: the place
+  /// where a photo was taken, or which side is up. The file is written whole or not at all, in
+  /// place of one that exists.
+  ///
+  /// `Quality` is 1 to 100; any other raises 5, and so does no picture. Raises 481 if the
+  /// picture is damaged, has a side of more than 65500 pixels or more than 100 million in all,
+  /// 429 without the printing module, 57, 61, 70, 75 or 76 if the file cannot be written.
+  void SavePictureAsJPEG(const std::shared_ptr<PrintPicture>& Picture, TextView FileName,
+                         std::int16_t Quality = 75) const;
 
  private:
   std::shared_ptr<ServiceSet> services_;

@@ -12,11 +12,11 @@
 #include "formats/picture_size.h"
 #include "printing/handle.h"
 #include "printing/page_text.h"
+#include "printing/png_surface.h"
 
 namespace ZQ7Standard {
 namespace {
 
-using Surface = Handle<cairo_surface_t, cairo_surface_destroy>;
 using Context = Handle<cairo_t, cairo_destroy>;
 
 // Millimetres from the corner: the range of Cairo's coordinates.
@@ -39,19 +39,6 @@ cairo_status_t Append(void* file, const unsigned char* data, unsigned int size) 
     return CAIRO_STATUS_NO_MEMORY;
   }
   return CAIRO_STATUS_SUCCESS;
-}
-
-/// Reads the next bytes of `file`, a `std::string_view`, for Cairo.
-cairo_status_t ReadOn(void* file, unsigned char* data, unsigned int size) {
-  auto& rest = *static_cast<std::string_view*>(file);
-  if (rest.size() < size) return CAIRO_STATUS_READ_ERROR;
-  rest.copy(reinterpret_cast<char*>(data), size);
-  rest.remove_prefix(size);
-  return CAIRO_STATUS_SUCCESS;
-}
-
-Surface PngPicture(std::string_view file) {
-  return Surface(cairo_image_surface_create_from_png_stream(ReadOn, &file));
 }
 
 /// A picture without pixels, whose file is embedded in the page unchanged.
@@ -91,7 +78,7 @@ class Page {
     if (!pixels)
       throw RunTimeError(Error::kPrinterError, "the picture is neither a PNG nor a JPEG");
     const bool is_png = pixels->format == PictureFormat::kPng;
-    const Surface picture = is_png ? PngPicture(file) : JpegPicture(file, *pixels);
+    const Surface picture = is_png ? PngSurface(file) : JpegPicture(file, *pixels);
     Check(cairo_surface_status(picture.get()));
     cairo_t* const page = context_.get();
     cairo_save(page);

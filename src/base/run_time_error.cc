@@ -32,6 +32,7 @@ constexpr auto kErrors = std::to_array<ErrorInfo>({
     {Error::kNamedArgumentNotFound, "NamedArgumentNotFound", "named argument not found"},
     {Error::kArgumentNotOptional, "ArgumentNotOptional", "argument not optional"},
     {Error::kWrongNumberOfArguments, "WrongNumberOfArguments", "wrong number of arguments"},
+    {Error::kInvalidPicture, "InvalidPicture", "invalid picture"},
     {Error::kPrinterError, "PrinterError", "printer error"},
     {Error::kNoSuchPort, "NoSuchPort", "no such port"},
     {Error::kPortAlreadyOpen, "PortAlreadyOpen", "port already open"},

@@ -8,6 +8,7 @@
 #include <ZQ7Standard/platform/file_status.h>
 #include <ZQ7Standard/platform/folders.h>
 #include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/picture_encoder.h>
 #include <ZQ7Standard/platform/print_document.h>
 #include <ZQ7Standard/platform/print_picture.h>
 #include <ZQ7Standard/platform/printer_settings.h>
@@ -34,6 +35,7 @@ FileStatusSource::~FileStatusSource() = default;
 FileWriter::~FileWriter() = default;
 Folders::~Folders() = default;
 MessageBox::~MessageBox() = default;
+PictureEncoder::~PictureEncoder() = default;
 PrintDocument::~PrintDocument() = default;
 PrintPicture::~PrintPicture() = default;
 PrinterList::~PrinterList() = default;

@@ -5,14 +5,16 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 /// Modules hold what needs libraries that most hosts never use. A shared core loads a module on
 /// first use; a static core has its modules linked in.
 namespace ZQ7Standard {
 
-/// The functions of the printing module.
+/// The functions of the printing module: `SystemPrinters` and `SystemPictureEncoder` call them.
 struct PrintingFunctions {
   std::shared_ptr<PrinterList> (*system_printers)(std::filesystem::path pdf_folder);
+  std::string (*to_jpeg)(std::string_view picture, int quality);
 };
 
 /// The functions of a module, or the reason why they are missing.

@@ -84,6 +84,10 @@ Desktop& ServiceSet::Desktop() {
   return Completed(services_.desktop, [this] { return SystemDesktop(services_.drives); });
 }
 
+PictureEncoder& ServiceSet::PictureEncoder() {
+  return Completed(services_.picture_encoder, SystemPictureEncoder);
+}
+
 TimeZone& ServiceSet::Zone() {
   return Completed(services_.time_zone, SystemTimeZone);
 }

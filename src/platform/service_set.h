@@ -12,6 +12,7 @@
 #include <ZQ7Standard/platform/file_status.h>
 #include <ZQ7Standard/platform/folders.h>
 #include <ZQ7Standard/platform/message_box.h>
+#include <ZQ7Standard/platform/picture_encoder.h>
 #include <ZQ7Standard/platform/printers.h>
 #include <ZQ7Standard/platform/programs.h>
 #include <ZQ7Standard/platform/random_source.h>
@@ -42,6 +43,7 @@ class ServiceSet {
   ZQ7Standard::PrinterList& Printers();
   ZQ7Standard::Programs& Programs();
   ZQ7Standard::Desktop& Desktop();
+  ZQ7Standard::PictureEncoder& PictureEncoder();
   TimeZone& Zone();
 
   /// The local date and time, and that day at 00:00.

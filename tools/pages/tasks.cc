@@ -84,6 +84,7 @@ constexpr auto kFiles = std::to_array<Task>({
     {"split a path", "DiskObject.FileName DiskObject.Pathname"},
     {"show a long path in a short box", "DiskObject.ScaleFullPath"},
     {"find the size of a logo", "CImageInfo.ReadImageInfo"},
+    {"write a picture as a JPEG", "StandardObject.SavePictureAsJPEG"},
     {"read a value of the registry",
      "RegistryObject.GetKeyValueLong RegistryObject.GetKeyValueString"},
     {"store a value in the registry",

@@ -212,6 +212,7 @@ _zq7_operations="
   StandardObject.OpenBrowser
   StandardObject.OpenMail
   StandardObject.OpenCalendar
+  StandardObject.SavePictureAsJPEG
 "
 _zq7_others="
   ASCIIObject.DisableMsgLevel

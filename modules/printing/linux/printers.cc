@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "printing/jpeg_picture.h"
 #include "printing/linux/cups_printers.h"
 #include "printing/linux/cups_server.h"
 #include "printing/linux/pdf_printer.h"
@@ -64,6 +65,7 @@ std::shared_ptr<PrinterList> NewPrinters(std::filesystem::path pdf_folder) {
 
 }  // namespace
 
-const PrintingFunctions kPrintingFunctions = {.system_printers = NewPrinters};
+const PrintingFunctions kPrintingFunctions = {.system_printers = NewPrinters,
+                                              .to_jpeg = PictureAsJpeg};
 
 }  // namespace ZQ7Standard

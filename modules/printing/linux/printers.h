@@ -5,7 +5,7 @@
 
 namespace ZQ7Standard {
 
-/// The functions of the module: they make the printers of `SystemPrinters`.
+/// The functions of the module.
 extern const PrintingFunctions kPrintingFunctions;
 
 }  // namespace ZQ7Standard

@@ -30,10 +30,18 @@ void AddPrograms(ClassRow& info) {
                {{{u"Stock count", Date(2024, 1, 16), Date(2024, 1, 15)}, Raises(5)}})}));
 }
 
+void AddPictures(ClassRow& info) {
+  AddOperations(info, MayBlock({Operation<&StandardObject::SavePictureAsJPEG>(
+                          126, "SavePictureAsJPEG", kOutside,
+                          {"Picture", "FileName", Optional("Quality", 75)},
+                          {{{Null{}, u"C:\\shop\\logo.jpg"}, Raises(5)}})}));
+}
+
 }  // namespace
 
 void AddSystemOperations(ClassRow& owner) {
   AddPrograms(owner);
+  AddPictures(owner);
 }
 
 }  // namespace ZQ7Standard::Automation
