@@ -1,0 +1,71 @@
+#ifndef ZQ7STANDARD_TOOLS_ZQ7_FILL_CSV_SCANNER_H_
+#define ZQ7STANDARD_TOOLS_ZQ7_FILL_CSV_SCANNER_H_
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ZQ7Tool {
+
+/// The largest row, with its line end.
+inline constexpr std::size_t kMaxRow = std::size_t{1} << 20;
+
+enum class CsvMistake {
+  kNone,
+  kTextAfterQuote,  ///< "x"y
+  kOpenQuote,       ///< a quote opens in the line that is not closed, or not within `kMaxRow`
+  kTooLong,         ///< a line of more than `kMaxRow`
+};
+
+/// A row that a scanner found. One with a mistake is its first line alone, so that a forgotten
+/// quote costs no other row.
+struct CsvRow {
+  std::size_t size = 0;     ///< in bytes, with the line end
+  std::size_t content = 0;  ///< in bytes, without the line end
+  CsvMistake mistake = CsvMistake::kNone;
+};
+
+/// Finds rows and cells as ranges of bytes and changes none. LF and CR LF end a row. A quote opens
+/// a quoted cell only as its first byte; elsewhere it is a byte like any other.
+class CsvScanner {
+ public:
+  explicit CsvScanner(char delimiter) : delimiter_(delimiter) {}
+
+  /// The row that `bytes` begins with; nullopt if its end is not among them and, as `last` is
+  /// false, more may follow. `bytes` is not empty.
+  std::optional<CsvRow> Next(std::string_view bytes, bool last);
+
+  /// The cells of that row with their quotes, unless it has a mistake.
+  const std::vector<std::string_view>& Cells() const { return cells_; }
+
+ private:
+  CsvRow ToLineEnd(std::string_view bytes, std::size_t line_end) const;
+  CsvRow Wrong(std::string_view bytes, CsvMistake mistake) const;
+
+  char delimiter_;
+  std::vector<std::string_view> cells_;
+};
+
+/// Whether a cell is in quotes.
+constexpr bool IsQuoted(std::string_view cell) {
+  return cell.starts_with('"');
+}
+
+/// The content of a cell. Undoubles its quotes in `buffer`, which the result may refer to.
+std::string_view CellContent(std::string_view cell, std::string& buffer);
+
+/// Appends a cell with that content, in quotes only if necessary.
+void AppendCell(std::string& row, std::string_view content, char delimiter);
+
+/// The character of comma, semicolon, tab and "|" that the first row which is not blank has most
+/// often outside quotes; a comma if it has none.
+char DelimiterOf(std::string_view bytes);
+
+/// Whether a row consists of blanks and tabs that do not separate cells.
+bool IsBlankRow(std::string_view content, char delimiter);
+
+}  // namespace ZQ7Tool
+
+#endif  // ZQ7STANDARD_TOOLS_ZQ7_FILL_CSV_SCANNER_H_
