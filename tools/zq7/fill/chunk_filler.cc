@@ -95,8 +95,8 @@ std::optional<RowFailure> ChunkFiller::FillRow(const CsvRow& row, std::string& o
   const auto& cells = scanner_.Cells();
   if (cells.size() == columns_) return filler_.Fill(cells, out);
   return RowFailure{{},
-                    std::to_string(cells.size()) + " cells instead of the " +
-                        std::to_string(columns_) + " of the header"};
+                    std::to_string(cells.size()) + (cells.size() == 1 ? " cell" : " cells") +
+                        " instead of the " + std::to_string(columns_) + " of the header"};
 }
 
 }  // namespace ZQ7Tool

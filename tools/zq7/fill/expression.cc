@@ -142,7 +142,7 @@ class Parser {
     if (depth > kMaxNesting) Refuse(place, "Calls are nested too deep.");
     if (Next() == '.') {
       ++at_;
-      name += "." + Word("the name of an operation");
+      name.append(".").append(Word("the name of an operation"));
     }
     Expression call = {Expression::Kind::kCall, place, std::move(name)};
     Expect('(', R"("(")");

@@ -1,17 +1,13 @@
 #include "fill/failure_report.h"
 
+#include <algorithm>
+
 namespace ZQ7Tool {
 namespace {
 
-constexpr std::size_t kMostShown = 10;
+constexpr std::size_t kMostReasons = 10;
 
 }  // namespace
-
-std::string FailureLine(const FailedRow& row) {
-  const std::string& column = row.failure.column;
-  return "line " + std::to_string(row.line) + ": " + (column.empty() ? "" : column + ": ") +
-         row.failure.reason;
-}
 
 FailureReport::FailureReport(const std::string& file, bool stop) : name_(file), stop_(stop) {
   if (name_.empty()) return;
@@ -21,13 +17,24 @@ FailureReport::FailureReport(const std::string& file, bool stop) : name_(file), 
 
 void FailureReport::Add(const FailedRow& row) {
   ++failed_;
-  if (failed_ <= kMostShown) first_ += "  " + FailureLine(row) + "\n";
-  if (file_) {
-    std::string line = std::to_string(row.line) + ",";
-    AppendCell(line, row.failure.column, ',');
-    line += ',';
-    AppendCell(line, row.failure.reason, ',');
-    file_->Write(line += '\n');
+  Count(row);
+  if (!file_) return;
+  std::string line = std::to_string(row.line) + ",";
+  AppendCell(line, row.failure.column, ',');
+  line += ',';
+  AppendCell(line, row.failure.reason, ',');
+  file_->Write(line += '\n');
+}
+
+/// Adds a row to those with the same reason.
+void FailureReport::Count(const FailedRow& row) {
+  const std::string& column = row.failure.column;
+  const std::string text = (column.empty() ? "" : column + ": ") + row.failure.reason;
+  const auto same = std::ranges::find(reasons_, text, &Reason::text);
+  if (same != reasons_.end()) {
+    ++same->rows;
+  } else if (reasons_.size() < kMostReasons) {
+    reasons_.push_back({text, row.line, 1});
   }
 }
 
@@ -35,18 +42,23 @@ void FailureReport::Finish(std::ostream& err) {
   if (file_) file_->Commit();
   if (failed_ == 0) return;
   if (stop_) {
-    err << "zq7: stopped at a row that fails:\n" << first_;
-    return;
+    err << "zq7: stopped at a row that fails:\n";
+  } else {
+    err << "zq7: " << failed_ << " of " << rows_ << (rows_ == 1 ? " row" : " rows") << " failed";
+    err << (file_ ? "; " + name_ + " has the reasons\n" : ":\n");
   }
-  err << "zq7: " << failed_ << " of " << rows_ << (rows_ == 1 ? " row" : " rows") << " failed";
-  if (file_) {
-    err << "; " << name_ << " has the reasons\n";
-    return;
+  if (stop_ || !file_) Summarize(err);
+}
+
+void FailureReport::Summarize(std::ostream& err) const {
+  std::size_t others = failed_;
+  for (const Reason& reason : reasons_) {
+    others -= reason.rows;
+    err << "  line " << reason.first_line;
+    if (reason.rows > 1) err << " and " << reason.rows - 1 << " more";
+    err << ": " << reason.text << '\n';
   }
-  err << ":\n" << first_;
-  if (failed_ > kMostShown) {
-    err << "  and " << failed_ - kMostShown << " more; --errors FILE writes all of them\n";
-  }
+  if (others > 0) err << "  and " << others << " more rows; --errors FILE writes them all\n";
 }
 
 }  // namespace ZQ7Tool

@@ -5,17 +5,15 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "fill/chunk_filler.h"
 #include "fill/output_file.h"
 
 namespace ZQ7Tool {
 
-/// "line 4: words: reason".
-std::string FailureLine(const FailedRow& row);
-
-/// Counts rows, and takes those that failed in their order: to a CSV file with a line for each, or
-/// the first few for a summary.
+/// Counts rows, and takes those that failed in their order: to a CSV file with a line for each, and
+/// for a summary of the reasons that come first.
 class FailureReport {
  public:
   /// No file if `file` is empty. With `stop`, the first failure is the last.
@@ -32,9 +30,18 @@ class FailureReport {
   std::size_t Failed() const { return failed_; }
 
  private:
+  struct Reason {
+    std::string text;
+    std::size_t first_line;
+    std::size_t rows;
+  };
+
+  void Count(const FailedRow& row);
+  void Summarize(std::ostream& err) const;
+
   std::string name_;
   std::optional<OutputFile> file_;
-  std::string first_;  // lines for people
+  std::vector<Reason> reasons_;
   std::size_t rows_ = 0;
   std::size_t failed_ = 0;
   bool stop_;

@@ -31,9 +31,11 @@ std::string ProgressLine(const Done& done, std::optional<std::size_t> size) {
   constexpr std::size_t kWidth = 20;
   const double share = std::min(static_cast<double>(done.bytes) / static_cast<double>(*size), 1.0);
   const auto filled = static_cast<std::size_t>(share * static_cast<double>(kWidth));
-  return "[" + std::string(filled, '#') + std::string(kWidth - filled, '-') + "] " +
-         Grouped(share * 100) + " %  " + line + "  " +
-         MinutesAndSeconds(seconds * (1 - share) / share) + " left";
+  std::string bar(kWidth, '-');
+  std::fill_n(bar.begin(), filled, '#');
+  line.insert(
+      0, std::string("[").append(bar).append("] ").append(Grouped(share * 100)).append(" %  "));
+  return line + "  " + MinutesAndSeconds(seconds * (1 - share) / share) + " left";
 }
 
 Progress::~Progress() {

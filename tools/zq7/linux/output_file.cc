@@ -118,7 +118,7 @@ OutputFile::OutputFile(const std::filesystem::path& path) : OutputFile() {
   }
   if (exists && access(path_.c_str(), W_OK) != 0) Fail();
   const std::filesystem::path folder = path_.has_parent_path() ? path_.parent_path() : ".";
-  Create(folder / ("." + path_.filename().string() + ".XXXXXX"));
+  Create(folder / std::string(".").append(path_.filename().string()).append(".XXXXXX"));
   if (!TakeRights(file_, exists ? &replaced : nullptr)) Fail();
 }
 
