@@ -140,8 +140,7 @@ CLI::App* Commands::AddFill() {
   add("--with", fill_.with, "COLUMN=CALL",
       "A new column at the end, and the call that computes it:\n"
       "'words=BahtStringObject.BahtString(amount)'.")
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->allow_extra_args(false)
       ->required();
   add("-o,--output", fill_.output, "FILE", "Where the rows go, instead of standard output.");
   add("--errors", fill_.errors, "FILE", "Write line, column and reason of each failure.");
@@ -159,7 +158,7 @@ CLI::App* Commands::AddFill() {
                  "Put \"'\" before new cells that a spreadsheet would take\nfor formulas.");
   fill->add_flag("--stop", fill_.stop, "Stop at the first row that fails, and leave no file.");
   add("--jobs", fill_.jobs, "NUMBER", "How many threads compute; one for each core.")
-      ->check(CLI::Range(1, kMostJobs));
+      ->check(CLI::Range(1, kMostJobs).description(""));
   fill->add_flag("--quiet", fill_.quiet, "Show no progress on a terminal.");
   return fill;
 }

@@ -1,6 +1,5 @@
 #include "fill/chunk_filler.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace ZQ7Tool {
@@ -12,8 +11,7 @@ class LineCounter {
   explicit LineCounter(const Chunk& chunk) : bytes_(chunk.bytes), line_(chunk.first_line) {}
 
   std::size_t At(std::size_t place) {
-    line_ += static_cast<std::size_t>(
-        std::ranges::count(bytes_.substr(counted_, place - counted_), '\n'));
+    line_ += LineEnds(bytes_.substr(counted_, place - counted_));
     counted_ = place;
     return line_;
   }

@@ -88,7 +88,7 @@ void ChunkReader::Take(std::size_t size, Chunk& chunk) {
   chunk.bytes.swap(held_);
   held_.assign(chunk.bytes, size);
   chunk.bytes.resize(size);
-  line_ += static_cast<std::size_t>(std::ranges::count(chunk.bytes, '\n'));
+  line_ += LineEnds(chunk.bytes);
 }
 
 }  // namespace ZQ7Tool

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace ZQ7Tool {
 namespace {
@@ -72,10 +73,9 @@ std::string_view CellContent(std::string_view cell, std::string& buffer) {
 }
 
 void AppendCell(std::string& row, std::string_view content, char delimiter) {
-  const auto needs_quotes = [delimiter](char c) {
-    return c == delimiter || c == '"' || c == '\n' || c == '\r';
-  };
-  if (std::ranges::none_of(content, needs_quotes)) {
+  const auto has = [content](char c) { return content.find(c) != kNotFound; };
+  const bool needs_quotes = has(delimiter) || has('"') || has('\n') || has('\r');
+  if (!needs_quotes) {
     row += content;
     return;
   }
@@ -97,6 +97,20 @@ char DelimiterOf(std::string_view bytes) {
     if (place != kNotFound && !in_quotes) ++counts[place];
   }
   return kDelimiters[static_cast<std::size_t>(std::ranges::max_element(counts) - counts.begin())];
+}
+
+std::size_t LineEnds(std::string_view bytes) {
+  // Counts that fit a byte let the compiler take many bytes at once.
+  constexpr std::size_t kBlock = 255;
+  std::size_t count = 0;
+  for (; !bytes.empty(); bytes.remove_prefix(std::min(kBlock, bytes.size()))) {
+    std::uint8_t in_block = 0;
+    for (const char c : bytes.substr(0, kBlock)) {
+      in_block = static_cast<std::uint8_t>(in_block + (c == '\n' ? 1 : 0));
+    }
+    count += in_block;
+  }
+  return count;
 }
 
 bool IsBlankRow(std::string_view content, char delimiter) {

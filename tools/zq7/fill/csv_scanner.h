@@ -63,6 +63,9 @@ void AppendCell(std::string& row, std::string_view content, char delimiter);
 /// often outside quotes; a comma if it has none.
 char DelimiterOf(std::string_view bytes);
 
+/// How many lines end in `bytes`.
+std::size_t LineEnds(std::string_view bytes);
+
 /// Whether a row consists of blanks and tabs that do not separate cells.
 bool IsBlankRow(std::string_view content, char delimiter);
 

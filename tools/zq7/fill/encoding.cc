@@ -2,7 +2,7 @@
 
 #include <ZQ7Standard/automation/catalogue.h>
 
-#include <algorithm>
+#include <cstddef>
 
 namespace ZQ7Tool {
 
@@ -10,8 +10,31 @@ using namespace ZQ7Standard;
 
 namespace {
 
-constexpr bool IsSurrogate(char16_t unit) {
-  return unit >= 0xD800 && unit <= 0xDFFF;
+/// Writes `text` in UTF-8 to `bytes`; false if it has surrogates. The longest texts of most files
+/// are Thai words, which this writes several times as fast as `Utf8`.
+bool EncodePlain(TextView text, std::string& bytes) {
+  constexpr std::size_t kLongest = 3;
+  bytes.resize(text.size() * kLongest);
+  char* end = bytes.data();
+  for (const char16_t unit : text) {
+    const auto low_bits = [unit](int shift) {
+      return static_cast<char>(0x80U | ((static_cast<unsigned>(unit) >> shift) & 0x3FU));
+    };
+    if (unit >= 0x800 && (unit < 0xD800 || unit > 0xDFFF)) {
+      *end++ = static_cast<char>(0xE0 | (unit >> 12));
+      *end++ = low_bits(6);
+      *end++ = low_bits(0);
+    } else if (unit < 0x80) {
+      *end++ = static_cast<char>(unit);
+    } else if (unit < 0x800) {
+      *end++ = static_cast<char>(0xC0 | (unit >> 6));
+      *end++ = low_bits(0);
+    } else {
+      return false;
+    }
+  }
+  bytes.resize(static_cast<std::size_t>(end - bytes.data()));
+  return true;
 }
 
 }  // namespace
@@ -36,9 +59,9 @@ bool Encode(TextView text, Encoding encoding, std::string& bytes) {
     if (encoded) bytes = *encoded;
     return encoded.has_value();
   }
+  if (EncodePlain(text, bytes)) return true;
   bytes = Utf8(text);
-  // A surrogate without its partner would not come back.
-  return std::ranges::none_of(text, IsSurrogate) || FromUtf8(bytes) == text;
+  return FromUtf8(bytes) == text;  // a surrogate without its partner does not come back
 }
 
 }  // namespace ZQ7Tool

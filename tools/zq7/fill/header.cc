@@ -1,7 +1,5 @@
 #include "fill/header.h"
 
-#include <algorithm>
-
 #include "fill/chunk_filler.h"
 #include "names.h"
 #include "wrong_use.h"
@@ -47,8 +45,7 @@ void TakeHeader(Chunk& chunk, const CellRules& rules, Header& header) {
     }
   }
   if (header.names.empty()) throw WrongUse("The file has no header.");
-  const auto taken = std::string_view(chunk.bytes).substr(0, at);
-  chunk.first_line += static_cast<std::size_t>(std::ranges::count(taken, '\n'));
+  chunk.first_line += LineEnds(std::string_view(chunk.bytes).substr(0, at));
   chunk.bytes.erase(0, at);
 }
 

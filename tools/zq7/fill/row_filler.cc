@@ -3,7 +3,7 @@
 #include <ZQ7Standard/RunTimeError.h>
 
 #include <algorithm>
-#include <charconv>
+#include <cstdint>
 #include <stdexcept>
 
 #include "fill/csv_scanner.h"
@@ -27,16 +27,26 @@ constexpr bool IsDigit(char c) {
 }
 
 /// The number of digits with at most one point among them, which every reader of numbers reads the
-/// same; nullopt for any other text.
+/// same; nullopt for any other text. Digits and power of ten are exact, so the quotient is rounded
+/// once.
 std::optional<double> PlainNumber(std::string_view text) {
-  constexpr std::size_t kExactDigits = 15;
-  if (text.empty() || text.size() > kExactDigits + 1) return std::nullopt;
-  if (!IsDigit(text.front()) || !IsDigit(text.back())) return std::nullopt;
-  const auto others = std::ranges::count_if(text, [](char c) { return !IsDigit(c); });
-  if (others > 1 || (others == 1 && text.find('.') == std::string_view::npos)) return std::nullopt;
-  double number = 0;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
+  constexpr std::size_t kMostDigits = 15;
+  constexpr std::size_t kNoPoint = std::string_view::npos;
+  if (text.empty() || text.size() > kMostDigits || !IsDigit(text.back())) return std::nullopt;
+  std::int64_t digits = 0;
+  std::int64_t divisor = 1;
+  std::size_t point = kNoPoint;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsDigit(text[i])) {
+      digits = digits * 10 + (text[i] - '0');
+      if (point != kNoPoint) divisor *= 10;
+    } else if (text[i] == '.' && point == kNoPoint && i > 0) {
+      point = i;
+    } else {
+      return std::nullopt;
+    }
+  }
+  return static_cast<double>(digits) / static_cast<double>(divisor);
 }
 
 bool IsNumber(Type type) {
