@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "fill/chunk_reader.h"
+#include "fill/csv_cells.h"
 #include "fill/csv_scanner.h"
 #include "tests/fuzz/check.h"
 

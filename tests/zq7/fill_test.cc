@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "command_line.h"
-#include "fill/chunk_reader.h"
+#include "fill/csv_cells.h"
 #include "fill/csv_scanner.h"
 #include "fill/progress.h"
 

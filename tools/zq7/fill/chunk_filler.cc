@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "fill/csv_cells.h"
+
 namespace ZQ7Tool {
 namespace {
 

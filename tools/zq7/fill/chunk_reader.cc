@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "fill/csv_cells.h"
+
 namespace ZQ7Tool {
 namespace {
 

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -47,27 +46,6 @@ class CsvScanner {
   char delimiter_;
   std::vector<std::string_view> cells_;
 };
-
-/// Whether a cell is in quotes.
-constexpr bool IsQuoted(std::string_view cell) {
-  return cell.starts_with('"');
-}
-
-/// The content of a cell. Undoubles its quotes in `buffer`, which the result may refer to.
-std::string_view CellContent(std::string_view cell, std::string& buffer);
-
-/// Appends a cell with that content, in quotes only if necessary.
-void AppendCell(std::string& row, std::string_view content, char delimiter);
-
-/// The character of comma, semicolon, tab and "|" that the first row which is not blank has most
-/// often outside quotes; a comma if it has none.
-char DelimiterOf(std::string_view bytes);
-
-/// How many lines end in `bytes`.
-std::size_t LineEnds(std::string_view bytes);
-
-/// Whether a row consists of blanks and tabs that do not separate cells.
-bool IsBlankRow(std::string_view content, char delimiter);
 
 }  // namespace ZQ7Tool
 

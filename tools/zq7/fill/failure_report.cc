@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "fill/csv_cells.h"
+
 namespace ZQ7Tool {
 namespace {
 

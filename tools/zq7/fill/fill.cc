@@ -9,6 +9,7 @@
 #include <thread>
 #include <utility>
 
+#include "fill/csv_cells.h"
 #include "fill/explain.h"
 #include "fill/failure_report.h"
 #include "fill/header.h"

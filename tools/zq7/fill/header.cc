@@ -1,6 +1,7 @@
 #include "fill/header.h"
 
 #include "fill/chunk_filler.h"
+#include "fill/csv_cells.h"
 #include "names.h"
 #include "wrong_use.h"
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <stdexcept>
 
-#include "fill/csv_scanner.h"
+#include "fill/csv_cells.h"
 #include "names.h"
 #include "plain_text.h"
 
