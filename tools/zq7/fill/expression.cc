@@ -156,18 +156,19 @@ class Parser {
     return call;
   }
 
-  Argument NextArgument(int depth) {
-    SkipBlanks();
-    Argument argument = {.place = at_, .value = Value(depth + 1)};
+  Expression NextArgument(int depth) {
+    Expression argument = Value(depth + 1);
+    argument.argument_place = argument.place;
     SkipBlanks();
     if (Next() != '=') return argument;
-    if (argument.value.kind != Expression::Kind::kWord) {
+    if (argument.kind != Expression::Kind::kWord) {
       Refuse(at_, R"(Only the name of a parameter stands before "=".)");
     }
     ++at_;
-    argument.name = argument.value.text;
-    argument.value = Value(depth + 1);
-    return argument;
+    Expression value = Value(depth + 1);
+    value.parameter = argument.text;
+    value.argument_place = argument.place;
+    return value;
   }
 
   std::string_view source_;

@@ -13,8 +13,6 @@
 /// What `zq7 fill --with` takes: COLUMN=CLASS.OPERATION(ARGUMENT, NAME=ARGUMENT).
 namespace ZQ7Tool {
 
-struct Argument;
-
 /// A value as it is written.
 struct Expression {
   enum class Kind {
@@ -31,13 +29,9 @@ struct Expression {
   std::string text = {};  ///< without quotes; "CLASS.OPERATION" of a call
   double number = 0;      ///< of a number
   ZQ7Standard::OleDate date = {};
-  std::vector<Argument> arguments = {};  ///< of a call
-};
-
-struct Argument {
-  std::string name = {};  ///< empty if it is given by position
-  std::size_t place = 0;  ///< of the name, or of the value without one
-  Expression value = {};
+  std::string parameter = {};              ///< the name before "="; empty by position
+  std::size_t argument_place = 0;          ///< of that name, or of the value without one
+  std::vector<Expression> arguments = {};  ///< of a call
 };
 
 /// A new column and the call that computes it.

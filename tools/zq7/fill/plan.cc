@@ -80,15 +80,16 @@ class ColumnPlanner {
     std::vector<bool> given(operation.parameters.size());
     bool named = false;
     for (std::size_t i = 0; i < call.arguments.size(); ++i) {
-      const Argument& argument = call.arguments[i];
-      if (named && argument.name.empty()) {
-        Refuse(argument.place, "Arguments by position go before those by name.");
+      const Expression& argument = call.arguments[i];
+      if (named && argument.parameter.empty()) {
+        Refuse(argument.argument_place, "Arguments by position go before those by name.");
       }
-      named = named || !argument.name.empty();
+      named = named || !argument.parameter.empty();
       const std::size_t place = named ? PlaceOf(argument, member) : PlaceAt(i, argument, member);
-      if (given[place]) Refuse(argument.place, Parameter(member, place) + " is given twice.");
+      if (given[place])
+        Refuse(argument.argument_place, Parameter(member, place) + " is given twice.");
       given[place] = true;
-      planned.arguments[place] = ValueFor(argument.value, operation.parameters[place]);
+      planned.arguments[place] = ValueFor(argument, operation.parameters[place]);
     }
     CheckNoneIsMissing(call, member, given);
     plan_.calls.push_back(std::move(planned));
@@ -132,22 +133,22 @@ class ColumnPlanner {
     return "\nusage: " + SignatureLine(*member.owner, *member.operation);
   }
 
-  std::size_t PlaceAt(std::size_t index, const Argument& argument, const Member& member) const {
+  std::size_t PlaceAt(std::size_t index, const Expression& argument, const Member& member) const {
     const std::size_t count = member.operation->parameters.size();
     if (index < count) return index;
-    Refuse(argument.place, std::string(member.operation->name) + " takes at most " +
-                               std::to_string(count) + " arguments." + Usage(member));
+    Refuse(argument.argument_place, std::string(member.operation->name) + " takes at most " +
+                                        std::to_string(count) + " arguments." + Usage(member));
   }
 
-  std::size_t PlaceOf(const Argument& argument, const Member& member) const {
+  std::size_t PlaceOf(const Expression& argument, const Member& member) const {
     std::vector<std::string> names;
     for (const ParameterInfo& parameter : member.operation->parameters) {
-      if (SameName(parameter.name, argument.name)) return names.size();
+      if (SameName(parameter.name, argument.parameter)) return names.size();
       names.emplace_back(parameter.name);
     }
-    Refuse(argument.place, Quoted(argument.name) + " is not a parameter of " +
-                               std::string(member.operation->name) + "." +
-                               Hint(argument.name, names));
+    Refuse(argument.argument_place, Quoted(argument.parameter) + " is not a parameter of " +
+                                        std::string(member.operation->name) + "." +
+                                        Hint(argument.parameter, names));
   }
 
   void CheckNoneIsMissing(const Expression& call, const Member& member,
