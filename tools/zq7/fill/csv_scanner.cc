@@ -16,23 +16,24 @@ std::size_t AfterQuotes(std::string_view bytes, std::size_t open) {
   }
 }
 
-}  // namespace
-
 /// The row from the beginning to the line end at that place, or to the end of the bytes.
-CsvRow CsvScanner::ToLineEnd(std::string_view bytes, std::size_t line_end) const {
+CsvRow ToLineEnd(std::string_view bytes, std::size_t line_end) {
   if (line_end == kNotFound) return {bytes.size(), bytes.size()};
   const bool carriage_return = line_end > 0 && bytes[line_end - 1] == '\r';
   return {line_end + 1, line_end - (carriage_return ? 1 : 0)};
 }
 
-CsvRow CsvScanner::Wrong(std::string_view bytes, CsvMistake mistake) const {
+/// The first line as a row with a mistake.
+CsvRow Wrong(std::string_view bytes, CsvMistake mistake) {
   CsvRow row = ToLineEnd(bytes, bytes.find('\n'));
   row.mistake = row.size > kMaxRow ? CsvMistake::kTooLong : mistake;
   return row;
 }
 
+}  // namespace
+
 std::optional<CsvRow> CsvScanner::Next(std::string_view bytes, bool last) {
-  const std::string_view window = bytes.substr(0, kMaxRow);
+  const std::string_view window = bytes.substr(0, kMaxRow);  // what a row may have
   const bool may_grow = !last && window.size() == bytes.size() && bytes.size() < kMaxRow;
   const bool cut = window.size() < bytes.size() || (!last && bytes.size() == kMaxRow);
   cells_.clear();

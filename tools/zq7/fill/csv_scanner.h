@@ -40,9 +40,6 @@ class CsvScanner {
   const std::vector<std::string_view>& Cells() const { return cells_; }
 
  private:
-  CsvRow ToLineEnd(std::string_view bytes, std::size_t line_end) const;
-  CsvRow Wrong(std::string_view bytes, CsvMistake mistake) const;
-
   char delimiter_;
   std::vector<std::string_view> cells_;
 };
