@@ -20,6 +20,9 @@ using TextView = std::u16string_view;
 /// Returns `text` in UTF-8. A surrogate without its partner becomes U+FFFD.
 ZQ7STANDARD_EXPORT std::string Utf8(TextView text);
 
+/// Returns whether every surrogate of `text` has its partner, so that `Utf8` loses nothing.
+ZQ7STANDARD_EXPORT bool IsWellFormed(TextView text);
+
 /// Returns the UTF-8 text `bytes` in UTF-16. Each byte that does not begin a well-formed
 /// sequence becomes U+FFFD.
 ZQ7STANDARD_EXPORT Text FromUtf8(std::string_view bytes);

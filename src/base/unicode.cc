@@ -32,26 +32,51 @@ Text Escaped(char16_t control) {
   return escape;
 }
 
-void AppendUtf8(std::string& bytes, char32_t c) {
-  const auto tail = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
-  if (c < 0x80) {
-    bytes.push_back(static_cast<char>(c));
-  } else if (c < 0x800) {
-    bytes.append({static_cast<char>(0xC0 | (c >> 6)), tail(0)});
-  } else if (c < 0x10000) {
-    bytes.append({static_cast<char>(0xE0 | (c >> 12)), tail(6), tail(0)});
-  } else {
-    bytes.append({static_cast<char>(0xF0 | (c >> 18)), tail(12), tail(6), tail(0)});
-  }
+/// The bytes of `text` in UTF-8, or a few more if it has surrogates.
+std::size_t Utf8Size(TextView text) {
+  std::size_t size = text.size();
+  for (const char16_t c : text) size += (c >= 0x80 ? 1U : 0U) + (c >= 0x800 ? 1U : 0U);
+  return size;
 }
 
-void AppendUtf16(Text& text, char32_t c) {
-  if (c < 0x10000) {
-    text.push_back(static_cast<char16_t>(c));
-  } else {
-    text.push_back(static_cast<char16_t>(0xD7C0 + (c >> 10)));
-    text.push_back(static_cast<char16_t>(0xDC00 + (c & 0x3FF)));
+/// Writes a character at `out`; returns the place after it.
+char* WriteUtf8(char* out, char32_t c) {
+  const auto tail = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
+  if (c < 0x80) {
+    out[0] = static_cast<char>(c);
+    return out + 1;
   }
+  if (c < 0x800) {
+    out[0] = static_cast<char>(0xC0 | (c >> 6));
+    out[1] = tail(0);
+    return out + 2;
+  }
+  if (c < 0x10000) {
+    out[0] = static_cast<char>(0xE0 | (c >> 12));
+    out[1] = tail(6);
+    out[2] = tail(0);
+    return out + 3;
+  }
+  out[0] = static_cast<char>(0xF0 | (c >> 18));
+  out[1] = tail(12);
+  out[2] = tail(6);
+  out[3] = tail(0);
+  return out + 4;
+}
+
+/// The same in UTF-16.
+char16_t* WriteUtf16(char16_t* out, char32_t c) {
+  if (c < 0x10000) {
+    *out++ = static_cast<char16_t>(c);
+  } else {
+    *out++ = static_cast<char16_t>(0xD7C0 + (c >> 10));
+    *out++ = static_cast<char16_t>(0xDC00 + (c & 0x3FF));
+  }
+  return out;
+}
+
+bool IsSurrogate(char32_t c) {
+  return IsHighSurrogate(c) || IsLowSurrogate(c);
 }
 
 /// A lead byte of UTF-8: its bits, the length of the sequence, and the smallest character that
@@ -84,39 +109,57 @@ char32_t DecodeFront(std::string_view bytes, std::size_t& length) {
       if ((tail & 0xC0) != 0x80) return kReplacement;
       c = (c << 6) | (tail & 0x3FU);
     }
-    const bool surrogate = IsHighSurrogate(c) || IsLowSurrogate(c);
-    if (c < lead.smallest || c > 0x10FFFF || surrogate) return kReplacement;
+    if (c < lead.smallest || c > 0x10FFFF || IsSurrogate(c)) return kReplacement;
     length = lead.length;
     return c;
   }
   return kReplacement;
 }
 
+/// Whether the code units at `place` and after it are one character.
+bool IsPairAt(TextView text, std::size_t place) {
+  return IsHighSurrogate(text[place]) && place + 1 < text.size() && IsLowSurrogate(text[place + 1]);
+}
+
 }  // namespace
 
 std::string Utf8(TextView text) {
-  std::string bytes;
-  bytes.reserve(text.size());
+  std::string bytes(Utf8Size(text), '\0');
+  char* out = bytes.data();
   for (std::size_t i = 0; i < text.size(); ++i) {
-    char32_t c = text[i];
-    if (IsHighSurrogate(c) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
-      c = 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00U);
-    } else if (IsHighSurrogate(c) || IsLowSurrogate(c)) {
-      c = kReplacement;
+    const char32_t c = text[i];
+    if (!IsSurrogate(c)) {
+      out = WriteUtf8(out, c);
+    } else if (IsPairAt(text, i)) {
+      out = WriteUtf8(out, 0x10000 + ((c - 0xD800) << 10) + (text[++i] - 0xDC00U));
+    } else {
+      out = WriteUtf8(out, kReplacement);
     }
-    AppendUtf8(bytes, c);
   }
+  bytes.resize(static_cast<std::size_t>(out - bytes.data()));
   return bytes;
 }
 
+bool IsWellFormed(TextView text) {
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsPairAt(text, i)) {
+      ++i;
+    } else if (IsSurrogate(text[i])) {
+      return false;
+    }
+  }
+  return true;
+}
+
 Text FromUtf8(std::string_view bytes) {
-  Text text;
-  text.reserve(bytes.size());
+  Text text(bytes.size(), u'\0');
+  char16_t* out = text.data();
   while (!bytes.empty()) {
     std::size_t length = 0;
-    AppendUtf16(text, DecodeFront(bytes, length));
+    out = WriteUtf16(out, DecodeFront(bytes, length));
     bytes.remove_prefix(length);
   }
+  text.resize(static_cast<std::size_t>(out - text.data()));
   return text;
 }
 

@@ -12,6 +12,7 @@ TEST(Utf8, EveryCharacterComesBack) {
               static_cast<char16_t>(0xDC00 + (c & 0x3FF))};
     }
     const bool surrogate = c >= 0xD800 && c <= 0xDFFF;
+    ASSERT_EQ(IsWellFormed(text), !surrogate) << std::hex << std::uint32_t{c};
     ASSERT_EQ(FromUtf8(Utf8(text)), surrogate ? u"\xFFFD" : text) << std::hex << std::uint32_t{c};
   }
 }

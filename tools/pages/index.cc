@@ -1,3 +1,4 @@
+#include <array>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -91,12 +92,40 @@ std::string WaitingList() {
   return Table({"Class", "May wait"}, rows);
 }
 
+struct EffectRow {
+  Effect effect;
+  std::string_view use;
+};
+constexpr std::array<EffectRow, 5> kEffects = {{
+    {Effect::kConvention, "the date convention"},
+    {Effect::kClock, "the clock, and the date convention"},
+    {Effect::kRandom, "random numbers"},
+    {Effect::kInstance, "what the object keeps"},
+    {Effect::kOutside, "files, devices, printers, the registry, message boxes, ciphers"},
+}};
+
+std::string EffectTable() {
+  std::string rows;
+  for (const auto& [effect, use] : kEffects) {
+    std::string links;
+    for (const ClassInfo& owner : Classes()) {
+      for (const OperationInfo& operation : owner.operations) {
+        if (operation.effect != effect) continue;
+        links += (links.empty() ? "" : ", ") + MemberLink(owner, operation.name);
+      }
+    }
+    rows += Row({std::string(use), links});
+  }
+  return Table({"Use", "Operations"}, rows);
+}
+
 }  // namespace
 
 Fields IndexFields() {
   return {{"TASKS", TaskTables()},
           {"CLASSES", ClassTable()},
           {"MEMBERS", MemberLists()},
+          {"EFFECTS", EffectTable()},
           {"WAITING", WaitingList()}};
 }
 
