@@ -53,40 +53,51 @@ int CodeOf(std::string_view state) {
   pg_unreachable();
 }
 
-Plain Read(Datum datum, const Function& function, const ParameterInfo& parameter) {
+/// Writes the member that the type of the parameter asks for.
+void Read(Datum datum, const Function& function, const ParameterInfo& parameter, Plain& argument) {
   switch (parameter.type.type) {
     case Type::kText:
-      return {.text = Utf8OfDatum(datum)};
+      argument.text = Utf8OfDatum(datum);
+      break;
     case Type::kByte:
     case Type::kInteger:
     case Type::kLong:
-      return {.whole = DatumGetInt32(datum)};
+      argument.whole = DatumGetInt32(datum);
+      break;
     case Type::kSingle:
     case Type::kDouble:
-      return {.real = DatumGetFloat8(datum)};
+      argument.real = DatumGetFloat8(datum);
+      break;
     case Type::kBoolean:
-      return {.whole = DatumGetBool(datum) ? 1 : 0};
+      argument.whole = DatumGetBool(datum) ? 1 : 0;
+      break;
     case Type::kDate:
-      if (!IsDate(DatumGetTimestamp(datum))) ReportNoDate(datum, function, parameter);
-      return {.whole = DatumGetTimestamp(datum)};
+      argument.whole = DatumGetTimestamp(datum);
+      if (!IsDate(argument.whole)) ReportNoDate(datum, function, parameter);
+      break;
     case Type::kCurrency:
-      return {.text = DatumGetCString(DirectFunctionCall1(numeric_out, datum))};
+      argument.text = DatumGetCString(DirectFunctionCall1(numeric_out, datum));
+      break;
     case Type::kNothing:
     case Type::kTextList:
     case Type::kObject:
-      break;
+      argument.is_null = true;
   }
-  return {.is_null = true};
 }
 
-Plain ReadArgument(FunctionCallInfo call, std::size_t place, const Function& function) {
+void ReadArgument(FunctionCallInfo call, std::size_t place, const Function& function,
+                  Plain& argument) {
   const NullableDatum& given = call->args[place];
-  if (given.isnull) return {.is_null = true};
+  argument.is_null = given.isnull;
+  if (given.isnull) return;
+  const auto& parameters = function.operation->parameters;
   if (!function.by_convention) {
-    return Read(given.value, function, function.operation->parameters[place]);
+    Read(given.value, function, parameters[place], argument);
+  } else if (place == 0) {
+    argument.text = Utf8OfDatum(given.value);
+  } else {
+    Read(given.value, function, parameters[place - 1], argument);
   }
-  if (place == 0) return {.text = Utf8OfDatum(given.value)};
-  return Read(given.value, function, function.operation->parameters[place - 1]);
 }
 
 /// The time of the transaction in the zone of the session.
@@ -139,9 +150,10 @@ Datum Write(const Plain& result, Type type) {
 /// parameters at the end.
 Datum Call(FunctionCallInfo call, Function& function) {
   if (function.operation == nullptr && !Find(function)) ReportUnknown(function);
-  std::array<Plain, kMaxArguments> arguments;
+  // One for all calls: to prepare it for each would take longer than to fill it.
+  static std::array<Plain, kMaxArguments> arguments;
   const std::size_t count = static_cast<std::size_t>(call->nargs);
-  for (std::size_t i = 0; i < count; ++i) arguments[i] = ReadArgument(call, i, function);
+  for (std::size_t i = 0; i < count; ++i) ReadArgument(call, i, function, arguments[i]);
   const std::int64_t now = function.operation->effect == Effect::kClock ? Now() : 0;
   const Outcome outcome = Run(function, std::span(arguments).first(count), now);
   if (outcome.failed) {
@@ -160,7 +172,7 @@ char* convention_text = nullptr;
 
 bool CheckConvention(char** value, void** /*extra*/, GucSource /*source*/) {
   if (IsConvention(*value)) return true;
-  GUC_check_errhint("The date conventions are mdy, dmy, mdy-buddhist and dmy-buddhist.");
+  GUC_check_errhint("The date conventions are %s.", kConventions);
   return false;
 }
 
@@ -180,8 +192,7 @@ PGDLLEXPORT void _PG_init();
 void _PG_init() {
   using namespace ZQ7PostgreSQL;
   DefineCustomStringVariable("zq7.convention",
-                             "How zq7's functions read and write dates: mdy, dmy, mdy-buddhist or "
-                             "dmy-buddhist.",
+                             "The convention by which zq7's functions read and write dates.",
                              nullptr, &convention_text, kDefaultConvention, PGC_USERSET, 0,
                              CheckConvention, AssignConvention, nullptr);
   MarkGUCPrefixReserved("zq7");
@@ -189,6 +200,7 @@ void _PG_init() {
 
 // A symbol cannot come from a template. Each function keeps what it found in the catalogue.
 #define ZQ7_FUNCTION(symbol, class_name, number, by_convention)                    \
+  PGDLLEXPORT Datum symbol(FunctionCallInfo call);                                 \
   PG_FUNCTION_INFO_V1(symbol);                                                     \
   Datum symbol(FunctionCallInfo call) {                                            \
     static ZQ7PostgreSQL::Function function = {class_name, number, by_convention}; \

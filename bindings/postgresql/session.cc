@@ -41,19 +41,11 @@ class CallConvention final : public DateConventionSource {
   DateConvention convention_ = {};
 };
 
-std::string KnownConventions() {
-  std::string names;
-  for (const NamedDateConvention& known : DateConventions()) {
-    names.append(names.empty() ? "" : ", ").append(known.name);
-  }
-  return names;
-}
-
 DateConvention ConventionOf(const Function& function, const Plain& name) {
   const std::optional<DateConvention> found = DateConventionNamed(name.text);
   if (found) return *found;
   throw RunTimeError({.number = static_cast<int>(Error::kInvalidArgument),
-                      .text = "unknown date convention, not one of " + KnownConventions(),
+                      .text = std::string("unknown date convention, not one of ") + kConventions,
                       .class_name = function.class_name,
                       .operation = std::string(function.operation->name),
                       .parameter = "convention",
@@ -71,14 +63,14 @@ class Session {
     convention_->Set(convention);
     clock_->Set(now);
     TakeArguments(function, arguments);
-    const std::span<const Value> given = std::span(values_).first(arguments.size());
-    return ToPlain(objects_.Call(*function.owner, *function.operation, given), memory_);
+    const std::span<const Value> values = std::span(values_).first(given_);
+    return ToPlain(objects_.Call(*function.owner, *function.operation, values), memory_);
   }
 
   void ReleaseLongTexts() {
     constexpr std::size_t kKept = std::size_t{64} << 10U;
     if (memory_.text.capacity() > kKept || !memory_.texts.empty()) memory_ = {};
-    for (Value& value : values_) {
+    for (Value& value : std::span(values_).first(given_)) {
       const auto* const text = std::get_if<Text>(&value);
       if (text != nullptr && text->capacity() > kKept) value.emplace<Omitted>();
     }
@@ -87,6 +79,7 @@ class Session {
  private:
   void TakeArguments(const Function& function, std::span<const Plain> arguments) {
     const auto& parameters = function.operation->parameters;
+    given_ = arguments.size();
     for (std::size_t i = 0; i < arguments.size(); ++i) {
       Assign(arguments[i], parameters[i].type.type, values_[i]);
     }
@@ -96,6 +89,7 @@ class Session {
   std::shared_ptr<CallConvention> convention_ = std::make_shared<CallConvention>();
   RowObjects objects_{{.clock = clock_, .date_convention = convention_}};
   std::vector<Value> values_ = std::vector<Value>(kMaxArguments);
+  std::size_t given_ = 0;  ///< how many of them the call has
   ResultTexts memory_;
 };
 

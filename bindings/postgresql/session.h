@@ -33,7 +33,8 @@ Outcome Run(const Function& function, std::span<const Plain> arguments, std::int
 /// Gives back the memory of long texts of the last call, whose result is then gone.
 void ReleaseLongTexts() noexcept;
 
-/// The date convention of a session that has set none.
+/// The names of the date conventions, and that of a session that has set none.
+inline constexpr const char* kConventions = "mdy, dmy, mdy-buddhist, dmy-buddhist";
 inline constexpr const char* kDefaultConvention = "dmy-buddhist";
 
 /// Whether there is a convention of that name, and one that there is for the session.

@@ -27,30 +27,20 @@ constexpr std::int64_t kEnd = Midnight(local_days{std::chrono::year(10000) / 1 /
   throw Refused(kCharacterNotInRepertoire, "the result contains " + problem);
 }
 
-/// Checks what UTF-8 in a database cannot hold: U+0000, and half a character.
-void RequireStorable(TextView text) {
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char16_t unit = text[i];
-    if (unit == 0) RefuseText("the character U+0000");
-    if ((unit & 0xF800) != 0xD800) [[likely]] {
-      continue;
-    }
-    const bool paired = unit < 0xDC00 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00;
-    if (!paired) RefuseText("half of a character beyond U+FFFF");
-    ++i;
-  }
-}
-
 void RequireFitting(std::size_t size) {
   if (size <= kMaxResult) return;
   throw Refused(kProgramLimitExceeded, "the result is longer than 256 MB");
 }
 
+/// The text in UTF-8. Refuses what UTF-8 in a database lacks: U+0000, and half a character, which
+/// `Utf8` replaces.
 std::string Stored(const Text& text) {
   RequireFitting(text.size());  // each code unit takes a byte or more
-  RequireStorable(text);
   std::string bytes = Utf8(text);
   RequireFitting(bytes.size());
+  if (bytes.find('\0') != std::string::npos) RefuseText("the character U+0000");
+  const bool replaced = bytes.find("\xEF\xBF\xBD") != std::string::npos;
+  if (replaced && FromUtf8(bytes) != text) RefuseText("half of a character beyond U+FFFF");
   return bytes;
 }
 

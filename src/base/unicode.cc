@@ -32,17 +32,32 @@ Text Escaped(char16_t control) {
   return escape;
 }
 
-void AppendUtf8(std::string& bytes, char32_t c) {
+/// How many bytes `text` takes at most: a pair of surrogates is counted as two characters.
+std::size_t MostBytes(TextView text) {
+  std::size_t bytes = text.size();
+  for (const char16_t c : text) bytes += std::size_t{c >= 0x80} + std::size_t{c >= 0x800};
+  return bytes;
+}
+
+/// Writes a character and returns the end of its bytes.
+char* WriteUtf8(char* bytes, char32_t c) {
   const auto tail = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
   if (c < 0x80) {
-    bytes.push_back(static_cast<char>(c));
+    *bytes++ = static_cast<char>(c);
   } else if (c < 0x800) {
-    bytes.append({static_cast<char>(0xC0 | (c >> 6)), tail(0)});
+    *bytes++ = static_cast<char>(0xC0 | (c >> 6));
+    *bytes++ = tail(0);
   } else if (c < 0x10000) {
-    bytes.append({static_cast<char>(0xE0 | (c >> 12)), tail(6), tail(0)});
+    *bytes++ = static_cast<char>(0xE0 | (c >> 12));
+    *bytes++ = tail(6);
+    *bytes++ = tail(0);
   } else {
-    bytes.append({static_cast<char>(0xF0 | (c >> 18)), tail(12), tail(6), tail(0)});
+    *bytes++ = static_cast<char>(0xF0 | (c >> 18));
+    *bytes++ = tail(12);
+    *bytes++ = tail(6);
+    *bytes++ = tail(0);
   }
+  return bytes;
 }
 
 void AppendUtf16(Text& text, char32_t c) {
@@ -95,8 +110,8 @@ char32_t DecodeFront(std::string_view bytes, std::size_t& length) {
 }  // namespace
 
 std::string Utf8(TextView text) {
-  std::string bytes;
-  bytes.reserve(text.size());
+  std::string bytes(MostBytes(text), '\0');
+  char* end = bytes.data();
   for (std::size_t i = 0; i < text.size(); ++i) {
     char32_t c = text[i];
     if (IsHighSurrogate(c) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
@@ -104,8 +119,9 @@ std::string Utf8(TextView text) {
     } else if (IsHighSurrogate(c) || IsLowSurrogate(c)) {
       c = kReplacement;
     }
-    AppendUtf8(bytes, c);
+    end = WriteUtf8(end, c);
   }
+  bytes.resize(static_cast<std::size_t>(end - bytes.data()));
   return bytes;
 }
 
