@@ -69,7 +69,9 @@ class Session {
 
   void ReleaseLongTexts() {
     constexpr std::size_t kKept = std::size_t{64} << 10U;
-    if (memory_.text.capacity() > kKept || !memory_.texts.empty()) memory_ = {};
+    // To assign an empty text would keep the memory.
+    if (memory_.text.capacity() > kKept) std::string().swap(memory_.text);
+    memory_.texts.clear();
     for (Value& value : std::span(values_).first(given_)) {
       const auto* const text = std::get_if<Text>(&value);
       if (text != nullptr && text->capacity() > kKept) value.emplace<Omitted>();

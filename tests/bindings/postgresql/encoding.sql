@@ -9,4 +9,4 @@ INSERT INTO examples (call, result, error, state) VALUES
 ('zq7.FormatTDate_by(''dmy-buddhist'', ''2024-01-15'')', '''15/1/2567''', NULL, NULL),
 ('zq7.CTDATE(''๑/๑'')', NULL, 13, NULL),
 -- A cipher makes characters that the encoding lacks.
-('zq7.EncryptBS(''ก'', ''a'')', NULL, NULL, '22021');
+('zq7.EncryptBS(''กขabcXYZ'', ''p2'')', NULL, NULL, '22021');
