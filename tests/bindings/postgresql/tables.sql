@@ -50,7 +50,7 @@ WHERE after NOT LIKE '%บาทถ้วน';
 
 -- Workers have the convention of the session and the clock of the transaction.
 CREATE UNLOGGED TABLE amounts AS
-SELECT n AS number, n / 100.0::numeric(12,2) AS amount,
+SELECT n AS number, (n / 100.0)::numeric(12,2) AS amount,
        timestamp '2024-01-15' + n * interval '1 minute' AS moment
 FROM generate_series(1, 1000000) AS n;
 ANALYZE amounts;
