@@ -152,7 +152,7 @@ Datum Call(FunctionCallInfo call, Function& function) {
   if (function.operation == nullptr && !Find(function)) ReportUnknown(function);
   // One for all calls: to prepare it for each would take longer than to fill it.
   static std::array<Plain, kMaxArguments> arguments;
-  const std::size_t count = static_cast<std::size_t>(call->nargs);
+  const auto count = static_cast<std::size_t>(call->nargs);
   for (std::size_t i = 0; i < count; ++i) ReadArgument(call, i, function, arguments[i]);
   const std::int64_t now = function.operation->effect == Effect::kClock ? Now() : 0;
   const Outcome outcome = Run(function, std::span(arguments).first(count), now);
@@ -187,6 +187,7 @@ extern "C" {
 
 PG_MODULE_MAGIC;
 
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the server's name
 PGDLLEXPORT void _PG_init();
 
 void _PG_init() {

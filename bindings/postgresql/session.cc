@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
-/// A backend has one thread, and it keeps this as long as it lives.
+/// A backend has one thread.
 DateConvention convention_set = *DateConventionNamed(kDefaultConvention);
 
 class CallClock final : public Clock {
@@ -73,8 +74,8 @@ class Session {
     if (memory_.text.capacity() > kKept) std::string().swap(memory_.text);
     memory_.texts.clear();
     for (Value& value : std::span(values_).first(given_)) {
-      const auto* const text = std::get_if<Text>(&value);
-      if (text != nullptr && text->capacity() > kKept) value.emplace<Omitted>();
+      auto* const text = std::get_if<Text>(&value);
+      if (text != nullptr && text->capacity() > kKept) Text().swap(*text);
     }
   }
 
@@ -95,10 +96,8 @@ class Session {
   ResultTexts memory_;
 };
 
-Session& TheSession() {
-  static Session session;
-  return session;
-}
+/// Made by the first call, and kept as long as the backend lives.
+std::unique_ptr<Session> the_session;
 
 }  // namespace
 
@@ -119,14 +118,15 @@ bool Find(Function& function) noexcept {
 
 Outcome Run(const Function& function, std::span<const Plain> arguments, std::int64_t now) noexcept {
   try {
-    return {.result = TheSession().Call(function, arguments, now)};
+    if (!the_session) the_session = std::make_unique<Session>();
+    return {.result = the_session->Call(function, arguments, now)};
   } catch (...) {
     return {.failed = true, .failure = CurrentFailure(*function.owner, *function.operation)};
   }
 }
 
 void ReleaseLongTexts() noexcept {
-  TheSession().ReleaseLongTexts();
+  if (the_session) the_session->ReleaseLongTexts();
 }
 
 bool IsConvention(std::string_view name) noexcept {

@@ -35,7 +35,9 @@ Text Escaped(char16_t control) {
 /// How many bytes `text` takes at most: a pair of surrogates is counted as two characters.
 std::size_t MostBytes(TextView text) {
   std::size_t bytes = text.size();
-  for (const char16_t c : text) bytes += std::size_t{c >= 0x80} + std::size_t{c >= 0x800};
+  for (const char16_t c : text) {
+    bytes += static_cast<std::size_t>(c >= 0x80) + static_cast<std::size_t>(c >= 0x800);
+  }
   return bytes;
 }
 
