@@ -40,7 +40,7 @@ std::string Stored(const Text& text) {
   RequireFitting(bytes.size());
   if (bytes.find('\0') != std::string::npos) RefuseText("the character U+0000");
   const bool replaced = bytes.find("\xEF\xBF\xBD") != std::string::npos;
-  if (replaced && FromUtf8(bytes) != text) RefuseText("half of a character beyond U+FFFF");
+  if (replaced && !IsWellFormed(text)) RefuseText("half of a character beyond U+FFFF");
   return bytes;
 }
 
