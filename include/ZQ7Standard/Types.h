@@ -27,6 +27,14 @@ ZQ7STANDARD_EXPORT bool IsWellFormed(TextView text);
 /// sequence becomes U+FFFD.
 ZQ7STANDARD_EXPORT Text FromUtf8(std::string_view bytes);
 
+/// Returns `text` in Windows-874, one byte for each code unit; nullopt if it has a character that
+/// the code page lacks.
+ZQ7STANDARD_EXPORT std::optional<std::string> Windows874(TextView text);
+
+/// Returns the text that `bytes` are in Windows-874. A byte that the code page leaves undefined
+/// becomes a character that `Windows874` turns back into it.
+ZQ7STANDARD_EXPORT Text FromWindows874(std::string_view bytes);
+
 /// Returns how many columns of a terminal `text` takes: one for each code unit, none for
 /// the Thai vowels, tone marks and signs above or below a letter.
 ZQ7STANDARD_EXPORT int TerminalWidth(TextView text);

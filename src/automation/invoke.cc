@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <exception>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -97,7 +98,7 @@ class Values {
 }
 
 /// Runs `call`. Whatever it throws reaches the caller as a `RunTimeError` that names `member`; an
-/// exception without a number becomes an automation error.
+/// exception without a number becomes an automation error, but for a lack of memory.
 template <typename Call>
 auto RunAs(const ClassInfo& owner, std::string_view member,
            std::span<const ParameterInfo> parameters, const Call& call) {
@@ -105,6 +106,8 @@ auto RunAs(const ClassInfo& owner, std::string_view member,
     return call();
   } catch (const RunTimeError& error) {
     RaiseAs(owner, member, parameters, error.Details());
+  } catch (const std::bad_alloc&) {
+    RaiseAs(owner, member, parameters, DetailsOf(Error::kOutOfMemory));
   } catch (const std::exception& error) {
     RaiseAs(owner, member, parameters, DetailsOf(Error::kAutomationError, error.what()));
   } catch (...) {

@@ -162,4 +162,14 @@ void DecodeCodePage(std::string_view bytes, char16_t* text) {
   DecodeByTable(bytes, text);
 }
 
+std::optional<std::string> Windows874(TextView text) {
+  std::string bytes = ToCodePage(text);
+  if (FromCodePage(bytes) != text) return std::nullopt;
+  return bytes;
+}
+
+Text FromWindows874(std::string_view bytes) {
+  return FromCodePage(bytes);
+}
+
 }  // namespace ZQ7Standard

@@ -29,6 +29,7 @@ TEST(CodePage, ConvertsEveryCodeUnitAmongAnyNeighbours) {
       const std::size_t found = page.find(c);
       const std::string byte(1, found == Text::npos ? '?' : static_cast<char>(found));
       ASSERT_EQ(ToCodePage(Text(1, c)), byte) << unit;
+      ASSERT_EQ(Windows874(Text(1, c)).has_value(), found != Text::npos) << unit;
       const std::size_t at = c % 96;
       std::string bytes = without;
       bytes.replace(at, 1, byte);

@@ -41,18 +41,24 @@ std::string MemberCases() {
   return cases;
 }
 
+/// The options of the tool, or those that a subcommand has besides.
+std::vector<std::string> OptionNames(const CLI::App& app) {
+  std::vector<std::string> names;
+  for (const CLI::Option* option : app.get_options()) {
+    const bool again = app.get_parent() != nullptr && option == app.get_help_ptr();
+    if (!option->get_positional() && !again) names.push_back(option->get_name());
+  }
+  return names;
+}
+
 }  // namespace
 
 Fields CompletionFields() {
   const Commands commands;
-  std::vector<std::string> options;
   std::vector<std::string> subcommands;
   std::vector<std::string> classes;
   std::vector<std::string> operations;
   std::vector<std::string> others;
-  for (const CLI::Option* option : commands.App().get_options()) {
-    options.push_back(option->get_name());
-  }
   for (const CLI::App* subcommand : commands.App().get_subcommands({})) {
     subcommands.push_back(subcommand->get_name());
   }
@@ -63,9 +69,13 @@ Fields CompletionFields() {
     for (const auto& entry : owner.properties) others.push_back(QualifiedName(owner, entry.name));
     for (const auto& entry : owner.events) others.push_back(QualifiedName(owner, entry.name));
   }
-  return {{"OPTIONS", Lines(options)}, {"SUBCOMMANDS", Lines(subcommands)},
-          {"CLASSES", Lines(classes)}, {"OPERATIONS", Lines(operations)},
-          {"OTHERS", Lines(others)},   {"MEMBERS", MemberCases()}};
+  return {{"OPTIONS", Lines(OptionNames(commands.App()))},
+          {"FILL_OPTIONS", Lines(OptionNames(*commands.App().get_subcommand("fill")))},
+          {"SUBCOMMANDS", Lines(subcommands)},
+          {"CLASSES", Lines(classes)},
+          {"OPERATIONS", Lines(operations)},
+          {"OTHERS", Lines(others)},
+          {"MEMBERS", MemberCases()}};
 }
 
 }  // namespace ZQ7Pages

@@ -26,6 +26,12 @@ std::vector<Page> Pages() {
       {reference / "README.md", "tools/pages/index.md.in", IndexFields},
       {reference / "enumerations.md", "tools/pages/enumerations.md.in", EnumerationsFields},
       {"bindings/csharp/ZQ7Standard.cs", "bindings/csharp/ZQ7Standard.cs.in", CSharpFields},
+      {"bindings/postgresql/zq7standard--" ZQ7_SOVERSION ".sql",
+       "bindings/postgresql/zq7standard.sql.in", PostgresqlFields},
+      {"bindings/postgresql/functions.inc", "bindings/postgresql/functions.inc.in",
+       PostgresqlFields},
+      {"tests/bindings/postgresql/examples.sql", "tests/bindings/postgresql/examples.sql.in",
+       PostgresqlFields},
   };
   for (const auto& owner : ZQ7Standard::Automation::Classes()) {
     pages.push_back({reference / (std::string(owner.name) + ".md"), "tools/pages/class.md.in",

@@ -28,6 +28,9 @@ Fields IndexFields();
 /// Of the C# classes.
 Fields CSharpFields();
 
+/// Of the PostgreSQL extension.
+Fields PostgresqlFields();
+
 }  // namespace ZQ7Pages
 
 #endif  // ZQ7STANDARD_TOOLS_PAGES_WRITERS_H_

@@ -94,17 +94,6 @@ class WordArguments {
   std::vector<NamedArgument> named_;
 };
 
-std::string SignatureLine(const Member& member) {
-  const std::string name =
-      std::string(member.owner->name).append(".").append(member.operation->name);
-  std::string line;
-  for (const std::string& piece :
-       Signature(name, member.operation->parameters, member.operation->result)) {
-    line.append(line.empty() ? "" : " ").append(piece);
-  }
-  return line;
-}
-
 }  // namespace
 
 Value CallByWords(const CallWords& words, const Services& services) {
@@ -120,7 +109,8 @@ Value CallByWords(const CallWords& words, const Services& services) {
   } catch (const RunTimeError& error) {
     constexpr std::array kWrongWords = {kArgumentNotOptional, kWrongNumberOfArguments};
     if (std::ranges::find(kWrongWords, error.Number()) == kWrongWords.end()) throw;
-    throw WrongUse(std::string(error.what()) + "\nusage: " + SignatureLine(member));
+    throw WrongUse(std::string(error.what()) +
+                   "\nusage: " + SignatureLine(*member.owner, *member.operation));
   }
 }
 

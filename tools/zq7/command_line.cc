@@ -6,12 +6,14 @@
 #include <array>
 #include <cerrno>
 #include <fstream>
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <system_error>
 
 #include "batch.h"
 #include "call.h"
 #include "commands.h"
+#include "fill/fill.h"
 #include "help.h"
 #include "json_value.h"
 #include "members.h"
@@ -24,56 +26,72 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
-void List(const Commands& commands, const Streams& streams) {
+int List(const Commands& commands, const Streams& streams) {
   if (commands.Name().empty()) {
     streams.out << ClassList(streams.width);
-    return;
+    return kDone;
   }
   const ClassInfo& owner = *MemberNamed(commands.Name()).owner;
   streams.out << ClassLine(owner, streams.width) << MemberList(owner, streams.width);
+  return kDone;
 }
 
-void ShowHelp(const Commands& commands, const Streams& streams) {
+int ShowHelp(const Commands& commands, const Streams& streams) {
   streams.out << (commands.Name().empty() ? commands.App().help("", CLI::AppFormatMode::Normal)
                                           : Help(commands.Name(), streams.width));
+  return kDone;
 }
 
-void Call(const Commands& commands, const Streams& streams) {
+int Call(const Commands& commands, const Streams& streams) {
   const Host host(commands.GetSettings(), StreamMessageBox(streams.err));
   const Value result = CallByWords(commands.Call(), host.Services());
   streams.out << (commands.Json() ? WriteJson(JsonOfValue(result)) + "\n" : PlainLines(result));
+  return kDone;
 }
 
-void Batch(const Commands& commands, const Streams& streams) {
-  const std::string& name = commands.File();
+/// Calls `use` with the file that is named, "-" being standard input; returns what it returns.
+int WithInput(const std::string& name, const Streams& streams,
+              const std::function<int(std::streambuf&)>& use) {
   std::filebuf file;
-  errno = 0;
+  std::string reason;
   try {
-    if (name == "-") return RunBatch(*streams.in.rdbuf(), streams.out, commands.GetSettings());
-    if (file.open(name, std::ios::in | std::ios::binary) != nullptr) {
-      return RunBatch(file, streams.out, commands.GetSettings());
-    }
-  } catch (const std::ios_base::failure&) {
-    // Reported below: a folder, for one, can be opened but not read.
+    if (name == "-") return use(*streams.in.rdbuf());
+    errno = 0;
+    if (file.open(name, std::ios::in | std::ios::binary) != nullptr) return use(file);
+    reason = std::generic_category().message(errno);
+  } catch (const std::ios_base::failure& failure) {
+    reason = failure.code().message();  // a folder, for one, can be opened but not read
   }
-  const std::string reason = std::generic_category().message(errno);
   throw WrongUse("cannot read " + (name == "-" ? "standard input" : name) + ": " + reason);
+}
+
+int Batch(const Commands& commands, const Streams& streams) {
+  return WithInput(commands.File(), streams, [&](std::streambuf& in) {
+    RunBatch(in, streams.out, commands.GetSettings());
+    return kDone;
+  });
+}
+
+int Fill(const Commands& commands, const Streams& streams) {
+  return WithInput(commands.File(), streams, [&](std::streambuf& in) {
+    return FillFile(commands.File(), in, commands.Fill(), commands.GetSettings(), streams);
+  });
 }
 
 struct Subcommand {
   std::string_view name;
-  void (*carry_out)(const Commands& commands, const Streams& streams);
+  int (*carry_out)(const Commands& commands, const Streams& streams);
 };
 
-constexpr std::array<Subcommand, 4> kSubcommands = {
-    {{"list", List}, {"help", ShowHelp}, {"call", Call}, {"batch", Batch}}};
+constexpr std::array<Subcommand, 5> kSubcommands = {
+    {{"list", List}, {"help", ShowHelp}, {"call", Call}, {"batch", Batch}, {"fill", Fill}}};
 
 int CarryOut(const std::vector<std::string>& words, const Streams& streams) {
   Commands commands;
   try {
     commands.Parse(words);
     for (const Subcommand& subcommand : kSubcommands) {
-      if (subcommand.name == commands.Chosen()) subcommand.carry_out(commands, streams);
+      if (subcommand.name == commands.Chosen()) return subcommand.carry_out(commands, streams);
     }
   } catch (const CLI::Success& asked) {
     return commands.App().exit(asked, streams.out, streams.err);

@@ -18,6 +18,7 @@ namespace {
 
 using namespace ZQ7Standard;
 
+constexpr int kMostJobs = 1024;
 constexpr const char* kMoreHelp = R"( "zq7 --help" shows the usage.)";
 
 OleDate Moment(const std::string& text) {
@@ -29,6 +30,26 @@ DateConvention ConventionNamed(const std::string& name) {
   if (const auto convention = DateConventionNamed(name)) return *convention;
   throw WrongUse("--convention " + Quoted(name) +
                  " is not one of mdy, dmy, mdy-buddhist and dmy-buddhist.");
+}
+
+Dates DatesNamed(const std::string& name) {
+  if (name == "iso") return Dates::kIso;
+  if (name == "typed") return Dates::kTyped;
+  throw WrongUse("--dates " + Quoted(name) + " is not one of iso and typed.");
+}
+
+Encoding EncodingOf(const std::string& name) {
+  if (const auto encoding = EncodingNamed(name)) return *encoding;
+  throw WrongUse("--encoding " + Quoted(name) + " is not one of utf-8 and windows-874.");
+}
+
+char DelimiterNamed(const std::string& text) {
+  constexpr std::string_view kImpossible = "\"\r\n";
+  if (text == "tab" || text == "\\t") return '\t';
+  const bool possible = text.size() == 1 && kImpossible.find(text.front()) == std::string::npos &&
+                        static_cast<unsigned char>(text.front()) < 0x80;
+  if (possible) return text.front();
+  throw WrongUse("--delimiter " + Quoted(text) + " is not a character such as \";\", or \"tab\".");
 }
 
 void AddOptionNames(std::vector<std::string>& names, const CLI::App& app) {
@@ -101,9 +122,45 @@ Commands::Commands() : app_("Calls the operations of the ZQ7Standard library by 
   CLI::App* batch = app_.add_subcommand("batch", "Answer calls written as lines of JSON.");
   AddName(batch, "FILE", file_, "The lines; \"-\" or nothing for standard input.");
 
-  for (CLI::App* subcommand : {list, help, call, batch}) {
+  for (CLI::App* subcommand : {list, help, call, batch, AddFill()}) {
     subcommand->footer(R"(The options of "zq7 --help" may be anywhere on the line.)");
   }
+}
+
+CLI::App* Commands::AddFill() {
+  CLI::App* fill = app_.add_subcommand("fill", "Add columns to a CSV file, computed from others.");
+  AddName(fill, "FILE", file_, "The file; \"-\" or nothing for standard input.");
+  const auto add = [&](const char* name, auto& value, const char* type, const char* description) {
+    return fill->add_option(name, value, description)->type_name(type);
+  };
+  const auto add_named = [&](const char* name, auto read, const char* type,
+                             const char* description) {
+    fill->add_option_function<std::string>(name, read, description)->type_name(type);
+  };
+  add("--with", fill_.with, "COLUMN=CALL",
+      "A new column at the end, and the call that computes it:\n"
+      "'words=BahtStringObject.BahtString(amount)'.")
+      ->allow_extra_args(false)
+      ->required();
+  add("-o,--output", fill_.output, "FILE", "Where the rows go, instead of standard output.");
+  add("--errors", fill_.errors, "FILE", "Write line, column and reason of each failure.");
+  fill->add_flag("--explain", fill_.explain, "Show what would be called, and process nothing.");
+  add_named(
+      "--dates", [this](const std::string& name) { fill_.dates = DatesNamed(name); }, "NAME",
+      "How cells are dates: iso (2024-01-31, Gregorian) or\ntyped (by the date convention).");
+  add_named(
+      "--encoding", [this](const std::string& name) { fill_.encoding = EncodingOf(name); }, "NAME",
+      "utf-8, the default, or windows-874.");
+  add_named(
+      "--delimiter", [this](const std::string& text) { fill_.delimiter = DelimiterNamed(text); },
+      "CHARACTER", "What separates cells, or \"tab\"; found in the header\nif it is not given.");
+  fill->add_flag("--guard", fill_.guard,
+                 "Put \"'\" before new cells that a spreadsheet would take\nfor formulas.");
+  fill->add_flag("--stop", fill_.stop, "Stop at the first row that fails, and leave no file.");
+  add("--jobs", fill_.jobs, "NUMBER", "How many threads compute; one for each core.")
+      ->check(CLI::Range(1, kMostJobs).description(""));
+  fill->add_flag("--quiet", fill_.quiet, "Show no progress on a terminal.");
+  return fill;
 }
 
 void Commands::AddSettings() {

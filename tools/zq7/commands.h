@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "call.h"
+#include "fill/fill.h"
 #include "host.h"
 
 namespace ZQ7Tool {
@@ -29,9 +30,11 @@ class Commands {
   const std::string& Name() const { return name_; }
   const std::string& File() const { return file_; }
   bool Json() const { return json_; }
+  const FillOptions& Fill() const { return fill_; }
 
  private:
   void AddSettings();
+  CLI::App* AddFill();
   std::vector<std::string> WithoutArguments(const std::vector<std::string>& words);
 
   CLI::App app_;
@@ -40,6 +43,7 @@ class Commands {
   std::string name_;
   std::string file_ = "-";
   bool json_ = false;
+  FillOptions fill_;
 };
 
 }  // namespace ZQ7Tool

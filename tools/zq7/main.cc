@@ -15,5 +15,6 @@ int main(int argc, char** argv) {
   std::cin.tie(nullptr);
   const std::size_t columns = ZQ7Tool::TerminalColumns().value_or(kDefaultColumns);
   return ZQ7Tool::Run({argv + 1, argv + argc},
-                      {std::cin, std::cout, std::cerr, std::max(columns, kFewestColumns)});
+                      {std::cin, std::cout, std::cerr, std::max(columns, kFewestColumns),
+                       ZQ7Tool::IsErrorOnTerminal()});
 }

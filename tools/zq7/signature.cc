@@ -84,4 +84,13 @@ std::vector<std::string> Signature(std::string_view name,
   return pieces;
 }
 
+std::string SignatureLine(const ClassInfo& owner, const OperationInfo& operation) {
+  std::string line;
+  for (const std::string& piece :
+       Signature(QualifiedName(owner, operation.name), operation.parameters, operation.result)) {
+    line.append(line.empty() ? "" : " ").append(piece);
+  }
+  return line;
+}
+
 }  // namespace ZQ7Tool

@@ -24,6 +24,10 @@ std::vector<std::string> Signature(
     std::string_view name, const std::vector<ZQ7Standard::Automation::ParameterInfo>& parameters,
     const ZQ7Standard::Automation::TypeInfo& result = {});
 
+/// The signature of an operation with the name of its class, in one line.
+std::string SignatureLine(const ZQ7Standard::Automation::ClassInfo& owner,
+                          const ZQ7Standard::Automation::OperationInfo& operation);
+
 }  // namespace ZQ7Tool
 
 #endif  // ZQ7STANDARD_TOOLS_ZQ7_SIGNATURE_H_

@@ -7,11 +7,25 @@ _zq7_options="
   --convention
   --example
 "
+_zq7_fill_options="
+  --with
+  --output
+  --errors
+  --explain
+  --dates
+  --encoding
+  --delimiter
+  --guard
+  --stop
+  --jobs
+  --quiet
+"
 _zq7_subcommands="
   list
   help
   call
   batch
+  fill
 "
 _zq7_classes="
   ASCIIObject
@@ -243,6 +257,11 @@ _zq7_offer() {
   done
 }
 
+_zq7_files() {
+  compopt -o filenames 2> /dev/null
+  mapfile -t COMPREPLY < <(compgen -f -- "$1")
+}
+
 # The members of the enumerations of the parameters of operation $1.
 _zq7_members() {
   case ${1,,} in
@@ -267,10 +286,15 @@ _zq7() {
       _zq7_offer "mdy dmy mdy-buddhist dmy-buddhist" "$current"
       return
       ;;
+    --dates) _zq7_offer "iso typed" "$current"; return ;;
+    --encoding) _zq7_offer "utf-8 windows-874" "$current"; return ;;
+    --with | --delimiter | --jobs) return ;;
+    -o | --output | --errors) _zq7_files "$current"; return ;;
   esac
   for ((i = 1; i < COMP_CWORD; i++)); do
     case ${COMP_WORDS[i]} in
-      --now | --convention) ((i++)) ;;
+      --now | --convention | --dates | --encoding | --with | --delimiter | --jobs) ((i++)) ;;
+      -o | --output | --errors) ((i++)) ;;
       -*) ;;
       *)
         if [[ -z $subcommand ]]; then
@@ -283,16 +307,14 @@ _zq7() {
   done
   case $subcommand:$target:$current in
     call:*:-*) _zq7_offer "$_zq7_options --json" "$current" ;;
+    fill:*:-*) _zq7_offer "$_zq7_options $_zq7_fill_options" "$current" ;;
     *:*:-*) _zq7_offer "$_zq7_options" "$current" ;;
     ::*) _zq7_offer "$_zq7_subcommands" "$current" ;;
     list::*) _zq7_offer "$_zq7_classes" "$current" ;;
     help::*) _zq7_offer "$_zq7_classes $_zq7_operations $_zq7_others" "$current" ;;
     call::*) _zq7_offer "$_zq7_operations" "$current" ;;
     call:*) _zq7_offer "$(_zq7_members "$target")" "${current##*=}" ;;
-    batch::*)
-      compopt -o filenames 2> /dev/null
-      mapfile -t COMPREPLY < <(compgen -f -- "$current")
-      ;;
+    batch::* | fill::*) _zq7_files "$current" ;;
   esac
 }
 

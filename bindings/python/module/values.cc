@@ -6,13 +6,13 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cmath>
 #include <limits>
 #include <map>
 #include <optional>
 #include <span>
 #include <string>
 
+#include "moments.h"
 #include "services.h"
 
 namespace ZQ7Python {
@@ -20,11 +20,14 @@ namespace {
 
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
-using std::chrono::days;
 using std::chrono::local_days;
 using std::chrono::year_month_day;
+using ZQ7Bindings::DayCount;
+using ZQ7Bindings::MicrosecondsSince;
+using ZQ7Bindings::Moment;
+using ZQ7Bindings::MomentAt;
+using ZQ7Bindings::MomentOf;
 
-constexpr local_days kDayZero{std::chrono::year(1899) / 12 / 30};
 constexpr local_days k1970{std::chrono::year(1970) / 1 / 1};
 constexpr int kFirstYear = 100;
 
@@ -62,38 +65,6 @@ std::string Name(const Place& place) {
 
 [[noreturn]] void RaiseNotAValue(PyObject* object, const Place& place) {
   RaiseTypeError(place, std::string("a ") + Py_TYPE(object)->tp_name + " is not a value");
-}
-
-/// A day and the microseconds since its midnight.
-struct Moment {
-  local_days day;
-  std::int64_t microseconds;
-};
-
-double DayCount(const Moment& moment) {
-  const auto day = static_cast<double>((moment.day - kDayZero).count());
-  const double fraction =
-      static_cast<double>(moment.microseconds) / static_cast<double>(kDayMicroseconds);
-  const double count = day < 0 ? day - fraction : day + fraction;
-  // A time just before midnight may not round to another day.
-  return std::trunc(count) == day ? count : std::nextafter(count, 0);
-}
-
-/// The moment of a date. A day count of today has steps of 0.6 microseconds, one of the year 9999
-/// steps of 40: so the roundest time that has this very count is meant.
-Moment MomentOf(OleDate date) {
-  const local_days day = date.Civil();
-  const double time = date.TimeOfDay() * static_cast<double>(kDayMicroseconds);
-  if (time == 0) return {day, 0};
-  for (const std::int64_t step : {1'000'000, 1'000}) {
-    const Moment round{day, std::llround(time / static_cast<double>(step)) * step};
-    if (round.microseconds < kDayMicroseconds && DayCount(round) == date.Days()) return round;
-  }
-  const Moment nearest{day, std::llround(time)};
-  if (nearest.microseconds < kDayMicroseconds) return nearest;
-  // Less than a microsecond before midnight.
-  constexpr local_days kLastDay{std::chrono::year(9999) / 12 / 31};
-  return day == kLastDay ? Moment{day, kDayMicroseconds - 1} : Moment{day + days(1), 0};
 }
 
 template <typename Unit>
@@ -295,9 +266,7 @@ py::object DateToPython(OleDate date) {
 }
 
 OleDate DateFromMicroseconds(std::int64_t microseconds, const Place& place) {
-  const auto day = std::chrono::floor<days>(std::chrono::microseconds(microseconds));
-  const std::int64_t time = microseconds - day.count() * kDayMicroseconds;
-  const double count = DayCount({k1970 + day, time});
+  const double count = DayCount(MomentAt(microseconds, k1970));
   constexpr double kFirst = -657434;  // 0100-01-01
   constexpr double kEnd = 2958466;    // 10000-01-01
   if (!(count > kFirst - 1 && count < kEnd)) Raise(Error::kInvalidArgument, place);
@@ -305,8 +274,7 @@ OleDate DateFromMicroseconds(std::int64_t microseconds, const Place& place) {
 }
 
 std::int64_t MicrosecondsOf(OleDate date) {
-  const Moment moment = MomentOf(date);
-  return (moment.day - k1970).count() * kDayMicroseconds + moment.microseconds;
+  return MicrosecondsSince(k1970, MomentOf(date));
 }
 
 Value ValueFromPython(PyObject* object, const Place& place, BusyMarks& busy) {

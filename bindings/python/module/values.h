@@ -20,9 +20,6 @@ struct Place {
   const ZQ7Standard::Automation::TypeInfo& type;
 };
 
-/// Microseconds of a day.
-inline constexpr std::int64_t kDayMicroseconds = 86'400'000'000;
-
 /// Prepares the conversion of dates. Call it once, first.
 void LoadDates();
 

@@ -56,7 +56,8 @@ ZQ7STANDARD_EXPORT Object Wrap(std::shared_ptr<PrintPicture> picture,
 
 /// Calls an operation and returns its result, `Omitted` if it has none. Every failure is
 /// a `RunTimeError` that names class, operation and, if an argument is wrong, its
-/// parameter: what the operation raises, 440 with the text of any other exception, and
+/// parameter: what the operation raises, 7 if it runs out of memory, 440 with the text of any
+/// other exception, and
 /// - 438 for a name that is not an operation of the class,
 /// - 448 for an argument name that is not a parameter,
 /// - 449 for an argument that is missing and not optional; if the parameter is a text,

@@ -11,4 +11,8 @@ std::optional<std::size_t> TerminalColumns() {
   return size.ws_col;
 }
 
+bool IsErrorOnTerminal() {
+  return isatty(STDERR_FILENO) == 1;
+}
+
 }  // namespace ZQ7Tool
