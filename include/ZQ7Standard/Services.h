@@ -21,13 +21,17 @@ class FileCopier;
 class FileReader;
 class FileRewriter;
 class FileStatusSource;
+class FileVersions;
 class FileWriter;
 class Folders;
+class Machine;
+class Management;
 class MessageBox;
 class PrinterList;
 class Programs;
 class RandomSource;
 class Registry;
+class SpecialFolders;
 class TimeTextSource;
 class TimeZone;
 
@@ -63,6 +67,7 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     programs                      the machine's programs, with `drives`
 ///     desktop                       the programs that the user chose, with `drives`
 ///     time_zone                     the process's, for the object alone
+///     machine ... file_versions     the machine itself, with `drives`
 ///     os                            the environment variable "OS", asked each time
 ///
 /// Copies of an object share its services. A host that gives the same services to objects
@@ -87,6 +92,10 @@ struct Services {
   std::shared_ptr<Programs> programs = nullptr;
   std::shared_ptr<Desktop> desktop = nullptr;
   std::shared_ptr<TimeZone> time_zone = nullptr;
+  std::shared_ptr<Machine> machine = nullptr;
+  std::shared_ptr<Management> management = nullptr;
+  std::shared_ptr<SpecialFolders> special_folders = nullptr;
+  std::shared_ptr<FileVersions> file_versions = nullptr;
   std::optional<Text> os = std::nullopt;
 };
 
