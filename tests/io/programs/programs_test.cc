@@ -76,8 +76,8 @@ TEST(ExecuteProgram, HandsOnNothingOfTheHost) {
   sigaddset(&blocked, SIGUSR2);
   pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
   EXPECT_EQ(Shell(u"[ ! -e /proc/$$/fd/$1 ]", {FromUtf8(std::to_string(open_file))}), 0);
-  EXPECT_EQ(Shell(u"grep -q 'SigIgn:.0000000000000000' /proc/$$/status"), 0);
-  EXPECT_EQ(Shell(u"grep -q 'SigBlk:.0000000000000000' /proc/$$/status"), 0);
+  EXPECT_EQ(Shell(u"exec grep -q 'SigIgn:.0000000000000000' /proc/self/status"), 0);
+  EXPECT_EQ(Shell(u"exec grep -q 'SigBlk:.0000000000000000' /proc/self/status"), 0);
   pthread_sigmask(SIG_UNBLOCK, &blocked, nullptr);
   std::signal(SIGUSR1, SIG_DFL);
   close(open_file);
