@@ -80,6 +80,38 @@ enum KetRootType : std::int32_t {
   HKEY_PERFORMANCE_DATA = HKEY_CLASSES_ROOT + 4,  ///< never holds a value
 };
 
+/// Folders of the user and of the machine, with the platform's numbers.
+enum VirtualFolder : std::int32_t {
+  CSIDL_DESKTOP = 0,
+  CSIDL_INTERNET = 1,                  ///< none
+  CSIDL_PROGRAMS = 2,                  ///< starters of the user's programs
+  CSIDL_CONTROLS = 3,                  ///< none
+  CSIDL_PRINTERS = 4,                  ///< none
+  CSIDL_PERSONAL = 5,                  ///< documents
+  CSIDL_FAVORITES = 6,                 ///< none
+  CSIDL_STARTUP = 7,                   ///< programs that start when the user logs in
+  CSIDL_RECENT = 8,                    ///< none
+  CSIDL_SENDTO = 9,                    ///< none
+  CSIDL_BITBUCKET = 10,                ///< none
+  CSIDL_STARTMENU = 11,                ///< as `CSIDL_PROGRAMS`
+  CSIDL_MYDOCUMENTS = 12,              ///< as `CSIDL_PERSONAL`
+  CSIDL_MYMUSIC = 13,                  ///< music
+  CSIDL_MYVIDEO = 14,                  ///< videos
+  CSIDL_DESKTOPDIRECTORY = 16,         ///< as `CSIDL_DESKTOP`
+  CSIDL_DRIVES = 17,                   ///< none
+  CSIDL_NETWORK = 18,                  ///< none
+  CSIDL_NETHOOD = 19,                  ///< none
+  CSIDL_FONTS = 20,                    ///< the machine's fonts
+  CSIDL_TEMPLATES = 21,                ///< templates of documents
+  CSIDL_COMMON_STARTMENU = 22,         ///< as `CSIDL_COMMON_PROGRAMS`
+  CSIDL_COMMON_PROGRAMS = 23,          ///< starters of everybody's programs
+  CSIDL_COMMON_STARTUP = 24,           ///< programs that start when anybody logs in
+  CSIDL_COMMON_DESKTOPDIRECTORY = 25,  ///< none
+  CSIDL_APPDATA = 26,                  ///< settings of programs
+  CSIDL_LOCAL_APPDATA = 28,            ///< data of programs
+  CSIDL_MYPICTURES = 39,               ///< pictures
+};
+
 }  // namespace ZQ7Standard
 
 #endif  // ZQ7STANDARD_ENUMERATIONS_H_

@@ -21,14 +21,18 @@ class FileCopier;
 class FileReader;
 class FileRewriter;
 class FileStatusSource;
+class FileVersions;
 class FileWriter;
 class Folders;
+class Machine;
+class Management;
 class MessageBox;
 class PictureEncoder;
 class PrinterList;
 class Programs;
 class RandomSource;
 class Registry;
+class SpecialFolders;
 class TimeTextSource;
 class TimeZone;
 
@@ -65,6 +69,7 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     desktop                       the programs that the user chose, with `drives`
 ///     picture_encoder               the printing module's
 ///     time_zone                     the process's, for the object alone
+///     machine ... file_versions     the machine itself, with `drives`
 ///     os                            the environment variable "OS", asked each time
 ///
 /// Copies of an object share its services. A host that gives the same services to objects
@@ -90,6 +95,10 @@ struct Services {
   std::shared_ptr<Desktop> desktop = nullptr;
   std::shared_ptr<PictureEncoder> picture_encoder = nullptr;
   std::shared_ptr<TimeZone> time_zone = nullptr;
+  std::shared_ptr<Machine> machine = nullptr;
+  std::shared_ptr<Management> management = nullptr;
+  std::shared_ptr<SpecialFolders> special_folders = nullptr;
+  std::shared_ptr<FileVersions> file_versions = nullptr;
   std::optional<Text> os = std::nullopt;
 };
 

@@ -847,6 +847,50 @@ class ZQ7STANDARD_EXPORT StandardObject {
   void OpenCalendar(TextView Subject, OleDate StartDate, OleDate EndDate, TextView Place = {},
                     TextView Body = {}) const;
 
+  // --- The machine: src/io/machine/machine.cc; docs/system.md ---
+
+  /// Returns the name of the computer, without its domain.
+  Text GetComputerName() const;
+
+  /// Returns the serial number of the disk that holds a path, as its maker wrote it.
+  ///
+  /// `Path` need not exist. Of several disks under one file system it is the first. Empty if
+  /// the disk does not tell, or the path is on a network.
+  Text GetDiskSerialNumber(TextView Path = u"C:") const;
+
+  /// Returns the serial number of the volume that holds a path, eight hexadecimal digits.
+  ///
+  /// It changes when the volume is formatted. FAT's "1A2B-3C4D" is "1A2B3C4D", of NTFS it is
+  /// the last eight digits; longer ones of other file systems are folded to eight. `Path`
+  /// need not exist. Empty if there is none, or the path is on a network.
+  Text GetVolumeSerialNumber(TextView Path = u"C:") const;
+
+  /// Returns a property of the machine's parts: a text for each part.
+  ///
+  /// The classes are "Win32_ComputerSystem", "Win32_BIOS", "Win32_BaseBoard",
+  /// "Win32_Processor", "Win32_DiskDrive", "Win32_LogicalDisk", "Win32_NetworkAdapter" and
+  /// "Win32_OperatingSystem"; docs/system.md has their properties. The case of names does
+  /// not matter. What is not known is the empty text.
+  ///
+  /// A `Condition` such as "DeviceID=C:" chooses parts by another property, in any case of A
+  /// to Z. Raises 5 if it has no name or no "=", 438 for a class or a property that does not
+  /// exist.
+  std::vector<Text> QueryManagement(TextView ClassName, TextView PropertyName,
+                                    TextView Condition = {}) const;
+
+  /// Returns the path of a folder of the user's or the machine's; it need not exist.
+  ///
+  /// Empty if there is no such folder. Raises 5 for a number that is not a member of the
+  /// enumeration.
+  Text GetSpecialFolder(VirtualFolder Folder) const;
+
+  /// Returns the version of a program or library, empty if it has none.
+  ///
+  /// That is the version in a file of Windows, such as "1.2.3.4"; of any other file that of the
+  /// Debian package to which it belongs. Raises 53 for a file that does not exist, 75 for a
+  /// folder, 70 if it may not be read, or the package database does not answer in time.
+  Text GetFileVersion(TextView Path) const;
+
   // --- Pictures: src/io/images/picture_file.cc; docs/system.md ---
 
   /// Writes a picture to a JPEG file.

@@ -26,6 +26,7 @@ ClassRow SerialPortRows();
 // The operations of `StandardObject`, by subsystem.
 
 void AddDateOperations(ClassRow& owner);
+void AddMachineOperations(ClassRow& owner);
 void AddNumberOperations(ClassRow& owner);
 void AddTextOperations(ClassRow& owner);
 void AddSystemOperations(ClassRow& owner);

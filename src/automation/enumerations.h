@@ -17,6 +17,8 @@ inline constexpr std::string_view kEnumerationName<eImageType> = "eImageType";
 template <>
 inline constexpr std::string_view kEnumerationName<KetRootType> = "KetRootType";
 template <>
+inline constexpr std::string_view kEnumerationName<VirtualFolder> = "VirtualFolder";
+template <>
 inline constexpr std::string_view kEnumerationName<ZQ7ConditionType> = "ZQ7ConditionType";
 template <>
 inline constexpr std::string_view kEnumerationName<ZQ7ConditionOutputType> =

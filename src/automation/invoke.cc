@@ -1,4 +1,5 @@
 #include <ZQ7Standard/automation/invoke.h>
+#include <ZQ7Standard/platform/machine.h>
 
 #include <algorithm>
 #include <array>
@@ -179,7 +180,10 @@ EventSink::~EventSink() = default;
 Services ExampleServices() {
   return {.clock = FixedClock(OleDate::FromParts(2024, 1, 15, 9, 30)),
           .date_convention = FixedDateConvention({FieldOrder::kDayFirst, Era::kBuddhist}),
-          .registry = MemoryRegistry()};
+          .registry = MemoryRegistry(),
+          .machine = FixedMachine({.computer_name = u"SHOP-01",
+                                   .disk_serial_number = u"S4EVNX0N123456",
+                                   .volume_serial_number = u"1A2B3C4D"})};
 }
 
 Object Create(std::string_view class_name, const Services& services) {

@@ -17,4 +17,12 @@ std::string_view TakeLine(std::string_view& rest) {
   return line;
 }
 
+std::optional<std::string_view> LineAfter(std::string_view text, std::string_view beginning) {
+  while (!text.empty()) {
+    const std::string_view line = TakeLine(text);
+    if (line.starts_with(beginning)) return line.substr(beginning.size());
+  }
+  return std::nullopt;
+}
+
 }  // namespace ZQ7Standard

@@ -1,9 +1,11 @@
 #include <ZQ7Standard/platform/clock.h>
 #include <ZQ7Standard/platform/date_convention.h>
+#include <ZQ7Standard/platform/machine.h>
 #include <ZQ7Standard/platform/time_text.h>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace ZQ7Standard {
 namespace {
@@ -33,7 +35,22 @@ class ConstantConvention final : public DateConventionSource {
   DateConvention convention_;
 };
 
+class ConstantMachine final : public Machine {
+ public:
+  explicit ConstantMachine(MachineFacts facts) : facts_(std::move(facts)) {}
+  Text ComputerName() override { return facts_.computer_name; }
+  Text DiskSerialNumber(TextView /*path*/) override { return facts_.disk_serial_number; }
+  Text VolumeSerialNumber(TextView /*path*/) override { return facts_.volume_serial_number; }
+
+ private:
+  MachineFacts facts_;
+};
+
 }  // namespace
+
+std::shared_ptr<Machine> FixedMachine(MachineFacts facts) {
+  return std::make_shared<ConstantMachine>(std::move(facts));
+}
 
 std::shared_ptr<Clock> FixedClock(OleDate now) {
   return std::make_shared<ConstantClock>(now);

@@ -6,7 +6,10 @@
 #include <ZQ7Standard/platform/file_copier.h>
 #include <ZQ7Standard/platform/file_rewrite.h>
 #include <ZQ7Standard/platform/file_status.h>
+#include <ZQ7Standard/platform/file_versions.h>
 #include <ZQ7Standard/platform/folders.h>
+#include <ZQ7Standard/platform/machine.h>
+#include <ZQ7Standard/platform/management.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/picture_encoder.h>
 #include <ZQ7Standard/platform/print_document.h>
@@ -17,6 +20,7 @@
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
+#include <ZQ7Standard/platform/special_folders.h>
 #include <ZQ7Standard/platform/time_text.h>
 #include <ZQ7Standard/platform/time_zone.h>
 
@@ -32,8 +36,11 @@ FileCopier::~FileCopier() = default;
 FileReader::~FileReader() = default;
 FileRewriter::~FileRewriter() = default;
 FileStatusSource::~FileStatusSource() = default;
+FileVersions::~FileVersions() = default;
 FileWriter::~FileWriter() = default;
 Folders::~Folders() = default;
+Machine::~Machine() = default;
+Management::~Management() = default;
 MessageBox::~MessageBox() = default;
 PictureEncoder::~PictureEncoder() = default;
 PrintDocument::~PrintDocument() = default;
@@ -45,6 +52,7 @@ RandomSource::~RandomSource() = default;
 Registry::~Registry() = default;
 RegistryKey::~RegistryKey() = default;
 SerialPort::~SerialPort() = default;
+SpecialFolders::~SpecialFolders() = default;
 TimeTextSource::~TimeTextSource() = default;
 TimeZone::~TimeZone() = default;
 

@@ -92,6 +92,26 @@ TimeZone& ServiceSet::Zone() {
   return Completed(services_.time_zone, SystemTimeZone);
 }
 
+Machine& ServiceSet::Machine() {
+  return Completed(services_.machine,
+                   [this] { return SystemMachine({.drives = services_.drives}); });
+}
+
+Management& ServiceSet::Management() {
+  return Completed(services_.management,
+                   [this] { return SystemManagement({.drives = services_.drives}); });
+}
+
+SpecialFolders& ServiceSet::SpecialFolders() {
+  return Completed(services_.special_folders,
+                   [this] { return SystemSpecialFolders({.drives = services_.drives}); });
+}
+
+FileVersions& ServiceSet::FileVersions() {
+  return Completed(services_.file_versions,
+                   [this] { return SystemFileVersions({.drives = services_.drives}); });
+}
+
 OleDate ServiceSet::Now() {
   return Completed(services_.clock, SharedClock).Now();
 }

@@ -10,13 +10,17 @@
 #include <ZQ7Standard/platform/file_copier.h>
 #include <ZQ7Standard/platform/file_rewrite.h>
 #include <ZQ7Standard/platform/file_status.h>
+#include <ZQ7Standard/platform/file_versions.h>
 #include <ZQ7Standard/platform/folders.h>
+#include <ZQ7Standard/platform/machine.h>
+#include <ZQ7Standard/platform/management.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/picture_encoder.h>
 #include <ZQ7Standard/platform/printers.h>
 #include <ZQ7Standard/platform/programs.h>
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
+#include <ZQ7Standard/platform/special_folders.h>
 #include <ZQ7Standard/platform/time_text.h>
 #include <ZQ7Standard/platform/time_zone.h>
 
@@ -45,6 +49,10 @@ class ServiceSet {
   ZQ7Standard::Desktop& Desktop();
   ZQ7Standard::PictureEncoder& PictureEncoder();
   TimeZone& Zone();
+  ZQ7Standard::Machine& Machine();
+  ZQ7Standard::Management& Management();
+  ZQ7Standard::SpecialFolders& SpecialFolders();
+  ZQ7Standard::FileVersions& FileVersions();
 
   /// The local date and time, and that day at 00:00.
   OleDate Now();

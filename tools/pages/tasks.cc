@@ -117,6 +117,15 @@ constexpr auto kPrograms = std::to_array<Task>({
     {"open an appointment", "StandardObject.OpenCalendar"},
 });
 
+constexpr auto kMachine = std::to_array<Task>({
+    {"tell one machine from another",
+     "StandardObject.GetComputerName StandardObject.GetDiskSerialNumber "
+     "StandardObject.GetVolumeSerialNumber"},
+    {"ask for the parts of the machine", "StandardObject.QueryManagement"},
+    {"find the folder for settings or documents", "StandardObject.GetSpecialFolder"},
+    {"know the version of a program", "StandardObject.GetFileVersion"},
+});
+
 constexpr auto kSubjects = std::to_array<Subject>({
     {"Money and numbers", kMoney},
     {"Dates and times", kDates},
@@ -126,6 +135,7 @@ constexpr auto kSubjects = std::to_array<Subject>({
     {"Grids and bits", kNumbers},
     {"Printers and devices", kDevices},
     {"Programs and the desktop", kPrograms},
+    {"The machine", kMachine},
 });
 
 }  // namespace

@@ -2,10 +2,12 @@
 
 #include <fcntl.h>
 #include <linux/sched.h>
+#include <poll.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -21,6 +23,12 @@ namespace {
 /// The pipe to the host, in the copies of it: the first number after the standard streams.
 constexpr int kPipe = 3;
 constexpr int kSignalStatus = 128;
+
+using std::chrono::milliseconds;
+using Timer = std::chrono::steady_clock;
+
+/// How long a program may take to end once it is told to, and to be gone once it is ended.
+constexpr milliseconds kEndTime{2000};
 
 /// What a child tells the host through a pipe that its program does not inherit.
 struct Report {
@@ -56,6 +64,14 @@ void ReadNothing() {
   if (nothing > 0) dup2(nothing, STDIN_FILENO);
 }
 
+/// Standard output is the file `output`, unless that is -1.
+void WriteTo(int output) {
+  if (output < 0) return;
+  dup2(output, STDOUT_FILENO);
+  const int nothing = open("/dev/null", O_WRONLY | O_CLOEXEC);
+  if (nothing > 0) dup2(nothing, STDERR_FILENO);
+}
+
 /// Becomes the program. Returns only if that fails.
 void Execute(const char* path, char* const* arguments, const char* folder) {
   if (*folder != '\0' && chdir(folder) != 0) return Tell({Report::kFailedFolder, errno});
@@ -81,18 +97,20 @@ std::int32_t StatusOf(idtype_t kind, int child) {
 
 /// The steps of the copy, which starts the program and, if it is awaited, ends as the program does.
 /// The program itself could not be the host's child: starting it restores the signal at its end.
-[[noreturn]] void RunCopy(const char* path, char* const* arguments, const char* folder, int pipe,
+[[noreturn]] void RunCopy(const ChildStart& start, char* const* arguments, int pipe,
                           ChildKind kind) {
+  WriteTo(start.output);
   CloseTheHostsFiles(pipe);
   const std::int32_t number = CopyProcess(nullptr);
   if (number < 0) Tell({Report::kFailedStart, errno});
   if (number == 0) {
     setsid();
     Tell({Report::kNumber, static_cast<std::int32_t>(getpid())});
-    Execute(path, arguments, folder);
+    Execute(start.path.c_str(), arguments, start.folder.c_str());
     _exit(1);
   }
   close(kPipe);
+  if (start.output >= 0) close(STDOUT_FILENO);
   _exit(kind == ChildKind::kAwaited && number > 0 ? StatusOf(P_PID, number) : 0);
 }
 
@@ -126,7 +144,7 @@ std::int32_t StartCopy(const ChildStart& start, char* const* arguments, int pipe
                        int* handle) {
   const BlockedSignals blocked;
   const std::int32_t number = CopyProcess(handle);
-  if (number == 0) RunCopy(start.path.c_str(), arguments, start.folder.c_str(), pipe, kind);
+  if (number == 0) RunCopy(start, arguments, pipe, kind);
   return number;
 }
 
@@ -163,6 +181,28 @@ StartedProcess StartProcess(const ChildStart& start, ChildKind kind) {
   const bool remains = kind == ChildKind::kAwaited && started.failure.error == 0;
   if (!remains) ExitStatus(started.process);
   return started;
+}
+
+bool EndsWithin(const ChildProcess& process, milliseconds limit) {
+  const auto deadline = Timer::now() + limit;
+  for (;;) {
+    const auto left = std::chrono::ceil<milliseconds>(deadline - Timer::now());
+    pollfd ready = {process.handle.Number(), POLLIN, 0};
+    const int found = poll(&ready, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
+    if (found > 0) return true;
+    if (found == 0) return false;
+    if (errno != EINTR) return false;
+  }
+}
+
+void End(const ChildProcess& process) {
+  kill(-process.number, SIGTERM);
+  if (EndsWithin(process, kEndTime)) {
+    ExitStatus(process);
+    return;
+  }
+  kill(-process.number, SIGKILL);
+  if (EndsWithin(process, kEndTime)) ExitStatus(process);
 }
 
 std::int32_t ExitStatus(const ChildProcess& process) {

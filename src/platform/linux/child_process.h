@@ -1,6 +1,7 @@
 #ifndef ZQ7STANDARD_SRC_PLATFORM_LINUX_CHILD_PROCESS_H_
 #define ZQ7STANDARD_SRC_PLATFORM_LINUX_CHILD_PROCESS_H_
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,6 +15,7 @@ struct ChildStart {
   std::string path;
   std::vector<std::string> arguments;  ///< the first is the program's own name
   std::string folder;                  ///< empty: the host's own
+  int output = -1;                     ///< what it writes to, its errors to nothing; -1: the host's
 };
 
 enum class ChildKind {
@@ -41,6 +43,12 @@ struct StartedProcess {
 /// Starts a program and waits until it runs or could not be started. The host gets no SIGCHLD, and
 /// its own waiting for children does not see this one.
 StartedProcess StartProcess(const ChildStart& start, ChildKind kind);
+
+/// Waits until an awaited process ends; returns whether it did.
+bool EndsWithin(const ChildProcess& process, std::chrono::milliseconds limit);
+
+/// Ends an awaited process and those that it started.
+void End(const ChildProcess& process);
 
 /// Takes the exit status of an awaited process that has ended: 128 and the signal's number if a
 /// signal ended it.

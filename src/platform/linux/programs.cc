@@ -1,14 +1,6 @@
 #include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/programs.h>
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
-#include <cerrno>
-#include <csignal>
 #include <string>
 #include <utility>
 
@@ -22,23 +14,6 @@ namespace ZQ7Standard {
 namespace {
 
 using std::chrono::milliseconds;
-using Clock = std::chrono::steady_clock;
-
-/// How long a program may take to end once it is told to, and to be gone once it is ended.
-constexpr milliseconds kEndTime{2000};
-
-/// Waits until the process ends; returns whether it did.
-bool EndsWithin(const Descriptor& process, milliseconds limit) {
-  const auto deadline = Clock::now() + limit;
-  for (;;) {
-    const auto left = std::chrono::ceil<milliseconds>(deadline - Clock::now());
-    pollfd ready = {process.Number(), POLLIN, 0};
-    const int found = poll(&ready, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
-    if (found > 0) return true;
-    if (found == 0) return false;
-    if (errno != EINTR) return false;
-  }
-}
 
 class LinuxPrograms final : public Programs {
  public:
@@ -51,7 +26,7 @@ class LinuxPrograms final : public Programs {
 
   std::int32_t Run(const ProgramStart& start, milliseconds limit) override {
     const ChildProcess child = StartChild(start, ChildKind::kAwaited);
-    if (!EndsWithin(child.handle, limit)) {
+    if (!EndsWithin(child, limit)) {
       End(child);
       throw RunTimeError(Error::kPermissionDenied, Utf8(start.program) + " did not end within " +
                                                        std::to_string(limit.count()) +
@@ -75,16 +50,6 @@ class LinuxPrograms final : public Programs {
       throw FileError(failure.error, "start in", start.folder, child.folder + "/");
     }
     throw FileError(failure.error, "start", start.program, path);
-  }
-
-  static void End(const ChildProcess& child) {
-    kill(-child.number, SIGTERM);
-    if (EndsWithin(child.handle, kEndTime)) {
-      ExitStatus(child);
-      return;
-    }
-    kill(-child.number, SIGKILL);
-    if (EndsWithin(child.handle, kEndTime)) ExitStatus(child);
   }
 
   DriveMap drives_;

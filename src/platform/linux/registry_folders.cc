@@ -5,19 +5,12 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <system_error>
+
+#include "platform/linux/environment.h"
 
 namespace ZQ7Standard {
 namespace {
-
-/// The folder named by an environment variable; empty if it names none, or one relative to the
-/// current folder, or the process has more rights than the user who made the environment.
-std::filesystem::path FolderFromEnvironment(const char* variable) {
-  const char* const value = secure_getenv(variable);
-  const std::filesystem::path folder = value == nullptr ? "" : value;
-  return folder.is_absolute() ? folder : std::filesystem::path();
-}
 
 /// Writes the names in `folder` to the disk.
 void SyncFolder(const std::filesystem::path& folder) {

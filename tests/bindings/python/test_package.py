@@ -93,10 +93,15 @@ class Examples(unittest.TestCase):
         except RunTimeError as error:
             return error.number
 
+    # Their examples are those of another machine, which Python cannot provide.
+    OF_A_MACHINE = {"GetComputerName", "GetDiskSerialNumber", "GetVolumeSerialNumber"}
+
     def test_examples(self):
         count = 0
         for owner in _native.classes():
             for operation in owner["operations"]:
+                if operation["name"] in self.OF_A_MACHINE:
+                    continue
                 for example in operation["examples"]:
                     with self.subTest(owner["name"], call=operation["name"], example=example):
                         wanted = example["error"] or example["result"]

@@ -20,6 +20,7 @@
 
 #include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
+#include "tests/support/variable.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -49,22 +50,6 @@ std::string Awaited(const path& file) {
   return Content(file);
 }
 
-/// Sets a variable of the environment until the end of a test.
-class Variable {
- public:
-  Variable(const char* name, const std::string& value) : name_(name) {
-    if (const char* const old = std::getenv(name)) old_ = old;
-    setenv(name, value.c_str(), 1);
-  }
-  ~Variable() { old_.empty() ? unsetenv(name_) : setenv(name_, old_.c_str(), 1); }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-
- private:
-  const char* name_;
-  std::string old_;
-};
-
 std::int32_t Shell(const Text& script, const std::vector<Text>& more = {},
                    double seconds = kEnough) {
   std::vector<Text> arguments = {u"-c", script, u"sh"};
@@ -91,8 +76,8 @@ TEST(ExecuteProgram, HandsOnNothingOfTheHost) {
   sigaddset(&blocked, SIGUSR2);
   pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
   EXPECT_EQ(Shell(u"[ ! -e /proc/$$/fd/$1 ]", {FromUtf8(std::to_string(open_file))}), 0);
-  EXPECT_EQ(Shell(u"grep -q 'SigIgn:.0000000000000000' /proc/$$/status"), 0);
-  EXPECT_EQ(Shell(u"grep -q 'SigBlk:.0000000000000000' /proc/$$/status"), 0);
+  EXPECT_EQ(Shell(u"exec grep -q 'SigIgn:.0000000000000000' /proc/self/status"), 0);
+  EXPECT_EQ(Shell(u"exec grep -q 'SigBlk:.0000000000000000' /proc/self/status"), 0);
   pthread_sigmask(SIG_UNBLOCK, &blocked, nullptr);
   std::signal(SIGUSR1, SIG_DFL);
   close(open_file);
@@ -204,7 +189,6 @@ TEST_F(DesktopTest, BeginsMessages) {
 
 TEST_F(DesktopTest, OpensAppointments) {
   const Variable zone("TZ", "Asia/Bangkok");
-  tzset();
   standard_.OpenCalendar(u"นับสินค้า", OleDate::FromParts(2024, 1, 16, 9, 0),
                          OleDate::FromParts(2024, 1, 16, 10, 0));
   const std::string opened = Opened();
