@@ -23,11 +23,13 @@ class FileRewriter;
 class FileStatusSource;
 class FileWriter;
 class Folders;
+class MailTransport;
 class MessageBox;
 class PrinterList;
 class Programs;
 class RandomSource;
 class Registry;
+class TimeServers;
 class TimeTextSource;
 class TimeZone;
 
@@ -63,6 +65,8 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     programs                      the machine's programs, with `drives`
 ///     desktop                       the programs that the user chose, with `drives`
 ///     time_zone                     the process's, for the object alone
+///     time_servers                  the network's, by SNTP
+///     mail_transport                the network's, by SMTP, with `drives`
 ///     os                            the environment variable "OS", asked each time
 ///
 /// Copies of an object share its services. A host that gives the same services to objects
@@ -87,6 +91,8 @@ struct Services {
   std::shared_ptr<Programs> programs = nullptr;
   std::shared_ptr<Desktop> desktop = nullptr;
   std::shared_ptr<TimeZone> time_zone = nullptr;
+  std::shared_ptr<TimeServers> time_servers = nullptr;
+  std::shared_ptr<MailTransport> mail_transport = nullptr;
   std::optional<Text> os = std::nullopt;
 };
 

@@ -29,6 +29,7 @@ void AddDateOperations(ClassRow& owner);
 void AddNumberOperations(ClassRow& owner);
 void AddTextOperations(ClassRow& owner);
 void AddSystemOperations(ClassRow& owner);
+void AddNetworkOperations(ClassRow& owner);
 
 }  // namespace ZQ7Standard::Automation
 

@@ -17,4 +17,18 @@ std::string_view TakeLine(std::string_view& rest) {
   return line;
 }
 
+Text WithLineEnds(TextView text) {
+  Text lines;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool pair = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+    if (pair) ++i;
+    if (text[i] == u'\r' || text[i] == u'\n') {
+      lines += u"\r\n";
+    } else {
+      lines += text[i];
+    }
+  }
+  return lines;
+}
+
 }  // namespace ZQ7Standard

@@ -7,6 +7,7 @@
 #include <ZQ7Standard/platform/file_rewrite.h>
 #include <ZQ7Standard/platform/file_status.h>
 #include <ZQ7Standard/platform/folders.h>
+#include <ZQ7Standard/platform/mail_transport.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/print_document.h>
 #include <ZQ7Standard/platform/print_picture.h>
@@ -16,6 +17,7 @@
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
+#include <ZQ7Standard/platform/time_servers.h>
 #include <ZQ7Standard/platform/time_text.h>
 #include <ZQ7Standard/platform/time_zone.h>
 
@@ -33,6 +35,7 @@ FileRewriter::~FileRewriter() = default;
 FileStatusSource::~FileStatusSource() = default;
 FileWriter::~FileWriter() = default;
 Folders::~Folders() = default;
+MailTransport::~MailTransport() = default;
 MessageBox::~MessageBox() = default;
 PrintDocument::~PrintDocument() = default;
 PrintPicture::~PrintPicture() = default;
@@ -43,6 +46,7 @@ RandomSource::~RandomSource() = default;
 Registry::~Registry() = default;
 RegistryKey::~RegistryKey() = default;
 SerialPort::~SerialPort() = default;
+TimeServers::~TimeServers() = default;
 TimeTextSource::~TimeTextSource() = default;
 TimeZone::~TimeZone() = default;
 

@@ -1,6 +1,7 @@
 #ifndef ZQ7STANDARD_SRC_PLATFORM_MODULES_H_
 #define ZQ7STANDARD_SRC_PLATFORM_MODULES_H_
 
+#include <ZQ7Standard/platform/mail_transport.h>
 #include <ZQ7Standard/platform/printers.h>
 
 #include <filesystem>
@@ -15,6 +16,11 @@ struct PrintingFunctions {
   std::shared_ptr<PrinterList> (*system_printers)(std::filesystem::path pdf_folder);
 };
 
+/// The functions of the network module.
+struct NetworkFunctions {
+  std::shared_ptr<MailTransport> (*mail_transport)(MailOptions options, DriveMap drives);
+};
+
 /// The functions of a module, or the reason why they are missing.
 template <typename Functions>
 struct ModuleOf {
@@ -23,9 +29,10 @@ struct ModuleOf {
 };
 
 /// Defined by the loader, by the modules themselves if they are linked in, and by
-/// src/platform/no_modules.cc if they are not built. The first call loads the module and remembers
-/// the outcome.
+/// src/platform/no_printing.cc and no_network.cc if they are not built. The first call loads the
+/// module and remembers the outcome.
 const ModuleOf<PrintingFunctions>& PrintingModule();
+const ModuleOf<NetworkFunctions>& NetworkModule();
 
 }  // namespace ZQ7Standard
 

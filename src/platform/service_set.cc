@@ -88,6 +88,15 @@ TimeZone& ServiceSet::Zone() {
   return Completed(services_.time_zone, SystemTimeZone);
 }
 
+TimeServers& ServiceSet::TimeServers() {
+  return Completed(services_.time_servers, SystemTimeServers);
+}
+
+MailTransport& ServiceSet::Mail() {
+  return Completed(services_.mail_transport,
+                   [this] { return SystemMailTransport({}, services_.drives); });
+}
+
 OleDate ServiceSet::Now() {
   return Completed(services_.clock, SharedClock).Now();
 }

@@ -11,11 +11,13 @@
 #include <ZQ7Standard/platform/file_rewrite.h>
 #include <ZQ7Standard/platform/file_status.h>
 #include <ZQ7Standard/platform/folders.h>
+#include <ZQ7Standard/platform/mail_transport.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/printers.h>
 #include <ZQ7Standard/platform/programs.h>
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
+#include <ZQ7Standard/platform/time_servers.h>
 #include <ZQ7Standard/platform/time_text.h>
 #include <ZQ7Standard/platform/time_zone.h>
 
@@ -43,6 +45,8 @@ class ServiceSet {
   ZQ7Standard::Programs& Programs();
   ZQ7Standard::Desktop& Desktop();
   TimeZone& Zone();
+  ZQ7Standard::TimeServers& TimeServers();
+  MailTransport& Mail();
 
   /// The local date and time, and that day at 00:00.
   OleDate Now();

@@ -116,6 +116,11 @@ constexpr auto kPrograms = std::to_array<Task>({
     {"open an appointment", "StandardObject.OpenCalendar"},
 });
 
+constexpr auto kNetwork = std::to_array<Task>({
+    {"ask a server for the time", "StandardObject.getRemoteTOD"},
+    {"send a message with attachments", "StandardObject.SendMail"},
+});
+
 constexpr auto kSubjects = std::to_array<Subject>({
     {"Money and numbers", kMoney},
     {"Dates and times", kDates},
@@ -125,6 +130,7 @@ constexpr auto kSubjects = std::to_array<Subject>({
     {"Grids and bits", kNumbers},
     {"Printers and devices", kDevices},
     {"Programs and the desktop", kPrograms},
+    {"The network", kNetwork},
 });
 
 }  // namespace

@@ -16,6 +16,7 @@ ClassRow StandardObjectRows() {
   AddNumberOperations(info);
   AddTextOperations(info);
   AddSystemOperations(info);
+  AddNetworkOperations(info);
   return info;
 }
 
