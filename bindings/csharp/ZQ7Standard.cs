@@ -356,6 +356,16 @@ public enum ZQ7CompareMethod {
   ZQ7CompareText = 1,
 }
 
+/// <summary>How a connection to a mail server is protected.</summary>
+public enum ZQ7ConnectionSecurity {
+  /// <summary>not at all</summary>
+  ZQ7ConnectionSecurityNone = 0,
+  /// <summary>by TLS, once the server agrees; often port 587</summary>
+  ZQ7ConnectionSecuritySTARTTLS = 1,
+  /// <summary>by TLS from the start; often port 465</summary>
+  ZQ7ConnectionSecuritySSL_TLS = 2,
+}
+
 /// <summary>The kind of an image file.</summary>
 public enum eImageType {
   /// <summary>none of the others</summary>
@@ -3884,6 +3894,100 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[4].Set(text4_, Body);
       Handle.Invoke(111, values_, (Body == null || Body.Length > 0) ? 5 : (Place == null ||
           Place.Length > 0) ? 4 : 3);
+    }
+  }
+
+  /// <summary>The date and time of a server of the network.</summary>
+  /// <param name="ServerName"><c>ServerName</c> is a name or an address, and perhaps a port:
+  /// "time.example", "10.0.0.1:123", "[::1]:123".</param>
+  /// <exception cref="RunTimeException">Raises 68 if nothing answers, after eight seconds at
+  /// most.</exception>
+  /// <remarks>
+  /// <para>It is asked by SNTP, and its answer is converted to the local time zone, to the second;
+  /// the machine's own clock plays no part. <c>ServerName</c> is a name or an address, and perhaps
+  /// a port: "time.example", "10.0.0.1:123", "[::1]:123". Any other text raises 5. Raises 68 if
+  /// nothing answers, after eight seconds at most.</para>
+  /// </remarks>
+  public DateTime getRemoteTOD(string ServerName) {
+    fixed (char* text0_ = ServerName) {
+      var value_ = new Value();
+      value_.Set(text0_, ServerName);
+      return Handle.Invoke(120, &value_, 1).TakeDate();
+    }
+  }
+
+  /// <summary>Sends a message through a mail server.</summary>
+  /// <param name="Server"></param>
+  /// <param name="Port">Raises 5 for an address that is none or not ASCII, for a line break in any
+  /// text but <c>Body</c>, and for a <c>Port</c> that is none; 53 for an attachment that does not
+  /// exist; 68 if no server answers in time; 70 if the connection is not secure or the log-in
+  /// fails; 57 if the server refuses the message or a recipient, and nobody gets it then; 429 if
+  /// the library's module for mail is missing.</param>
+  /// <param name="Security"></param>
+  /// <param name="User">An empty <c>User</c> does not log in.</param>
+  /// <param name="Password">Without security a <c>Password</c> is accepted for this machine
+  /// alone.</param>
+  /// <param name="From"><c>From</c> is one such address.</param>
+  /// <param name="To"><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",",
+  /// each with or without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in
+  /// quotation marks.</param>
+  /// <param name="Subject"></param>
+  /// <param name="Body"><c>Body</c> is HTML if <c>IsHtml</c>. Raises 5 for an address that is none
+  /// or not ASCII, for a line break in any text but <c>Body</c>, and for a <c>Port</c> that is
+  /// none; 53 for an attachment that does not exist; 68 if no server answers in time; 70 if the
+  /// connection is not secure or the log-in fails; 57 if the server refuses the message or a
+  /// recipient, and nobody gets it then; 429 if the library's module for mail is missing.</param>
+  /// <param name="Attachments"><c>Attachments</c> are path texts.</param>
+  /// <param name="CC"><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",",
+  /// each with or without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in
+  /// quotation marks.</param>
+  /// <param name="BCC"><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",",
+  /// each with or without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in
+  /// quotation marks. Who is named twice gets the message once, and nobody sees who is in
+  /// <c>BCC</c>.</param>
+  /// <param name="IsHtml"><c>Body</c> is HTML if <c>IsHtml</c>.</param>
+  /// <exception cref="RunTimeException">Raises 5 for an address that is none or not ASCII, for a
+  /// line break in any text but <c>Body</c>, and for a <c>Port</c> that is none; 53 for an
+  /// attachment that does not exist; 68 if no server answers in time; 70 if the connection is not
+  /// secure or the log-in fails; 57 if the server refuses the message or a recipient, and nobody
+  /// gets it then; 429 if the library's module for mail is missing.</exception>
+  /// <remarks>
+  /// <para><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",", each with or
+  /// without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in quotation marks.
+  /// <c>From</c> is one such address. Who is named twice gets the message once, and nobody sees who
+  /// is in <c>BCC</c>. <c>Attachments</c> are path texts. <c>Body</c> is HTML if
+  /// <c>IsHtml</c>.</para>
+  /// <para>A connection is secure or not made: the server's certificate and name are checked, and a
+  /// server without STARTTLS is refused. Without security a <c>Password</c> is accepted for this
+  /// machine alone. An empty <c>User</c> does not log in.</para>
+  /// <para>Raises 5 for an address that is none or not ASCII, for a line break in any text but
+  /// <c>Body</c>, and for a <c>Port</c> that is none; 53 for an attachment that does not exist; 68
+  /// if no server answers in time; 70 if the connection is not secure or the log-in fails; 57 if
+  /// the server refuses the message or a recipient, and nobody gets it then; 429 if the library's
+  /// module for mail is missing.</para>
+  /// </remarks>
+  public void SendMail(string Server, int Port, ZQ7ConnectionSecurity Security, string User,
+      string Password, string From, string To, string Subject, string Body,
+      string[] Attachments = null, string CC = "", string BCC = "", bool IsHtml = false) {
+    using (var memory_ = new NativeMemory())
+    fixed (char* text0_ = Server, text3_ = User, text4_ = Password, text5_ = From, text6_ = To,
+        text7_ = Subject, text8_ = Body, text10_ = CC, text11_ = BCC) {
+      Value* values_ = stackalloc Value[13];
+      values_[0].Set(text0_, Server);
+      values_[1].Set(Port);
+      values_[2].Set((int)Security);
+      values_[3].Set(text3_, User);
+      values_[4].Set(text4_, Password);
+      values_[5].Set(text5_, From);
+      values_[6].Set(text6_, To);
+      values_[7].Set(text7_, Subject);
+      values_[8].Set(text8_, Body);
+      values_[9].Set(memory_.List(Attachments), Attachments);
+      values_[10].Set(text10_, CC);
+      values_[11].Set(text11_, BCC);
+      values_[12].Set(IsHtml);
+      Handle.Invoke(121, values_, IsHtml ? 13 : (BCC == null || BCC.Length > 0) ? 12 : (CC == null
+          || CC.Length > 0) ? 11 : Attachments != null ? 10 : 9);
     }
   }
 }

@@ -212,6 +212,8 @@ _zq7_operations="
   StandardObject.OpenBrowser
   StandardObject.OpenMail
   StandardObject.OpenCalendar
+  StandardObject.getRemoteTOD
+  StandardObject.SendMail
 "
 _zq7_others="
   ASCIIObject.DisableMsgLevel
@@ -254,6 +256,7 @@ _zq7_members() {
     standardobject.formatcondition2) echo ZQ7AfterBLDate ZQ7AfterDeliveryDate ZQ7AfterEndOfBLMonth ZQ7AfterEndOfDeliveryMonth ZQ7AfterEndOfInvoiceMonth ZQ7AfterEndOfReceiveOSDOCMonth ZQ7AfterEndOfSPTMonth ZQ7AfterInvoiceDate ZQ7AfterReceiveOSDOC ZQ7ConditionOutputTypeFull ZQ7ConditionOutputTypeShort ;;
     standardobject.fixnumberwithcutmode) echo ZQ7FixUnitAllDown ZQ7FixUnitAllUp ZQ7FixUnitFiveUp ZQ7FixUnitNone ;;
     standardobject.instr2) echo ZQ7CompareBinary ZQ7CompareText ;;
+    standardobject.sendmail) echo ZQ7ConnectionSecurityNone ZQ7ConnectionSecuritySSL_TLS ZQ7ConnectionSecuritySTARTTLS ;;
   esac
 }
 

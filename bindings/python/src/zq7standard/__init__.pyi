@@ -70,6 +70,11 @@ class ZQ7CompareMethod(IntEnum):
     ZQ7CompareBinary = 0
     ZQ7CompareText = 1
 
+class ZQ7ConnectionSecurity(IntEnum):
+    ZQ7ConnectionSecurityNone = 0
+    ZQ7ConnectionSecuritySTARTTLS = 1
+    ZQ7ConnectionSecuritySSL_TLS = 2
+
 class eImageType(IntEnum):
     itUNKNOWN = 0
     itGIF = 1
@@ -315,6 +320,8 @@ class StandardObject(Object):
     def OpenBrowser(self, Address: str) -> None: ...
     def OpenMail(self, To: str, Subject: str = '', Body: str = '', Attachments: List[str] | Tuple[str, ...] = []) -> None: ...
     def OpenCalendar(self, Subject: str, StartDate: date, EndDate: date, Place: str = '', Body: str = '') -> None: ...
+    def getRemoteTOD(self, ServerName: str) -> datetime: ...
+    def SendMail(self, Server: str, Port: int | Decimal, Security: ZQ7ConnectionSecurity | int, User: str, Password: str, From: str, To: str, Subject: str, Body: str, Attachments: List[str] | Tuple[str, ...] = [], CC: str = '', BCC: str = '', IsHtml: bool = False) -> None: ...
 
 class PrintPicture(Object):
     def __init__(
@@ -356,6 +363,7 @@ __all__ = [
     "ZQ7ConditionOutputType",
     "ZQ7FixUnit",
     "ZQ7CompareMethod",
+    "ZQ7ConnectionSecurity",
     "eImageType",
     "KetRootType",
     "ASCIIObject",
