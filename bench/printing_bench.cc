@@ -6,7 +6,7 @@
 
 #include "bench/inputs.h"
 #include "bench/measure.h"
-#include "printing/handle.h"
+#include "handle.h"
 #include "printing/linux/named_settings.h"
 #include "printing/page_document.h"
 

@@ -356,6 +356,16 @@ public enum ZQ7CompareMethod {
   ZQ7CompareText = 1,
 }
 
+/// <summary>How a connection to a mail server is protected.</summary>
+public enum ZQ7ConnectionSecurity {
+  /// <summary>not at all</summary>
+  ZQ7ConnectionSecurityNone = 0,
+  /// <summary>by TLS, once the server agrees; often port 587</summary>
+  ZQ7ConnectionSecuritySTARTTLS = 1,
+  /// <summary>by TLS from the start; often port 465</summary>
+  ZQ7ConnectionSecuritySSL_TLS = 2,
+}
+
 /// <summary>The kind of an image file.</summary>
 public enum eImageType {
   /// <summary>none of the others</summary>
@@ -377,65 +387,6 @@ public enum KetRootType {
   HKEY_USERS = -2147483645,
   /// <summary>never holds a value</summary>
   HKEY_PERFORMANCE_DATA = -2147483644,
-}
-
-/// <summary>Folders of the user and of the machine, with the platform's numbers.</summary>
-public enum VirtualFolder {
-  CSIDL_DESKTOP = 0,
-  /// <summary>none</summary>
-  CSIDL_INTERNET = 1,
-  /// <summary>starters of the user's programs</summary>
-  CSIDL_PROGRAMS = 2,
-  /// <summary>none</summary>
-  CSIDL_CONTROLS = 3,
-  /// <summary>none</summary>
-  CSIDL_PRINTERS = 4,
-  /// <summary>documents</summary>
-  CSIDL_PERSONAL = 5,
-  /// <summary>none</summary>
-  CSIDL_FAVORITES = 6,
-  /// <summary>programs that start when the user logs in</summary>
-  CSIDL_STARTUP = 7,
-  /// <summary>none</summary>
-  CSIDL_RECENT = 8,
-  /// <summary>none</summary>
-  CSIDL_SENDTO = 9,
-  /// <summary>none</summary>
-  CSIDL_BITBUCKET = 10,
-  /// <summary>as <c>CSIDL_PROGRAMS</c></summary>
-  CSIDL_STARTMENU = 11,
-  /// <summary>as <c>CSIDL_PERSONAL</c></summary>
-  CSIDL_MYDOCUMENTS = 12,
-  /// <summary>music</summary>
-  CSIDL_MYMUSIC = 13,
-  /// <summary>videos</summary>
-  CSIDL_MYVIDEO = 14,
-  /// <summary>as <c>CSIDL_DESKTOP</c></summary>
-  CSIDL_DESKTOPDIRECTORY = 16,
-  /// <summary>none</summary>
-  CSIDL_DRIVES = 17,
-  /// <summary>none</summary>
-  CSIDL_NETWORK = 18,
-  /// <summary>none</summary>
-  CSIDL_NETHOOD = 19,
-  /// <summary>the machine's fonts</summary>
-  CSIDL_FONTS = 20,
-  /// <summary>templates of documents</summary>
-  CSIDL_TEMPLATES = 21,
-  /// <summary>as <c>CSIDL_COMMON_PROGRAMS</c></summary>
-  CSIDL_COMMON_STARTMENU = 22,
-  /// <summary>starters of everybody's programs</summary>
-  CSIDL_COMMON_PROGRAMS = 23,
-  /// <summary>programs that start when anybody logs in</summary>
-  CSIDL_COMMON_STARTUP = 24,
-  /// <summary>none</summary>
-  CSIDL_COMMON_DESKTOPDIRECTORY = 25,
-  /// <summary>settings of programs</summary>
-  CSIDL_APPDATA = 26,
-  /// <summary>data of programs</summary>
-  CSIDL_LOCAL_APPDATA = 28,
-  /// <summary>pictures</summary>
-  CSIDL_MYPICTURES = 39,
 }
 
 /// <summary>Settings, logs and whole texts in text files.</summary>
@@ -3946,102 +3897,97 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
     }
   }
 
-  /// <summary>Returns the name of the computer, without its domain.</summary>
-  /// <returns>For example, <c>GetComputerName()</c> returns <c>"SHOP-01"</c>.</returns>
-  public string GetComputerName() => Handle.InvokeText(112, null, 0);
-
-  /// <summary>Returns the serial number of the disk that holds a path, as its maker wrote
-  /// it.</summary>
-  /// <param name="Path"><c>Path</c> need not exist.</param>
-  /// <returns>For example, <c>GetDiskSerialNumber()</c> returns <c>"S4EVNX0N123456"</c>.</returns>
+  /// <summary>The date and time of a server of the network.</summary>
+  /// <param name="ServerName"><c>ServerName</c> is a name or an address, and perhaps a port:
+  /// "time.example", "10.0.0.1:123", "[::1]:123".</param>
+  /// <exception cref="RunTimeException">Raises 68 if nothing answers, after eight seconds at
+  /// most.</exception>
   /// <remarks>
-  /// <para><c>Path</c> need not exist. Of several disks under one file system it is the first.
-  /// Empty if the disk does not tell, or the path is on a network.</para>
+  /// <para>It is asked by SNTP, and its answer is converted to the local time zone, to the second;
+  /// the machine's own clock plays no part. <c>ServerName</c> is a name or an address, and perhaps
+  /// a port: "time.example", "10.0.0.1:123", "[::1]:123". Any other text raises 5. Raises 68 if
+  /// nothing answers, after eight seconds at most.</para>
   /// </remarks>
-  public string GetDiskSerialNumber(string Path = "C:") {
-    fixed (char* text0_ = Path) {
+  public DateTime getRemoteTOD(string ServerName) {
+    fixed (char* text0_ = ServerName) {
       var value_ = new Value();
-      value_.Set(text0_, Path);
-      return Handle.InvokeText(113, &value_, Path != "C:" ? 1 : 0);
+      value_.Set(text0_, ServerName);
+      return Handle.Invoke(120, &value_, 1).TakeDate();
     }
   }
 
-  /// <summary>Returns the serial number of the volume that holds a path, eight hexadecimal
-  /// digits.</summary>
-  /// <param name="Path"><c>Path</c> need not exist.</param>
-  /// <returns>For example, <c>GetVolumeSerialNumber("C:\\srv\\shop")</c> returns
-  /// <c>"1A2B3C4D"</c>.</returns>
+  /// <summary>Sends a message through a mail server.</summary>
+  /// <param name="Server"></param>
+  /// <param name="Port">Raises 5 for an address that is none or not ASCII, for a line break in any
+  /// text but <c>Body</c>, and for a <c>Port</c> that is none; 53 for an attachment that does not
+  /// exist; 68 if no server answers in time; 70 if the connection is not secure or the log-in
+  /// fails; 57 if the server refuses the message or a recipient, and nobody gets it then; 429 if
+  /// the library's module for mail is missing.</param>
+  /// <param name="Security"></param>
+  /// <param name="User">An empty <c>User</c> does not log in.</param>
+  /// <param name="Password">Without security a <c>Password</c> is accepted for this machine
+  /// alone.</param>
+  /// <param name="From"><c>From</c> is one such address.</param>
+  /// <param name="To"><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",",
+  /// each with or without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in
+  /// quotation marks.</param>
+  /// <param name="Subject"></param>
+  /// <param name="Body"><c>Body</c> is HTML if <c>IsHtml</c>. Raises 5 for an address that is none
+  /// or not ASCII, for a line break in any text but <c>Body</c>, and for a <c>Port</c> that is
+  /// none; 53 for an attachment that does not exist; 68 if no server answers in time; 70 if the
+  /// connection is not secure or the log-in fails; 57 if the server refuses the message or a
+  /// recipient, and nobody gets it then; 429 if the library's module for mail is missing.</param>
+  /// <param name="Attachments"><c>Attachments</c> are path texts.</param>
+  /// <param name="CC"><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",",
+  /// each with or without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in
+  /// quotation marks.</param>
+  /// <param name="BCC"><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",",
+  /// each with or without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in
+  /// quotation marks. Who is named twice gets the message once, and nobody sees who is in
+  /// <c>BCC</c>.</param>
+  /// <param name="IsHtml"><c>Body</c> is HTML if <c>IsHtml</c>.</param>
+  /// <exception cref="RunTimeException">Raises 5 for an address that is none or not ASCII, for a
+  /// line break in any text but <c>Body</c>, and for a <c>Port</c> that is none; 53 for an
+  /// attachment that does not exist; 68 if no server answers in time; 70 if the connection is not
+  /// secure or the log-in fails; 57 if the server refuses the message or a recipient, and nobody
+  /// gets it then; 429 if the library's module for mail is missing.</exception>
   /// <remarks>
-  /// <para>It changes when the volume is formatted. FAT's "1A2B-3C4D" is "1A2B3C4D", of NTFS it is
-  /// the last eight digits; longer ones of other file systems are folded to eight. <c>Path</c> need
-  /// not exist. Empty if there is none, or the path is on a network.</para>
+  /// <para><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",", each with or
+  /// without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in quotation marks.
+  /// <c>From</c> is one such address. Who is named twice gets the message once, and nobody sees who
+  /// is in <c>BCC</c>. <c>Attachments</c> are path texts. <c>Body</c> is HTML if
+  /// <c>IsHtml</c>.</para>
+  /// <para>A connection is secure or not made: the server's certificate and name are checked, and a
+  /// server without STARTTLS is refused. Without security a <c>Password</c> is accepted for this
+  /// machine alone. An empty <c>User</c> does not log in.</para>
+  /// <para>Raises 5 for an address that is none or not ASCII, for a line break in any text but
+  /// <c>Body</c>, and for a <c>Port</c> that is none; 53 for an attachment that does not exist; 68
+  /// if no server answers in time; 70 if the connection is not secure or the log-in fails; 57 if
+  /// the server refuses the message or a recipient, and nobody gets it then; 429 if the library's
+  /// module for mail is missing.</para>
   /// </remarks>
-  public string GetVolumeSerialNumber(string Path = "C:") {
-    fixed (char* text0_ = Path) {
-      var value_ = new Value();
-      value_.Set(text0_, Path);
-      return Handle.InvokeText(114, &value_, Path != "C:" ? 1 : 0);
-    }
-  }
-
-  /// <summary>Returns a property of the machine's parts: a text for each part.</summary>
-  /// <param name="ClassName"></param>
-  /// <param name="PropertyName"></param>
-  /// <param name="Condition">A <c>Condition</c> such as "DeviceID=C:" chooses parts by another
-  /// property, in any case of A to Z.</param>
-  /// <returns>For example, <c>QueryManagement("Win32_OperatingSystem", "Version",
-  /// "Caption=unknown")</c> returns <c></c>.</returns>
-  /// <exception cref="RunTimeException">Raises 5 if it has no name or no "=", 438 for a class or a
-  /// property that does not exist.</exception>
-  /// <remarks>
-  /// <para>The classes are "Win32_ComputerSystem", "Win32_BIOS", "Win32_BaseBoard",
-  /// "Win32_Processor", "Win32_DiskDrive", "Win32_LogicalDisk", "Win32_NetworkAdapter" and
-  /// "Win32_OperatingSystem"; docs/system.md has their properties. The case of names does not
-  /// matter. What is not known is the empty text.</para>
-  /// <para>A <c>Condition</c> such as "DeviceID=C:" chooses parts by another property, in any case
-  /// of A to Z. Raises 5 if it has no name or no "=", 438 for a class or a property that does not
-  /// exist.</para>
-  /// </remarks>
-  public string[] QueryManagement(string ClassName, string PropertyName, string Condition = "") {
-    fixed (char* text0_ = ClassName, text1_ = PropertyName, text2_ = Condition) {
-      Value* values_ = stackalloc Value[3];
-      values_[0].Set(text0_, ClassName);
-      values_[1].Set(text1_, PropertyName);
-      values_[2].Set(text2_, Condition);
-      return Handle.Invoke(115, values_, (Condition == null || Condition.Length > 0) ? 3 :
-          2).TakeTextList();
-    }
-  }
-
-  /// <summary>Returns the path of a folder of the user's or the machine's; it need not
-  /// exist.</summary>
-  /// <returns>For example, <c>GetSpecialFolder(CSIDL_FONTS)</c> returns
-  /// <c>"C:\usr\share\fonts"</c>.</returns>
-  /// <exception cref="RunTimeException">Raises 5 for a number that is not a member of the
-  /// enumeration.</exception>
-  /// <remarks>
-  /// <para>Empty if there is no such folder. Raises 5 for a number that is not a member of the
-  /// enumeration.</para>
-  /// </remarks>
-  public string GetSpecialFolder(VirtualFolder Folder) {
-    var value_ = new Value();
-    value_.Set((int)Folder);
-    return Handle.InvokeText(116, &value_, 1);
-  }
-
-  /// <summary>Returns the version of a program or library, empty if it has none.</summary>
-  /// <exception cref="RunTimeException">Raises 53 for a file that does not exist, 75 for a folder,
-  /// 70 if it may not be read, or the package database does not answer in time.</exception>
-  /// <remarks>
-  /// <para>That is the version in a file of Windows, such as "1.2.3.4"; of any other file that of
-  /// the Debian package to which it belongs. Raises 53 for a file that does not exist, 75 for a
-  /// folder, 70 if it may not be read, or the package database does not answer in time.</para>
-  /// </remarks>
-  public string GetFileVersion(string Path) {
-    fixed (char* text0_ = Path) {
-      var value_ = new Value();
-      value_.Set(text0_, Path);
-      return Handle.InvokeText(117, &value_, 1);
+  public void SendMail(string Server, int Port, ZQ7ConnectionSecurity Security, string User,
+      string Password, string From, string To, string Subject, string Body,
+      string[] Attachments = null, string CC = "", string BCC = "", bool IsHtml = false) {
+    using (var memory_ = new NativeMemory())
+    fixed (char* text0_ = Server, text3_ = User, text4_ = Password, text5_ = From, text6_ = To,
+        text7_ = Subject, text8_ = Body, text10_ = CC, text11_ = BCC) {
+      Value* values_ = stackalloc Value[13];
+      values_[0].Set(text0_, Server);
+      values_[1].Set(Port);
+      values_[2].Set((int)Security);
+      values_[3].Set(text3_, User);
+      values_[4].Set(text4_, Password);
+      values_[5].Set(text5_, From);
+      values_[6].Set(text6_, To);
+      values_[7].Set(text7_, Subject);
+      values_[8].Set(text8_, Body);
+      values_[9].Set(memory_.List(Attachments), Attachments);
+      values_[10].Set(text10_, CC);
+      values_[11].Set(text11_, BCC);
+      values_[12].Set(IsHtml);
+      Handle.Invoke(121, values_, IsHtml ? 13 : (BCC == null || BCC.Length > 0) ? 12 : (CC == null
+          || CC.Length > 0) ? 11 : Attachments != null ? 10 : 9);
     }
   }
 }

@@ -62,6 +62,13 @@ enum ZQ7CompareMethod : std::int32_t {
   ZQ7CompareText = 1,    ///< without regard to case, in every script and locale
 };
 
+/// How a connection to a mail server is protected.
+enum ZQ7ConnectionSecurity : std::int32_t {
+  ZQ7ConnectionSecurityNone = 0,      ///< not at all
+  ZQ7ConnectionSecuritySTARTTLS = 1,  ///< by TLS, once the server agrees; often port 587
+  ZQ7ConnectionSecuritySSL_TLS = 2,   ///< by TLS from the start; often port 465
+};
+
 /// The kind of an image file.
 enum eImageType : std::int32_t {
   itUNKNOWN = 0,  ///< none of the others

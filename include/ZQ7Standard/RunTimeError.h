@@ -25,6 +25,7 @@ enum class Error : std::int32_t {
   kFileNotFound = 53,
   kDeviceIoError = 57,
   kDiskFull = 61,
+  kDeviceUnavailable = 68,
   kPermissionDenied = 70,
   kPathFileAccess = 75,
   kPathNotFound = 76,

@@ -26,6 +26,7 @@ class FileWriter;
 class Folders;
 class Machine;
 class Management;
+class MailTransport;
 class MessageBox;
 class PictureEncoder;
 class PrinterList;
@@ -33,6 +34,7 @@ class Programs;
 class RandomSource;
 class Registry;
 class SpecialFolders;
+class TimeServers;
 class TimeTextSource;
 class TimeZone;
 
@@ -70,6 +72,8 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     picture_encoder               the printing module's
 ///     time_zone                     the process's, for the object alone
 ///     machine ... file_versions     the machine itself, with `drives`
+///     time_servers                  the network's, by SNTP
+///     mail_transport                the network's, by SMTP, with `drives`
 ///     os                            the environment variable "OS", asked each time
 ///
 /// Copies of an object share its services. A host that gives the same services to objects
@@ -99,6 +103,8 @@ struct Services {
   std::shared_ptr<Management> management = nullptr;
   std::shared_ptr<SpecialFolders> special_folders = nullptr;
   std::shared_ptr<FileVersions> file_versions = nullptr;
+  std::shared_ptr<TimeServers> time_servers = nullptr;
+  std::shared_ptr<MailTransport> mail_transport = nullptr;
   std::optional<Text> os = std::nullopt;
 };
 

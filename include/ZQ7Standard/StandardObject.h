@@ -906,6 +906,39 @@ class ZQ7STANDARD_EXPORT StandardObject {
   void SavePictureAsJPEG(const std::shared_ptr<PrintPicture>& Picture, TextView FileName,
                          std::int16_t Quality = 75) const;
 
+  // --- The time of a server: src/io/network/time_of_day.cc; docs/system.md ---
+
+  /// The date and time of a server of the network.
+  ///
+  /// It is asked by SNTP, and its answer is converted to the local time zone, to the second;
+  /// the machine's own clock plays no part. `ServerName` is a name or an address, and perhaps
+  /// a port: "time.example", "10.0.0.1:123", "[::1]:123". Any other text raises 5. Raises 68
+  /// if nothing answers, after eight seconds at most.
+  OleDate getRemoteTOD(TextView ServerName) const;
+
+  // --- Mail: src/io/network/mail.cc; docs/system.md ---
+
+  /// Sends a message through a mail server.
+  ///
+  /// `To`, `CC` and `BCC` have addresses separated by ";" or ",", each with or without a name:
+  /// "Somchai <s@shop.example>"; a name with a "," is in quotation marks. `From` is one such
+  /// address. Who is named twice gets the message once, and nobody sees who is in `BCC`.
+  /// `Attachments` are path texts. `Body` is HTML if `IsHtml`.
+  ///
+  /// A connection is secure or not made: the server's certificate and name are checked, and a
+  /// server without STARTTLS is refused. Without security a `Password` is accepted for this
+  /// machine alone. An empty `User` does not log in.
+  ///
+  /// Raises 5 for an address that is none or not ASCII, for a line break in any text but
+  /// `Body`, and for a `Port` that is none; 53 for an attachment that does not exist; 68 if no
+  /// server answers in time; 70 if the connection is not secure or the log-in fails; 57 if the
+  /// server refuses the message or a recipient, and nobody gets it then; 429 if the library's
+  /// module for mail is missing.
+  void SendMail(TextView Server, std::int32_t Port, ZQ7ConnectionSecurity Security, TextView User,
+                TextView Password, TextView From, TextView To, TextView Subject, TextView Body,
+                const std::vector<Text>& Attachments = {}, TextView CC = {}, TextView BCC = {},
+                bool IsHtml = false) const;
+
  private:
   std::shared_ptr<ServiceSet> services_;
 };

@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "formats/picture_size.h"
-#include "printing/handle.h"
+#include "handle.h"
 #include "printing/page_text.h"
 #include "printing/png_surface.h"
 

@@ -6,7 +6,7 @@
 
 #include <map>
 
-#include "printing/handle.h"
+#include "handle.h"
 
 namespace ZQ7Standard {
 

@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-#include "printing/handle.h"
+#include "handle.h"
 
 namespace ZQ7Standard {
 

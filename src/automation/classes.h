@@ -30,6 +30,7 @@ void AddMachineOperations(ClassRow& owner);
 void AddNumberOperations(ClassRow& owner);
 void AddTextOperations(ClassRow& owner);
 void AddSystemOperations(ClassRow& owner);
+void AddNetworkOperations(ClassRow& owner);
 
 }  // namespace ZQ7Standard::Automation
 

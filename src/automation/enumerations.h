@@ -24,6 +24,8 @@ template <>
 inline constexpr std::string_view kEnumerationName<ZQ7ConditionOutputType> =
     "ZQ7ConditionOutputType";
 template <>
+inline constexpr std::string_view kEnumerationName<ZQ7ConnectionSecurity> = "ZQ7ConnectionSecurity";
+template <>
 inline constexpr std::string_view kEnumerationName<ZQ7FixUnit> = "ZQ7FixUnit";
 template <>
 inline constexpr std::string_view kEnumerationName<ZQ7CompareMethod> = "ZQ7CompareMethod";

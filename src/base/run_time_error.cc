@@ -20,6 +20,7 @@ constexpr auto kErrors = std::to_array<ErrorInfo>({
     {Error::kFileNotFound, "FileNotFound", "file not found"},
     {Error::kDeviceIoError, "DeviceIoError", "device I/O error"},
     {Error::kDiskFull, "DiskFull", "disk full"},
+    {Error::kDeviceUnavailable, "DeviceUnavailable", "device unavailable"},
     {Error::kPermissionDenied, "PermissionDenied", "permission denied"},
     {Error::kPathFileAccess, "PathFileAccess", "path/file access error"},
     {Error::kPathNotFound, "PathNotFound", "path not found"},

@@ -5,6 +5,7 @@
 
 #include "base/ascii.h"
 #include "base/fields.h"
+#include "formats/lines.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -42,21 +43,6 @@ std::optional<unsigned> DigitValue(char c) {
       kHexDigits.find(static_cast<char>(AsciiUpper(static_cast<unsigned char>(c))));
   if (value == std::string_view::npos) return std::nullopt;
   return static_cast<unsigned>(value);
-}
-
-/// The line breaks of a text as those of a message.
-Text WithMailLineBreaks(TextView text) {
-  Text lines;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const bool pair = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
-    if (pair) ++i;
-    if (text[i] == u'\r' || text[i] == u'\n') {
-      lines += u"\r\n";
-    } else {
-      lines += text[i];
-    }
-  }
-  return lines;
 }
 
 std::string RecipientsOf(TextView to) {
@@ -135,7 +121,7 @@ std::string MailtoAddress(TextView to, TextView subject, TextView body) {
     separator = '&';
   };
   add("subject", Text(subject));
-  add("body", WithMailLineBreaks(body));
+  add("body", WithLineEnds(body));
   return address;
 }
 

@@ -25,4 +25,18 @@ std::optional<std::string_view> LineAfter(std::string_view text, std::string_vie
   return std::nullopt;
 }
 
+Text WithLineEnds(TextView text) {
+  Text lines;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool pair = text[i] == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n';
+    if (pair) ++i;
+    if (text[i] == u'\r' || text[i] == u'\n') {
+      lines += u"\r\n";
+    } else {
+      lines += text[i];
+    }
+  }
+  return lines;
+}
+
 }  // namespace ZQ7Standard

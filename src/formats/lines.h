@@ -1,6 +1,8 @@
 #ifndef ZQ7STANDARD_SRC_FORMATS_LINES_H_
 #define ZQ7STANDARD_SRC_FORMATS_LINES_H_
 
+#include <ZQ7Standard/Types.h>
+
 #include <optional>
 #include <string_view>
 
@@ -14,6 +16,9 @@ std::string_view TakeLine(std::string_view& rest);
 
 /// What follows `beginning` on the first line of `text` that begins with it; nullopt if none does.
 std::optional<std::string_view> LineAfter(std::string_view text, std::string_view beginning);
+
+/// A text with CR LF for each line break, as messages have them.
+Text WithLineEnds(TextView text);
 
 }  // namespace ZQ7Standard
 

@@ -10,6 +10,7 @@
 #include <ZQ7Standard/platform/folders.h>
 #include <ZQ7Standard/platform/machine.h>
 #include <ZQ7Standard/platform/management.h>
+#include <ZQ7Standard/platform/mail_transport.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/picture_encoder.h>
 #include <ZQ7Standard/platform/print_document.h>
@@ -21,6 +22,7 @@
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
 #include <ZQ7Standard/platform/special_folders.h>
+#include <ZQ7Standard/platform/time_servers.h>
 #include <ZQ7Standard/platform/time_text.h>
 #include <ZQ7Standard/platform/time_zone.h>
 
@@ -41,6 +43,7 @@ FileWriter::~FileWriter() = default;
 Folders::~Folders() = default;
 Machine::~Machine() = default;
 Management::~Management() = default;
+MailTransport::~MailTransport() = default;
 MessageBox::~MessageBox() = default;
 PictureEncoder::~PictureEncoder() = default;
 PrintDocument::~PrintDocument() = default;
@@ -53,6 +56,7 @@ Registry::~Registry() = default;
 RegistryKey::~RegistryKey() = default;
 SerialPort::~SerialPort() = default;
 SpecialFolders::~SpecialFolders() = default;
+TimeServers::~TimeServers() = default;
 TimeTextSource::~TimeTextSource() = default;
 TimeZone::~TimeZone() = default;
 

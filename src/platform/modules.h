@@ -1,6 +1,7 @@
 #ifndef ZQ7STANDARD_SRC_PLATFORM_MODULES_H_
 #define ZQ7STANDARD_SRC_PLATFORM_MODULES_H_
 
+#include <ZQ7Standard/platform/mail_transport.h>
 #include <ZQ7Standard/platform/printers.h>
 
 #include <filesystem>
@@ -17,6 +18,11 @@ struct PrintingFunctions {
   std::string (*to_jpeg)(std::string_view picture, int quality);
 };
 
+/// The functions of the network module.
+struct NetworkFunctions {
+  std::shared_ptr<MailTransport> (*mail_transport)(MailOptions options, DriveMap drives);
+};
+
 /// The functions of a module, or the reason why they are missing.
 template <typename Functions>
 struct ModuleOf {
@@ -25,9 +31,10 @@ struct ModuleOf {
 };
 
 /// Defined by the loader, by the modules themselves if they are linked in, and by
-/// src/platform/no_modules.cc if they are not built. The first call loads the module and remembers
-/// the outcome.
+/// src/platform/no_printing.cc and no_network.cc if they are not built. The first call loads the
+/// module and remembers the outcome.
 const ModuleOf<PrintingFunctions>& PrintingModule();
+const ModuleOf<NetworkFunctions>& NetworkModule();
 
 }  // namespace ZQ7Standard
 

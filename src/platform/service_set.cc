@@ -112,6 +112,15 @@ FileVersions& ServiceSet::FileVersions() {
                    [this] { return SystemFileVersions({.drives = services_.drives}); });
 }
 
+TimeServers& ServiceSet::TimeServers() {
+  return Completed(services_.time_servers, SystemTimeServers);
+}
+
+MailTransport& ServiceSet::Mail() {
+  return Completed(services_.mail_transport,
+                   [this] { return SystemMailTransport({}, services_.drives); });
+}
+
 OleDate ServiceSet::Now() {
   return Completed(services_.clock, SharedClock).Now();
 }

@@ -14,6 +14,7 @@
 #include <ZQ7Standard/platform/folders.h>
 #include <ZQ7Standard/platform/machine.h>
 #include <ZQ7Standard/platform/management.h>
+#include <ZQ7Standard/platform/mail_transport.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/picture_encoder.h>
 #include <ZQ7Standard/platform/printers.h>
@@ -21,6 +22,7 @@
 #include <ZQ7Standard/platform/random_source.h>
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/special_folders.h>
+#include <ZQ7Standard/platform/time_servers.h>
 #include <ZQ7Standard/platform/time_text.h>
 #include <ZQ7Standard/platform/time_zone.h>
 
@@ -53,6 +55,8 @@ class ServiceSet {
   ZQ7Standard::Management& Management();
   ZQ7Standard::SpecialFolders& SpecialFolders();
   ZQ7Standard::FileVersions& FileVersions();
+  ZQ7Standard::TimeServers& TimeServers();
+  MailTransport& Mail();
 
   /// The local date and time, and that day at 00:00.
   OleDate Now();

@@ -33,7 +33,7 @@ std::shared_ptr<PrinterList> SystemPrinters(std::filesystem::path pdf_folder) {
 }
 
 std::vector<ModuleStatus> Modules() {
-  return {{"printing", PrintingModule().problem}};
+  return {{"printing", PrintingModule().problem}, {"network", NetworkModule().problem}};
 }
 
 }  // namespace ZQ7Standard

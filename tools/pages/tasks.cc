@@ -124,6 +124,9 @@ constexpr auto kMachine = std::to_array<Task>({
     {"ask for the parts of the machine", "StandardObject.QueryManagement"},
     {"find the folder for settings or documents", "StandardObject.GetSpecialFolder"},
     {"know the version of a program", "StandardObject.GetFileVersion"},
+constexpr auto kNetwork = std::to_array<Task>({
+    {"ask a server for the time", "StandardObject.getRemoteTOD"},
+    {"send a message with attachments", "StandardObject.SendMail"},
 });
 
 constexpr auto kSubjects = std::to_array<Subject>({
@@ -136,6 +139,7 @@ constexpr auto kSubjects = std::to_array<Subject>({
     {"Printers and devices", kDevices},
     {"Programs and the desktop", kPrograms},
     {"The machine", kMachine},
+    {"The network", kNetwork},
 });
 
 }  // namespace

@@ -212,12 +212,8 @@ _zq7_operations="
   StandardObject.OpenBrowser
   StandardObject.OpenMail
   StandardObject.OpenCalendar
-  StandardObject.GetComputerName
-  StandardObject.GetDiskSerialNumber
-  StandardObject.GetVolumeSerialNumber
-  StandardObject.QueryManagement
-  StandardObject.GetSpecialFolder
-  StandardObject.GetFileVersion
+  StandardObject.getRemoteTOD
+  StandardObject.SendMail
 "
 _zq7_others="
   ASCIIObject.DisableMsgLevel
@@ -260,7 +256,7 @@ _zq7_members() {
     standardobject.formatcondition2) echo ZQ7AfterBLDate ZQ7AfterDeliveryDate ZQ7AfterEndOfBLMonth ZQ7AfterEndOfDeliveryMonth ZQ7AfterEndOfInvoiceMonth ZQ7AfterEndOfReceiveOSDOCMonth ZQ7AfterEndOfSPTMonth ZQ7AfterInvoiceDate ZQ7AfterReceiveOSDOC ZQ7ConditionOutputTypeFull ZQ7ConditionOutputTypeShort ;;
     standardobject.fixnumberwithcutmode) echo ZQ7FixUnitAllDown ZQ7FixUnitAllUp ZQ7FixUnitFiveUp ZQ7FixUnitNone ;;
     standardobject.instr2) echo ZQ7CompareBinary ZQ7CompareText ;;
-    standardobject.getspecialfolder) echo CSIDL_APPDATA CSIDL_BITBUCKET CSIDL_COMMON_DESKTOPDIRECTORY CSIDL_COMMON_PROGRAMS CSIDL_COMMON_STARTMENU CSIDL_COMMON_STARTUP CSIDL_CONTROLS CSIDL_DESKTOP CSIDL_DESKTOPDIRECTORY CSIDL_DRIVES CSIDL_FAVORITES CSIDL_FONTS CSIDL_INTERNET CSIDL_LOCAL_APPDATA CSIDL_MYDOCUMENTS CSIDL_MYMUSIC CSIDL_MYPICTURES CSIDL_MYVIDEO CSIDL_NETHOOD CSIDL_NETWORK CSIDL_PERSONAL CSIDL_PRINTERS CSIDL_PROGRAMS CSIDL_RECENT CSIDL_SENDTO CSIDL_STARTMENU CSIDL_STARTUP CSIDL_TEMPLATES ;;
+    standardobject.sendmail) echo ZQ7ConnectionSecurityNone ZQ7ConnectionSecuritySSL_TLS ZQ7ConnectionSecuritySTARTTLS ;;
   esac
 }
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "printing/handle.h"
+#include "handle.h"
 
 namespace ZQ7Standard {
 

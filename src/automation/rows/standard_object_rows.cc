@@ -17,6 +17,7 @@ ClassRow StandardObjectRows() {
   AddTextOperations(info);
   AddSystemOperations(info);
   AddMachineOperations(info);
+  AddNetworkOperations(info);
   return info;
 }
 

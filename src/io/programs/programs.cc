@@ -7,21 +7,13 @@
 #include "base/raise.h"
 #include "formats/address.h"
 #include "formats/calendar_text.h"
+#include "io/random_id.h"
 #include "platform/service_set.h"
 
 namespace ZQ7Standard {
 namespace {
 
 constexpr double kLongestWait = 1e6;  // seconds
-
-/// 128 random bits as hexadecimal digits.
-std::string NewId(RandomSource& random) {
-  constexpr std::string_view kDigits = "0123456789abcdef";
-  std::string id;
-  random.Reseed();
-  while (id.size() < 32) id += kDigits[static_cast<std::size_t>(random.Next() * 16)];
-  return id + "@zq7standard";
-}
 
 }  // namespace
 
@@ -56,7 +48,7 @@ void StandardObject::OpenCalendar(TextView Subject, OleDate StartDate, OleDate E
   if (EndDate < StartDate) Raise(Error::kInvalidArgument, {"OpenCalendar", "EndDate"}, EndDate);
   Named({"OpenCalendar"}, [&] {
     TimeZone& zone = services_->Zone();
-    const CalendarEvent event = {.id = NewId(services_->Random()),
+    const CalendarEvent event = {.id = RandomId(services_->Random()) + "@zq7standard",
                                  .written = zone.ToUtc(services_->Now()),
                                  .start = zone.ToUtc(StartDate),
                                  .end = zone.ToUtc(EndDate),

@@ -7,8 +7,6 @@
 #include <cerrno>
 #include <utility>
 
-#include "base/raise.h"
-
 namespace ZQ7Standard {
 namespace {
 
@@ -57,7 +55,7 @@ RunTimeError FileError(int number, std::string_view step, TextView path,
   const auto row = std::ranges::find(kErrors, number, &ErrorRow::number);
   Error error = row != kErrors.end() ? row->error : Error::kPathFileAccess;
   if (number == ENOENT && !IsFolderThere(native)) error = Error::kPathNotFound;
-  ErrorDetails details = DetailsOf(error, step);
+  ErrorDetails details = RunTimeError(error, step).Details();
   details.input = Text(path);
   return RunTimeError(std::move(details));
 }

@@ -72,4 +72,9 @@ const ModuleOf<PrintingFunctions>& PrintingModule() {
   return module;
 }
 
+const ModuleOf<NetworkFunctions>& NetworkModule() {
+  static const auto module = LoadOf<NetworkFunctions>("network");
+  return module;
+}
+
 }  // namespace ZQ7Standard

@@ -1,5 +1,5 @@
-#ifndef ZQ7STANDARD_MODULES_PRINTING_HANDLE_H_
-#define ZQ7STANDARD_MODULES_PRINTING_HANDLE_H_
+#ifndef ZQ7STANDARD_MODULES_HANDLE_H_
+#define ZQ7STANDARD_MODULES_HANDLE_H_
 
 #include <memory>
 
@@ -16,4 +16,4 @@ using Handle = std::unique_ptr<Object, Releaser<Release>>;
 
 }  // namespace ZQ7Standard
 
-#endif  // ZQ7STANDARD_MODULES_PRINTING_HANDLE_H_
+#endif  // ZQ7STANDARD_MODULES_HANDLE_H_
