@@ -13,7 +13,7 @@ namespace ZQ7Standard {
 namespace {
 
 constexpr TextView kQuery = u"dpkg-query";
-constexpr std::chrono::milliseconds kLimit{1000};  // for each of two questions
+constexpr std::chrono::milliseconds kLimit{2000};  // for each of two questions
 constexpr std::string_view kUsr = "/usr";
 constexpr std::string_view kPatternCharacters = "*?[\\";
 
