@@ -389,6 +389,65 @@ public enum KetRootType {
   HKEY_PERFORMANCE_DATA = -2147483644,
 }
 
+/// <summary>Folders of the user and of the machine, with the platform's numbers.</summary>
+public enum VirtualFolder {
+  CSIDL_DESKTOP = 0,
+  /// <summary>none</summary>
+  CSIDL_INTERNET = 1,
+  /// <summary>starters of the user's programs</summary>
+  CSIDL_PROGRAMS = 2,
+  /// <summary>none</summary>
+  CSIDL_CONTROLS = 3,
+  /// <summary>none</summary>
+  CSIDL_PRINTERS = 4,
+  /// <summary>documents</summary>
+  CSIDL_PERSONAL = 5,
+  /// <summary>none</summary>
+  CSIDL_FAVORITES = 6,
+  /// <summary>programs that start when the user logs in</summary>
+  CSIDL_STARTUP = 7,
+  /// <summary>none</summary>
+  CSIDL_RECENT = 8,
+  /// <summary>none</summary>
+  CSIDL_SENDTO = 9,
+  /// <summary>none</summary>
+  CSIDL_BITBUCKET = 10,
+  /// <summary>as <c>CSIDL_PROGRAMS</c></summary>
+  CSIDL_STARTMENU = 11,
+  /// <summary>as <c>CSIDL_PERSONAL</c></summary>
+  CSIDL_MYDOCUMENTS = 12,
+  /// <summary>music</summary>
+  CSIDL_MYMUSIC = 13,
+  /// <summary>videos</summary>
+  CSIDL_MYVIDEO = 14,
+  /// <summary>as <c>CSIDL_DESKTOP</c></summary>
+  CSIDL_DESKTOPDIRECTORY = 16,
+  /// <summary>none</summary>
+  CSIDL_DRIVES = 17,
+  /// <summary>none</summary>
+  CSIDL_NETWORK = 18,
+  /// <summary>none</summary>
+  CSIDL_NETHOOD = 19,
+  /// <summary>the machine's fonts</summary>
+  CSIDL_FONTS = 20,
+  /// <summary>templates of documents</summary>
+  CSIDL_TEMPLATES = 21,
+  /// <summary>as <c>CSIDL_COMMON_PROGRAMS</c></summary>
+  CSIDL_COMMON_STARTMENU = 22,
+  /// <summary>starters of everybody's programs</summary>
+  CSIDL_COMMON_PROGRAMS = 23,
+  /// <summary>programs that start when anybody logs in</summary>
+  CSIDL_COMMON_STARTUP = 24,
+  /// <summary>none</summary>
+  CSIDL_COMMON_DESKTOPDIRECTORY = 25,
+  /// <summary>settings of programs</summary>
+  CSIDL_APPDATA = 26,
+  /// <summary>data of programs</summary>
+  CSIDL_LOCAL_APPDATA = 28,
+  /// <summary>pictures</summary>
+  CSIDL_MYPICTURES = 39,
+}
+
 /// <summary>Settings, logs and whole texts in text files.</summary>
 /// <remarks>
 /// <para>The code page of the files is Windows-874.</para>
@@ -3894,6 +3953,134 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
       values_[4].Set(text4_, Body);
       Handle.Invoke(111, values_, (Body == null || Body.Length > 0) ? 5 : (Place == null ||
           Place.Length > 0) ? 4 : 3);
+    }
+  }
+
+  /// <summary>Writes a picture to a JPEG file.</summary>
+  /// <param name="Picture"><c>Picture</c> is one that <c>PrintObject</c> prints; transparent parts
+  /// become white.</param>
+  /// <param name="FileName"></param>
+  /// <param name="Quality"><c>Quality</c> is 1 to 100; any other raises 5, and so does no
+  /// picture.</param>
+  /// <exception cref="RunTimeException">Raises 481 if the picture is damaged, has a side of more
+  /// than 65500 pixels or more than 100 million in all, 429 without the printing module, 57, 61,
+  /// 70, 75 or 76 if the file cannot be written.</exception>
+  /// <remarks>
+  /// <para><c>Picture</c> is one that <c>PrintObject</c> prints; transparent parts become white. A
+  /// JPEG is decoded and written anew. Its density is kept, what else the file told is not: the
+  /// place where a photo was taken, or which side is up. The file is written whole or not at all,
+  /// in place of one that exists.</para>
+  /// <para><c>Quality</c> is 1 to 100; any other raises 5, and so does no picture. Raises 481 if
+  /// the picture is damaged, has a side of more than 65500 pixels or more than 100 million in all,
+  /// 429 without the printing module, 57, 61, 70, 75 or 76 if the file cannot be written.</para>
+  /// </remarks>
+  public void SavePictureAsJPEG(PrintPicture Picture, string FileName, short Quality = 75) {
+    fixed (char* text1_ = FileName) {
+      Value* values_ = stackalloc Value[3];
+      values_[0].Set(Picture);
+      values_[1].Set(text1_, FileName);
+      values_[2].Set(Quality);
+      Handle.Invoke(126, values_, Quality != 75 ? 3 : 2);
+      GC.KeepAlive(Picture);
+    }
+  }
+
+  /// <summary>Returns the name of the computer, without its domain.</summary>
+  /// <returns>For example, <c>GetComputerName()</c> returns <c>"SHOP-01"</c>.</returns>
+  public string GetComputerName() => Handle.InvokeText(112, null, 0);
+
+  /// <summary>Returns the serial number of the disk that holds a path, as its maker wrote
+  /// it.</summary>
+  /// <param name="Path"><c>Path</c> need not exist.</param>
+  /// <returns>For example, <c>GetDiskSerialNumber()</c> returns <c>"S4EVNX0N123456"</c>.</returns>
+  /// <remarks>
+  /// <para><c>Path</c> need not exist. Of several disks under one file system it is the first.
+  /// Empty if the disk does not tell, or the path is on a network.</para>
+  /// </remarks>
+  public string GetDiskSerialNumber(string Path = "C:") {
+    fixed (char* text0_ = Path) {
+      var value_ = new Value();
+      value_.Set(text0_, Path);
+      return Handle.InvokeText(113, &value_, Path != "C:" ? 1 : 0);
+    }
+  }
+
+  /// <summary>Returns the serial number of the volume that holds a path, eight hexadecimal
+  /// digits.</summary>
+  /// <param name="Path"><c>Path</c> need not exist.</param>
+  /// <returns>For example, <c>GetVolumeSerialNumber("C:\\srv\\shop")</c> returns
+  /// <c>"1A2B3C4D"</c>.</returns>
+  /// <remarks>
+  /// <para>It changes when the volume is formatted. FAT's "1A2B-3C4D" is "1A2B3C4D", of NTFS it is
+  /// the last eight digits; longer ones of other file systems are folded to eight. <c>Path</c> need
+  /// not exist. Empty if there is none, or the path is on a network.</para>
+  /// </remarks>
+  public string GetVolumeSerialNumber(string Path = "C:") {
+    fixed (char* text0_ = Path) {
+      var value_ = new Value();
+      value_.Set(text0_, Path);
+      return Handle.InvokeText(114, &value_, Path != "C:" ? 1 : 0);
+    }
+  }
+
+  /// <summary>Returns a property of the machine's parts: a text for each part.</summary>
+  /// <param name="ClassName"></param>
+  /// <param name="PropertyName"></param>
+  /// <param name="Condition">A <c>Condition</c> such as "DeviceID=C:" chooses parts by another
+  /// property, in any case of A to Z.</param>
+  /// <returns>For example, <c>QueryManagement("Win32_OperatingSystem", "Version",
+  /// "Caption=unknown")</c> returns <c></c>.</returns>
+  /// <exception cref="RunTimeException">Raises 5 if it has no name or no "=", 438 for a class or a
+  /// property that does not exist.</exception>
+  /// <remarks>
+  /// <para>The classes are "Win32_ComputerSystem", "Win32_BIOS", "Win32_BaseBoard",
+  /// "Win32_Processor", "Win32_DiskDrive", "Win32_LogicalDisk", "Win32_NetworkAdapter" and
+  /// "Win32_OperatingSystem"; docs/system.md has their properties. The case of names does not
+  /// matter. What is not known is the empty text.</para>
+  /// <para>A <c>Condition</c> such as "DeviceID=C:" chooses parts by another property, in any case
+  /// of A to Z. Raises 5 if it has no name or no "=", 438 for a class or a property that does not
+  /// exist.</para>
+  /// </remarks>
+  public string[] QueryManagement(string ClassName, string PropertyName, string Condition = "") {
+    fixed (char* text0_ = ClassName, text1_ = PropertyName, text2_ = Condition) {
+      Value* values_ = stackalloc Value[3];
+      values_[0].Set(text0_, ClassName);
+      values_[1].Set(text1_, PropertyName);
+      values_[2].Set(text2_, Condition);
+      return Handle.Invoke(115, values_, (Condition == null || Condition.Length > 0) ? 3 :
+          2).TakeTextList();
+    }
+  }
+
+  /// <summary>Returns the path of a folder of the user's or the machine's; it need not
+  /// exist.</summary>
+  /// <returns>For example, <c>GetSpecialFolder(CSIDL_FONTS)</c> returns
+  /// <c>"C:\usr\share\fonts"</c>.</returns>
+  /// <exception cref="RunTimeException">Raises 5 for a number that is not a member of the
+  /// enumeration.</exception>
+  /// <remarks>
+  /// <para>Empty if there is no such folder. Raises 5 for a number that is not a member of the
+  /// enumeration.</para>
+  /// </remarks>
+  public string GetSpecialFolder(VirtualFolder Folder) {
+    var value_ = new Value();
+    value_.Set((int)Folder);
+    return Handle.InvokeText(116, &value_, 1);
+  }
+
+  /// <summary>Returns the version of a program or library, empty if it has none.</summary>
+  /// <exception cref="RunTimeException">Raises 53 for a file that does not exist, 75 for a folder,
+  /// 70 if it may not be read, or the package database does not answer in time.</exception>
+  /// <remarks>
+  /// <para>That is the version in a file of Windows, such as "1.2.3.4"; of any other file that of
+  /// the Debian package to which it belongs. Raises 53 for a file that does not exist, 75 for a
+  /// folder, 70 if it may not be read, or the package database does not answer in time.</para>
+  /// </remarks>
+  public string GetFileVersion(string Path) {
+    fixed (char* text0_ = Path) {
+      var value_ = new Value();
+      value_.Set(text0_, Path);
+      return Handle.InvokeText(117, &value_, 1);
     }
   }
 

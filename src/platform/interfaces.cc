@@ -9,8 +9,8 @@
 #include <ZQ7Standard/platform/file_versions.h>
 #include <ZQ7Standard/platform/folders.h>
 #include <ZQ7Standard/platform/machine.h>
-#include <ZQ7Standard/platform/management.h>
 #include <ZQ7Standard/platform/mail_transport.h>
+#include <ZQ7Standard/platform/management.h>
 #include <ZQ7Standard/platform/message_box.h>
 #include <ZQ7Standard/platform/picture_encoder.h>
 #include <ZQ7Standard/platform/print_document.h>

@@ -124,6 +124,8 @@ constexpr auto kMachine = std::to_array<Task>({
     {"ask for the parts of the machine", "StandardObject.QueryManagement"},
     {"find the folder for settings or documents", "StandardObject.GetSpecialFolder"},
     {"know the version of a program", "StandardObject.GetFileVersion"},
+});
+
 constexpr auto kNetwork = std::to_array<Task>({
     {"ask a server for the time", "StandardObject.getRemoteTOD"},
     {"send a message with attachments", "StandardObject.SendMail"},

@@ -7,11 +7,25 @@ _zq7_options="
   --convention
   --example
 "
+_zq7_fill_options="
+  --with
+  --output
+  --errors
+  --explain
+  --dates
+  --encoding
+  --delimiter
+  --guard
+  --stop
+  --jobs
+  --quiet
+"
 _zq7_subcommands="
   list
   help
   call
   batch
+  fill
 "
 _zq7_classes="
   ASCIIObject
@@ -212,6 +226,13 @@ _zq7_operations="
   StandardObject.OpenBrowser
   StandardObject.OpenMail
   StandardObject.OpenCalendar
+  StandardObject.SavePictureAsJPEG
+  StandardObject.GetComputerName
+  StandardObject.GetDiskSerialNumber
+  StandardObject.GetVolumeSerialNumber
+  StandardObject.QueryManagement
+  StandardObject.GetSpecialFolder
+  StandardObject.GetFileVersion
   StandardObject.getRemoteTOD
   StandardObject.SendMail
 "
@@ -244,6 +265,11 @@ _zq7_offer() {
   done
 }
 
+_zq7_files() {
+  compopt -o filenames 2> /dev/null
+  mapfile -t COMPREPLY < <(compgen -f -- "$1")
+}
+
 # The members of the enumerations of the parameters of operation $1.
 _zq7_members() {
   case ${1,,} in
@@ -256,6 +282,7 @@ _zq7_members() {
     standardobject.formatcondition2) echo ZQ7AfterBLDate ZQ7AfterDeliveryDate ZQ7AfterEndOfBLMonth ZQ7AfterEndOfDeliveryMonth ZQ7AfterEndOfInvoiceMonth ZQ7AfterEndOfReceiveOSDOCMonth ZQ7AfterEndOfSPTMonth ZQ7AfterInvoiceDate ZQ7AfterReceiveOSDOC ZQ7ConditionOutputTypeFull ZQ7ConditionOutputTypeShort ;;
     standardobject.fixnumberwithcutmode) echo ZQ7FixUnitAllDown ZQ7FixUnitAllUp ZQ7FixUnitFiveUp ZQ7FixUnitNone ;;
     standardobject.instr2) echo ZQ7CompareBinary ZQ7CompareText ;;
+    standardobject.getspecialfolder) echo CSIDL_APPDATA CSIDL_BITBUCKET CSIDL_COMMON_DESKTOPDIRECTORY CSIDL_COMMON_PROGRAMS CSIDL_COMMON_STARTMENU CSIDL_COMMON_STARTUP CSIDL_CONTROLS CSIDL_DESKTOP CSIDL_DESKTOPDIRECTORY CSIDL_DRIVES CSIDL_FAVORITES CSIDL_FONTS CSIDL_INTERNET CSIDL_LOCAL_APPDATA CSIDL_MYDOCUMENTS CSIDL_MYMUSIC CSIDL_MYPICTURES CSIDL_MYVIDEO CSIDL_NETHOOD CSIDL_NETWORK CSIDL_PERSONAL CSIDL_PRINTERS CSIDL_PROGRAMS CSIDL_RECENT CSIDL_SENDTO CSIDL_STARTMENU CSIDL_STARTUP CSIDL_TEMPLATES ;;
     standardobject.sendmail) echo ZQ7ConnectionSecurityNone ZQ7ConnectionSecuritySSL_TLS ZQ7ConnectionSecuritySTARTTLS ;;
   esac
 }
@@ -269,10 +296,15 @@ _zq7() {
       _zq7_offer "mdy dmy mdy-buddhist dmy-buddhist" "$current"
       return
       ;;
+    --dates) _zq7_offer "iso typed" "$current"; return ;;
+    --encoding) _zq7_offer "utf-8 windows-874" "$current"; return ;;
+    --with | --delimiter | --jobs) return ;;
+    -o | --output | --errors) _zq7_files "$current"; return ;;
   esac
   for ((i = 1; i < COMP_CWORD; i++)); do
     case ${COMP_WORDS[i]} in
-      --now | --convention) ((i++)) ;;
+      --now | --convention | --dates | --encoding | --with | --delimiter | --jobs) ((i++)) ;;
+      -o | --output | --errors) ((i++)) ;;
       -*) ;;
       *)
         if [[ -z $subcommand ]]; then
@@ -285,16 +317,14 @@ _zq7() {
   done
   case $subcommand:$target:$current in
     call:*:-*) _zq7_offer "$_zq7_options --json" "$current" ;;
+    fill:*:-*) _zq7_offer "$_zq7_options $_zq7_fill_options" "$current" ;;
     *:*:-*) _zq7_offer "$_zq7_options" "$current" ;;
     ::*) _zq7_offer "$_zq7_subcommands" "$current" ;;
     list::*) _zq7_offer "$_zq7_classes" "$current" ;;
     help::*) _zq7_offer "$_zq7_classes $_zq7_operations $_zq7_others" "$current" ;;
     call::*) _zq7_offer "$_zq7_operations" "$current" ;;
     call:*) _zq7_offer "$(_zq7_members "$target")" "${current##*=}" ;;
-    batch::*)
-      compopt -o filenames 2> /dev/null
-      mapfile -t COMPREPLY < <(compgen -f -- "$current")
-      ;;
+    batch::* | fill::*) _zq7_files "$current" ;;
   esac
 }
 

@@ -34,7 +34,7 @@ void AddPictures(ClassRow& info) {
   AddOperations(info, MayBlock({Operation<&StandardObject::SavePictureAsJPEG>(
                           126, "SavePictureAsJPEG", kOutside,
                           {"Picture", "FileName", Optional("Quality", 75)},
-                          {{{Null{}, u"C:\\shop\\logo.jpg"}, Raises(5)}})}));
+                          {{{u"C:\\none\\logo.png", u"C:\\shop\\logo.jpg"}, Raises(53)}})}));
 }
 
 }  // namespace

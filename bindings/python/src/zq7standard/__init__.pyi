@@ -89,6 +89,36 @@ class KetRootType(IntEnum):
     HKEY_USERS = -2147483645
     HKEY_PERFORMANCE_DATA = -2147483644
 
+class VirtualFolder(IntEnum):
+    CSIDL_DESKTOP = 0
+    CSIDL_INTERNET = 1
+    CSIDL_PROGRAMS = 2
+    CSIDL_CONTROLS = 3
+    CSIDL_PRINTERS = 4
+    CSIDL_PERSONAL = 5
+    CSIDL_FAVORITES = 6
+    CSIDL_STARTUP = 7
+    CSIDL_RECENT = 8
+    CSIDL_SENDTO = 9
+    CSIDL_BITBUCKET = 10
+    CSIDL_STARTMENU = 11
+    CSIDL_MYDOCUMENTS = 12
+    CSIDL_MYMUSIC = 13
+    CSIDL_MYVIDEO = 14
+    CSIDL_DESKTOPDIRECTORY = 16
+    CSIDL_DRIVES = 17
+    CSIDL_NETWORK = 18
+    CSIDL_NETHOOD = 19
+    CSIDL_FONTS = 20
+    CSIDL_TEMPLATES = 21
+    CSIDL_COMMON_STARTMENU = 22
+    CSIDL_COMMON_PROGRAMS = 23
+    CSIDL_COMMON_STARTUP = 24
+    CSIDL_COMMON_DESKTOPDIRECTORY = 25
+    CSIDL_APPDATA = 26
+    CSIDL_LOCAL_APPDATA = 28
+    CSIDL_MYPICTURES = 39
+
 class ASCIIObject(Object):
     @property
     def DisableMsgLevel(self) -> int: ...
@@ -320,6 +350,13 @@ class StandardObject(Object):
     def OpenBrowser(self, Address: str) -> None: ...
     def OpenMail(self, To: str, Subject: str = '', Body: str = '', Attachments: List[str] | Tuple[str, ...] = []) -> None: ...
     def OpenCalendar(self, Subject: str, StartDate: date, EndDate: date, Place: str = '', Body: str = '') -> None: ...
+    def SavePictureAsJPEG(self, Picture: object, FileName: str, Quality: int | Decimal = 75) -> None: ...
+    def GetComputerName(self) -> str: ...
+    def GetDiskSerialNumber(self, Path: str = 'C:') -> str: ...
+    def GetVolumeSerialNumber(self, Path: str = 'C:') -> str: ...
+    def QueryManagement(self, ClassName: str, PropertyName: str, Condition: str = '') -> List[str]: ...
+    def GetSpecialFolder(self, Folder: VirtualFolder | int) -> str: ...
+    def GetFileVersion(self, Path: str) -> str: ...
     def getRemoteTOD(self, ServerName: str) -> datetime: ...
     def SendMail(self, Server: str, Port: int | Decimal, Security: ZQ7ConnectionSecurity | int, User: str, Password: str, From: str, To: str, Subject: str, Body: str, Attachments: List[str] | Tuple[str, ...] = [], CC: str = '', BCC: str = '', IsHtml: bool = False) -> None: ...
 
@@ -366,6 +403,7 @@ __all__ = [
     "ZQ7ConnectionSecurity",
     "eImageType",
     "KetRootType",
+    "VirtualFolder",
     "ASCIIObject",
     "BahtStringObject",
     "BitByteObject",
