@@ -15,6 +15,7 @@
 
 #include "formats/time_packet.h"
 #include "platform/linux/descriptor.h"
+#include "platform/linux/name_lookup.h"
 #include "tests/support/child_server.h"
 #include "tests/support/row_tests.h"
 #include "tests/support/temp_folder.h"
@@ -146,6 +147,10 @@ TEST(NetworkTime, DoesNotWaitForEver) {
   EXPECT_EQ(server.Questions(), 3);
   EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
   EXPECT_EQ(TimeOf(u"zq7-no-such-host.invalid"), "error 68");
+  for (int i = 0; i < 3; ++i) {  // the name service has no time at all
+    const auto look_up = [] { AddressesOf("zq7-no-such-host.invalid", 1, {}); };
+    EXPECT_EQ(ErrorOf(look_up), 68);
+  }
   for (const TextView wrong : {u"", u"a b", u"host:0", u"host:70000", u"[::1", u"http://host/"}) {
     EXPECT_EQ(TimeOf(Text(wrong)), "error 5") << Utf8(wrong);
   }
