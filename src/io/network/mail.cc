@@ -88,9 +88,11 @@ struct Recipients {
 std::vector<std::string> MailboxesOf(const Recipients& recipients) {
   std::vector<std::string> mailboxes;
   for (const auto* const list : {&recipients.to, &recipients.cc, &recipients.bcc}) {
-    for (const auto& [name, address] : *list) {
-      const auto is_same = [&](const std::string& known) { return IsSameMailbox(known, address); };
-      if (std::ranges::none_of(mailboxes, is_same)) mailboxes.push_back(address);
+    for (const MailAddress& entry : *list) {
+      const auto is_same = [&](const std::string& known) {
+        return IsSameMailbox(known, entry.address);
+      };
+      if (std::ranges::none_of(mailboxes, is_same)) mailboxes.push_back(entry.address);
     }
   }
   return mailboxes;
