@@ -66,7 +66,7 @@ class NetworkMail : public ::testing::Test {
 TEST_F(NetworkMail, ArrivesAsItWasSent) {
   Serve("none");
   std::string bytes;
-  for (int i = 0; i < 3'000'000; ++i) bytes += static_cast<char>(i * 7919 >> 3);
+  for (unsigned i = 0; i < 3'000'000; ++i) bytes += static_cast<char>(i * 7919 >> 3);
   std::ofstream(folder_.Native() / "ใบเสร็จ รับเงิน เลขที่ 0001.pdf") << bytes;
   std::ofstream(folder_.Native() / "empty") << "";
   setenv("ALL_PROXY", "http://127.0.0.1:1", 1);
