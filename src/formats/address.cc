@@ -52,7 +52,7 @@ std::string RecipientsOf(TextView to) {
   for (TextView rest = separated; !rest.empty();) {
     const TextView recipient = TrimBack(TrimFront(TakeField(rest, u',')));
     if (recipient.empty()) continue;
-    recipients += (recipients.empty() ? "" : ",") + PercentEncoded(recipient, "@");
+    recipients.append(recipients.empty() ? "" : ",").append(PercentEncoded(recipient, "@"));
   }
   return recipients;
 }

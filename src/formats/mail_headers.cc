@@ -156,8 +156,9 @@ std::vector<std::string> FileHeaders(TextView file_name) {
   std::string disposition = "Content-Disposition: attachment";
   const auto pieces = Pieces(PercentEncoded(file_name));
   for (std::size_t i = 0; i < pieces.size(); ++i) {
-    const std::string number = pieces.size() == 1 ? "" : "*" + std::to_string(i);
-    disposition.append(";").append(kLineEnd).append(" filename").append(number).append("*=");
+    disposition.append(";").append(kLineEnd).append(" filename");
+    if (pieces.size() > 1) disposition.append("*").append(std::to_string(i));
+    disposition.append("*=");
     disposition.append(i == 0 ? "UTF-8''" : "").append(pieces[i]);
   }
   return {std::string("Content-Type: ").append(TypeOf(file_name)), disposition};

@@ -24,7 +24,7 @@ constexpr int kForReading = O_RDONLY | O_NONBLOCK;
 Text VersionText(const FileVersion& version) {
   std::string text;
   for (const std::uint16_t number : version) {
-    text += (text.empty() ? "" : ".") + std::to_string(number);
+    text.append(text.empty() ? "" : ".").append(std::to_string(number));
   }
   return FromUtf8(text);
 }

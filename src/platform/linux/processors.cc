@@ -47,11 +47,15 @@ std::uint32_t NumberIn(const Fields& fields, std::string_view name) {
   return number;
 }
 
+std::string BetweenBlanks(std::string_view text) {
+  return std::string(" ").append(text).append(" ");
+}
+
 std::uint32_t FeatureBits(std::string_view flags) {
-  const std::string all = " " + std::string(flags) + " ";
+  const std::string all = BetweenBlanks(flags);
   std::uint32_t bits = 0;
   for (std::size_t i = 0; i < kFlags.size(); ++i) {
-    const std::string flag = " " + std::string(kFlags[i]) + " ";
+    const std::string flag = BetweenBlanks(kFlags[i]);
     if (!kFlags[i].empty() && all.find(flag) != std::string::npos) bits |= 1U << i;
   }
   return bits;

@@ -23,7 +23,7 @@ std::string ProgramPath(TextView program, const DriveMap& drives) {
   if (program.find_first_of(u"\\/:") != TextView::npos) return NativePath(program, drives);
   const char* const variable = std::getenv("PATH");
   std::string_view folders = variable == nullptr ? "/usr/bin:/bin" : variable;
-  const std::string name = "/" + NativePath(program, {});
+  const std::string name = std::string("/").append(NativePath(program, {}));
   while (!folders.empty()) {
     const std::string_view folder = folders.substr(0, folders.find(':'));
     folders.remove_prefix(std::min(folders.size(), folder.size() + 1));
