@@ -929,9 +929,9 @@ class ZQ7STANDARD_EXPORT StandardObject {
   /// server without STARTTLS is refused. Without security a `Password` is accepted for this
   /// machine alone. An empty `User` does not log in.
   ///
-  /// Raises 5 for an address that is none or not ASCII, for a line break in any text but
-  /// `Body`, and for a `Port` that is none; 53 for an attachment that does not exist; 68 if no
-  /// server answers in time; 70 if the connection is not secure or the log-in fails; 57 if the
+  /// Raises 5 for a text that is not an address in ASCII, for a line break in any text but
+  /// `Body`, and for a `Port` outside 1 to 65535; 53 for an attachment that does not exist; 68
+  /// if no server answers in time; 70 if the connection is not secure or the log-in fails; 57 if the
   /// server refuses the message or a recipient, and nobody gets it then; 429 if the library's
   /// module for mail is missing.
   void SendMail(TextView Server, std::int32_t Port, ZQ7ConnectionSecurity Security, TextView User,

@@ -16,7 +16,7 @@ struct MailAddress {
   friend bool operator==(const MailAddress&, const MailAddress&) = default;
 };
 
-/// What a list of addresses holds, or why it is none.
+/// What a list of addresses holds, or why it is not a list of addresses.
 struct MailAddresses {
   std::vector<MailAddress> addresses = {};
   std::string problem = {};

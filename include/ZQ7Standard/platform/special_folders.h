@@ -19,8 +19,8 @@ class ZQ7STANDARD_EXPORT SpecialFolders {
   virtual Text PathOf(VirtualFolder folder) = 0;
 };
 
-/// The folders that the environment and the user's settings name (XDG Base Directory
-/// Specification, user-dirs.dirs).
+/// The folders that the environment and the user's settings name (the XDG base directories,
+/// user-dirs.dirs).
 ZQ7STANDARD_EXPORT std::shared_ptr<SpecialFolders> SystemSpecialFolders(MachineFiles files = {});
 
 }  // namespace ZQ7Standard
