@@ -4105,11 +4105,11 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
 
   /// <summary>Sends a message through a mail server.</summary>
   /// <param name="Server"></param>
-  /// <param name="Port">Raises 5 for an address that is none or not ASCII, for a line break in any
-  /// text but <c>Body</c>, and for a <c>Port</c> that is none; 53 for an attachment that does not
-  /// exist; 68 if no server answers in time; 70 if the connection is not secure or the log-in
-  /// fails; 57 if the server refuses the message or a recipient, and nobody gets it then; 429 if
-  /// the library's module for mail is missing.</param>
+  /// <param name="Port">Raises 5 for a text that is not an address in ASCII, for a line break in
+  /// any text but <c>Body</c>, and for a <c>Port</c> outside 1 to 65535; 53 for an attachment that
+  /// does not exist; 68 if no server answers in time; 70 if the connection is not secure or the
+  /// log-in fails; 57 if the server refuses the message or a recipient, and nobody gets it then;
+  /// 429 if the library's module for mail is missing.</param>
   /// <param name="Security"></param>
   /// <param name="User">An empty <c>User</c> does not log in.</param>
   /// <param name="Password">Without security a <c>Password</c> is accepted for this machine
@@ -4119,10 +4119,10 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// each with or without a name: "Somchai &lt;s@shop.example&gt;"; a name with a "," is in
   /// quotation marks.</param>
   /// <param name="Subject"></param>
-  /// <param name="Body"><c>Body</c> is HTML if <c>IsHtml</c>. Raises 5 for an address that is none
-  /// or not ASCII, for a line break in any text but <c>Body</c>, and for a <c>Port</c> that is
-  /// none; 53 for an attachment that does not exist; 68 if no server answers in time; 70 if the
-  /// connection is not secure or the log-in fails; 57 if the server refuses the message or a
+  /// <param name="Body"><c>Body</c> is HTML if <c>IsHtml</c>. Raises 5 for a text that is not an
+  /// address in ASCII, for a line break in any text but <c>Body</c>, and for a <c>Port</c> outside
+  /// 1 to 65535; 53 for an attachment that does not exist; 68 if no server answers in time; 70 if
+  /// the connection is not secure or the log-in fails; 57 if the server refuses the message or a
   /// recipient, and nobody gets it then; 429 if the library's module for mail is missing.</param>
   /// <param name="Attachments"><c>Attachments</c> are path texts.</param>
   /// <param name="CC"><c>To</c>, <c>CC</c> and <c>BCC</c> have addresses separated by ";" or ",",
@@ -4133,8 +4133,8 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// quotation marks. Who is named twice gets the message once, and nobody sees who is in
   /// <c>BCC</c>.</param>
   /// <param name="IsHtml"><c>Body</c> is HTML if <c>IsHtml</c>.</param>
-  /// <exception cref="RunTimeException">Raises 5 for an address that is none or not ASCII, for a
-  /// line break in any text but <c>Body</c>, and for a <c>Port</c> that is none; 53 for an
+  /// <exception cref="RunTimeException">Raises 5 for a text that is not an address in ASCII, for a
+  /// line break in any text but <c>Body</c>, and for a <c>Port</c> outside 1 to 65535; 53 for an
   /// attachment that does not exist; 68 if no server answers in time; 70 if the connection is not
   /// secure or the log-in fails; 57 if the server refuses the message or a recipient, and nobody
   /// gets it then; 429 if the library's module for mail is missing.</exception>
@@ -4147,11 +4147,11 @@ public sealed unsafe partial class StandardObject : ZQ7Object {
   /// <para>A connection is secure or not made: the server's certificate and name are checked, and a
   /// server without STARTTLS is refused. Without security a <c>Password</c> is accepted for this
   /// machine alone. An empty <c>User</c> does not log in.</para>
-  /// <para>Raises 5 for an address that is none or not ASCII, for a line break in any text but
-  /// <c>Body</c>, and for a <c>Port</c> that is none; 53 for an attachment that does not exist; 68
-  /// if no server answers in time; 70 if the connection is not secure or the log-in fails; 57 if
-  /// the server refuses the message or a recipient, and nobody gets it then; 429 if the library's
-  /// module for mail is missing.</para>
+  /// <para>Raises 5 for a text that is not an address in ASCII, for a line break in any text but
+  /// <c>Body</c>, and for a <c>Port</c> outside 1 to 65535; 53 for an attachment that does not
+  /// exist; 68 if no server answers in time; 70 if the connection is not secure or the log-in
+  /// fails; 57 if the server refuses the message or a recipient, and nobody gets it then; 429 if
+  /// the library's module for mail is missing.</para>
   /// </remarks>
   public void SendMail(string Server, int Port, ZQ7ConnectionSecurity Security, string User,
       string Password, string From, string To, string Subject, string Body,
