@@ -36,15 +36,16 @@ class Lookup {
 
   /// Asks until the deadline; then EAI_INPROGRESS or EAI_CANCELED.
   int AskUntil(Clock::time_point deadline) {
-    gaicb* list[] = {&request_};
-    const int refused = getaddrinfo_a(GAI_NOWAIT, list, 1, nullptr);
+    gaicb* request = &request_;
+    const int refused = getaddrinfo_a(GAI_NOWAIT, &request, 1, nullptr);
     if (refused != 0) return refused;
     while (IsBusy() && Clock::now() < deadline) {
       const auto left = deadline - Clock::now();
       const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(left);
       const std::chrono::nanoseconds rest = left - seconds;
       const timespec limit = {seconds.count(), std::max<long>(rest.count(), 0)};
-      gai_suspend(list, 1, &limit);
+      const gaicb* const awaited = &request_;
+      gai_suspend(&awaited, 1, &limit);
     }
     if (IsBusy()) gai_cancel(&request_);
     return gai_error(&request_);
@@ -92,7 +93,10 @@ std::vector<SocketAddress> AddressesOf(const std::string& host, std::uint16_t po
   if (number.Ask() == 0) return number.Found();
   auto lookup = std::make_unique<Lookup>(host, port, AI_ADDRCONFIG | AI_IDN);
   const int error = lookup->AskUntil(deadline);
-  if (lookup->IsBusy()) Keep(std::move(lookup));
+  if (lookup->IsBusy()) {
+    Keep(std::move(lookup));
+    throw NotFound(host, "the name service does not answer");
+  }
   if (error == EAI_INPROGRESS || error == EAI_CANCELED) {
     throw NotFound(host, "the name service does not answer");
   }

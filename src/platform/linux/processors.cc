@@ -109,6 +109,7 @@ std::vector<Processor> ReadProcessors(std::string_view cpuinfo) {
     if (package.threads++ == 0) package.first = std::move(fields);
   }
   std::vector<Processor> processors;
+  processors.reserve(packages.size());
   for (const auto& [number, package] : packages) {
     processors.push_back(ProcessorOf(package.first, package.threads));
   }
