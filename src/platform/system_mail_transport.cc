@@ -11,7 +11,7 @@ namespace {
 /// Replaces the transport if its module is missing.
 class NoMailTransport final : public MailTransport {
  public:
-  explicit NoMailTransport(const std::string& problem) : problem_(problem) {}
+  explicit NoMailTransport(std::string problem) : problem_(std::move(problem)) {}
 
   void Send(const MailServer& /*server*/, const MailMessage& /*message*/) override {
     throw RunTimeError(Error::kCannotCreateObject, "no mail can be sent: " + problem_);

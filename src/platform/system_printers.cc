@@ -12,7 +12,7 @@ namespace {
 /// Replaces the machine's printers if their module is missing.
 class NoPrinters final : public PrinterList {
  public:
-  explicit NoPrinters(const std::string& problem) : problem_(problem) {}
+  explicit NoPrinters(std::string problem) : problem_(std::move(problem)) {}
 
   std::vector<Printer> Installed() override { return {}; }
   Printer Current() override {

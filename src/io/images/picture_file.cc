@@ -24,7 +24,8 @@ void StandardObject::SavePictureAsJPEG(const std::shared_ptr<PrintPicture>& Pict
   });
   Named({kSavePictureAsJPEG, "FileName"}, [&] {
     const auto rewrite = [&] {
-      return services_->FileRewriter().Rewrite(FileName, [&](const auto&) { return file; });
+      return services_->FileRewriter().Rewrite(FileName,
+                                               [&](const auto&) { return std::string(file); });
     };
     // Another process may create the file in between.
     while (!rewrite() && !services_->FileWriter().Create(FileName, file)) {

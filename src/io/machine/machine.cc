@@ -36,6 +36,7 @@ std::string_view FindName(const std::vector<std::string_view>& names, TextView t
 ManagementClass FindClass(Management& management, TextView typed) {
   const std::vector<ManagementClass> classes = management.Classes();
   std::vector<std::string_view> names;
+  names.reserve(classes.size());
   for (const ManagementClass& known : classes) names.push_back(known.name);
   const std::string_view name = FindName(names, typed, {"QueryManagement", "ClassName"});
   return *std::ranges::find(classes, name, &ManagementClass::name);

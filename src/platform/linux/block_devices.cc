@@ -39,7 +39,7 @@ std::string DiskFolder(const MachineTree& tree, std::string folder) {
     if (tree.Exists(folder + "/partition")) folder = folder.substr(0, folder.rfind('/'));
     const std::vector<std::string> slaves = tree.Names(folder + "/slaves");
     if (slaves.empty()) return folder;
-    folder = tree.Resolved(folder + "/slaves/" + slaves.front());
+    folder = tree.Resolved(folder.append("/slaves/").append(slaves.front()));
   }
   return folder;
 }

@@ -42,7 +42,7 @@ void Tell(Report report) {
 }
 
 /// A copy of this process that sends no signal when it ends; as fork returns.
-std::int32_t CopyProcess(int* handle) {
+std::int32_t CopyProcess(int* handle) {  // NOLINT(readability-non-const-*): the system writes it
   clone_args arguments{};
   arguments.flags = handle == nullptr ? 0 : CLONE_PIDFD;
   arguments.pidfd = reinterpret_cast<std::uintptr_t>(handle);  // NOLINT(*-reinterpret-cast)
@@ -116,6 +116,7 @@ std::int32_t StatusOf(idtype_t kind, int child) {
 
 std::vector<char*> Pointers(const std::vector<std::string>& arguments) {
   std::vector<char*> pointers;
+  pointers.reserve(arguments.size() + 1);
   for (const std::string& argument : arguments) {
     pointers.push_back(const_cast<char*>(argument.c_str()));  // NOLINT(*-const-cast): execv's type
   }

@@ -51,8 +51,8 @@ void RequireDocument(const std::string& path) {
 /// A new folder for the user alone; nothing tells when the document in it has been read.
 std::string NewPrivateFolder() {
   const char* const folder = std::getenv("XDG_RUNTIME_DIR");
-  const std::string parent =
-      IsSet("XDG_RUNTIME_DIR") ? folder : std::filesystem::temp_directory_path().string();
+  const bool is_set = folder != nullptr && *folder != '\0';
+  const std::string parent = is_set ? folder : std::filesystem::temp_directory_path().string();
   std::string name = parent + "/zq7-XXXXXX";
   if (mkdtemp(name.data()) == nullptr) {
     throw FileError(errno, "create a folder in", FromUtf8(parent), parent + "/");

@@ -151,6 +151,7 @@ std::vector<std::string> Adapters(const MachineTree& tree) {
   }
   std::ranges::sort(adapters);
   std::vector<std::string> names;
+  names.reserve(adapters.size());
   for (auto& [index, name] : adapters) names.push_back(std::move(name));
   return names;
 }

@@ -44,8 +44,9 @@ class LinuxPrograms final : public Programs {
     ChildStart child = {.path = path, .arguments = {path}, .folder = {}};
     for (const Text& argument : start.arguments) child.arguments.push_back(Utf8(argument));
     if (!start.folder.empty()) child.folder = NativePath(start.folder, drives_);
-    auto [process, failure] = StartProcess(child, kind);
-    if (failure.error == 0) return std::move(process);
+    StartedProcess started = StartProcess(child, kind);
+    const ChildFailure& failure = started.failure;
+    if (failure.error == 0) return std::move(started.process);
     if (failure.step == ChildStep::kFolder) {
       throw FileError(failure.error, "start in", start.folder, child.folder + "/");
     }

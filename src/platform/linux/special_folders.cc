@@ -53,7 +53,7 @@ using std::filesystem::path;
 
 /// The folder that a variable names, or `standard` in the home folder; empty if there is neither.
 path BaseFolder(const char* variable, const char* standard) {
-  const path folder = FolderFromEnvironment(variable);
+  path folder = FolderFromEnvironment(variable);
   if (!folder.empty()) return folder;
   const path home = FolderFromEnvironment("HOME");
   return home.empty() ? home : home / standard;

@@ -112,7 +112,8 @@ class Parser {
     }
     const std::string_view text = value.text;
     const bool sign = text.front() == '+' || text.front() == '-';
-    const bool digits = text.size() > (sign ? 1 : 0) && (IsDigit(text[sign]) || text[sign] == '.');
+    const std::size_t first = sign ? 1 : 0;
+    const bool digits = text.size() > first && (IsDigit(text[first]) || text[first] == '.');
     const char* const begin = text.data() + (text.front() == '+' ? 1 : 0);
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(begin, end, value.number);
@@ -183,8 +184,9 @@ WrongUse WrongExpression(std::string_view source, std::size_t place, std::string
   std::ranges::replace_if(
       line, [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
   const int columns = ZQ7Standard::TerminalWidth(FromUtf8(source.substr(0, place)));
-  return WrongUse(std::string(message) + "\n  " + line + "\n  " +
-                  std::string(static_cast<std::size_t>(columns), ' ') + "^");
+  const std::string text = std::string(message) + "\n  " + line + "\n  " +
+                           std::string(static_cast<std::size_t>(columns), ' ') + "^";
+  return WrongUse(text);  // NOLINT(modernize-return-braced-init-list): explicit
 }
 
 ColumnExpression ReadColumnExpression(const std::string& source) {

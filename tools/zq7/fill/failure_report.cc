@@ -1,6 +1,7 @@
 #include "fill/failure_report.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "fill/csv_cells.h"
 
@@ -11,7 +12,7 @@ constexpr std::size_t kMostReasons = 10;
 
 }  // namespace
 
-FailureReport::FailureReport(const std::string& file, bool stop) : name_(file), stop_(stop) {
+FailureReport::FailureReport(std::string file, bool stop) : name_(std::move(file)), stop_(stop) {
   if (name_.empty()) return;
   file_.emplace(name_);
   file_->Write("line,column,reason\n");

@@ -17,7 +17,7 @@ namespace ZQ7Tool {
 class FailureReport {
  public:
   /// No file if `file` is empty. With `stop`, the first failure is the last.
-  FailureReport(const std::string& file, bool stop);
+  FailureReport(std::string file, bool stop);
 
   void Add(const FailedRow& row);
 
