@@ -49,7 +49,7 @@ char DelimiterNamed(const std::string& text) {
   const bool possible = text.size() == 1 && kImpossible.find(text.front()) == std::string::npos &&
                         static_cast<unsigned char>(text.front()) < 0x80;
   if (possible) return text.front();
-  throw WrongUse("--delimiter " + Quoted(text) + " is not a character such as \";\", or \"tab\".");
+  throw WrongUse("--delimiter " + Quoted(text) + R"( is not a character such as ";", or "tab".)");
 }
 
 void AddOptionNames(std::vector<std::string>& names, const CLI::App& app) {
