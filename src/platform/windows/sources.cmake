@@ -4,6 +4,7 @@ target_sources(zq7_objects PRIVATE
   src/platform/windows/clock.cc
   src/platform/windows/command_line.cc
   src/platform/windows/date_convention.cc
+  src/platform/windows/desktop.cc
   src/platform/windows/file_contents.cc
   src/platform/windows/file_copier.cc
   src/platform/windows/file_errors.cc
@@ -14,11 +15,11 @@ target_sources(zq7_objects PRIVATE
   src/platform/windows/folders.cc
   src/platform/windows/limited_call.cc
   src/platform/windows/machine.cc
+  src/platform/windows/mail_composer.cc
   src/platform/windows/management.cc
   src/platform/windows/message_box.cc
   src/platform/windows/native_path.cc
   src/platform/windows/new_file.cc
-  src/platform/windows/not_yet.cc
   src/platform/windows/open_file.cc
   src/platform/windows/program_search.cc
   src/platform/windows/programs.cc
@@ -26,9 +27,11 @@ target_sources(zq7_objects PRIVATE
   src/platform/windows/special_folders.cc
   src/platform/windows/system_registry.cc
   src/platform/windows/system_text.cc
+  src/platform/windows/time_servers.cc
   src/platform/windows/time_text.cc
   src/platform/windows/time_zone.cc
   src/platform/windows/user_session.cc
+  src/platform/windows/winsock.cc
   src/platform/no_network.cc
   src/platform/no_printing.cc
   src/platform/system_picture_encoder.cc

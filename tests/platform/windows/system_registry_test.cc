@@ -19,20 +19,24 @@ using namespace std::string_literals;
 constexpr std::int32_t kUser = std::numeric_limits<std::int32_t>::min() + 1;
 constexpr std::int32_t kMachine = kUser + 1;
 
+HKEY UserRoot() {
+  return reinterpret_cast<HKEY>(LONG_PTR{kUser});
+}
+
 /// Tests the machine's registry, under a key that is removed before and after.
 class SystemRegistryTest : public testing::Test {
  protected:
   SystemRegistryTest() { Remove(); }
   ~SystemRegistryTest() override { Remove(); }
 
-  static void Remove() { RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\ZQ7 tests"); }
+  static void Remove() { RegDeleteTreeW(UserRoot(), L"Software\\ZQ7 tests"); }
 
   /// What other programs find.
   static std::string Found(const std::wstring& path, const std::wstring& name) {
     std::array<wchar_t, 2000> data{};
     DWORD type = 0;
     DWORD size = sizeof data;
-    const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, (L"Software\\ZQ7 tests" + path).c_str(),
+    const LSTATUS status = RegGetValueW(UserRoot(), (L"Software\\ZQ7 tests" + path).c_str(),
                                         name.c_str(), RRF_RT_ANY, &type, data.data(), &size);
     if (status != ERROR_SUCCESS) return "error " + std::to_string(status);
     if (type == REG_DWORD)
