@@ -1,13 +1,11 @@
 #ifndef ZQ7STANDARD_BINDINGS_WINDOWS_COM_H_
 #define ZQ7STANDARD_BINDINGS_WINDOWS_COM_H_
 
-// Before the system's headers, some of whose macros are its enumerators.
-#include <ZQ7Standard/Enumerations.h>
-//
 #include <windows.h>
-// The library has members of these names, which the system's headers make others.
+// The library has these names too, which the system's headers make others.
 #undef GetComputerName
 #undef GetDateFormat
+#undef MessageBox
 
 #include <dispex.h>
 #include <oaidl.h>
@@ -21,6 +19,11 @@
 
 /// Owners of what the system's automation hands out.
 namespace ZQ7Windows {
+
+/// The roots of registrations. Named here, as compilers take these macros for the project's own once
+/// a header of the library has hidden and restored them, and warn of their casts.
+inline const HKEY kMachineRoot = HKEY_LOCAL_MACHINE;
+inline const HKEY kUserRoot = HKEY_CURRENT_USER;
 
 /// A reference to an interface; null if there is none.
 template <typename Interface>

@@ -131,7 +131,7 @@ class SystemPicture final : public PrintPicture {
 
 std::optional<DISPID> HostObject::Find(const std::wstring& name) const {
   DISPID id = DISPID_UNKNOWN;
-  if (const auto extended = Query<IDispatchEx>(object_.get(), IID_IDispatchEx)) {
+  if (const auto extended = Query<IDispatchEx>(object_.get(), __uuidof(IDispatchEx))) {
     const Bstr text(name);
     if (SUCCEEDED(extended->GetDispID(text.get(), fdexNameCaseInsensitive, &id))) return id;
   }

@@ -26,7 +26,7 @@ struct RegistryRow {
 using Rows = std::vector<RegistryRow>;
 
 HKEY RootOf(RegisteredFor whom) {
-  return whom == RegisteredFor::kUser ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+  return whom == RegisteredFor::kUser ? kUserRoot : kMachineRoot;
 }
 
 std::wstring ProgId(const ServerRow& server) {

@@ -44,10 +44,10 @@ void TypedCalls() {
   DATE day = 45322;  // 2024-01-31
   short months = 1;
   DATE later = 0;
-  ExpectDone(standard->AddMonth(&day, &months, &later), "AddMonth");
+  ExpectDone(standard->AddMonth(&day, months, &later), "AddMonth");
   ExpectSame(kLeapDay, later, "a date by reference");
-  ExpectSame(E_POINTER, standard->AddMonth(&day, &months, nullptr), "no place for the result");
-  ExpectSame(static_cast<HRESULT>(0x800A0005), standard->AddMonth(nullptr, &months, &later),
+  ExpectSame(E_POINTER, standard->AddMonth(&day, months, nullptr), "no place for the result");
+  ExpectSame(static_cast<HRESULT>(0x800A0005), standard->AddMonth(nullptr, months, &later),
              "a reference that is null");
 
   Bstr text;
@@ -86,7 +86,7 @@ void TypedErrors() {
   const Bstr text(L"31/2/2024");
   VARIANT_BOOL flag = VARIANT_FALSE;
   DATE date = 0;
-  ExpectSame(static_cast<HRESULT>(0x800A000D), standard->CTDATE(text.get(), &flag, &date),
+  ExpectSame(static_cast<HRESULT>(0x800A000D), standard->CTDATE(text.get(), flag, &date),
              "error 13 as a code");
   ExpectSame(std::wstring(L"StandardObject.CTDATE: type mismatch (error 13): iText: "
                           L"\"31/2/2024\""),
@@ -164,11 +164,11 @@ void DefaultProperties() {
   ExpectDone(grid->SetCols(3), "SetCols");
   constexpr WORD kGet = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
   ExpectDone(
-      Late(grid.get(), DISPID_VALUE, {Of(7L), Of(2L), Of(12.5)}, DISPATCH_PROPERTYPUT).Result(),
+      Late(grid.get(), DISPID{DISPID_VALUE}, {Of(7L), Of(2L), Of(12.5)}, DISPATCH_PROPERTYPUT).Result(),
       "a cell set");
-  ExpectSame(12.5, Late(grid.get(), DISPID_VALUE, {Of(7L), Of(2L)}, kGet).Value().dblVal, "a cell");
+  ExpectSame(12.5, Late(grid.get(), DISPID{DISPID_VALUE}, {Of(7L), Of(2L)}, kGet).Value().dblVal, "a cell");
   const auto standard = NewStandard();
-  ExpectSame(DISP_E_MEMBERNOTFOUND, Late(standard.get(), DISPID_VALUE, {}, kGet).Result(),
+  ExpectSame(DISP_E_MEMBERNOTFOUND, Late(standard.get(), DISPID{DISPID_VALUE}, {}, kGet).Result(),
              "a class without a default");
   ExpectSame(13U, Late(standard.get(), L"StrVal", {Of(grid.get())}).Error(),
              "an object without a value");
@@ -379,11 +379,11 @@ void Marshalling() {
         DATE day = 45322;
         short months = 1;
         DATE later = 0;
-        ExpectDone(proxy->AddMonth(&day, &months, &later), "a typed call");
+        ExpectDone(proxy->AddMonth(&day, months, &later), "a typed call");
         ExpectSame(kLeapDay, later, "a typed call through a proxy");
         const Bstr text(L"x");
         VARIANT_BOOL flag = VARIANT_FALSE;
-        ExpectSame(static_cast<HRESULT>(0x800A000D), proxy->CTDATE(text.get(), &flag, &later),
+        ExpectSame(static_cast<HRESULT>(0x800A000D), proxy->CTDATE(text.get(), flag, &later),
                    "an error through a proxy");
         const Late late(proxy.get(), L"FormatQuery", {Of(kLeapDay, VT_DATE)});
         ExpectSame(std::wstring(L"2024-02-29"), late.Text(), "a late call through a proxy");

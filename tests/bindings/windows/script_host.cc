@@ -180,7 +180,7 @@ int Run(int count, wchar_t** words) {
                               engine.OutVoid()),
              "the engine");
   if (!engine) return 1;
-  const auto parse = Query<IActiveScriptParse>(engine.get(), IID_IActiveScriptParse);
+  const auto parse = Query<IActiveScriptParse>(engine.get(), __uuidof(IActiveScriptParse));
   Site site;
   Echo echo;
   ExpectDone(engine->SetScriptSite(&site), "SetScriptSite");
