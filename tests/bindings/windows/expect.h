@@ -6,6 +6,7 @@
 #include <olectl.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <initializer_list>
 #include <string>
@@ -131,7 +132,7 @@ class Late {
                        static_cast<UINT>(given.size()), static_cast<UINT>(named.size())};
     if ((flags & DISPATCH_PROPERTYPUT) == 0) {
       // The last arguments have the names, so the names turn round too.
-      named.assign(named.rbegin(), named.rend());
+      std::reverse(named.begin(), named.end());
       call.rgdispidNamedArgs = named.data();
     }
     result_ =

@@ -176,7 +176,7 @@ void DefaultProperties() {
 
 void LateErrors() {
   const auto standard = NewStandard();
-  const Bstr bad(L"no date");
+  const Bstr bad(L"31/2/2024");
   const auto date = Of(bad);
   const struct {
     const char* what;
@@ -381,7 +381,7 @@ void Marshalling() {
         DATE later = 0;
         ExpectDone(proxy->AddMonth(&day, months, &later), "a typed call");
         ExpectSame(kLeapDay, later, "a typed call through a proxy");
-        const Bstr text(L"x");
+        const Bstr text(L"31/2/2024");
         VARIANT_BOOL flag = VARIANT_FALSE;
         ExpectSame(static_cast<HRESULT>(0x800A000D), proxy->CTDATE(text.get(), flag, &later),
                    "an error through a proxy");
@@ -394,9 +394,8 @@ void Marshalling() {
   }
   std::thread([] {
     CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-    double words = 0;
-    const auto made = NewStandard();
-    ExpectDone(made->Floor(2.5, &words), "made in the multithreaded apartment");
+    double down = 0;
+    ExpectDone(NewStandard()->Floor(2.5, &down), "made in the multithreaded apartment");
     CoUninitialize();
   }).join();
   auto moved = NewGrid();

@@ -71,12 +71,13 @@ class Handlers final : public Dispatched {
     if (classes && SUCCEEDED(classes->GetClassInfo(info.Out()))) FindEvents(*info.get());
     const auto container = Query<IConnectionPointContainer>(object, IID_IConnectionPointContainer);
     ComPtr<IEnumConnectionPoints> points;
-    ComPtr<IConnectionPoint> point;
     if (container && SUCCEEDED(container->EnumConnectionPoints(points.Out())) &&
-        points->Next(1, point.Out(), nullptr) == S_OK) {
-      DWORD cookie = 0;
-      ExpectDone(point->Advise(this, &cookie), "Advise");
+        points->Next(1, point_.Out(), nullptr) == S_OK) {
+      ExpectDone(point_->Advise(this, &cookie_), "Advise");
     }
+  }
+  ~Handlers() {
+    if (point_) point_->Unadvise(cookie_);
   }
 
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT* result,
@@ -89,7 +90,12 @@ class Handlers final : public Dispatched {
         FAILED(script->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &function))) {
       return DISP_E_MEMBERNOTFOUND;
     }
-    return script->Invoke(function, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, given, result,
+    // Wine's JScript reads no references to numbers.
+    std::vector<Variant> values(given->cArgs);
+    for (UINT i = 0; i < given->cArgs; ++i) VariantCopyInd(&values[i], &given->rgvarg[i]);
+    std::vector<VARIANT> plain(values.begin(), values.end());
+    DISPPARAMS call = {plain.data(), nullptr, given->cArgs, 0};
+    return script->Invoke(function, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &call, result,
                           info, wrong);
   }
 
@@ -119,6 +125,8 @@ class Handlers final : public Dispatched {
   IActiveScript& engine_;
   std::wstring name_;
   std::map<DISPID, std::wstring> events_;
+  ComPtr<IConnectionPoint> point_;
+  DWORD cookie_ = 0;
 };
 
 class Site final : public Lasting<IActiveScriptSite> {
