@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <limits>
 
+#include <ZQ7Standard/HideMacros.h>
+
 namespace ZQ7Standard {
 
 /// Layouts of a date.
@@ -120,5 +122,7 @@ enum VirtualFolder : std::int32_t {
 };
 
 }  // namespace ZQ7Standard
+
+#include <ZQ7Standard/RestoreMacros.h>
 
 #endif  // ZQ7STANDARD_ENUMERATIONS_H_

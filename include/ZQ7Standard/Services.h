@@ -11,6 +11,8 @@
 #include <optional>
 #include <string>
 
+#include <ZQ7Standard/HideMacros.h>
+
 namespace ZQ7Standard {
 
 class BlockCipher;
@@ -109,5 +111,7 @@ struct Services {
 };
 
 }  // namespace ZQ7Standard
+
+#include <ZQ7Standard/RestoreMacros.h>
 
 #endif  // ZQ7STANDARD_SERVICES_H_

@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+#include <ZQ7Standard/HideMacros.h>
+
 namespace ZQ7Standard {
 
 class PrintPicture;
@@ -944,5 +946,7 @@ class ZQ7STANDARD_EXPORT StandardObject {
 };
 
 }  // namespace ZQ7Standard
+
+#include <ZQ7Standard/RestoreMacros.h>
 
 #endif  // ZQ7STANDARD_STANDARDOBJECT_H_

@@ -138,7 +138,7 @@ std::string QualifiedName(const ClassInfo& owner, std::string_view member) {
 std::size_t NameHash::operator()(std::string_view name) const {
   std::uint64_t hash = 14695981039346656037U;
   for (const char c : name) hash = (hash ^ FoldedCharacter(c)) * 1099511628211U;
-  return hash;
+  return static_cast<std::size_t>(hash);
 }
 
 const ClassEntry* FindEntry(std::string_view class_name) {

@@ -10,28 +10,13 @@
 
 #include "base/ascii.h"
 #include "base/fields.h"
+#include "numbers/scaling.h"
 
 namespace ZQ7Standard {
 namespace {
 
-__extension__ using Wide = unsigned __int128;
-
 constexpr int kSignificantDigits = 15;
 constexpr std::uint64_t kDigitsLimit = 1'000'000'000'000'000;  // 10^15
-
-constexpr auto kPowersOfTen = [] {
-  std::array<std::uint64_t, 20> powers{};
-  std::uint64_t power = 1;
-  for (std::uint64_t& entry : powers) {
-    entry = power;
-    power *= 10;
-  }
-  return powers;
-}();
-
-constexpr std::uint64_t PowerOfTen(int exponent) {
-  return kPowersOfTen[static_cast<std::size_t>(exponent)];
-}
 
 // 10^0 to 10^22, the powers of ten that doubles represent exactly.
 constexpr std::array<double, 23> kExactPowers = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
@@ -63,14 +48,6 @@ double ReadExactly(std::string_view number, std::int64_t magnitude) {
 
 /// The leading 1 of a double's mantissa, which its bits leave out.
 constexpr std::uint64_t kHiddenBit = std::uint64_t{1} << 52;
-
-/// mantissa / 2^shift × 10^power, halves up; both factors fit in 128 bits.
-std::uint64_t Scale(std::uint64_t mantissa, int shift, int power) {
-  const Wide low = PowerOfTen(std::min(power, 19));
-  const Wide high = PowerOfTen(power > 19 ? power - 19 : 0);
-  const Wide product = mantissa * low * high;
-  return static_cast<std::uint64_t>((product + (Wide{1} << (shift - 1))) >> shift);
-}
 
 /// For values from 2^-23 to below 10^15, whose 53 bits times at most 10^21 fit in 128 bits.
 Decimal ToDecimalInRange(double magnitude) {

@@ -180,7 +180,7 @@ TEST(Catalogue, CopiesWork) {
 
 TEST(Catalogue, HoldsEveryPublicClass) {
   for (const auto& entry : std::filesystem::directory_iterator(ZQ7STANDARD_HEADERS)) {
-    const std::string name = entry.path().stem();
+    const std::string name = entry.path().stem().string();
     const std::string text = (std::ostringstream() << std::ifstream(entry.path()).rdbuf()).str();
     const bool is_class = text.find("class ZQ7STANDARD_EXPORT " + name + " {") != std::string::npos;
     EXPECT_TRUE(!is_class || name == "GridValueListener" || FindClass(name) != nullptr) << name;

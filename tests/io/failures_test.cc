@@ -13,8 +13,11 @@
 #include <ZQ7Standard/platform/registry.h>
 #include <ZQ7Standard/platform/serial_port.h>
 
+#include <fstream>
+
 #include "tests/support/printers.h"
 #include "tests/support/row_tests.h"
+#include "tests/support/temp_folder.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -68,8 +71,10 @@ std::string OutcomeOf(const auto& call) {
 }
 
 TEST(Failures, OfServicesStayInsideOperationsThatRaiseNothing) {
-  const Text file = u"C:\\proc\\version";
-  const Text none = u"C:\\none\\x";
+  const TempFolder folder;
+  const Text file = folder.Path("file");
+  const Text none = folder.Path("none\\x");
+  std::ofstream(folder.Native() / "file") << "x";
   for (const Raise& raise : kRaises) {
     const auto thrower = std::make_shared<Thrower>(raise);
     ASCIIObject texts({.file_status = thrower, .file_reader = thrower, .message_box = thrower});

@@ -112,6 +112,10 @@ OleDate TestNow() {
   return OleDate::FromParts(2024, 1, 15, 9, 30);
 }
 
+std::string NameOf(DateConvention convention) {
+  return "convention " + std::to_string(ObjectWith(convention).GetDateFormat());
+}
+
 StandardObject ObjectWith(DateConvention convention, OleDate now) {
   return StandardObject(
       {.clock = FixedClock(now), .date_convention = FixedDateConvention(convention)});

@@ -32,6 +32,9 @@ OleDate TestNow();
 /// An object on a machine with that convention and clock.
 StandardObject ObjectWith(DateConvention convention, OleDate now = TestNow());
 
+/// The convention as rows show it, by its date format.
+std::string NameOf(DateConvention convention);
+
 /// Returns `draw` if it was reseeded since the last draw, otherwise a number that no generator
 /// returns.
 class FakeRandomSource final : public RandomSource {

@@ -23,9 +23,7 @@ struct Show {
   std::string operator()(OleDate date) const { return IsoText(date); }
   std::string operator()(Currency amount) const { return Utf8(amount.ToText()); }
   std::string operator()(bool value) const { return value ? "yes" : "no"; }
-  std::string operator()(DateConvention convention) const {
-    return "convention " + (*this)(ObjectWith(convention).GetDateFormat());
-  }
+  std::string operator()(DateConvention convention) const { return NameOf(convention); }
   template <typename Number>
   requires std::is_arithmetic_v<Number> std::string operator()(Number number) const {
     char text[32];

@@ -2,9 +2,8 @@
 #define ZQ7STANDARD_TESTS_SUPPORT_TEMP_FOLDER_H_
 
 #include <ZQ7Standard/platform/path_text.h>
-#include <stdio.h>
-#include <stdlib.h>
 
+#include <random>
 #include <string>
 
 namespace ZQ7Standard {
@@ -13,20 +12,19 @@ namespace ZQ7Standard {
 class TempFolder {
  public:
   explicit TempFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
-      : native_(mkdtemp((parent / "zq7.XXXXXX").string().data())) {}
+      : native_(parent / ("zq7." + std::to_string(std::random_device()()))) {
+    std::filesystem::create_directory(native_);
+    std::filesystem::permissions(native_, std::filesystem::perms::owner_all);
+  }
   ~TempFolder() { std::filesystem::remove_all(native_); }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
 
   const std::filesystem::path& Native() const { return native_; }
   Text Path(const std::string& name) const { return PathText(native_ / name); }
 
-  /// The output of a shell command run in the folder.
-  std::string Run(const std::string& command) const {
-    std::string output;
-    FILE* pipe = popen(("cd " + native_.native() + "\n" + command).c_str(), "r");
-    for (int c = fgetc(pipe); c != EOF; c = fgetc(pipe)) output.push_back(static_cast<char>(c));
-    pclose(pipe);
-    return output;
-  }
+  /// The output of a shell command run in the folder. Only where there is a shell.
+  std::string Run(const std::string& command) const;
 
  private:
   std::filesystem::path native_;

@@ -13,6 +13,7 @@
 #include "batch.h"
 #include "call.h"
 #include "commands.h"
+#include "file_name.h"
 #include "fill/fill.h"
 #include "help.h"
 #include "json_value.h"
@@ -57,7 +58,7 @@ int WithInput(const std::string& name, const Streams& streams,
   try {
     if (name == "-") return use(*streams.in.rdbuf());
     errno = 0;
-    if (file.open(name, std::ios::in | std::ios::binary) != nullptr) return use(file);
+    if (file.open(FileNamed(name), std::ios::in | std::ios::binary) != nullptr) return use(file);
     reason = std::generic_category().message(errno);
   } catch (const std::ios_base::failure& failure) {
     reason = failure.code().message();  // a folder, for one, can be opened but not read

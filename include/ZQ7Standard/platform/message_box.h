@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+#include <ZQ7Standard/HideMacros.h>
+
 namespace ZQ7Standard {
 
 /// The picture beside the text of a message.
@@ -61,5 +63,7 @@ ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> StreamMessageBox(std::ostream& st
 ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> ErrorStreamMessageBox();
 
 }  // namespace ZQ7Standard
+
+#include <ZQ7Standard/RestoreMacros.h>
 
 #endif  // ZQ7STANDARD_PLATFORM_MESSAGE_BOX_H_

@@ -54,7 +54,7 @@ std::wstring WithSlash(std::wstring native) {
 /// The way to a folder without links and "..", ending in "\"; empty if it cannot be opened.
 std::wstring FinalWayTo(const std::wstring& native) {
   const Handle folder = Opened(native);
-  return folder ? WithSlash(FinalPathOf(folder.get())) : std::wstring();
+  return folder ? WithSlash(FinalPathOf(folder.get(), native)) : std::wstring();
 }
 
 /// Removes the last name; returns false if there is none.

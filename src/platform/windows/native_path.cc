@@ -60,10 +60,10 @@ std::wstring NativePath(TextView path, const DriveMap& drives) {
   return WithoutLimit(native);
 }
 
-std::wstring FinalPathOf(HANDLE file) {
+std::wstring FinalPathOf(HANDLE file, const std::wstring& native) {
   std::wstring path(GetFinalPathNameByHandleW(file, nullptr, 0, 0), L'\0');
   path.resize(GetFinalPathNameByHandleW(file, path.data(), static_cast<DWORD>(path.size()), 0));
-  return path;
+  return path.empty() ? Absolute(native) : path;
 }
 
 Text PathText(const std::filesystem::path& path) {

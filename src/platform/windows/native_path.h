@@ -13,9 +13,9 @@ namespace ZQ7Standard {
 /// gets the prefix "\\?\". What no name can hold (U+0000) becomes U+FFFD.
 std::wstring NativePath(TextView path, const DriveMap& drives);
 
-/// The path of an open file or folder itself, where links led to it; empty if the system does not
-/// tell.
-std::wstring FinalPathOf(HANDLE file);
+/// The path of an open file or folder itself, where links led to it from `native`, which it is if
+/// the system does not tell (Wine does not, beyond MAX_PATH).
+std::wstring FinalPathOf(HANDLE file, const std::wstring& native);
 
 }  // namespace ZQ7Standard
 

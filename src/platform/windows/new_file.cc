@@ -1,7 +1,8 @@
 #include "platform/windows/new_file.h"
 
 #include <atomic>
-#include <utility>
+
+#include "platform/windows/open_file.h"
 
 namespace ZQ7Standard {
 namespace {
@@ -13,47 +14,30 @@ std::wstring HiddenNameBeside(const std::wstring& native) {
          std::to_wstring(++count);
 }
 
-/// A read-only file may not be replaced.
-void DeleteWhatIsThere(const std::wstring& native) {
-  if (DeleteFileW(native.c_str()) != 0 || GetLastError() != ERROR_ACCESS_DENIED) return;
-  SetFileAttributesW(native.c_str(), FILE_ATTRIBUTE_NORMAL);
-  DeleteFileW(native.c_str());
-}
-
-OpenFile Written(TextView path, std::wstring native, std::string_view bytes) {
-  DeleteWhatIsThere(native);
-  OpenFile file(
-      path, std::move(native),
-      {.access = GENERIC_WRITE, .disposition = CREATE_NEW, .attributes = FILE_ATTRIBUTE_NORMAL});
-  try {
-    file.Write(bytes);
-    file.Sync();
-  } catch (...) {
-    file.Close();
-    DeleteFileW(file.Native().c_str());
-    throw;
+/// Deletes a file that did not get its name.
+struct Discard {
+  const std::wstring& native;
+  bool is_wanted = true;
+  ~Discard() {
+    if (is_wanted) DeleteFileW(native.c_str());
   }
-  file.Close();
-  return file;
-}
+};
 
 }  // namespace
 
-TemporaryFile::TemporaryFile(TextView path, std::wstring native, std::string_view bytes)
-    : file_(Written(path, std::move(native), bytes)) {}
-
-TemporaryFile::~TemporaryFile() {
-  if (!is_kept_) DeleteFileW(Native().c_str());
-}
-
 bool CreateWhole(TextView path, const std::wstring& native, std::string_view bytes) {
-  TemporaryFile file(path, HiddenNameBeside(native), bytes);
+  OpenFile file(path, HiddenNameBeside(native),
+                {.access = GENERIC_WRITE, .disposition = CREATE_ALWAYS});
+  Discard discard{file.Native()};
+  file.Write(bytes);
+  file.Sync();
+  file.Close();
   if (MoveFileExW(file.Native().c_str(), native.c_str(), MOVEFILE_WRITE_THROUGH) == 0) {
     const DWORD error = GetLastError();
     if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) return false;
     file.Fail(error, "create");
   }
-  file.Keep();
+  discard.is_wanted = false;
   return true;
 }
 

