@@ -115,4 +115,12 @@ std::optional<FileVersion> ReadFileVersion(const ReadAt& read) {
   return FileVersion{Number16(info, 10), Number16(info, 8), Number16(info, 14), Number16(info, 12)};
 }
 
+Text VersionText(const FileVersion& version) {
+  std::string text;
+  for (const std::uint16_t number : version) {
+    text.append(text.empty() ? "" : ".").append(std::to_string(number));
+  }
+  return FromUtf8(text);
+}
+
 }  // namespace ZQ7Standard

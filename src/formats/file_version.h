@@ -1,6 +1,8 @@
 #ifndef ZQ7STANDARD_SRC_FORMATS_FILE_VERSION_H_
 #define ZQ7STANDARD_SRC_FORMATS_FILE_VERSION_H_
 
+#include <ZQ7Standard/Types.h>
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -20,6 +22,9 @@ using FileVersion = std::array<std::uint16_t, 4>;
 /// in every language. Returns nullopt for any other file. A few pieces of the file are read, of
 /// 64 KiB at most.
 std::optional<FileVersion> ReadFileVersion(const ReadAt& read);
+
+/// "1.2.3.4".
+Text VersionText(const FileVersion& version);
 
 }  // namespace ZQ7Standard
 

@@ -66,4 +66,10 @@ std::optional<SerialSettings> ReadSerialSettings(TextView text) {
   return read ? std::optional(settings) : std::nullopt;
 }
 
+bool CanBeSent(const SerialSettings& settings) {
+  const StopBits longer = settings.data_bits == 5 ? StopBits::kOneAndHalf : StopBits::kTwo;
+  return settings.data_bits >= 5 &&
+         (settings.stop_bits == StopBits::kOne || settings.stop_bits == longer);
+}
+
 }  // namespace ZQ7Standard

@@ -25,6 +25,10 @@ struct SerialSettings {
 /// keeps its drawer shut.
 std::optional<SerialSettings> ReadSerialSettings(TextView text);
 
+/// Whether serial hardware can send so: its only long stop bit is 1.5 with 5 data bits and 2 with
+/// more, of which there are no fewer.
+bool CanBeSent(const SerialSettings& settings);
+
 }  // namespace ZQ7Standard
 
 #endif  // ZQ7STANDARD_SRC_FORMATS_SERIAL_SETTINGS_H_

@@ -10,6 +10,10 @@ constexpr std::size_t kMostLevels = 512;
 
 }  // namespace
 
+bool KeepsKeys(std::int32_t root) {
+  return root >= HKEY_CLASSES_ROOT && root <= HKEY_USERS;
+}
+
 std::optional<TextView> KeyPath(TextView path) {
   std::size_t levels = 0;
   for (TextView rest = path; !rest.empty(); ++levels) {

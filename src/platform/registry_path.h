@@ -8,9 +8,7 @@
 namespace ZQ7Standard {
 
 /// Whether there can be keys below `root`.
-constexpr bool KeepsKeys(std::int32_t root) {
-  return root >= HKEY_CLASSES_ROOT && root <= HKEY_USERS;
-}
+bool KeepsKeys(std::int32_t root);
 
 /// `path` without a trailing "\"; nullopt if it has an empty name, one of more than 255 characters,
 /// or more than 512 names. The empty path is the root itself.

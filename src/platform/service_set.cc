@@ -23,7 +23,7 @@ std::shared_ptr<Clock> SharedClock() {
 }
 
 std::shared_ptr<MessageBox> SharedMessageBox() {
-  static const auto box = ErrorStreamMessageBox();
+  static const auto box = SystemMessageBox();
   return box;
 }
 

@@ -104,6 +104,7 @@ Commands::Commands() : app_("Calls the operations of the ZQ7Standard library by 
   app_.set_help_flag("-h,--help", "Print the usage of the tool or of a subcommand.");
   app_.require_subcommand(1);
   app_.fallthrough();
+  app_.allow_windows_style_options(false);  // "/a" is a file, on every system
   AddSettings();
 
   CLI::App* list = app_.add_subcommand("list", "List the classes, or the members of one.");

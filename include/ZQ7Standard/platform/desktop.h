@@ -29,7 +29,8 @@ class ZQ7STANDARD_EXPORT Desktop {
   virtual void OpenDocument(std::string_view name, std::string_view bytes) = 0;
 };
 
-/// The desktop of the machine, as xdg-open and xdg-email know it.
+/// The desktop of the machine, as xdg-open and xdg-email know it. On Windows it is the shell's;
+/// attachments go to the user's mail program by MAPI.
 ZQ7STANDARD_EXPORT std::shared_ptr<Desktop> SystemDesktop(DriveMap drives = {});
 
 }  // namespace ZQ7Standard

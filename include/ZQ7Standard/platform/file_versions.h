@@ -21,6 +21,7 @@ class ZQ7STANDARD_EXPORT FileVersions {
 
 /// The version in a file of Windows, else that of the Debian package that it belongs to.
 /// Raises 70 if the package database does not answer one of two questions within 2 seconds.
+/// On Windows only files have versions.
 ZQ7STANDARD_EXPORT std::shared_ptr<FileVersions> SystemFileVersions(MachineFiles files = {});
 
 }  // namespace ZQ7Standard

@@ -8,7 +8,8 @@
 namespace ZQ7Standard {
 
 /// The files in which a machine describes itself. A `root` other than "/" holds a copy of
-/// those of another machine, such as its /proc, /sys and /etc.
+/// those of another machine, such as its /proc, /sys and /etc. Windows keeps no such files: there
+/// the root is ignored.
 struct MachineFiles {
   std::filesystem::path root = "/";
   DriveMap drives = {};  ///< for path texts

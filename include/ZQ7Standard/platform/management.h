@@ -32,7 +32,9 @@ class ZQ7STANDARD_EXPORT Management {
                                               std::span<const std::string_view> properties) = 0;
 };
 
-/// What Linux tells in /proc and /sys.
+/// What Linux tells in /proc and /sys. On Windows it is what the management service (WMI) tells of
+/// the same classes and some more; each call may be made on any thread, and raises 429 if the
+/// service cannot be reached, 70 if it takes more than ten seconds to answer.
 ZQ7STANDARD_EXPORT std::shared_ptr<Management> SystemManagement(MachineFiles files = {});
 
 }  // namespace ZQ7Standard

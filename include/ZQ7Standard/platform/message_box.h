@@ -62,6 +62,10 @@ ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> StreamMessageBox(std::ostream& st
 /// The same on the error stream.
 ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> ErrorStreamMessageBox();
 
+/// The machine's own: on Linux the error stream. On Windows it is a window in programs that have
+/// windows and a user who sees them, and waits for that user; in others it is the error stream.
+ZQ7STANDARD_EXPORT std::shared_ptr<MessageBox> SystemMessageBox();
+
 }  // namespace ZQ7Standard
 
 #include <ZQ7Standard/RestoreMacros.h>

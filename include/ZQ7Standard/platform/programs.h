@@ -37,7 +37,8 @@ class ZQ7STANDARD_EXPORT Programs {
 };
 
 /// The programs of the machine; names are looked for in the folders of PATH, of which empty
-/// ones are skipped.
+/// ones are skipped. On Windows programs are files of the extensions .com and .exe, which a name may
+/// leave out; there are no signals, so that `Run` ends what takes too long at once.
 ZQ7STANDARD_EXPORT std::shared_ptr<Programs> SystemPrograms(DriveMap drives = {});
 
 }  // namespace ZQ7Standard

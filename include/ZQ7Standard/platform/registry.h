@@ -84,7 +84,7 @@ class ZQ7STANDARD_EXPORT Registry {
 };
 
 /// The folders that hold the databases of `SystemRegistry`. An empty path means the
-/// machine's own place.
+/// machine's own place. On Windows, whose registry has no such folders, both are ignored.
 struct RegistryFolders {
   std::filesystem::path user;     ///< of HKEY_CURRENT_USER; by default ~/.local/share/zq7standard
   std::filesystem::path machine;  ///< of the other roots; by default /var/lib/zq7standard
@@ -98,8 +98,11 @@ struct RegistryFolders {
 /// one in the user's own place that others own or may write to. docs/files.md is for its
 /// administrator.
 ///
+/// On Windows it is the registry itself, flushed to the disk by every update, with the keys and
+/// texts that a program has on a machine whose code page is Windows-874.
+///
 /// It may be used on both sides of a fork. In a library built without
-/// ZQ7STANDARD_WITH_SQLITE no key can be opened or created.
+/// ZQ7STANDARD_WITH_SQLITE for Linux no key can be opened or created.
 ZQ7STANDARD_EXPORT std::shared_ptr<Registry> SystemRegistry(const RegistryFolders& folders = {});
 
 /// A registry in memory, empty at first: for tests, and for hosts that must leave nothing

@@ -58,6 +58,10 @@ class ZQ7STANDARD_EXPORT SerialPort {
 /// discarded, so that a drawer does not open later. Closing restores the line's former
 /// settings, and does nothing to a closed port.
 ///
+/// On Windows port n is COMn if the map has no n, and entries are such names too; a port that
+/// the user has no right to raises 8005 like one that is open, which the system does not
+/// tell apart.
+///
 /// Raises, with the device in the text:
 /// - 70 if the user has no right to the device;
 /// - 380 for settings that cannot be read, or that the line cannot do (4 data bits; 1.5

@@ -20,7 +20,7 @@ class ZQ7STANDARD_EXPORT SpecialFolders {
 };
 
 /// The folders that the environment and the user's settings name (the XDG base directories,
-/// user-dirs.dirs).
+/// user-dirs.dirs). On Windows it is those that the shell knows for the user.
 ZQ7STANDARD_EXPORT std::shared_ptr<SpecialFolders> SystemSpecialFolders(MachineFiles files = {});
 
 }  // namespace ZQ7Standard

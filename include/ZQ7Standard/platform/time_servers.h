@@ -21,7 +21,8 @@ class ZQ7STANDARD_EXPORT TimeServers {
 
 /// Asks by SNTP (RFC 5905), up to three times, for two seconds each. Name resolution and all
 /// questions together take eight seconds at most. Replies that the server cannot have sent to
-/// this question are ignored.
+/// this question are ignored. On Windows a server named without a port is first asked by the
+/// system's own protocol (NetRemoteTOD), for eight seconds more at most.
 ZQ7STANDARD_EXPORT std::shared_ptr<TimeServers> SystemTimeServers();
 
 }  // namespace ZQ7Standard

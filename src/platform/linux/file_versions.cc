@@ -21,14 +21,6 @@ namespace {
 // Opens pipes and devices without waiting, only to reject them.
 constexpr int kForReading = O_RDONLY | O_NONBLOCK;
 
-Text VersionText(const FileVersion& version) {
-  std::string text;
-  for (const std::uint16_t number : version) {
-    text.append(text.empty() ? "" : ".").append(std::to_string(number));
-  }
-  return FromUtf8(text);
-}
-
 /// Fewer bytes than asked for if the file ends before.
 std::string ReadPart(const OpenFile& file, std::uint64_t offset, std::size_t size) {
   std::string bytes(size, '\0');

@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "base/fields.h"
+#include "formats/clean_text.h"
 #include "platform/linux/descriptor.h"
 #include "platform/linux/file_errors.h"
 #include "platform/linux/system_calls.h"
@@ -16,13 +16,8 @@
 namespace ZQ7Standard {
 namespace {
 
-constexpr std::size_t kLongestText = 256;  // bytes
 constexpr std::size_t kLargestFile = std::size_t{4} << 20U;
 constexpr std::size_t kMostNames = 100'000;
-
-constexpr bool IsControl(char16_t c) {
-  return c < 0x20 || (c >= 0x7F && c < 0xA0);
-}
 
 /// Files of hardware that is not there, or that cannot tell, fail when they are opened or read.
 bool MeansUnknown(int error) {
@@ -33,11 +28,7 @@ bool MeansUnknown(int error) {
 }  // namespace
 
 Text CleanText(std::string_view bytes) {
-  Text text = FromUtf8(bytes.substr(0, 4 * kLongestText));
-  std::erase_if(text, IsControl);
-  text = TrimBack(TrimFront(text));
-  while (Utf8(text).size() > kLongestText) text.pop_back();
-  return text;
+  return CleanText(FromUtf8(bytes.substr(0, 1024)));  // more than hosts get
 }
 
 std::string MachineTree::Read(const std::string& path) const {

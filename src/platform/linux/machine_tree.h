@@ -12,8 +12,7 @@
 
 namespace ZQ7Standard {
 
-/// A text of the machine's as hosts get it: trimmed, without control characters, 256 bytes of UTF-8
-/// at most.
+/// `CleanText` of a text in UTF-8.
 Text CleanText(std::string_view bytes);
 
 /// The files in which Linux describes a machine. Paths are native, absolute and those of that

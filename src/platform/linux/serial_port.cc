@@ -11,27 +11,18 @@
 #include <array>
 #include <cerrno>
 #include <cstddef>
-#include <memory>
-#include <optional>
 #include <string_view>
 #include <system_error>
 #include <thread>
 #include <utility>
 
-#include "base/code_page.h"
-#include "base/unicode.h"
-#include "formats/serial_settings.h"
+#include "platform/serial_control.h"
 
 namespace ZQ7Standard {
 namespace {
 
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
-
-/// The error of a line, with its device and any detail.
-RunTimeError Failure(Error error, const std::string& device, const std::string& detail = "") {
-  return RunTimeError(error, detail.empty() ? device : device + ": " + detail);
-}
 
 std::string SystemText(int error) {
   return std::generic_category().message(error);
@@ -42,52 +33,34 @@ RunTimeError OpenFailure(const std::string& device, int error) {
   switch (error) {
     case EACCES:
     case EPERM:
-      return Failure(Error::kPermissionDenied, device, reason);
+      return LineFailure(Error::kPermissionDenied, device, reason);
     case EAGAIN:
     case EBUSY:
-      return Failure(Error::kPortAlreadyOpen, device, reason);
+      return LineFailure(Error::kPortAlreadyOpen, device, reason);
     default:
-      return Failure(Error::kNoSuchPort, device, reason);
+      return LineFailure(Error::kNoSuchPort, device, reason);
   }
 }
 
 constexpr tcflag_t kFormFlags = CSIZE | CSTOPB | PARENB | PARODD | CMSPAR;
 
-/// The system's flags for the form of a character; nullopt for what serial hardware cannot send.
-/// Its only flag for a long stop bit means 1.5 with 5 data bits and 2 with more.
-std::optional<tcflag_t> FormFlags(const SerialSettings& settings) {
+/// The system's flags for the form of a character. Its only flag for a long stop bit means 1.5 with
+/// 5 data bits and 2 with more.
+tcflag_t FormFlags(const SerialSettings& settings) {
   constexpr std::array<tcflag_t, 4> kSizes = {CS5, CS6, CS7, CS8};
   constexpr std::array<tcflag_t, 5> kParities = {0, PARENB | PARODD, PARENB,
                                                  PARENB | PARODD | CMSPAR, PARENB | CMSPAR};
-  if (settings.data_bits < 5) return std::nullopt;
   const tcflag_t form = kSizes[static_cast<std::size_t>(settings.data_bits - 5)] |
                         kParities[static_cast<std::size_t>(settings.parity)];
-  if (settings.stop_bits == StopBits::kOne) return form;
-  const StopBits longer = settings.data_bits == 5 ? StopBits::kOneAndHalf : StopBits::kTwo;
-  if (settings.stop_bits != longer) return std::nullopt;
-  return form | CSTOPB;
+  return settings.stop_bits == StopBits::kOne ? form : form | CSTOPB;
 }
 
-/// The requested mode of a line, and the text that says so.
-struct LineMode {
-  speed_t baud = 9600;
-  tcflag_t form = CS8;
-  std::string text = "\"9600,N,8,1\"";
-};
-
-std::optional<LineMode> ReadLineMode(TextView text) {
-  const auto settings = ReadSerialSettings(text);
-  if (!settings) return std::nullopt;
-  const auto form = FormFlags(*settings);
-  if (!form) return std::nullopt;
-  return LineMode{settings->baud, *form, Quoted(text)};
-}
-
-/// Whether a driver asked for `mode` has set the line up as `line`. A speed within 2 % is what
+/// Whether a driver asked for `settings` has set the line up as `line`. A speed within 2 % is what
 /// other devices tolerate, and as close as most hardware gets.
-bool IsSetUp(const termios2& line, const LineMode& mode) {
-  const auto difference = std::max(line.c_ospeed, mode.baud) - std::min(line.c_ospeed, mode.baud);
-  return (line.c_cflag & kFormFlags) == mode.form && difference <= mode.baud / 50;
+bool IsSetUp(const termios2& line, const SerialSettings& settings) {
+  const speed_t baud = settings.baud;
+  const auto difference = std::max(line.c_ospeed, baud) - std::min(line.c_ospeed, baud);
+  return (line.c_cflag & kFormFlags) == FormFlags(settings) && difference <= baud / 50;
 }
 
 class Descriptor {
@@ -107,6 +80,8 @@ class Descriptor {
 /// A serial line of the machine, open and locked. On closing it gets back its original settings.
 class Line {
  public:
+  static std::string DeviceOf(std::int16_t port) { return "/dev/ttyS" + std::to_string(port - 1); }
+
   explicit Line(std::string device)
       : device_(std::move(device)),
         descriptor_(open(device_.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
@@ -127,26 +102,24 @@ class Line {
     line.c_oflag = 0;
     line.c_lflag = 0;
     line.c_cflag &= ~(kFormFlags | CBAUD | CIBAUD | CRTSCTS);
-    line.c_cflag |= mode.form | BOTHER | CLOCAL | CREAD;
-    line.c_ispeed = mode.baud;
-    line.c_ospeed = mode.baud;
+    line.c_cflag |= FormFlags(mode.settings) | BOTHER | CLOCAL | CREAD;
+    line.c_ispeed = mode.settings.baud;
+    line.c_ospeed = mode.settings.baud;
     if (ioctl(Number(), TCSETS2, &line) < 0 || ioctl(Number(), TCGETS2, &line) < 0 ||
-        !IsSetUp(line, mode)) {
-      throw Failure(Error::kInvalidPropertyValue, device_, mode.text);
+        !IsSetUp(line, mode.settings)) {
+      throw LineFailure(Error::kInvalidPropertyValue, device_, mode.text);
     }
-    baud_ = mode.baud;
+    baud_ = mode.settings.baud;
   }
 
   /// Writes `bytes` within the time that they need on the line plus `time_limit`.
   void Write(std::string_view bytes, milliseconds time_limit) {
-    // A byte takes at most 12 bits: the start, 8 of data, parity and 2 of stop.
-    const milliseconds needed(bytes.size() * 12 * 1000 / baud_);
-    const auto deadline = steady_clock::now() + needed + time_limit;
+    const auto deadline = steady_clock::now() + TimeOnLine(bytes.size(), baud_) + time_limit;
     int error = Send(bytes, deadline);
     if (error == 0) error = Drain(deadline);
     if (error == 0) return;
     ioctl(Number(), TCFLSH, TCOFLUSH);
-    throw Failure(Error::kWriteFailed, device_, SystemText(error));
+    throw LineFailure(Error::kWriteFailed, device_, SystemText(error));
   }
 
   const std::string& Device() const { return device_; }
@@ -160,7 +133,7 @@ class Line {
     int exclusive = 0;
     if (flock(Number(), LOCK_EX | LOCK_NB) < 0 ||
         (ioctl(Number(), TIOCGEXCL, &exclusive) == 0 && exclusive != 0)) {
-      throw Failure(Error::kPortAlreadyOpen, device_);
+      throw LineFailure(Error::kPortAlreadyOpen, device_);
     }
     ioctl(Number(), TIOCEXCL);
   }
@@ -200,57 +173,10 @@ class Line {
   speed_t baud_ = 0;
 };
 
-class LinuxSerialPort final : public SerialPort {
- public:
-  LinuxSerialPort(SerialDevices devices, milliseconds time_limit)
-      : devices_(std::move(devices)),
-        time_limit_(std::min<milliseconds>(time_limit, std::chrono::hours(24))) {}
-
-  void SetCommPort(std::int16_t port) override { port_ = port; }
-
-  void SetSettings(TextView settings) override {
-    auto mode = ReadLineMode(settings);
-    if (!mode) throw Failure(Error::kInvalidPropertyValue, Device(), Quoted(settings));
-    mode_ = std::move(*mode);
-  }
-
-  void SetInputLen(std::int16_t /*length*/) override {}
-
-  void SetPortOpen(bool open) override {
-    if (!open) {
-      line_.reset();
-      return;
-    }
-    if (line_) throw Failure(Error::kPortAlreadyOpen, line_->Device());
-    auto line = std::make_unique<Line>(Device());
-    line->SetUp(mode_);
-    line_ = std::move(line);
-  }
-
-  void SetOutput(TextView text) override {
-    if (!line_) throw Failure(Error::kPortNotOpen, Device());
-    line_->Write(ToCodePage(text), time_limit_);
-  }
-
-  bool PortOpen() const override { return line_ != nullptr; }
-
- private:
-  std::string Device() const {
-    const auto device = devices_.find(port_);
-    return device != devices_.end() ? device->second : "/dev/ttyS" + std::to_string(port_ - 1);
-  }
-
-  SerialDevices devices_;
-  milliseconds time_limit_;
-  std::int16_t port_ = 1;
-  LineMode mode_;
-  std::unique_ptr<Line> line_;
-};
-
 }  // namespace
 
 std::shared_ptr<SerialPort> SystemSerialPort(SerialDevices devices, milliseconds time_limit) {
-  return std::make_shared<LinuxSerialPort>(std::move(devices), time_limit);
+  return std::make_shared<SerialControl<Line>>(std::move(devices), time_limit);
 }
 
 }  // namespace ZQ7Standard

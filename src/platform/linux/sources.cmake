@@ -20,6 +20,7 @@ target_sources(zq7_objects PRIVATE
   src/platform/linux/machine.cc
   src/platform/linux/machine_tree.cc
   src/platform/linux/management.cc
+  src/platform/linux/message_box.cc
   src/platform/linux/mount_table.cc
   src/platform/linux/name_lookup.cc
   src/platform/linux/native_path.cc

@@ -2,20 +2,27 @@
 #define ZQ7STANDARD_SRC_PLATFORM_WINDOWS_COM_H_
 
 #include <objbase.h>
+#include <oleauto.h>
 
 #include <memory>
+#include <string>
 
 namespace ZQ7Standard {
 
-/// COM on the calling thread while the object lives, in the apartment that the thread has, if it
-/// has one. Interface pointers are released before it.
-class ComOnThread {
+struct ReleaseInterface {
+  void operator()(IUnknown* interface_pointer) const { interface_pointer->Release(); }
+};
+/// An interface that is released by the destructor.
+template <typename Interface>
+using ComPointer = std::unique_ptr<Interface, ReleaseInterface>;
+
+/// The thread's use of COM, until the destructor. One that the thread has already stays.
+class ComUse {
  public:
-  ComOnThread() : result_(CoInitializeEx(nullptr, COINIT_MULTITHREADED)) {}
-  ComOnThread(const ComOnThread&) = delete;
-  ComOnThread& operator=(const ComOnThread&) = delete;
-  ~ComOnThread() {
-    // It fails on a thread whose apartment is another one, which can be used as well.
+  explicit ComUse(DWORD kind) : result_(CoInitializeEx(nullptr, kind)) {}
+  ComUse(const ComUse&) = delete;
+  ComUse& operator=(const ComUse&) = delete;
+  ~ComUse() {
     if (SUCCEEDED(result_)) CoUninitialize();
   }
 
@@ -23,22 +30,23 @@ class ComOnThread {
   HRESULT result_;
 };
 
-struct ReleaseOf {
-  void operator()(IUnknown* object) const { object->Release(); }
+struct FreeBstr {
+  using pointer = BSTR;
+  void operator()(BSTR text) const { SysFreeString(text); }
 };
+using Bstr = std::unique_ptr<BSTR, FreeBstr>;
 
-/// A reference to a COM object.
-template <typename Interface>
-using ComPointer = std::unique_ptr<Interface, ReleaseOf>;
-
-/// Calls `get` with the address of a pointer to an interface, and returns what it put there; null
-/// if it failed.
-template <typename Interface>
-ComPointer<Interface> GetCom(const auto& get) {
-  Interface* object = nullptr;
-  const HRESULT result = get(&object);
-  return ComPointer<Interface>(SUCCEEDED(result) ? object : nullptr);
+inline Bstr MakeBstr(const std::wstring& text) {
+  return Bstr(SysAllocString(text.c_str()));
 }
+
+/// A variant that is cleared by the destructor.
+struct Variant : VARIANT {
+  Variant() : VARIANT{} {}
+  Variant(const Variant&) = delete;
+  Variant& operator=(const Variant&) = delete;
+  ~Variant() { VariantClear(this); }
+};
 
 }  // namespace ZQ7Standard
 

@@ -2,14 +2,21 @@
 
 #include <ZQ7Standard/RunTimeError.h>
 
+#include <chrono>
+#include <exception>
+#include <string>
 #include <utility>
 
 #include "platform/page_rules.h"
+#include "platform/windows/limited_call.h"
 #include "platform/windows/page_canvas.h"
 #include "platform/windows/page_output.h"
+#include "platform/windows/user_session.h"
 
 namespace ZQ7Standard {
 namespace {
+
+constexpr std::chrono::seconds kJobLimit{30};
 
 /// `DecodePicture`, whose errors are the printer's here.
 Bitmap PictureToPrint(std::string_view file) {
@@ -18,6 +25,23 @@ Bitmap PictureToPrint(std::string_view file) {
   } catch (const RunTimeError& error) {
     throw RunTimeError(Error::kPrinterError, error.Details().text);
   }
+}
+
+/// Where no user sees the question of a driver or a port, it would wait for ever.
+void PrintUnseen(const std::shared_ptr<PageCanvas>& canvas, PageContent page, std::wstring output) {
+  const auto failure = ResultWithin<std::exception_ptr>(
+      [canvas, page = std::move(page), output = std::move(output)]() -> std::exception_ptr {
+        try {
+          canvas->Print(page, output);
+          return nullptr;
+        } catch (...) {
+          return std::current_exception();
+        }
+      },
+      kJobLimit);
+  if (!failure)
+    throw RunTimeError(Error::kPrinterError, "the printer did not take the job in time");
+  if (*failure) std::rethrow_exception(*failure);
 }
 
 class PageDocument final : public PrintDocument {
@@ -57,11 +81,15 @@ class PageDocument final : public PrintDocument {
 
   void End() override {
     position_ = {};
-    const PageContent page = std::exchange(page_, {});
+    PageContent page = std::exchange(page_, {});
     const auto canvas = std::exchange(canvas_, nullptr);
     if (page.empty()) return;
     PageOutput output(printer_->Name(), folder_);
-    canvas->Print(page, output.Name());
+    if (HasVisibleDesktop()) {
+      canvas->Print(page, output.Name());
+    } else {
+      PrintUnseen(canvas, std::move(page), output.Name());
+    }
     output.Keep();
   }
 
@@ -75,13 +103,13 @@ class PageDocument final : public PrintDocument {
   /// That of the open document, else one of the printer's settings in force.
   PageCanvas& Canvas() {
     if (page_.empty() && canvas_ && canvas_->Mode() != printer_->Mode()) canvas_.reset();
-    if (!canvas_) canvas_ = std::make_unique<PageCanvas>(printer_->Name(), printer_->Mode());
+    if (!canvas_) canvas_ = std::make_shared<PageCanvas>(printer_->Name(), printer_->Mode());
     return *canvas_;
   }
 
   std::shared_ptr<PrinterDevice> printer_;
   std::filesystem::path folder_;
-  std::unique_ptr<PageCanvas> canvas_;
+  std::shared_ptr<PageCanvas> canvas_;
   PageContent page_;  // not empty while a document is open
   PagePosition position_;
   PrintFont font_;

@@ -13,6 +13,7 @@
 
 #include "platform/windows/new_file.h"
 #include "platform/windows/printer_device.h"
+#include "platform/windows/user_session.h"
 #include "platform/windows/wide_text.h"
 
 namespace ZQ7Standard {
@@ -44,14 +45,6 @@ std::wstring ExtensionFor(const std::wstring& driver) {
   return std::wstring(kind == kFileKinds.end() ? L".prn" : kind->extension);
 }
 
-/// Whether a user can see the windows of this process; not those of a service.
-bool HasUser() {
-  USEROBJECTFLAGS flags{};
-  return GetUserObjectInformationW(GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof flags,
-                                   nullptr) != FALSE &&
-         (flags.dwFlags & WSF_VISIBLE) != 0;
-}
-
 /// "Document 20240115-093000"
 std::wstring StemAt(OleDate now) {
   std::array<wchar_t, 80> stem{};
@@ -78,7 +71,7 @@ PageOutput::PageOutput(const std::wstring& printer, const std::filesystem::path&
   const auto [port, driver] = PortOf(printer);
   if (!Asks(port)) return;
   if (folder.empty()) {
-    if (HasUser()) return;
+    if (HasVisibleDesktop()) return;
     throw RunTimeError(Error::kPrinterError, Utf8(FromWide(printer)) + ": the port " +
                                                  Utf8(FromWide(port)) + " asks for a file");
   }

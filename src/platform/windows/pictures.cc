@@ -20,6 +20,15 @@ constexpr std::string_view kJpegEnd = "\xFF\xD9";
 constexpr unsigned kWhite = 255;
 constexpr std::size_t kOpaquePixelSize = 4;  // with a byte of opacity after the colours
 
+/// Calls `get` with the address of a pointer to an interface, and returns what it put there; null
+/// if it failed.
+template <typename Interface>
+ComPointer<Interface> TryGet(const auto& get) {
+  Interface* object = nullptr;
+  const HRESULT result = get(&object);
+  return ComPointer<Interface>(SUCCEEDED(result) ? object : nullptr);
+}
+
 [[noreturn]] void RaiseDamaged() {
   throw RunTimeError(Error::kInvalidPicture, "a damaged file");
 }
@@ -28,16 +37,16 @@ void Require(HRESULT result) {
   if (FAILED(result)) RaiseDamaged();
 }
 
-/// `GetCom` of what no sound picture lacks.
+/// `TryGet` of what no sound picture lacks.
 template <typename Interface>
 ComPointer<Interface> Get(const auto& get) {
-  auto object = GetCom<Interface>(get);
+  auto object = TryGet<Interface>(get);
   if (!object) RaiseDamaged();
   return object;
 }
 
 ComPointer<IWICImagingFactory> Factory() {
-  auto factory = GetCom<IWICImagingFactory>([](IWICImagingFactory** made) {
+  auto factory = TryGet<IWICImagingFactory>([](IWICImagingFactory** made) {
     return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                             IID_PPV_ARGS(made));
   });
@@ -159,13 +168,13 @@ std::string BytesOf(IStream& stream) {
 
 Bitmap DecodePicture(std::string_view file) {
   const PictureSize size = SizeForJpeg(file);
-  const ComOnThread com;
+  const ComUse com(COINIT_MULTITHREADED);
   return Decode(*Factory(), file, size);
 }
 
 std::string PictureAsJpeg(std::string_view picture, int quality) {
   const PictureSize size = SizeForJpeg(picture);
-  const ComOnThread com;
+  const ComUse com(COINIT_MULTITHREADED);
   const auto factory = Factory();
   Bitmap pixels = Decode(*factory, picture, size);
   const auto stream =
