@@ -6,6 +6,8 @@ target_sources(zq7_tests PRIVATE
   platform/windows/serial_port_test.cc
   platform/windows/system_registry_test.cc
   platform/windows/time_servers_test.cc
+  platform/windows/pictures_test.cc
+  platform/windows/printing_test.cc
   support/windows/read_only.cc)
 # Loaded in the place of the system's own where WINEDLLOVERRIDES says so.
 add_library(zq7_netapi32 SHARED support/windows/netapi32.cc support/windows/netapi32.def)
