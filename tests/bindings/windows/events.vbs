@@ -1,7 +1,9 @@
+Dim grid
 Sub grid_CellDataChange(row, column)
-  host.Echo "row " & row & ", column " & column & ", value " & grid.GetValue(row, column)
+  WScript.Echo "row " & row & ", column " & column & ", value " & grid.GetValue(row, column)
 End Sub
+Set grid = WScript.CreateObject("ZQ7Standard.GridValueObject", "grid_")
 grid.SetCols 3
 grid.Setvalue 7, 2, 12.5
-grid.Setvalue 8, 1, 2
-host.Echo "sum " & grid.SumCol(2)
+grid(8, 1) = 2
+WScript.Echo "sum " & grid.SumCol(2)

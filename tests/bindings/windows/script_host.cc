@@ -1,9 +1,10 @@
-// Runs a file of VBScript or JScript whose functions get the events of objects:
+// Runs a file of VBScript or JScript as the system's own script host does, with the events of
+// objects, which Wine's lacks:
 //
-//     script_host ENGINE FILE NAME PROGID...
+//     script_host ENGINE FILE
 //
-// Each NAME is an object of the class PROGID; the script's function NAME_Event handles its event.
-// `host.Echo` writes a line.
+// The script has `WScript.Echo` and `WScript.CreateObject(PROGID, PREFIX)`; its function PREFIX_Event
+// handles the event of that object.
 #include <activscp.h>
 
 #include <fstream>
@@ -39,33 +40,19 @@ class Dispatched : public Lasting<IDispatch> {
     return S_OK;
   }
   STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID* ids) override {
-    *ids = 1;
-    return S_OK;
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+    return DISP_E_UNKNOWNNAME;
   }
 
  protected:
   bool Knows(REFIID id) const override { return id == IID_IDispatch; }
 };
 
-class Echo final : public Dispatched {
- public:
-  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT*, EXCEPINFO*,
-                      UINT*) override {
-    Variant text;
-    if (given->cArgs != 1 || FAILED(VariantChangeType(&text, &given->rgvarg[0], 0, VT_BSTR))) {
-      return DISP_E_TYPEMISMATCH;
-    }
-    std::printf("%ls\n", text.bstrVal);
-    return S_OK;
-  }
-};
-
 /// Passes the events of an object to the script's functions.
 class Handlers final : public Dispatched {
  public:
-  Handlers(IActiveScript& engine, std::wstring name, IDispatch* object)
-      : engine_(engine), name_(std::move(name)) {
+  Handlers(IActiveScript& engine, std::wstring prefix, IDispatch* object)
+      : engine_(engine), prefix_(std::move(prefix)) {
     const auto classes = Query<IProvideClassInfo>(object, IID_IProvideClassInfo);
     ComPtr<ITypeInfo> info;
     if (classes && SUCCEEDED(classes->GetClassInfo(info.Out()))) FindEvents(*info.get());
@@ -84,7 +71,7 @@ class Handlers final : public Dispatched {
                       EXCEPINFO* info, UINT* wrong) override {
     ComPtr<IDispatch> script;
     DISPID function = DISPID_UNKNOWN;
-    const std::wstring name = name_ + L"_" + events_[id];
+    const std::wstring name = prefix_ + events_[id];
     auto* text = const_cast<wchar_t*>(name.c_str());
     if (FAILED(engine_.GetScriptDispatch(nullptr, script.Out())) ||
         FAILED(script->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &function))) {
@@ -123,21 +110,74 @@ class Handlers final : public Dispatched {
   }
 
   IActiveScript& engine_;
-  std::wstring name_;
+  std::wstring prefix_;
   std::map<DISPID, std::wstring> events_;
   ComPtr<IConnectionPoint> point_;
   DWORD cookie_ = 0;
 };
 
+ComPtr<IDispatch> Created(const wchar_t* prog_id) {
+  CLSID id = {};
+  ComPtr<IDispatch> object;
+  ExpectDone(CLSIDFromProgID(prog_id, &id), "CLSIDFromProgID");
+  ExpectDone(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, object.OutVoid()),
+             "CoCreateInstance");
+  return object;
+}
+
+/// What scripts know the host as.
+class Script final : public Dispatched {
+ public:
+  explicit Script(IActiveScript& engine) : engine_(engine) {}
+
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
+    *ids = std::wstring_view(names[0]) == L"Echo" ? 1 : 2;
+    return S_OK;
+  }
+  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT* result, EXCEPINFO*,
+                      UINT*) override {
+    std::vector<Variant> words(given->cArgs);
+    for (UINT i = 0; i < given->cArgs; ++i) {
+      if (FAILED(VariantChangeType(&words[i], &given->rgvarg[given->cArgs - 1 - i], 0, VT_BSTR))) {
+        return DISP_E_TYPEMISMATCH;
+      }
+    }
+    if (id == 1 && words.size() == 1) return Print(words[0].bstrVal);
+    if (id != 2 || words.size() != 2 || result == nullptr) return DISP_E_BADPARAMCOUNT;
+    const auto object = Created(words[0].bstrVal);
+    if (!object) return E_FAIL;
+    handlers_.push_back(std::make_unique<Handlers>(engine_, words[1].bstrVal, object.get()));
+    result->vt = VT_DISPATCH;
+    result->pdispVal = ComPtr<IDispatch>(object).release();
+    return S_OK;
+  }
+
+ private:
+  static HRESULT Print(BSTR text) {
+    std::string bytes(4 * SysStringLen(text), '\0');
+    const int length =
+        WideCharToMultiByte(CP_UTF8, 0, text, static_cast<int>(SysStringLen(text)), bytes.data(),
+                            static_cast<int>(bytes.size()), nullptr, nullptr);
+    std::printf("%.*s\n", length, bytes.c_str());
+    return S_OK;
+  }
+
+  IActiveScript& engine_;
+  std::vector<std::unique_ptr<Handlers>> handlers_;
+};
+
+constexpr std::wstring_view kScriptName = L"WScript";
+
 class Site final : public Lasting<IActiveScriptSite> {
  public:
-  void Add(const std::wstring& name, ComPtr<IDispatch> object) { items_[name] = std::move(object); }
+  explicit Site(IDispatch& script) : script_(script) {}
 
   STDMETHODIMP GetLCID(LCID*) override { return E_NOTIMPL; }
   STDMETHODIMP GetItemInfo(LPCOLESTR name, DWORD mask, IUnknown** object, ITypeInfo**) override {
-    const auto found = items_.find(name);
-    if (found == items_.end() || mask != SCRIPTINFO_IUNKNOWN) return TYPE_E_ELEMENTNOTFOUND;
-    *object = ComPtr<IDispatch>(found->second).release();
+    if (mask != SCRIPTINFO_IUNKNOWN || std::wstring_view(name) != kScriptName) {
+      return TYPE_E_ELEMENTNOTFOUND;
+    }
+    *object = &script_;
     return S_OK;
   }
   STDMETHODIMP GetDocVersionString(BSTR*) override { return E_NOTIMPL; }
@@ -162,17 +202,8 @@ class Site final : public Lasting<IActiveScriptSite> {
   bool Knows(REFIID id) const override { return id == IID_IActiveScriptSite; }
 
  private:
-  std::map<std::wstring, ComPtr<IDispatch>> items_;
+  IDispatch& script_;
 };
-
-ComPtr<IDispatch> Created(const wchar_t* prog_id) {
-  CLSID id = {};
-  ComPtr<IDispatch> object;
-  ExpectDone(CLSIDFromProgID(prog_id, &id), "CLSIDFromProgID");
-  ExpectDone(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, object.OutVoid()),
-             "CoCreateInstance");
-  return object;
-}
 
 std::wstring FileText(const wchar_t* path) {
   std::ifstream file(path, std::ios::binary);
@@ -180,32 +211,23 @@ std::wstring FileText(const wchar_t* path) {
   return {bytes.begin(), bytes.end()};
 }
 
-int Run(int count, wchar_t** words) {
+int Run(const wchar_t* engine_name, const wchar_t* file) {
   CLSID engine_id = {};
   ComPtr<IActiveScript> engine;
-  ExpectDone(CLSIDFromProgID(words[1], &engine_id), "the engine");
+  ExpectDone(CLSIDFromProgID(engine_name, &engine_id), "the engine");
   ExpectDone(CoCreateInstance(engine_id, nullptr, CLSCTX_INPROC_SERVER, IID_IActiveScript,
                               engine.OutVoid()),
              "the engine");
   if (!engine) return 1;
   const auto parse = Query<IActiveScriptParse>(engine.get(), __uuidof(IActiveScriptParse));
-  Site site;
-  Echo echo;
+  Script script(*engine.get());
+  Site site(script);
   ExpectDone(engine->SetScriptSite(&site), "SetScriptSite");
   ExpectDone(parse->InitNew(), "InitNew");
-  site.Add(L"host", ComPtr<IDispatch>(&echo));
-  engine->AddNamedItem(L"host", SCRIPTITEM_ISVISIBLE);
-  std::vector<std::unique_ptr<Handlers>> handlers;
-  for (int i = 3; i + 1 < count; i += 2) {
-    const auto object = Created(words[i + 1]);
-    if (!object) return 1;
-    site.Add(words[i], object);
-    engine->AddNamedItem(words[i], SCRIPTITEM_ISVISIBLE);
-    handlers.push_back(std::make_unique<Handlers>(*engine.get(), words[i], object.get()));
-  }
+  engine->AddNamedItem(kScriptName.data(), SCRIPTITEM_ISVISIBLE);
   EXCEPINFO info = {};
   engine->SetScriptState(SCRIPTSTATE_STARTED);
-  ExpectDone(parse->ParseScriptText(FileText(words[2]).c_str(), nullptr, nullptr, nullptr, 0, 0,
+  ExpectDone(parse->ParseScriptText(FileText(file).c_str(), nullptr, nullptr, nullptr, 0, 0,
                                     SCRIPTTEXT_ISVISIBLE, nullptr, &info),
              "the script");
   engine->Close();
@@ -216,9 +238,9 @@ int Run(int count, wchar_t** words) {
 }  // namespace ZQ7Windows
 
 int wmain(int count, wchar_t** words) {
-  if (count < 5) return 2;
+  if (count != 3) return 2;
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  const int status = ZQ7Windows::Run(count, words);
+  const int status = ZQ7Windows::Run(words[1], words[2]);
   CoUninitialize();
   return status;
 }

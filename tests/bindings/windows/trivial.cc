@@ -99,6 +99,7 @@ STDAPI DllRegisterServer() {
 }
 
 STDAPI DllUnregisterServer() {
-  return RegDeleteTreeW(ZQ7Windows::kMachineRoot, kClass.c_str()) == ERROR_SUCCESS ? S_OK
-                                                                             : SELFREG_E_CLASS;
+  return RegDeleteTreeW(ZQ7Windows::kMachineRoot, kClass.c_str()) == ERROR_SUCCESS
+             ? S_OK
+             : SELFREG_E_CLASS;
 }
