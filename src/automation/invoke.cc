@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "automation/conversion.h"
+#include "automation/failure.h"
 #include "automation/instance.h"
 #include "base/raise.h"
 
@@ -87,8 +88,7 @@ class Values {
   throw RunTimeError(std::move(details));
 }
 
-/// Raises a member's failure again under the names that the caller used: nested operations and
-/// services use other names or none.
+/// Raises a member's failure under the names that the caller used.
 [[noreturn]] void RaiseAs(const ClassInfo& owner, std::string_view member,
                           std::span<const ParameterInfo> parameters, ErrorDetails details) {
   details.class_name = owner.name;
@@ -98,22 +98,14 @@ class Values {
   throw RunTimeError(std::move(details));
 }
 
-/// Runs `call`. Whatever it throws reaches the caller as a `RunTimeError` that names `member`; an
-/// exception without a number becomes an automation error, but for a lack of memory.
+/// Runs `call`; what it throws names `member`.
 template <typename Call>
 auto RunAs(const ClassInfo& owner, std::string_view member,
            std::span<const ParameterInfo> parameters, const Call& call) {
   try {
     return call();
-  } catch (const RunTimeError& error) {
-    RaiseAs(owner, member, parameters, error.Details());
-  } catch (const std::bad_alloc&) {
-    RaiseAs(owner, member, parameters, DetailsOf(Error::kOutOfMemory));
-  } catch (const std::exception& error) {
-    RaiseAs(owner, member, parameters, DetailsOf(Error::kAutomationError, error.what()));
   } catch (...) {
-    RaiseAs(owner, member, parameters,
-            DetailsOf(Error::kAutomationError, "a failure without a text"));
+    RethrowAs(owner, member, parameters);
   }
 }
 
@@ -168,6 +160,22 @@ Object Wrapped(std::string_view class_name, std::shared_ptr<void> object,
 }
 
 }  // namespace
+
+void RethrowAs(const ClassInfo& owner, std::string_view member,
+               std::span<const ParameterInfo> parameters) {
+  try {
+    throw;
+  } catch (const RunTimeError& error) {
+    RaiseAs(owner, member, parameters, error.Details());
+  } catch (const std::bad_alloc&) {
+    RaiseAs(owner, member, parameters, DetailsOf(Error::kOutOfMemory));
+  } catch (const std::exception& error) {
+    RaiseAs(owner, member, parameters, DetailsOf(Error::kAutomationError, error.what()));
+  } catch (...) {
+    RaiseAs(owner, member, parameters,
+            DetailsOf(Error::kAutomationError, "a failure without a text"));
+  }
+}
 
 Object::Object(std::shared_ptr<const Instance> instance) : instance_(std::move(instance)) {}
 

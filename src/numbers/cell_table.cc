@@ -33,8 +33,15 @@ CellTable::Cells CellTable::Zeros(std::size_t count) {
   return cells;
 }
 
+/// The cells of that many rows, if the machine can address them.
+std::size_t CellTable::CountOf(std::size_t rows) const {
+  constexpr std::size_t kMost = std::numeric_limits<std::size_t>::max() / sizeof(double);
+  if (rows > kMost / width_) throw std::bad_alloc();
+  return rows * width_;
+}
+
 void CellTable::MoveToNewCells(std::size_t rows) {
-  Cells cells = Zeros(rows * width_);
+  Cells cells = Zeros(CountOf(rows));
   std::copy_n(cells_.get(), rows_ * width_, cells.get());
   cells_ = std::move(cells);
   rows_ = rows;
@@ -43,7 +50,7 @@ void CellTable::MoveToNewCells(std::size_t rows) {
 
 /// Returns false and changes nothing if there is not enough memory.
 bool CellTable::Reallocate(std::size_t capacity) {
-  void* const cells = std::realloc(cells_.get(), capacity * width_ * sizeof(double));
+  void* const cells = std::realloc(cells_.get(), CountOf(capacity) * sizeof(double));
   if (cells == nullptr) return false;
   static_cast<void>(cells_.release());
   cells_.reset(static_cast<double*>(cells));

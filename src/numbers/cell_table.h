@@ -37,6 +37,7 @@ class CellTable {
   using Cells = std::unique_ptr<double, Free>;
 
   static Cells Zeros(std::size_t count);
+  std::size_t CountOf(std::size_t rows) const;
   void MoveToNewCells(std::size_t rows);
   bool Reallocate(std::size_t capacity);
 

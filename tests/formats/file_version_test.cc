@@ -10,7 +10,8 @@ namespace {
 
 std::string VersionIn(const std::string& bytes) {
   const auto version = ReadFileVersion([&bytes](std::uint64_t offset, std::size_t size) {
-    return offset < bytes.size() ? bytes.substr(offset, size) : std::string();
+    return offset < bytes.size() ? bytes.substr(static_cast<std::size_t>(offset), size)
+                                 : std::string();
   });
   if (!version) return "none";
   std::string text;

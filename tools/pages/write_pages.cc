@@ -20,6 +20,7 @@ using Path = std::filesystem::path;
 
 std::vector<Page> Pages() {
   const Path reference = "docs/reference";
+  const Path windows = "bindings/windows";
   std::vector<Page> pages = {
       {"tools/zq7/zq7.1", "tools/zq7/zq7.1.in", ManPageFields},
       {"tools/zq7/zq7.bash", "tools/zq7/zq7.bash.in", CompletionFields},
@@ -32,6 +33,9 @@ std::vector<Page> Pages() {
        PostgresqlFields},
       {"tests/bindings/postgresql/examples.sql", "tests/bindings/postgresql/examples.sql.in",
        PostgresqlFields},
+      {windows / "zq7standard.idl", windows / "zq7standard.idl.in", WindowsFields},
+      {windows / "classes.inc", windows / "classes.inc.in", WindowsFields},
+      {windows / "zq7standard.manifest", windows / "zq7standard.manifest.in", WindowsFields},
   };
   for (const auto& owner : ZQ7Standard::Automation::Classes()) {
     pages.push_back({reference / (std::string(owner.name) + ".md"), "tools/pages/class.md.in",

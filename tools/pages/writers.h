@@ -31,6 +31,9 @@ Fields CSharpFields();
 /// Of the PostgreSQL extension.
 Fields PostgresqlFields();
 
+/// Of the automation server of Windows.
+Fields WindowsFields();
+
 }  // namespace ZQ7Pages
 
 #endif  // ZQ7STANDARD_TOOLS_PAGES_WRITERS_H_

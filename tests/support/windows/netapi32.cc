@@ -11,7 +11,12 @@
 namespace {
 
 std::atomic<int> questions_asked = 0;
-TIME_OF_DAY_INFO told = {.tod_elapsedt = 1705285800, .tod_hunds = 25};
+TIME_OF_DAY_INFO told = [] {
+  TIME_OF_DAY_INFO time{};
+  time.tod_elapsedt = 1705285800;
+  time.tod_hunds = 25;
+  return time;
+}();
 
 }  // namespace
 

@@ -1,0 +1,6 @@
+function grid_CellDataChange(row, column) {
+  host.Echo("row " + row + ", column " + column + ", value " + grid.GetValue(row, column));
+}
+grid.SetCols(3);
+grid.Setvalue(7, 2, 12.5);
+host.Echo("sum " + grid.SumCol(2));
