@@ -81,6 +81,7 @@ class DocumentTest : public testing::Test {
 
 /// Given the document and the file to copy it to.
 TEST(DocumentChild, DISABLED_Opens) {
+  BeQuiet();
   const std::wstring line = GetCommandLineW();
   const auto given = [&line](const std::wstring& name, wchar_t end) {
     const std::size_t begin = line.find(name) + name.size();
@@ -105,6 +106,7 @@ TEST_F(DocumentTest, OpensNewOnes) {
 }
 
 TEST(DesktopChild, DISABLED_IsNotSeen) {
+  BeQuiet();
   const HWINSTA station = CreateWindowStationW(nullptr, 0, MAXIMUM_ALLOWED, nullptr);
   ASSERT_NE(SetProcessWindowStation(station), 0);
   EXPECT_EQ(ErrorOf([] { StandardObject().OpenBrowser(u"https://shop.example/"); }), 429);
