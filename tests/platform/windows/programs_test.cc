@@ -37,6 +37,7 @@ const std::vector<Text>& HardArguments() {
 // The parts of the test program that the tests below run as processes of their own.
 
 TEST(ProgramChild, DISABLED_GetsItsArguments) {
+  BeQuiet();
   int count = 0;
   wchar_t** const found = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<Text> last;
@@ -47,6 +48,7 @@ TEST(ProgramChild, DISABLED_GetsItsArguments) {
 }
 
 TEST(ProgramChild, DISABLED_HasNothingToRead) {
+  BeQuiet();
   char byte = 0;
   DWORD count = 1;
   EXPECT_NE(ReadFile(GetStdHandle(STD_INPUT_HANDLE), &byte, 1, &count, nullptr), 0);
@@ -61,6 +63,7 @@ std::wstring Given(const std::wstring& name) {
 
 /// Given the number of a handle that the host has open.
 TEST(ProgramChild, DISABLED_HasNoHandleOfTheHost) {
+  BeQuiet();
   const auto number = std::stoull(Given(L"handle="));
   DWORD flags = 0;
   EXPECT_EQ(GetHandleInformation(reinterpret_cast<HANDLE>(number), &flags), 0);
@@ -68,11 +71,13 @@ TEST(ProgramChild, DISABLED_HasNoHandleOfTheHost) {
 
 /// Given the file that gets the number of the process.
 TEST(ProgramChild, DISABLED_Sleeps) {
+  BeQuiet();
   std::ofstream(std::filesystem::path(Given(L"file="))) << GetCurrentProcessId() << "\n";
   Sleep(60'000);
 }
 
 TEST(ProgramChild, DISABLED_StartsAnotherAndSleeps) {
+  BeQuiet();
   StandardObject().ExecuteProgram(
       OwnProgram(),
       ArgumentsFor(u"ProgramChild.DISABLED_Sleeps", {u"file=" + FromWide(Given(L"file="))}));

@@ -1,5 +1,6 @@
 # The tests of the machine's services on Windows.
 target_sources(zq7_tests PRIVATE
+  platform/windows/desktop_test.cc
   platform/windows/files_test.cc
   platform/windows/machine_test.cc
   platform/windows/programs_test.cc
