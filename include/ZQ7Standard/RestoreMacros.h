@@ -1,4 +1,6 @@
-// Gives back the macros that HideMacros.h hid.
+// Gives back the macros that HideMacros.h hid. They are still the system's, whose style no warning
+// is about.
+#pragma GCC system_header
 #pragma pop_macro("CSIDL_APPDATA")
 #pragma pop_macro("CSIDL_BITBUCKET")
 #pragma pop_macro("CSIDL_COMMON_DESKTOPDIRECTORY")
