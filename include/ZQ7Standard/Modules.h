@@ -10,7 +10,8 @@
 namespace ZQ7Standard {
 
 /// A part of the library with dependencies of its own: a shared library in the folder
-/// zq7standard/ beside this one, loaded on first use.
+/// zq7standard/ beside this one, loaded on first use. On Windows printing is always ready: it
+/// needs the system alone.
 struct ModuleStatus {
   std::string_view name;
   std::string problem = {};  ///< why it cannot be used, in UTF-8; empty if it can

@@ -78,6 +78,9 @@ using SerialDevices = std::map<std::int16_t, std::string>;
 ///     mail_transport                the network's, by SMTP, with `drives`
 ///     os                            the environment variable "OS", asked each time
 ///
+/// On Windows the message box is a window in programs that have windows, serial port n is
+/// COMn, and a drive without an entry is the system's own.
+///
 /// Copies of an object share its services. A host that gives the same services to objects
 /// in two threads must make them safe to use at the same time.
 struct Services {

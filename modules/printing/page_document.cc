@@ -4,13 +4,13 @@
 #include <ZQ7Standard/platform/printers.h>
 #include <cairo-pdf.h>
 
-#include <cmath>
 #include <exception>
 #include <string>
 #include <utility>
 
 #include "formats/picture_size.h"
 #include "handle.h"
+#include "platform/page_rules.h"
 #include "printing/page_text.h"
 #include "printing/png_surface.h"
 
@@ -19,16 +19,9 @@ namespace {
 
 using Context = Handle<cairo_t, cairo_destroy>;
 
-// Millimetres from the corner: the range of Cairo's coordinates.
-constexpr double kFarthest = 1'000'000;
-
 void Check(cairo_status_t status) {
   if (status != CAIRO_STATUS_SUCCESS)
     throw RunTimeError(Error::kPrinterError, cairo_status_to_string(status));
-}
-
-bool IsOnPaper(double position) {
-  return std::abs(position) <= kFarthest;  // a NaN is not
 }
 
 /// Appends Cairo's output to the string `file`.
@@ -113,9 +106,7 @@ class PageDocument final : public PrintDocument {
 
   PagePosition Position() override { return position_; }
   void MoveTo(PagePosition position) override {
-    if (!IsOnPaper(position.x) || !IsOnPaper(position.y)) {
-      throw RunTimeError(Error::kPrinterError, "a position beyond all paper");
-    }
+    RequireOnPaper(position);
     position_ = position;
   }
 
@@ -129,9 +120,7 @@ class PageDocument final : public PrintDocument {
   }
 
   void DrawPicture(std::string_view picture, PagePosition position, PageSize size) override {
-    if (!IsOnPaper(size.width) || !IsOnPaper(size.height) || size.width == 0 || size.height == 0) {
-      throw RunTimeError(Error::kPrinterError, "a picture of no size or beyond all paper");
-    }
+    RequireOnPaper(size);
     OpenPage().DrawPicture(picture, position, size);
   }
 

@@ -1,17 +1,15 @@
 #include "printing/page_text.h"
 
-#include <ZQ7Standard/RunTimeError.h>
 #include <ZQ7Standard/platform/printers.h>
 #include <fontconfig/fontconfig.h>
 
-#include <algorithm>
 #include <cmath>
 #include <string>
 
+#include "platform/page_rules.h"
+
 namespace ZQ7Standard {
 namespace {
-
-constexpr double kLargestFont = 10'000;  // points
 
 // The Thai letters, vowels and tone marks in Unicode.
 constexpr FcChar32 kFirstThaiLetter = 0x0E01;
@@ -86,10 +84,6 @@ void UseMetricsOfPaper(PangoContext* context) {
   pango_context_set_round_glyph_positions(context, FALSE);
 }
 
-bool IsControl(char16_t c) {
-  return c < u' ' || c == u'\u007F' || c == u'\u0085' || c == u'\u2028' || c == u'\u2029';
-}
-
 double Millimetres(int pango_units) {
   return pango_units / (PANGO_SCALE * kPointsPerMillimetre);
 }
@@ -111,10 +105,7 @@ PageText::PageText()
 
 void PageText::SetFont(const PrintFont& font) {
   if (font == font_) return;
-  if (!(font.size > 0 && font.size <= kLargestFont)) {
-    throw RunTimeError(Error::kPrinterError,
-                       "no font has " + std::to_string(font.size) + " points");
-  }
+  RequireFontSize(font.size);
   const Description description(pango_font_description_new());
   pango_font_description_set_family(description.get(), Utf8(FamilyFor(font.name)).c_str());
   pango_font_description_set_size(description.get(),
@@ -138,9 +129,7 @@ const Text& PageText::FamilyFor(const Text& name) {
 void PageText::Lay(TextView text) {
   if (text == text_) return;
   text_ = text;
-  Text shown(text);
-  std::ranges::replace_if(shown, IsControl, u' ');
-  const std::string bytes = Utf8(shown);
+  const std::string bytes = Utf8(AsLine(text));
   pango_layout_set_text(layout_.get(), bytes.data(), static_cast<int>(bytes.size()));
 }
 

@@ -30,9 +30,10 @@ struct ModuleOf {
   std::string problem = {};
 };
 
-/// Defined by the loader, by the modules themselves if they are linked in, and by
-/// src/platform/no_printing.cc and no_network.cc if they are not built. The first call loads the
-/// module and remembers the outcome.
+/// Defined by the loader, by the modules themselves if they are linked in, by
+/// src/platform/no_printing.cc and no_network.cc if they are not built, and by
+/// src/platform/windows/printing_module.cc. The first call loads the module and remembers the
+/// outcome.
 const ModuleOf<PrintingFunctions>& PrintingModule();
 const ModuleOf<NetworkFunctions>& NetworkModule();
 

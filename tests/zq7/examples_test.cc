@@ -5,6 +5,8 @@
 #include <ZQ7Standard/platform/message_box.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "host.h"
 #include "objects.h"
 
@@ -14,12 +16,20 @@ namespace {
 using namespace ZQ7Standard;
 using namespace ZQ7Standard::Automation;
 
+/// Whether an example shows a program or a folder of Linux, on another system.
+bool IsOfAnotherSystem(const OperationInfo& operation, const Example& example) {
+  constexpr bool kIsLinux = std::filesystem::path::preferred_separator == '/';
+  return !kIsLinux && example.error == 0 &&
+         (operation.name == "ExecuteProgram" || operation.name == "GetSpecialFolder");
+}
+
 TEST(Catalogue, ExamplesHold) {
   const Host host({.example = true}, std::make_shared<RecordingMessageBox>());
   for (const ClassInfo& owner : Classes()) {
     for (const OperationInfo& operation : owner.operations) {
       EXPECT_FALSE(operation.examples.empty()) << operation.name;
       for (const Example& example : operation.examples) {
+        if (IsOfAnotherSystem(operation, example)) continue;
         const Object object = Create(owner.name, host.Services());
         TypedCall call = {owner, operation, example.arguments};
         for (const Call& earlier : example.before) {

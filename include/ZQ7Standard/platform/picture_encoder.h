@@ -22,7 +22,7 @@ class ZQ7STANDARD_EXPORT PictureEncoder {
   virtual std::string ToJpeg(std::string_view picture, int quality) = 0;
 };
 
-/// The encoder of the printing module.
+/// The encoder of the printing module, or on Windows of the system.
 ZQ7STANDARD_EXPORT std::shared_ptr<PictureEncoder> SystemPictureEncoder();
 
 }  // namespace ZQ7Standard

@@ -12,7 +12,7 @@ enum class PrinterSetting : std::uint8_t {
   kOrientation,   ///< 1 portrait, 2 landscape
   kPaperSize,     ///< a code of `PrintObject::GETPaperSizeText`
   kPaperBin,      ///< a code of `PrintObject::GETPaperBinText`
-  kPrintQuality,  ///< -1 draft, -2 low, -3 medium, -4 high
+  kPrintQuality,  ///< -1 draft, -2 low, -3 medium, -4 high; from 1, dots per inch
 };
 
 /// How a printer prints its next document. Failures raise 482.

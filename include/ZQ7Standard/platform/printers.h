@@ -54,6 +54,12 @@ class ZQ7STANDARD_EXPORT PrinterList {
 /// callback for the thread is its default; a host with another one sets it again.
 ///
 /// In a library built without ZQ7STANDARD_WITH_PRINTING no printer is installed.
+///
+/// On Windows they are the printers that the user has, with the user's default one as
+/// current, and "PDF" is not among them. A printer whose port asks for a file, such as one
+/// that writes PDF, gets a new file in `pdf_folder` for each document; if that is empty,
+/// the user is asked, and in a service, which no user sees, the document fails, as it does
+/// there if the printer takes no job in 30 seconds.
 ZQ7STANDARD_EXPORT std::shared_ptr<PrinterList> SystemPrinters(
     std::filesystem::path pdf_folder = {});
 

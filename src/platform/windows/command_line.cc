@@ -8,7 +8,11 @@ namespace ZQ7Standard {
 namespace {
 
 /// Before a quotation mark, programs take two backslashes for one, and an odd one as its escape.
+/// What needs no quotation marks gets none: some programs read the line in their own way.
 std::wstring Quoted(std::wstring_view argument) {
+  if (!argument.empty() && argument.find_first_of(L" \t\n\v\"") == std::wstring_view::npos) {
+    return std::wstring(argument);
+  }
   std::wstring quoted = L"\"";
   std::size_t backslashes = 0;
   for (const wchar_t c : argument) {

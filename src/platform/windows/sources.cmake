@@ -21,6 +21,14 @@ target_sources(zq7_objects PRIVATE
   src/platform/windows/native_path.cc
   src/platform/windows/new_file.cc
   src/platform/windows/open_file.cc
+  src/platform/windows/page_canvas.cc
+  src/platform/windows/page_document.cc
+  src/platform/windows/page_output.cc
+  src/platform/windows/pictures.cc
+  src/platform/windows/printer_device.cc
+  src/platform/windows/printer_errors.cc
+  src/platform/windows/printers.cc
+  src/platform/windows/printing_module.cc
   src/platform/windows/program_search.cc
   src/platform/windows/programs.cc
   src/platform/windows/serial_port.cc
@@ -33,9 +41,9 @@ target_sources(zq7_objects PRIVATE
   src/platform/windows/user_session.cc
   src/platform/windows/winsock.cc
   src/platform/no_network.cc
-  src/platform/no_printing.cc
   src/platform/system_picture_encoder.cc
   src/platform/system_printers.cc)
-list(APPEND needed_libraries advapi32 ole32 oleaut32 shell32 uuid wbemuuid ws2_32)
+list(APPEND needed_libraries advapi32 gdi32 ole32 oleaut32 shell32 user32 uuid wbemuuid
+     windowscodecs winspool ws2_32)
 target_compile_definitions(zq7_objects PRIVATE
   UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)

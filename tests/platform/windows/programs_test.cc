@@ -22,9 +22,9 @@ namespace {
 
 constexpr double kEnough = 60;  // seconds
 
-std::int32_t RunSelf(const Text& test, const std::vector<Text>& more = {}, double seconds = kEnough,
-                     const Text& folder = {}) {
-  return StandardObject().ExecuteProgram(OwnProgram(), ArgumentsFor(test, more), seconds, folder);
+std::int32_t RunSelf(const Text& test, const std::vector<Text>& more = {},
+                     double seconds = kEnough) {
+  return StandardObject().ExecuteProgram(OwnProgram(), ArgumentsFor(test, more), seconds);
 }
 
 const std::vector<Text>& HardArguments() {
@@ -37,6 +37,7 @@ const std::vector<Text>& HardArguments() {
 // The parts of the test program that the tests below run as processes of their own.
 
 TEST(ProgramChild, DISABLED_GetsItsArguments) {
+  BeQuiet();
   int count = 0;
   wchar_t** const found = CommandLineToArgvW(GetCommandLineW(), &count);
   std::vector<Text> last;
@@ -47,27 +48,39 @@ TEST(ProgramChild, DISABLED_GetsItsArguments) {
 }
 
 TEST(ProgramChild, DISABLED_HasNothingToRead) {
+  BeQuiet();
   char byte = 0;
   DWORD count = 1;
   EXPECT_NE(ReadFile(GetStdHandle(STD_INPUT_HANDLE), &byte, 1, &count, nullptr), 0);
   EXPECT_EQ(count, 0U);
 }
 
-/// The last argument is the number of a handle that the host has open.
-TEST(ProgramChild, DISABLED_HasNoHandleOfTheHost) {
+/// What follows `name` in the command line.
+std::wstring Given(const std::wstring& name) {
   const std::wstring line = GetCommandLineW();
-  const auto number = std::stoull(line.substr(line.find(L"handle=") + 7));
+  return line.substr(line.find(name) + name.size());
+}
+
+/// Given the number of a handle that the host has open.
+TEST(ProgramChild, DISABLED_HasNoHandleOfTheHost) {
+  BeQuiet();
+  const auto number = std::stoull(Given(L"handle="));
   DWORD flags = 0;
   EXPECT_EQ(GetHandleInformation(reinterpret_cast<HANDLE>(number), &flags), 0);
 }
 
+/// Given the file that gets the number of the process.
 TEST(ProgramChild, DISABLED_Sleeps) {
-  std::ofstream("pid") << GetCurrentProcessId() << "\n";
+  BeQuiet();
+  std::ofstream(std::filesystem::path(Given(L"file="))) << GetCurrentProcessId() << "\n";
   Sleep(60'000);
 }
 
 TEST(ProgramChild, DISABLED_StartsAnotherAndSleeps) {
-  StandardObject().ExecuteProgram(OwnProgram(), ArgumentsFor(u"ProgramChild.DISABLED_Sleeps"));
+  BeQuiet();
+  StandardObject().ExecuteProgram(
+      OwnProgram(),
+      ArgumentsFor(u"ProgramChild.DISABLED_Sleeps", {u"file=" + FromWide(Given(L"file="))}));
   Sleep(60'000);
 }
 
@@ -79,7 +92,8 @@ Handle WrittenProcess(const TempFolder& folder) {
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
   EXPECT_NE(number, 0U);
-  return Handle(OpenProcess(SYNCHRONIZE | PROCESS_TERMINATE, FALSE, number));
+  return Handle(
+      OpenProcess(SYNCHRONIZE | PROCESS_TERMINATE | PROCESS_QUERY_INFORMATION, FALSE, number));
 }
 
 TEST(ExecuteProgram, ReturnsTheStatus) {
@@ -104,7 +118,8 @@ TEST(ExecuteProgram, EndsTheWholeTreeAtTheLimit) {
   const auto begin = std::chrono::steady_clock::now();
   std::thread limited([&folder] {
     EXPECT_EQ(ErrorOf([&folder] {
-                RunSelf(u"ProgramChild.DISABLED_StartsAnotherAndSleeps", {}, 5, folder.Path(""));
+                RunSelf(u"ProgramChild.DISABLED_StartsAnotherAndSleeps",
+                        {u"file=" + folder.Path("pid")}, 5);
               }),
               70);
   });
@@ -119,7 +134,7 @@ TEST(ExecuteProgram, EndsTheWholeTreeAtTheLimit) {
 TEST(ExecuteProgram, StartsWithoutWaiting) {
   const TempFolder folder;
   const std::int32_t number = StandardObject().ExecuteProgram(
-      OwnProgram(), ArgumentsFor(u"ProgramChild.DISABLED_Sleeps"), 0, folder.Path(""));
+      OwnProgram(), ArgumentsFor(u"ProgramChild.DISABLED_Sleeps", {u"file=" + folder.Path("pid")}));
   const Handle process = WrittenProcess(folder);
   ASSERT_TRUE(process);
   EXPECT_EQ(GetProcessId(process.get()), static_cast<DWORD>(number));

@@ -4,6 +4,7 @@
 #include <ZQ7Standard/Types.h>
 #include <windows.h>
 
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,11 @@ inline std::vector<Text> ArgumentsFor(const Text& test, const std::vector<Text>&
                                  u"--gtest_filter=" + test};
   arguments.insert(arguments.end(), more.begin(), more.end());
   return arguments;
+}
+
+/// Keeps the report of such a process, whose exit status tells enough, out of that of the tests.
+inline void BeQuiet() {
+  static_cast<void>(std::freopen("NUL", "w", stdout));
 }
 
 /// Sets a variable of the environment until the end of a test.
