@@ -148,7 +148,6 @@ HRESULT Call(Server& server, DISPID id, Given... given) noexcept {
 template <auto Member, typename Server, typename Result, typename... Given>
 HRESULT CallForResult(Server& server, DISPID id, Result* result, Given... given) noexcept {
   if (result == nullptr) return E_POINTER;
-  *result = {};
   const auto kept = ComPtr<Server>::Share(&server);
   try {
     if constexpr ((kIsCatalogued<Given> || ...)) {
@@ -159,6 +158,8 @@ HRESULT CallForResult(Server& server, DISPID id, Result* result, Given... given)
     }
     return S_OK;
   } catch (...) {
+    // Not before: it may be one of the arguments too.
+    *result = {};
     return server.Report(id);
   }
 }

@@ -46,6 +46,9 @@ void TypedCalls() {
   DATE later = 0;
   ExpectDone(standard->AddMonth(&day, months, &later), "AddMonth");
   ExpectSame(kLeapDay, later, "a date by reference");
+  DATE both = day;
+  ExpectDone(standard->AddMonth(&both, months, &both), "AddMonth");
+  ExpectSame(kLeapDay, both, "a result in the place of the argument");
   ExpectSame(E_POINTER, standard->AddMonth(&day, months, nullptr), "no place for the result");
   ExpectSame(static_cast<HRESULT>(0x800A0005), standard->AddMonth(nullptr, months, &later),
              "a reference that is null");
@@ -485,11 +488,11 @@ Usage Measure() {
 
 int wmain() {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  for (const auto test : {TypedCalls, TypedErrors, References, LateCalls, DefaultProperties,
-                          LateErrors, Events, Descriptions, ManyObjects, Unloading, Marshalling}) {
+  for (const auto test :
+       {TypedCalls, TypedErrors, References, LateCalls, DefaultProperties, LateErrors, Pictures,
+        Events, Descriptions, ManyObjects, Unloading, Marshalling}) {
     test();
   }
-  (void)Pictures;
   CoUninitialize();
   std::printf(failures == 0 ? "host: passed\n" : "host: %d failures\n", failures);
   return failures == 0 ? 0 : 1;
