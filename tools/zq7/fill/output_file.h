@@ -25,7 +25,7 @@ class OutputFile {
 
  private:
   OutputFile() = default;
-  void Create(std::filesystem::path name);
+  void Create(const std::filesystem::path& name);
   [[noreturn]] void Fail() const;
 
   std::filesystem::path path_;       // without links

@@ -123,12 +123,12 @@ OutputFile::OutputFile(const std::filesystem::path& path) : OutputFile() {
 }
 
 /// Creates the temporary file; its name is known to the handler as soon as there is the file.
-void OutputFile::Create(std::filesystem::path pattern) {
+void OutputFile::Create(const std::filesystem::path& name) {
   const BlockedSignals blocked;
-  std::string name = std::move(pattern);
-  file_ = mkostemp(name.data(), O_CLOEXEC);
+  std::string made = name;  // which gets letters of its own at its end
+  file_ = mkostemp(made.data(), O_CLOEXEC);
   if (file_ < 0) Fail();
-  temporary_ = std::move(name);
+  temporary_ = std::move(made);
   Remember(temporary_.native());
 }
 

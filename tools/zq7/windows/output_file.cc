@@ -96,10 +96,10 @@ OutputFile::OutputFile(const std::filesystem::path& path) : OutputFile() {
          (L"." + path_.filename().native() + L'.' + std::to_wstring(GetCurrentProcessId())));
 }
 
-void OutputFile::Create(std::filesystem::path name) {
+void OutputFile::Create(const std::filesystem::path& name) {
   file_ = Open(name, CREATE_ALWAYS);
   if (file_ < 0) Fail();
-  temporary_ = std::move(name);
+  temporary_ = name;
   Remember(temporary_.native());
 }
 
