@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <mutex>
 #include <string>
 #include <utility>
 
@@ -131,8 +132,11 @@ HRESULT ReadInstances(const Question& question, std::vector<std::vector<Text>>& 
   }
 }
 
-/// Asks on a thread of its own, which may use COM as it needs.
+/// Asks on a thread of its own, which may use COM as it needs. One question at a time: Wine's
+/// service fills its tables again for each, under the hands of those who read them.
 Answer Ask(const Question& question) {
+  static std::mutex one_at_a_time;
+  const std::scoped_lock lock(one_at_a_time);
   const ComUse com(COINIT_MULTITHREADED);
   Answer answer;
   answer.result = ReadInstances(question, answer.instances);
